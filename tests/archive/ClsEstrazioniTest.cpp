@@ -1,16 +1,136 @@
 #include <gtest/gtest.h>
 
+#include "TempDir.h"
 #include "archive/ClsEstrazioni.h"
 
 namespace lottolab {
 namespace {
 
-TEST(CodificaRecord, PlaceholderRoundTrip) {
+using test::CartellaTemporanea;
+using test::LeggiByte;
+using test::ScriviByte;
+
+Estrazione Draw(int id, int bari_primo) {
   Estrazione e;
-  e.id_estr = 1;
+  e.id_estr = id;
+  e.data = {static_cast<int16_t>(id), 12, 3, 2024};
+  e.ImpostaNumero(BA, 1, bari_primo);
+  e.ImpostaNumero(NZ, 5, 90);
+  return e;
+}
+
+TEST(RecordSuDisco, CampiLittleEndianSenzaRiempimento) {
+  Estrazione e;
+  e.id_estr = 0x01020304;
+  e.data = {-2, 31, 12, 2026};
+  e.ImpostaNumero(BA, 1, 53);
+  e.ImpostaNumero(BA, 5, 7);
+  e.ImpostaNumero(NZ, 5, 90);
   unsigned char b[kByteRecordArchivio];
   CodificaRecord(e, b);
+
+  const unsigned char attesi_intestazione[12] = {0x04, 0x03, 0x02, 0x01, 0xFE, 0xFF, 31, 0, 12, 0, 0xEA, 0x07};
+  EXPECT_TRUE(std::equal(std::begin(attesi_intestazione), std::end(attesi_intestazione), b));
+  EXPECT_EQ(b[12], 53);
+  EXPECT_EQ(b[16], 7);
+  EXPECT_EQ(b[12 + 54], 90);
   EXPECT_EQ(DecodificaRecord(b), e);
+}
+
+TEST(GetNumeroEstrazioni, QuozienteArrotondatoDellaLunghezza) {
+  CartellaTemporanea cartella;
+  ClsEstrazioni archivio(cartella / "BaseDati.dat");
+  EXPECT_EQ(*archivio.GetNumeroEstrazioni(), 0) << "a missing archive holds no draws";
+
+  struct Caso {
+    size_t byte;
+    int estrazioni;
+  };
+  for (Caso caso : {Caso{0, 0}, Caso{67, 1}, Caso{100 * 67 + 40, 101}, Caso{100 * 67 + 20, 100}, Caso{33, 0}, Caso{34, 1}}) {
+    ScriviByte(archivio.Archivio(), std::vector<unsigned char>(caso.byte, 1));
+    EXPECT_EQ(*archivio.GetNumeroEstrazioni(), caso.estrazioni) << caso.byte << " bytes";
+    EXPECT_EQ(*ClsEstrazioni(cartella / "altro.dat").GetNumeroEstrazioni(archivio.Archivio()), caso.estrazioni);
+  }
+}
+
+TEST(CaricaEstrazioni, LeggeTuttoERecordTroncatoComeZeri) {
+  CartellaTemporanea cartella;
+  ClsEstrazioni archivio(cartella / "BaseDati.dat");
+
+  auto mancante = archivio.CaricaEstrazioni();
+  ASSERT_FALSE(mancante);
+  EXPECT_EQ(mancante.Errore().tipo, TipoAvviso::Esclamativo);
+  EXPECT_EQ(mancante.Errore().testo,
+            "Non esiste il file relativo alla base dati originale \n" + archivio.Archivio().string());
+
+  ASSERT_TRUE(archivio.SalvaFileEstrazioni({Draw(1, 11), Draw(2, 22)}));
+  auto byte = LeggiByte(archivio.Archivio());
+  byte.resize(byte.size() + 40, 0);
+  byte[2 * 67 + 12] = 33;  // the stray bytes reach Bari's first number
+  ScriviByte(archivio.Archivio(), byte);
+
+  auto tabella = archivio.CaricaEstrazioni();
+  ASSERT_TRUE(tabella);
+  ASSERT_EQ(tabella->EstrazioniArchivio(), 3);
+  EXPECT_EQ(tabella->Tutte()[0], Draw(1, 11));
+  EXPECT_EQ(tabella->Tutte()[1], Draw(2, 22));
+  EXPECT_EQ((*tabella)[3].Numero(BA, 1), 33);
+  EXPECT_EQ((*tabella)[3].Numero(NZ, 5), 0);
+}
+
+TEST(LeggiEstrazione, LasciaIntattoIlRecordFuoriDalFile) {
+  CartellaTemporanea cartella;
+  ClsEstrazioni archivio(cartella / "BaseDati.dat");
+  Estrazione record = Draw(9, 9);
+  ASSERT_TRUE(archivio.LeggiEstrazione(1, record));
+  EXPECT_EQ(record, Draw(9, 9)) << "missing file";
+
+  ASSERT_TRUE(archivio.SalvaFileEstrazioni({Draw(1, 11), Draw(2, 22)}));
+  ASSERT_TRUE(archivio.LeggiEstrazione(2, record));
+  EXPECT_EQ(record, Draw(2, 22));
+  ASSERT_TRUE(archivio.LeggiEstrazione(3, record));
+  EXPECT_EQ(record, Draw(2, 22)) << "past the end";
+}
+
+TEST(ScriviEstrazione, AccodaSovrascriveORifiuta) {
+  CartellaTemporanea cartella;
+  ClsEstrazioni archivio(cartella / "BaseDati.dat");
+
+  EXPECT_TRUE(*archivio.ScriviEstrazione(Draw(1, 11), 1)) << "k = 1 on a missing file appends";
+  EXPECT_TRUE(*archivio.ScriviEstrazione(Draw(2, 22), 0)) << "k = 0 appends";
+  EXPECT_TRUE(*archivio.ScriviEstrazione(Draw(3, 33), 3)) << "k = count + 1 appends";
+  EXPECT_TRUE(*archivio.ScriviEstrazione(Draw(2, 44), 2)) << "1 <= k <= count overwrites";
+  EXPECT_FALSE(*archivio.ScriviEstrazione(Draw(9, 99), -1)) << "k < 0 writes nothing, silently";
+
+  auto oltre = archivio.ScriviEstrazione(Draw(5, 55), 5);
+  ASSERT_FALSE(oltre);
+  EXPECT_EQ(oltre.Errore().testo,
+            "Id estrazione non consecutivo. \nL'id della nuova estrazione che si sta scrivendo deve essere compreso "
+            "tra 1 e il NumeroEstrazioniArchiviate + 1 !");
+
+  auto tabella = archivio.CaricaEstrazioni();
+  ASSERT_TRUE(tabella);
+  ASSERT_EQ(tabella->EstrazioniArchivio(), 3);
+  EXPECT_EQ((*tabella)[1], Draw(1, 11));
+  EXPECT_EQ((*tabella)[2], Draw(2, 44));
+  EXPECT_EQ((*tabella)[3], Draw(3, 33));
+  EXPECT_EQ(LeggiByte(archivio.Archivio()).size(), 3u * 67);
+}
+
+TEST(SalvaFileEstrazioni, AccodaSoloIRecordConUnaEstrazione) {
+  CartellaTemporanea cartella;
+  ClsEstrazioni archivio(cartella / "BaseDati.dat");
+  ASSERT_TRUE(archivio.SalvaFileEstrazioni({Draw(1, 11)}));
+  auto prima = LeggiByte(archivio.Archivio());
+
+  ASSERT_TRUE(archivio.SalvaFileEstrazioni({Draw(2, 0), Draw(3, 0)}));
+  EXPECT_EQ(LeggiByte(archivio.Archivio()), prima) << "records without Bari leave the file unchanged";
+
+  ASSERT_TRUE(archivio.SalvaFileEstrazioni({Draw(2, 0), Draw(2, 22), Draw(3, 33)}));
+  auto tabella = archivio.CaricaEstrazioni();
+  ASSERT_EQ(tabella->EstrazioniArchivio(), 3);
+  EXPECT_EQ((*tabella)[1], Draw(1, 11));
+  EXPECT_EQ((*tabella)[3], Draw(3, 33));
 }
 
 }  // namespace

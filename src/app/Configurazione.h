@@ -1,0 +1,31 @@
+#pragma once
+
+// The settings that the core needs before the first load, read from section "GENERALE" of the
+// program's INI file. Keys keep the names users already know from their configuration files.
+
+#include <filesystem>
+#include <string>
+
+#include "FileIni.h"
+
+namespace lottolab::app {
+
+inline constexpr std::string_view kSezioneGenerale = "GENERALE";
+
+struct Configurazione {
+  std::filesystem::path base;
+  FileIni ini;
+
+  // Key sFileBd: the archive every analysis reads; "BaseDati.dat" in the base folder by default.
+  std::filesystem::path ArchivioLotto() const;
+  // Key sFileBdModificabile: the archive the user may edit; "basedati.dat" by default.
+  std::filesystem::path ArchivioModificabile() const;
+  // Key sIndirizzoRisultati: where the operator publishes the results file (zip of text lines).
+  std::string IndirizzoRisultati() const;
+};
+
+// Reads the configuration of the given base folder (lottolab.ini there; an absent file gives the
+// defaults).
+Esito<Configurazione> CaricaConfigurazione(const std::filesystem::path& base);
+
+}  // namespace lottolab::app

@@ -1,0 +1,58 @@
+#include "Comandi.h"
+
+#include <fmt/format.h>
+#include <fmt/ostream.h>
+
+#include "app/Percorsi.h"
+
+namespace lottolab::cli {
+
+namespace {
+
+constexpr std::string_view kUso =
+    "uso: lottolab [--archivio PATH] COMANDO ...\n"
+    "comandi:\n"
+    "  importa FILE              aggiunge all'archivio le estrazioni nuove di un file di risultati (testo o zip)\n"
+    "  aggiorna                  scarica i risultati pubblicati e li importa\n"
+    "  info                      numero di estrazioni, prima e ultima data\n"
+    "  estrazione ID|GG/MM/AAAA  mostra un'estrazione\n"
+    "  ritardo|frequenza|storico [--ruote BA,VE|TT] [--sorte N] [--posizioni 1,3] [--inizio X] [--fine X] N1 [N2 ...]\n"
+    "  tabellone [--ruota VE] [--inizio X] [--fine X]\n";
+
+}  // namespace
+
+int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err) {
+  SegnalatoreTerminale segnalatore(err);
+  auto configurazione = app::CaricaConfigurazione(app::CartellaBase());
+  if (!configurazione) {
+    segnalatore.Mostra(configurazione.Errore());
+    return segnalatore.CodiceUscita();
+  }
+  Contesto contesto{out, segnalatore, std::move(configurazione).Valore(), {}};
+  contesto.archivio = contesto.configurazione.ArchivioLotto();
+
+  size_t i = 0;
+  while (i < argomenti.size() && argomenti[i] == "--archivio") {
+    if (i + 1 == argomenti.size()) return contesto.Fallisci(AvvisoEsclamativo("manca il valore dell'opzione --archivio"));
+    contesto.archivio = argomenti[i + 1];
+    i += 2;
+  }
+  if (i == argomenti.size() || argomenti[i] == "--help" || argomenti[i] == "aiuto") {
+    fmt::print(i == argomenti.size() ? err : out, "{}", kUso);
+    return i == argomenti.size() ? kUscitaInputNonValido : kUscitaRiuscita;
+  }
+  const std::string& comando = argomenti[i];
+  Parole parole(argomenti.begin() + static_cast<std::ptrdiff_t>(i) + 1, argomenti.end());
+
+  if (comando == "importa") return ComandoImporta(contesto, parole);
+  if (comando == "aggiorna") return ComandoAggiorna(contesto, parole);
+  if (comando == "info") return ComandoInfo(contesto, parole);
+  if (comando == "estrazione") return ComandoEstrazione(contesto, parole);
+  if (comando == "ritardo") return ComandoStatistica(contesto, parole, Statistica::Ritardo);
+  if (comando == "frequenza") return ComandoStatistica(contesto, parole, Statistica::Frequenza);
+  if (comando == "storico") return ComandoStatistica(contesto, parole, Statistica::Storico);
+  if (comando == "tabellone") return ComandoTabellone(contesto, parole);
+  return contesto.Fallisci(AvvisoEsclamativo(fmt::format("comando sconosciuto: {} (lottolab --help per l'elenco)", comando)));
+}
+
+}  // namespace lottolab::cli

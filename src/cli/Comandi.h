@@ -1,0 +1,27 @@
+#pragma once
+
+// The commands of `lottolab`. Each takes the words that follow its name and returns the exit status.
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "Contesto.h"
+
+namespace lottolab::cli {
+
+using Parole = std::vector<std::string>;
+
+int ComandoImporta(Contesto& contesto, const Parole& parole);
+int ComandoAggiorna(Contesto& contesto, const Parole& parole);
+int ComandoInfo(Contesto& contesto, const Parole& parole);
+int ComandoEstrazione(Contesto& contesto, const Parole& parole);
+
+enum class Statistica { Ritardo, Frequenza, Storico };
+int ComandoStatistica(Contesto& contesto, const Parole& parole, Statistica statistica);
+int ComandoTabellone(Contesto& contesto, const Parole& parole);
+
+// The whole command line: global options, then a command and its words.
+int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err);
+
+}  // namespace lottolab::cli

@@ -1,0 +1,82 @@
+#include <fmt/format.h>
+#include <fmt/ostream.h>
+
+#include "Argomenti.h"
+#include "Comandi.h"
+#include "archive/ClsEstrazioni.h"
+#include "archive/DateEstrazione.h"
+#include "archive/ImportaRisultati.h"
+#include "archive/ScaricaRisultati.h"
+
+namespace lottolab::cli {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+Avviso UsoErrato(std::string_view uso) { return AvvisoEsclamativo(fmt::format("uso: lottolab {}", uso)); }
+
+int Importa(Contesto& contesto, const fs::path& file) {
+  std::error_code ec;
+  if (contesto.archivio.has_parent_path()) fs::create_directories(contesto.archivio.parent_path(), ec);
+  ClsEstrazioni archivio(contesto.archivio);
+  auto importate = ImportaRisultati(archivio, file);
+  if (!importate) return contesto.Fallisci(importate.Errore());
+  fmt::print(contesto.out, "importate {} estrazioni\n", *importate);
+  return kUscitaRiuscita;
+}
+
+}  // namespace
+
+int ComandoImporta(Contesto& contesto, const Parole& parole) {
+  if (parole.size() != 1) return contesto.Fallisci(UsoErrato("importa FILE"));
+  if (!fs::exists(parole[0])) return contesto.Fallisci(AvvisoEsclamativo(fmt::format("il file {} non esiste", parole[0])));
+  return Importa(contesto, parole[0]);
+}
+
+int ComandoAggiorna(Contesto& contesto, const Parole& parole) {
+  if (!parole.empty()) return contesto.Fallisci(UsoErrato("aggiorna"));
+  fs::path scaricato = contesto.configurazione.base / "risultati-scaricati.zip";
+  auto download = ScaricaRisultati(contesto.configurazione.IndirizzoRisultati(), scaricato);
+  if (!download) return contesto.Fallisci(download.Errore());
+  int uscita = Importa(contesto, *download);
+  std::error_code ec;
+  fs::remove(*download, ec);
+  return uscita;
+}
+
+int ComandoInfo(Contesto& contesto, const Parole& parole) {
+  if (!parole.empty()) return contesto.Fallisci(UsoErrato("info"));
+  auto tabella = contesto.CaricaTabella();
+  if (!tabella) return contesto.Fallisci(tabella.Errore());
+  int n = tabella->EstrazioniArchivio();
+  fmt::print(contesto.out, "estrazioni: {}\n", n);
+  fmt::print(contesto.out, "prima: {}\n", n ? FormattaData((*tabella)[1].data) : "-");
+  fmt::print(contesto.out, "ultima: {}\n", n ? FormattaData((*tabella)[n].data) : "-");
+  return kUscitaRiuscita;
+}
+
+int ComandoEstrazione(Contesto& contesto, const Parole& parole) {
+  if (parole.size() != 1) return contesto.Fallisci(UsoErrato("estrazione ID|GG/MM/AAAA"));
+  auto tabella = contesto.CaricaTabella();
+  if (!tabella) return contesto.Fallisci(tabella.Errore());
+  auto indice = LeggiRiferimentoEstrazione(*tabella, parole[0]);
+  if (!indice) return contesto.Fallisci(indice.Errore());
+
+  const Estrazione& estrazione = (*tabella)[*indice];
+  // A date names one draw exactly here: showing the draw before it would mislead.
+  if (parole[0].find('/') != std::string::npos && ConfrontaDate(estrazione.data, *LeggiData(parole[0])) != 0)
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("nessuna estrazione il {}", parole[0])));
+
+  fmt::print(contesto.out, "{} {} {}\n", *indice, FormattaData(estrazione.data), estrazione.data.indice_annuale);
+  for (int ruota = 1; ruota <= kNumeroRuote; ++ruota) {
+    if (!estrazione.RuotaEstratta(ruota)) continue;
+    fmt::print(contesto.out, "{}", SiglaRuota(ruota));
+    for (int posizione = 1; posizione <= kNumeriPerRuota; ++posizione)
+      fmt::print(contesto.out, " {:02}", estrazione.Numero(ruota, posizione));
+    fmt::print(contesto.out, "\n");
+  }
+  return kUscitaRiuscita;
+}
+
+}  // namespace lottolab::cli

@@ -1,0 +1,43 @@
+#pragma once
+
+// What every command of the command line works with: its streams, the archive it was pointed at and
+// the way it reports a failure (one line on stderr and the exit status).
+
+#include <filesystem>
+#include <ostream>
+
+#include "app/Configurazione.h"
+#include "app/Segnalatore.h"
+#include "archive/TabellaEstrazioni.h"
+
+namespace lottolab::cli {
+
+inline constexpr int kUscitaRiuscita = 0;
+inline constexpr int kUscitaErrore = 1;          // an unexpected failure (file access, ...)
+inline constexpr int kUscitaInputNonValido = 2;  // bad arguments or an expected condition
+
+class SegnalatoreTerminale : public app::Segnalatore {
+ public:
+  explicit SegnalatoreTerminale(std::ostream& err) : m_err(err) {}
+  // Prints the message on one line; a critical one is prefixed by the procedure's name.
+  void Mostra(const Avviso& avviso) override;
+  int CodiceUscita() const { return m_codice; }
+
+ private:
+  std::ostream& m_err;
+  int m_codice = kUscitaRiuscita;
+};
+
+struct Contesto {
+  std::ostream& out;
+  SegnalatoreTerminale& segnalatore;
+  app::Configurazione configurazione;
+  std::filesystem::path archivio;
+
+  // Shows the failure and gives the exit status that goes with it.
+  int Fallisci(const Avviso& avviso);
+  // The whole archive; a missing file is a failure.
+  Esito<TabellaEstrazioni> CaricaTabella() const;
+};
+
+}  // namespace lottolab::cli

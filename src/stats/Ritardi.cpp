@@ -1,0 +1,221 @@
+#include "Ritardi.h"
+
+#include <algorithm>
+#include <cassert>
+#include <cstdint>
+
+namespace lottolab::stats {
+
+namespace {
+
+// What one draw means for a combination: whether it counts, and on how many selected wheels it wins.
+struct Esame {
+  bool conta = false;
+  int vincite = 0;
+};
+
+// The played numbers, selected wheels and flagged positions in the shape the walks read fastest:
+// flags indexed by number and by position, and the offsets of the selected wheels in a record.
+class Giocata {
+ public:
+  Giocata(std::span<const int> ruote, std::span<const int> numeri, int sorte, const Posizioni& posizioni)
+      : m_sorte(sorte) {
+    assert(sorte >= 1 && sorte <= kNumeriPerRuota);
+    for (int numero : numeri) {
+      assert(numero >= 1 && numero <= kMassimoNumero);
+      m_giocato[numero] = 1;
+    }
+    std::array<bool, kNumeroRuote + 1> scelta{};
+    for (int ruota : ruote) {
+      assert(ruota >= 1 && ruota <= kTutteLeRuote);
+      if (ruota == kTutteLeRuote)
+        std::fill(scelta.begin() + 1, scelta.end(), true);
+      else
+        scelta[ruota] = true;
+    }
+    for (int ruota = 1; ruota <= kNumeroRuote; ++ruota)
+      if (scelta[ruota]) m_basi[m_numero_ruote++] = (ruota - 1) * kNumeriPerRuota;
+    for (int p = 0; p < kNumeriPerRuota; ++p) m_posizioni[p] = posizioni[p] ? 1 : 0;
+  }
+
+  // Played numbers among the flagged positions of the wheel whose five numbers start at `base`.
+  int Colpi(const Estrazione& estrazione, int base) const {
+    int colpi = 0;
+    for (int p = 0; p < kNumeriPerRuota; ++p) colpi += m_giocato[estrazione.numeri[base + p]] & m_posizioni[p];
+    return colpi;
+  }
+
+  // The delay walk: backwards from `fine`, wheel by wheel in table order; the first winning wheel
+  // ends the walk before its draw is counted.
+  int Ritardo(const TabellaEstrazioni& tab, int inizio, int fine) const {
+    int contatore = 0;
+    for (int id = fine; id >= inizio; --id) {
+      const Estrazione& estrazione = tab[id];
+      if (!estrazione.Presente()) continue;
+      bool conta = false;
+      for (int i = 0; i < m_numero_ruote; ++i) {
+        const int base = m_basi[i];
+        if (estrazione.numeri[base] != 0) conta = true;
+        if (Colpi(estrazione, base) >= m_sorte) return contatore;
+      }
+      if (conta) ++contatore;
+    }
+    return contatore;
+  }
+
+  // The same test over every selected wheel, for the walks that count wins.
+  Esame Esamina(const Estrazione& estrazione) const {
+    Esame esame;
+    if (!estrazione.Presente()) return esame;
+    for (int i = 0; i < m_numero_ruote; ++i) {
+      const int base = m_basi[i];
+      if (estrazione.numeri[base] != 0) esame.conta = true;
+      if (Colpi(estrazione, base) >= m_sorte) ++esame.vincite;
+    }
+    return esame;
+  }
+
+ private:
+  int m_sorte;
+  // One flag for every value a byte can hold, so that a damaged record cannot read past the end.
+  std::array<uint8_t, 256> m_giocato{};
+  std::array<uint8_t, kNumeriPerRuota> m_posizioni{};
+  std::array<int, kNumeroRuote> m_basi{};
+  int m_numero_ruote = 0;
+};
+
+// The statistics of the range walked so far, updated one draw at a time from the first.
+struct Andamento {
+  int ritardo = 0;
+  int frequenza = 0;
+  int storico = 0;
+  int massimo_chiuso = 0;
+
+  void Aggiungi(const Esame& esame) {
+    frequenza += esame.vincite;
+    if (esame.vincite > 0) {
+      massimo_chiuso = std::max(massimo_chiuso, ritardo);
+      ritardo = 0;
+    } else if (esame.conta) {
+      ++ritardo;
+      storico = std::max(storico, ritardo);
+    }
+  }
+
+  int IncrStorico() const { return ritardo > massimo_chiuso ? ritardo - massimo_chiuso : 0; }
+};
+
+void ControllaIntervallo([[maybe_unused]] const TabellaEstrazioni& tab, [[maybe_unused]] int inizio,
+                         [[maybe_unused]] int fine) {
+  assert(inizio >= 1 && fine <= tab.EstrazioniArchivio());
+}
+
+Andamento Percorri(const TabellaEstrazioni& tab, const Giocata& giocata, int inizio, int fine) {
+  ControllaIntervallo(tab, inizio, fine);
+  Andamento andamento;
+  for (int id = inizio; id <= fine; ++id) andamento.Aggiungi(giocata.Esamina(tab[id]));
+  return andamento;
+}
+
+template <typename Valore>
+std::vector<int> Serie(const TabellaEstrazioni& tab, const Giocata& giocata, int inizio, int fine, Valore valore) {
+  ControllaIntervallo(tab, inizio, fine);
+  std::vector<int> serie;
+  if (fine < inizio) return serie;
+  serie.reserve(static_cast<size_t>(fine - inizio + 1));
+  Andamento andamento;
+  for (int id = inizio; id <= fine; ++id) {
+    andamento.Aggiungi(giocata.Esamina(tab[id]));
+    serie.push_back(valore(andamento));
+  }
+  return serie;
+}
+
+int InizioPredefinito(int inizio) { return inizio == 0 ? 1 : inizio; }
+int FinePredefinita(const TabellaEstrazioni& tab, int fine) { return fine == 0 ? tab.EstrazioniArchivio() : fine; }
+
+}  // namespace
+
+int RitardoCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
+                        int sorte, int fine, const Posizioni& posizioni, int inizio) {
+  ControllaIntervallo(tab, inizio, fine);
+  return Giocata(ruote, numeri, sorte, posizioni).Ritardo(tab, inizio, fine);
+}
+
+int FrequenzaCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
+                          int sorte, int fine, const Posizioni& posizioni, int inizio) {
+  return Percorri(tab, Giocata(ruote, numeri, sorte, posizioni), inizio, fine).frequenza;
+}
+
+int StoricoCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
+                        int sorte, int fine, const Posizioni& posizioni, int inizio) {
+  return Percorri(tab, Giocata(ruote, numeri, sorte, posizioni), inizio, fine).storico;
+}
+
+int IncrStoricoCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
+                            int sorte, int fine, const Posizioni& posizioni, int inizio) {
+  return Percorri(tab, Giocata(ruote, numeri, sorte, posizioni), inizio, fine).IncrStorico();
+}
+
+std::vector<int> SerieRitardo(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
+                              int sorte, int fine, const Posizioni& posizioni, int inizio) {
+  return Serie(tab, Giocata(ruote, numeri, sorte, posizioni), inizio, fine,
+               [](const Andamento& a) { return a.ritardo; });
+}
+
+std::vector<int> SerieFreq(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
+                           int sorte, int fine, const Posizioni& posizioni, int inizio) {
+  return Serie(tab, Giocata(ruote, numeri, sorte, posizioni), inizio, fine,
+               [](const Andamento& a) { return a.frequenza; });
+}
+
+std::vector<int> SerieStorico(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
+                              int sorte, int fine, const Posizioni& posizioni, int inizio) {
+  return Serie(tab, Giocata(ruote, numeri, sorte, posizioni), inizio, fine,
+               [](const Andamento& a) { return a.storico; });
+}
+
+int EstrattoRitardo(const TabellaEstrazioni& tab, int ruota, int numero, int inizio, int fine,
+                    const Posizioni& posizioni) {
+  const std::array ruote{ruota};
+  const std::array numeri{numero};
+  return RitardoCombinazione(tab, ruote, numeri, 1, FinePredefinita(tab, fine), posizioni, InizioPredefinito(inizio));
+}
+
+int EstrattoFrequenza(const TabellaEstrazioni& tab, int ruota, int numero, int inizio, int fine,
+                      const Posizioni& posizioni) {
+  const std::array ruote{ruota};
+  const std::array numeri{numero};
+  return FrequenzaCombinazione(tab, ruote, numeri, 1, FinePredefinita(tab, fine), posizioni, InizioPredefinito(inizio));
+}
+
+int EstrattoStorico(const TabellaEstrazioni& tab, int ruota, int numero, int inizio, int fine,
+                    const Posizioni& posizioni) {
+  const std::array ruote{ruota};
+  const std::array numeri{numero};
+  return StoricoCombinazione(tab, ruote, numeri, 1, FinePredefinita(tab, fine), posizioni, InizioPredefinito(inizio));
+}
+
+int EstrattoIncrStorico(const TabellaEstrazioni& tab, int ruota, int numero, int inizio, int fine,
+                        const Posizioni& posizioni) {
+  const std::array ruote{ruota};
+  const std::array numeri{numero};
+  return IncrStoricoCombinazione(tab, ruote, numeri, 1, FinePredefinita(tab, fine), posizioni,
+                                 InizioPredefinito(inizio));
+}
+
+int AmboRitardo(const TabellaEstrazioni& tab, int ruota, int n1, int n2, int inizio, int fine,
+                const Posizioni& posizioni) {
+  const std::array ruote{ruota};
+  const std::array numeri{n1, n2};
+  return RitardoCombinazione(tab, ruote, numeri, 2, FinePredefinita(tab, fine), posizioni, InizioPredefinito(inizio));
+}
+
+int AmboFrequenza(const TabellaEstrazioni& tab, int ruota, int n1, int n2, int inizio, int fine,
+                  const Posizioni& posizioni) {
+  const std::array ruote{ruota};
+  const std::array numeri{n1, n2};
+  return FrequenzaCombinazione(tab, ruote, numeri, 2, FinePredefinita(tab, fine), posizioni, InizioPredefinito(inizio));
+}
+
+}  // namespace lottolab::stats

@@ -1,0 +1,44 @@
+#pragma once
+
+// A fresh folder for one test, removed with everything in it when the test ends.
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace lottolab::test {
+
+class CartellaTemporanea {
+ public:
+  CartellaTemporanea() {
+    std::random_device caso;
+    m_percorso = std::filesystem::temp_directory_path() / ("lottolab-test-" + std::to_string(caso()) + std::to_string(caso()));
+    std::filesystem::create_directories(m_percorso);
+  }
+  ~CartellaTemporanea() {
+    std::error_code ec;
+    std::filesystem::remove_all(m_percorso, ec);
+  }
+  CartellaTemporanea(const CartellaTemporanea&) = delete;
+  CartellaTemporanea& operator=(const CartellaTemporanea&) = delete;
+
+  std::filesystem::path operator/(const std::string& nome) const { return m_percorso / nome; }
+  const std::filesystem::path& Percorso() const { return m_percorso; }
+
+ private:
+  std::filesystem::path m_percorso;
+};
+
+inline std::vector<unsigned char> LeggiByte(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+inline void ScriviByte(const std::filesystem::path& file, const std::vector<unsigned char>& byte) {
+  std::ofstream out(file, std::ios::binary | std::ios::trunc);
+  out.write(reinterpret_cast<const char*>(byte.data()), static_cast<std::streamsize>(byte.size()));
+}
+
+}  // namespace lottolab::test

@@ -1,0 +1,152 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include "DatiReali.h"
+#include "TempDir.h"
+#include "cli/Comandi.h"
+
+namespace lottolab::cli {
+namespace {
+
+using test::CartellaTemporanea;
+
+struct Uscita {
+  int codice;
+  std::string out;
+  std::string err;
+};
+
+// Runs the command line in-process against an archive of the test's own folder, which is also the
+// base folder, so no user's configuration is read.
+class RigaDiComando : public ::testing::Test {
+ protected:
+  void SetUp() override { setenv("LOTTOLAB_HOME", m_cartella.Percorso().c_str(), 1); }
+  void TearDown() override { unsetenv("LOTTOLAB_HOME"); }
+
+  Uscita Esegui(std::vector<std::string> parole) {
+    parole.insert(parole.begin(), {"--archivio", Archivio()});
+    std::ostringstream out, err;
+    int codice = EseguiLottolab(parole, out, err);
+    return {codice, out.str(), err.str()};
+  }
+
+  std::string Archivio() const { return (m_cartella / "BaseDati.dat").string(); }
+
+  std::string ScriviRisultati(const std::string& nome, const std::string& testo) {
+    auto file = m_cartella / nome;
+    std::ofstream(file) << testo;
+    return file.string();
+  }
+
+  CartellaTemporanea m_cartella;
+};
+
+// Three draws: Venezia gives 7 in the second; the Nazionale wheel appears in the third.
+constexpr const char* kRisultati =
+    "2005/04/30\tBA\t1\t2\t3\t4\t5\n"
+    "2005/04/30\tVE\t10\t11\t12\t13\t14\n"
+    "2005/05/03\tBA\t21\t22\t23\t24\t25\n"
+    "2005/05/03\tVE\t6\t7\t8\t9\t15\n"
+    "2005/05/04\tBA\t31\t32\t33\t34\t35\n"
+    "2005/05/04\tRM\t41\t42\t43\t44\t45\n"
+    "2005/05/04\tRN\t51\t52\t53\t54\t7\n"
+    "2005/05/04\tVE\t61\t62\t63\t64\t65\n";
+
+TEST_F(RigaDiComando, ImportaInfoEdEstrazione) {
+  auto file = ScriviRisultati("risultati.txt", kRisultati);
+  auto importa = Esegui({"importa", file});
+  EXPECT_EQ(importa.codice, 0) << importa.err;
+  EXPECT_EQ(importa.out, "importate 3 estrazioni\n");
+  EXPECT_EQ(Esegui({"importa", file}).out, "importate 0 estrazioni\n");
+
+  EXPECT_EQ(Esegui({"info"}).out, "estrazioni: 3\nprima: 30/04/2005\nultima: 04/05/2005\n");
+  auto per_data = Esegui({"estrazione", "4/5/2005"});
+  EXPECT_EQ(per_data.out, "3 04/05/2005 3\nBA 31 32 33 34 35\nRO 41 42 43 44 45\nVE 61 62 63 64 65\nNZ 51 52 53 54 07\n");
+  EXPECT_EQ(Esegui({"estrazione", "3"}).out, per_data.out);
+}
+
+TEST_F(RigaDiComando, StatisticheDiUnaCombinazione) {
+  ASSERT_EQ(Esegui({"importa", ScriviRisultati("risultati.txt", kRisultati)}).codice, 0);
+  EXPECT_EQ(Esegui({"ritardo", "--ruote", "VE", "7"}).out, "1\n");
+  EXPECT_EQ(Esegui({"ritardo", "--ruote", "TT", "7"}).out, "0\n");
+  EXPECT_EQ(Esegui({"ritardo", "--ruote", "NZ", "1"}).out, "1\n") << "draws before the wheel existed do not count";
+  EXPECT_EQ(Esegui({"ritardo", "--ruote", "VE", "--fine", "03/05/2005", "7"}).out, "0\n");
+  EXPECT_EQ(Esegui({"ritardo", "--ruote", "VE", "--fine", "2", "7"}).out, "0\n");
+  EXPECT_EQ(Esegui({"ritardo", "--ruote", "VE", "--posizioni", "1", "7"}).out, "3\n");
+  EXPECT_EQ(Esegui({"ritardo", "--ruote", "BA,VE", "2", "7"}).out, "3\n") << "an ambo split over two wheels is no win";
+  EXPECT_EQ(Esegui({"ritardo", "--ruote", "BA,VE", "--sorte", "1", "2", "7"}).out, "1\n");
+  EXPECT_EQ(Esegui({"frequenza", "7"}).out, "2\n");
+  EXPECT_EQ(Esegui({"storico", "--ruote", "VE", "7"}).out, "1\n");
+}
+
+TEST_F(RigaDiComando, TabelloneAllineato) {
+  ASSERT_EQ(Esegui({"importa", ScriviRisultati("risultati.txt", kRisultati)}).codice, 0);
+  auto tabellone = Esegui({"tabellone", "--ruota", "VE"});
+  ASSERT_EQ(tabellone.codice, 0) << tabellone.err;
+  std::istringstream righe(tabellone.out);
+  std::string intestazione, riga;
+  std::getline(righe, intestazione);
+  EXPECT_EQ(intestazione, "ruota numero   ritardo frequenza   storico");
+  int conteggio = 0;
+  std::string settima;
+  while (std::getline(righe, riga)) {
+    EXPECT_EQ(riga.size(), intestazione.size());
+    if (++conteggio == 7) settima = riga;
+  }
+  EXPECT_EQ(conteggio, 90);
+  EXPECT_EQ(settima, "VE         7         1         1         1");
+  auto tutte = Esegui({"tabellone"}).out;
+  EXPECT_EQ(std::count(tutte.begin(), tutte.end(), '\n'), 1 + 90 * 11);
+}
+
+TEST_F(RigaDiComando, ArgomentiSbagliatiDannoUnaRigaEdEsito2) {
+  ASSERT_EQ(Esegui({"importa", ScriviRisultati("risultati.txt", kRisultati)}).codice, 0);
+  const std::vector<std::vector<std::string>> sbagliati = {
+      {"ritardo", "--ruote", "XX", "7"},  {"ritardo", "91"},
+      {"ritardo", "0"},                   {"ritardo", "sette"},
+      {"ritardo", "--sorte", "6", "7"},   {"ritardo", "--sorte", "0", "7"},
+      {"ritardo", "--sorte", "2", "7"},   {"ritardo", "--fine", "01/01/1990", "7"},
+      {"ritardo", "--fine", "12/2020", "7"}, {"ritardo", "--fine", "99", "7"},
+      {"ritardo", "--posizioni", "6", "7"}, {"ritardo"},
+      {"ritardo", "7", "7"},              {"ritardo", "--inizio", "3", "--fine", "1", "7"},
+      {"ritardo", "--colore", "rosso", "7"}, {"tabellone", "--ruota", "ZZ"},
+      {"estrazione", "01/01/2005"},       {"estrazione", "0"},
+      {"comando-inesistente"},            {"importa", "/nessun/file.txt"},
+  };
+  for (const auto& parole : sbagliati) {
+    auto uscita = Esegui(parole);
+    std::string riassunto;
+    for (const auto& p : parole) riassunto += p + " ";
+    EXPECT_EQ(uscita.codice, 2) << riassunto;
+    EXPECT_TRUE(uscita.out.empty()) << riassunto;
+    EXPECT_EQ(std::count(uscita.err.begin(), uscita.err.end(), '\n'), 1) << riassunto << ": " << uscita.err;
+  }
+}
+
+TEST_F(RigaDiComando, SenzaArchivioSiFermaConUnMessaggio) {
+  auto uscita = Esegui({"info"});
+  EXPECT_EQ(uscita.codice, 2);
+  EXPECT_EQ(uscita.err, "lottolab: Non esiste il file relativo alla base dati originale " + Archivio() + "\n");
+}
+
+TEST_F(RigaDiComando, ArchivioRealeFattiNoti) {
+  LOTTOLAB_RICHIEDI_DATI_REALI();
+  auto importa = Esegui({"importa", (test::CartellaDatiReali() / "lotto.txt").string()});
+  ASSERT_EQ(importa.codice, 0) << importa.err;
+  EXPECT_EQ(importa.out, "importate 7318 estrazioni\n");
+  EXPECT_EQ(Esegui({"info"}).out, "estrazioni: 7318\nprima: 07/01/1939\nultima: 30/05/2026\n");
+
+  auto estrazione = Esegui({"estrazione", "09/02/2005"});
+  EXPECT_NE(estrazione.out.find("\nVE 53 31 88 28 77\n"), std::string::npos) << estrazione.out;
+  // The day before: 53 had been missing from Venezia for 182 draws, the longest absence there.
+  EXPECT_EQ(Esegui({"ritardo", "--ruote", "VE", "--fine", "08/02/2005", "53"}).out, "182\n");
+  EXPECT_EQ(Esegui({"ritardo", "--ruote", "VE", "--fine", "09/02/2005", "53"}).out, "0\n");
+  EXPECT_EQ(Esegui({"storico", "--ruote", "VE", "53"}).out, "182\n");
+  EXPECT_EQ(Esegui({"ritardo", "--ruote", "NZ", "--fine", "04/05/2005", "--inizio", "1", "1"}).out, "1\n");
+}
+
+}  // namespace
+}  // namespace lottolab::cli
