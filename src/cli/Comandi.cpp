@@ -17,7 +17,8 @@ constexpr std::string_view kUso =
     "  info                      numero di estrazioni, prima e ultima data\n"
     "  estrazione ID|GG/MM/AAAA  mostra un'estrazione\n"
     "  ritardo|frequenza|storico [--ruote BA,VE|TT] [--sorte N] [--posizioni 1,3] [--inizio X] [--fine X] N1 [N2 ...]\n"
-    "  tabellone [--ruota VE] [--inizio X] [--fine X]\n";
+    "  tabellone [--ruota VE] [--inizio X] [--fine X]\n"
+    "  vbs [--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]   esegue un programma VBScript\n";
 
 }  // namespace
 
@@ -52,6 +53,7 @@ int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err
   if (comando == "frequenza") return ComandoStatistica(contesto, parole, Statistica::Frequenza);
   if (comando == "storico") return ComandoStatistica(contesto, parole, Statistica::Storico);
   if (comando == "tabellone") return ComandoTabellone(contesto, parole);
+  if (comando == "vbs") return ComandoVbs(contesto, parole, err);
   return contesto.Fallisci(AvvisoEsclamativo(fmt::format("comando sconosciuto: {} (lottolab --help per l'elenco)", comando)));
 }
 

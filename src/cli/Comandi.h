@@ -20,6 +20,8 @@ int ComandoEstrazione(Contesto& contesto, const Parole& parole);
 enum class Statistica { Ritardo, Frequenza, Storico };
 int ComandoStatistica(Contesto& contesto, const Parole& parole, Statistica statistica);
 int ComandoTabellone(Contesto& contesto, const Parole& parole);
+// Runs a plain VBScript program with a WScript object; its exit status is the script's.
+int ComandoVbs(Contesto& contesto, const Parole& parole, std::ostream& err);
 
 // The whole command line: global options, then a command and its words.
 int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err);

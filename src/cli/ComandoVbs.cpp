@@ -1,0 +1,58 @@
+#include <filesystem>
+#include <fmt/format.h>
+#include <fmt/ostream.h>
+#include <fstream>
+#include <sstream>
+
+#include "Comandi.h"
+#include "WScript.h"
+#include "vbscript/ScriptControl.h"
+#include "vbscript/Utf.h"
+
+namespace lottolab::cli {
+
+namespace fs = std::filesystem;
+
+int ComandoVbs(Contesto& contesto, const Parole& parole, std::ostream& err) {
+  size_t i = 0;
+  int32_t lcid = 1040;
+  if (i < parole.size() && parole[i] == "--locale") {
+    if (i + 1 == parole.size()) return contesto.Fallisci(AvvisoEsclamativo("manca il valore dell'opzione --locale"));
+    const std::string& nome = parole[i + 1];
+    if (nome == "it-IT") {
+      lcid = 1040;
+    } else if (nome == "en-US") {
+      lcid = 1033;
+    } else {
+      return contesto.Fallisci(AvvisoEsclamativo(fmt::format("impostazione locale sconosciuta: {} (it-IT o en-US)", nome)));
+    }
+    i += 2;
+  }
+  if (i == parole.size())
+    return contesto.Fallisci(AvvisoEsclamativo("uso: lottolab vbs [--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]"));
+  fs::path file = parole[i];
+  std::ifstream in(file, std::ios::binary);
+  if (!in) return contesto.Fallisci(AvvisoEsclamativo(fmt::format("impossibile leggere il file {}", file.string())));
+  std::stringstream contenuto;
+  contenuto << in.rdbuf();
+
+  vbs::ScriptControl motore;
+  (void)motore.SetLanguage("VBScript");
+  (void)motore.SetLocale(lcid);
+  auto wscript = vbs::MakeRef<WScript>(motore.interpreter(), file.filename().string(),
+                                       fs::absolute(file).string(),
+                                       std::vector<std::string>(parole.begin() + static_cast<std::ptrdiff_t>(i) + 1,
+                                                                parole.end()),
+                                       contesto.out, err);
+  (void)motore.AddObject("WScript", wscript, false);
+  auto esito = motore.AddCode(vbs::DecodeScriptFile(contenuto.str()), file.string());
+  if (auto codice = wscript->CodiceUscita()) return *codice;
+  if (!esito) {
+    const vbs::ScriptErrorInfo& errore = motore.Error();
+    fmt::print(err, "{}({}, {}) {}\n", file.string(), errore.line, errore.column, vbs::Utf16ToUtf8(errore.description));
+    return kUscitaErrore;
+  }
+  return kUscitaRiuscita;
+}
+
+}  // namespace lottolab::cli

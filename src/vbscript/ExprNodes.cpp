@@ -1,0 +1,472 @@
+#include "ExprNodes.h"
+
+#include "Coercion.h"
+#include "SafeArray.h"
+#include "ScriptClass.h"
+
+namespace vbs {
+
+// ---- Defaults of ExprNode ----
+
+Result<Variant*> ExprNode::Address(Frame&) { return static_cast<Variant*>(nullptr); }
+
+Status ExprNode::Assign(Frame&, Variant, bool) { return MakeError(err::kIllegalAssignment); }
+
+Status ExprNode::Invoke(Frame& frame) {
+  auto value = Eval(frame);
+  if (!value) return std::move(value).error();
+  return Ok();
+}
+
+// ---- Arguments ----
+
+void ArgValues::Add(Variant value) {
+  if (m_count < kInline) {
+    m_inline[m_count++] = std::move(value);
+    return;
+  }
+  if (m_count == kInline) {
+    m_more.reserve(kInline * 2);
+    for (Variant& v : m_inline) m_more.push_back(std::move(v));
+  }
+  m_more.push_back(std::move(value));
+  ++m_count;
+}
+
+Status EvalArgs(Frame& frame, const ExprNodes& args, ArgValues& out, bool by_reference) {
+  for (const ExprNodePtr& arg : args) {
+    if (!arg) {
+      out.Add(Variant::Error(err::kParamNotFound));
+      continue;
+    }
+    if (by_reference && !arg->ForcesByVal()) {
+      auto address = arg->Address(frame);
+      if (!address) return std::move(address).error();
+      if (*address) {
+        out.Add(Variant::Reference(*address));
+        continue;
+      }
+    }
+    auto value = arg->Eval(frame);
+    if (!value) return std::move(value).error();
+    out.Add(std::move(*value));
+  }
+  return Ok();
+}
+
+Result<Variant> LetValue(Variant value) {
+  if (value.IsRef()) value = Variant(value.Deref());
+  if (!value.is_object()) return value;
+  return ValueOf(value);
+}
+
+namespace {
+
+Status StoreInto(Variant& target, Variant value, bool is_set) {
+  if (is_set) {
+    if (value.IsRef()) value = Variant(value.Deref());
+    if (!value.is_object()) return MakeError(err::kObjectRequired);
+    target = std::move(value);
+    return Ok();
+  }
+  auto plain = LetValue(std::move(value));
+  if (!plain) return std::move(plain).error();
+  target = std::move(*plain);
+  return Ok();
+}
+
+Result<Object*> RequireObject(const Variant& value) {
+  const Variant& v = value.Deref();
+  if (!v.is_object()) return MakeError(err::kObjectRequired);
+  if (!v.as_object()) return MakeError(err::kObjectNotSet);
+  return v.as_object();
+}
+
+}  // namespace
+
+// ---- Variables ----
+
+Status VariableNode::Assign(Frame& frame, Variant value, bool is_set) {
+  return StoreInto(Storage(frame).Deref(), std::move(value), is_set);
+}
+
+Status VariableNode::Invoke(Frame& frame) {
+  // A variable named alone as a statement calls the default member of the object it holds.
+  Variant& value = Storage(frame).Deref();
+  if (!value.is_object()) return Ok();
+  auto object = RequireObject(value);
+  if (!object) return std::move(object).error();
+  auto result = (*object)->Invoke(kDefaultMember, InvokeKind::Method, {});
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Variant& FieldNode::Storage(Frame& frame) { return frame.me->field(m_index); }
+
+// ---- Late-bound names ----
+
+const GlobalEntry* LateNameNode::Resolve(Frame& frame) {
+  if (m_generation != frame.interp.generation()) {
+    m_entry = frame.interp.ResolveGlobal(m_name);
+    m_generation = frame.interp.generation();
+  }
+  return m_entry;
+}
+
+Result<Variant*> LateNameNode::ImplicitStorage(Frame& frame) {
+  if (m_explicit) return MakeError(err::kUndefined);
+  if (m_implicit_slot >= 0) return &frame.slots[m_implicit_slot].Deref();
+  return frame.interp.DeclareGlobal(m_name);
+}
+
+Result<Variant> LateNameNode::Eval(Frame& frame) { return CallWith(frame, {}, InvokeKind::Get); }
+
+Result<Variant*> LateNameNode::Address(Frame& frame) {
+  const GlobalEntry* entry = Resolve(frame);
+  if (!entry) return ImplicitStorage(frame);
+  if (entry->kind == GlobalEntry::Kind::Variable) return entry->storage;
+  return static_cast<Variant*>(nullptr);
+}
+
+Status LateNameNode::Assign(Frame& frame, Variant value, bool is_set) { return AssignWith(frame, {}, std::move(value), is_set); }
+
+Status LateNameNode::Invoke(Frame& frame) {
+  auto result = CallWith(frame, {}, InvokeKind::Method);
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Result<Variant> LateNameNode::CallWith(Frame& frame, const ExprNodes& args, InvokeKind kind) {
+  const GlobalEntry* entry = Resolve(frame);
+  ArgValues values;
+  if (!entry) {
+    if (!args.empty()) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
+    auto storage = ImplicitStorage(frame);
+    if (!storage) return std::move(storage).error();
+    return **storage;
+  }
+  switch (entry->kind) {
+    case GlobalEntry::Kind::Variable:
+    case GlobalEntry::Kind::Constant: {
+      if (args.empty()) return *entry->storage;
+      VBS_TRY(EvalArgs(frame, args, values, false));
+      return IndexValue(*entry->storage, values.span(), frame.interp.locale());
+    }
+    case GlobalEntry::Kind::Procedure:
+      VBS_TRY(EvalArgs(frame, args, values, true));
+      return frame.interp.Call(*entry->procedure, nullptr, values.span());
+    case GlobalEntry::Kind::NamedObject: {
+      Ref<Object> object = frame.interp.named_objects()[entry->object].object;
+      if (args.empty()) return Variant::Object(object);
+      VBS_TRY(EvalArgs(frame, args, values, true));
+      return object->Invoke(kDefaultMember, kind, values.span());
+    }
+    case GlobalEntry::Kind::HostMember: {
+      VBS_TRY(EvalArgs(frame, args, values, true));
+      return frame.interp.named_objects()[entry->object].object->Invoke(entry->member, kind, values.span());
+    }
+    case GlobalEntry::Kind::Class:
+      break;
+  }
+  return MakeError(err::kTypeMismatch);
+}
+
+Status LateNameNode::AssignWith(Frame& frame, const ExprNodes& args, Variant value, bool is_set) {
+  const GlobalEntry* entry = Resolve(frame);
+  ArgValues values;
+  if (!entry) {
+    if (!args.empty()) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
+    auto storage = ImplicitStorage(frame);
+    if (!storage) return std::move(storage).error();
+    return StoreInto(**storage, std::move(value), is_set);
+  }
+  switch (entry->kind) {
+    case GlobalEntry::Kind::Variable:
+      if (args.empty()) return StoreInto(*entry->storage, std::move(value), is_set);
+      VBS_TRY(EvalArgs(frame, args, values, false));
+      return AssignIndexed(*entry->storage, values.span(), std::move(value), is_set, frame.interp.locale());
+    case GlobalEntry::Kind::HostMember: {
+      VBS_TRY(EvalArgs(frame, args, values, true));
+      values.Add(std::move(value));
+      auto result = frame.interp.named_objects()[entry->object].object->Invoke(
+          entry->member, is_set ? InvokeKind::Set : InvokeKind::Let, values.span());
+      if (!result) return std::move(result).error();
+      return Ok();
+    }
+    default:
+      return MakeError(err::kIllegalAssignment);
+  }
+}
+
+// ---- Objects ----
+
+Result<Variant> MeNode::Eval(Frame& frame) {
+  if (!frame.me) return MakeError(err::kObjectRequired);
+  return Variant::Object(Ref<Object>(frame.me));
+}
+
+Result<Variant> NamedObjectNode::Eval(Frame& frame) {
+  return Variant::Object(frame.interp.named_objects()[m_index].object);
+}
+
+Result<Variant> NewNode::Eval(Frame& frame) {
+  const GlobalEntry* entry = frame.interp.FindGlobal(m_name);
+  if (!entry || entry->kind != GlobalEntry::Kind::Class) return MakeError(err::kNotAClass);
+  auto instance = frame.interp.NewInstance(*entry->class_info);
+  if (!instance) return std::move(instance).error();
+  return Variant::Object(*instance);
+}
+
+// ---- Operators ----
+
+Result<Variant> UnaryNode::Eval(Frame& frame) {
+  auto operand = m_operand->Eval(frame);
+  if (!operand) return operand;
+  switch (m_op) {
+    case ast::UnaryOp::Negate:
+      if (operand->is_long() && operand->as_long() != INT32_MIN) return Variant::Long(-operand->as_long());
+      if (operand->is_double()) return Variant::Double(-operand->as_double());
+      return Negate(*operand, frame.interp.locale());
+    case ast::UnaryOp::Not:
+      return Not(*operand, frame.interp.locale());
+    case ast::UnaryOp::Plus:
+      return operand;
+  }
+  return operand;
+}
+
+namespace {
+
+// The common cases of loops and counters, on whole numbers that need no promotion.
+bool FastIntegerOp(BinaryOperator op, int32_t a, int32_t b, bool both_integer, Variant& out) {
+  int64_t r;
+  switch (op) {
+    case BinaryOperator::Add: r = int64_t{a} + b; break;
+    case BinaryOperator::Subtract: r = int64_t{a} - b; break;
+    case BinaryOperator::Multiply: r = int64_t{a} * b; break;
+    case BinaryOperator::Equal: out = Variant::Boolean(a == b); return true;
+    case BinaryOperator::NotEqual: out = Variant::Boolean(a != b); return true;
+    case BinaryOperator::Less: out = Variant::Boolean(a < b); return true;
+    case BinaryOperator::LessEqual: out = Variant::Boolean(a <= b); return true;
+    case BinaryOperator::Greater: out = Variant::Boolean(a > b); return true;
+    case BinaryOperator::GreaterEqual: out = Variant::Boolean(a >= b); return true;
+    default: return false;
+  }
+  if (both_integer && r >= INT16_MIN && r <= INT16_MAX) {
+    out = Variant::Integer(static_cast<int16_t>(r));
+    return true;
+  }
+  if (r >= INT32_MIN && r <= INT32_MAX) {
+    out = Variant::Long(static_cast<int32_t>(r));
+    return true;
+  }
+  return false;
+}
+
+bool FastDoubleOp(BinaryOperator op, double a, double b, Variant& out) {
+  switch (op) {
+    case BinaryOperator::Add: out = Variant::Double(a + b); return true;
+    case BinaryOperator::Subtract: out = Variant::Double(a - b); return true;
+    case BinaryOperator::Multiply: out = Variant::Double(a * b); return true;
+    case BinaryOperator::Less: out = Variant::Boolean(a < b); return true;
+    case BinaryOperator::Greater: out = Variant::Boolean(a > b); return true;
+    default: return false;
+  }
+}
+
+}  // namespace
+
+Result<Variant> BinaryNode::Eval(Frame& frame) {
+  auto left = m_left->Eval(frame);
+  if (!left) return left;
+  auto right = m_right->Eval(frame);
+  if (!right) return right;
+  const Variant& a = *left;
+  const Variant& b = *right;
+  Variant fast;
+  if ((a.is_integer() || a.is_long()) && (b.is_integer() || b.is_long())) {
+    int32_t x = a.is_integer() ? a.as_integer() : a.as_long();
+    int32_t y = b.is_integer() ? b.as_integer() : b.as_long();
+    if (FastIntegerOp(m_op, x, y, a.is_integer() && b.is_integer(), fast)) return fast;
+  } else if (a.is_double() && b.is_double() && FastDoubleOp(m_op, a.as_double(), b.as_double(), fast)) {
+    return fast;
+  }
+  return ApplyBinary(m_op, a, b, frame.interp.compare_mode(), frame.interp.locale());
+}
+
+Result<Variant> IsNode::Eval(Frame& frame) {
+  auto left = m_left->Eval(frame);
+  if (!left) return left;
+  auto right = m_right->Eval(frame);
+  if (!right) return right;
+  auto same = Is(*left, *right);
+  if (!same) return std::move(same).error();
+  return Variant::Boolean(*same);
+}
+
+// ---- Calls ----
+
+Result<Variant> ProcedureCallNode::Eval(Frame& frame) {
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, true));
+  return frame.interp.Call(*m_procedure, nullptr, values.span());
+}
+
+Result<Variant> BuiltinCallNode::Eval(Frame& frame) {
+  if (m_args.size() < m_builtin->min_args || m_args.size() > m_builtin->max_args) return MakeError(err::kWrongArgs);
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, m_builtin->wants_references));
+  return m_builtin->function(frame, values.span());
+}
+
+Result<Variant> IndexNode::Eval(Frame& frame) {
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, false));
+  auto address = m_holder->Address(frame);
+  if (!address) return std::move(address).error();
+  if (*address) return IndexValue(**address, values.span(), frame.interp.locale());
+  auto holder = m_holder->Eval(frame);
+  if (!holder) return holder;
+  return IndexValue(*holder, values.span(), frame.interp.locale());
+}
+
+Result<Variant*> IndexNode::Address(Frame&) { return static_cast<Variant*>(nullptr); }
+
+Status IndexNode::Assign(Frame& frame, Variant value, bool is_set) {
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, false));
+  auto address = m_holder->Address(frame);
+  if (!address) return std::move(address).error();
+  if (*address) return AssignIndexed(**address, values.span(), std::move(value), is_set, frame.interp.locale());
+  auto holder = m_holder->Eval(frame);
+  if (!holder) return std::move(holder).error();
+  if (!holder->is_object()) return MakeError(err::kIllegalAssignment);
+  return AssignIndexed(*holder, values.span(), std::move(value), is_set, frame.interp.locale());
+}
+
+Status LateCallNode::Invoke(Frame& frame) {
+  auto result = m_name->CallWith(frame, m_args, InvokeKind::Method);
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Result<Variant> MemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) {
+  auto holder = m_object->Eval(frame);
+  if (!holder) return holder;
+  auto object = RequireObject(*holder);
+  if (!object) return std::move(object).error();
+  Object* target = *object;
+  const void* layout = target->MemberLayout();
+  DispId member;
+  if (layout && layout == m_layout) {
+    member = m_member;
+  } else {
+    member = target->FindMember(m_name);
+    if (layout) {
+      m_layout = layout;
+      m_member = member;
+    }
+  }
+  if (member == kUnknownMember) return MakeError(err::kNoMember);
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, true));
+  if (value) values.Add(std::move(*value));
+  // Inside a class, Me.x reaches Private members too.
+  if (frame.me && target == frame.me)
+    return static_cast<ClassInstance*>(target)->InvokeMember(member, kind, values.span());
+  return target->Invoke(member, kind, values.span());
+}
+
+Result<Variant> MemberNode::Eval(Frame& frame) { return Call(frame, InvokeKind::Get, nullptr); }
+
+Status MemberNode::Assign(Frame& frame, Variant value, bool is_set) {
+  if (!is_set) {
+    auto plain = LetValue(std::move(value));
+    if (!plain) return std::move(plain).error();
+    value = std::move(*plain);
+  } else if (!value.Deref().is_object()) {
+    return MakeError(err::kObjectRequired);
+  }
+  auto result = Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &value);
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Status MemberNode::Invoke(Frame& frame) {
+  auto result = Call(frame, InvokeKind::Method, nullptr);
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Result<Variant> MeMemberNode::Eval(Frame& frame) {
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, true));
+  return frame.me->InvokeMember(m_member, InvokeKind::Get, values.span());
+}
+
+Status MeMemberNode::Assign(Frame& frame, Variant value, bool is_set) {
+  if (!is_set) {
+    auto plain = LetValue(std::move(value));
+    if (!plain) return std::move(plain).error();
+    value = std::move(*plain);
+  }
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, true));
+  values.Add(std::move(value));
+  auto result = frame.me->InvokeMember(m_member, is_set ? InvokeKind::Set : InvokeKind::Let, values.span());
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Status MeMemberNode::Invoke(Frame& frame) {
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, true));
+  auto result = frame.me->InvokeMember(m_member, InvokeKind::Method, values.span());
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Result<Variant> HostMemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) {
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, true));
+  if (value) values.Add(std::move(*value));
+  return frame.interp.named_objects()[m_object].object->Invoke(m_member, kind, values.span());
+}
+
+Result<Variant> HostMemberNode::Eval(Frame& frame) { return Call(frame, InvokeKind::Get, nullptr); }
+
+Status HostMemberNode::Assign(Frame& frame, Variant value, bool is_set) {
+  if (!is_set) {
+    auto plain = LetValue(std::move(value));
+    if (!plain) return std::move(plain).error();
+    value = std::move(*plain);
+  }
+  auto result = Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &value);
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Status HostMemberNode::Invoke(Frame& frame) {
+  auto result = Call(frame, InvokeKind::Method, nullptr);
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Result<Variant> ValueIndexNode::Eval(Frame& frame) {
+  auto callee = m_callee->Eval(frame);
+  if (!callee) return callee;
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, false));
+  return IndexValue(*callee, values.span(), frame.interp.locale());
+}
+
+Status ValueIndexNode::Assign(Frame& frame, Variant value, bool is_set) {
+  auto callee = m_callee->Eval(frame);
+  if (!callee) return std::move(callee).error();
+  if (!callee->is_object()) return MakeError(err::kIllegalAssignment);
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, false));
+  return AssignIndexed(*callee, values.span(), std::move(value), is_set, frame.interp.locale());
+}
+
+}  // namespace vbs

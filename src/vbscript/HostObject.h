@@ -1,0 +1,118 @@
+#pragma once
+
+// Binding C++ objects to scripts by table. A host class lists its members once, one row each:
+//
+//   {"EstrattoRitardo", 2, 5, &Libreria::EstrattoRitardo, nullptr, "Ruota, Numero[, Inizio, Fine]"},
+//
+// and derives from HostObject<Self>, which finds members by name (ignoring case) and checks the
+// number of arguments before calling. A member function receives the arguments as CallArgs, whose
+// getters convert with the language's rules and report a failure naming the argument's position.
+
+#include <algorithm>
+#include <cctype>
+#include <span>
+#include <string_view>
+
+#include "Coercion.h"
+#include "Locale.h"
+#include "Object.h"
+#include "Utf.h"
+
+namespace vbs {
+
+// The arguments of one call as a host member sees them. Each may be a reference to the caller's
+// variable: Out() writes back through it, so a member can fill an array the script passed.
+class CallArgs {
+ public:
+  CallArgs(std::span<Variant> args, const Locale& locale) : m_args(args), m_locale(locale) {}
+
+  size_t size() const { return m_args.size(); }
+  const Locale& locale() const { return m_locale; }
+  // Whether argument i was given (an omitted optional argument counts as missing).
+  bool Has(size_t i) const;
+  const Variant& operator[](size_t i) const { return m_args[i].Deref(); }
+  // The caller's variable behind argument i (or the argument's own value when none was passed).
+  Variant& Out(size_t i) { return m_args[i].Deref(); }
+
+  Result<int32_t> Long(size_t i) const;
+  Result<int32_t> Long(size_t i, int32_t if_missing) const;
+  Result<int16_t> Integer(size_t i) const;
+  Result<double> Double(size_t i) const;
+  Result<double> Double(size_t i, double if_missing) const;
+  Result<bool> Boolean(size_t i) const;
+  Result<bool> Boolean(size_t i, bool if_missing) const;
+  Result<std::u16string> String(size_t i) const;
+  Result<std::u16string> String(size_t i, std::u16string_view if_missing) const;
+  // The plain value of argument i: references and objects' default members resolved.
+  Result<Variant> Value(size_t i) const;
+
+ private:
+  std::span<Variant> m_args;
+  const Locale& m_locale;
+};
+
+// Member numbers start at 1; the row flagged as default also answers kDefaultMember.
+template <typename Self>
+class HostObject : public Object {
+ public:
+  using Getter = Result<Variant> (Self::*)(CallArgs& args);
+  using Putter = Result<Variant> (Self::*)(CallArgs& args, Variant value);
+
+  struct Member {
+    std::string_view name;
+    uint8_t min_args;
+    uint8_t max_args;
+    Getter get;       // a call or a read; null for a write-only property
+    Putter put;       // Let and Set (the value apart); null for a method or read-only property
+    std::string_view description;
+    bool is_default = false;
+  };
+
+  explicit HostObject(const Locale& locale) : m_locale(&locale) {}
+  void SetLocale(const Locale& locale) { m_locale = &locale; }
+
+  DispId FindMember(std::string_view name) override {
+    const auto members = Self::Members();
+    for (size_t i = 0; i < members.size(); ++i) {
+      if (std::equal(name.begin(), name.end(), members[i].name.begin(), members[i].name.end(),
+                     [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) ==
+                                                 std::tolower(static_cast<unsigned char>(b)); }))
+        return static_cast<DispId>(i + 1);
+    }
+    return kUnknownMember;
+  }
+
+  const void* MemberLayout() const override { return Self::Members().data(); }
+
+  Result<Variant> Invoke(DispId member, InvokeKind kind, std::span<Variant> args) override {
+    const auto members = Self::Members();
+    if (member == kDefaultMember) {
+      auto it = std::find_if(members.begin(), members.end(), [](const Member& m) { return m.is_default; });
+      if (it == members.end()) return MakeError(438);
+      member = static_cast<DispId>(it - members.begin() + 1);
+    }
+    if (member < 1 || static_cast<size_t>(member) > members.size()) return MakeError(438);
+    const Member& m = members[member - 1];
+    Self& self = static_cast<Self&>(*this);
+    if (kind == InvokeKind::Let || kind == InvokeKind::Set) {
+      if (!m.put || args.empty()) return MakeError(m.get ? 5008 : 438);
+      Variant value = args.back().Deref();
+      auto rest = args.first(args.size() - 1);
+      if (rest.size() < m.min_args || rest.size() > m.max_args) return MakeError(450);
+      CallArgs call(rest, *m_locale);
+      return (self.*m.put)(call, std::move(value));
+    }
+    if (!m.get) return MakeError(438);
+    if (args.size() < m.min_args || args.size() > m.max_args) return MakeError(450);
+    CallArgs call(args, *m_locale);
+    return (self.*m.get)(call);
+  }
+
+ protected:
+  const Locale& locale() const { return *m_locale; }
+
+ private:
+  const Locale* m_locale;
+};
+
+}  // namespace vbs

@@ -1,0 +1,84 @@
+#pragma once
+
+// Script errors travel as return values, never as C++ exceptions: "On Error Resume Next" then costs
+// a test of a flag, and an error can cross the host boundary without unwinding anything.
+
+#include <cassert>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <variant>
+
+#include "Source.h"
+
+namespace vbs {
+
+// A runtime or syntax error as the script sees it through the Err object and the host through the
+// engine's error: the VBScript error number, and a description only when it differs from the
+// standard text for that number (raised by a script, or coming from a host object).
+struct ScriptError {
+  int32_t number = 0;
+  std::u16string description;  // empty: the standard text of `number` in the engine's language
+  std::u16string source;       // empty: the engine's own name for runtime/compile errors
+  SourcePos pos;
+  bool has_pos = false;
+};
+
+template <typename T>
+class [[nodiscard]] Result {
+ public:
+  Result(T value) : m_state(std::move(value)) {}
+  Result(ScriptError error) : m_state(std::move(error)) {}
+
+  bool ok() const { return m_state.index() == 0; }
+  explicit operator bool() const { return ok(); }
+
+  T& value() & {
+    assert(ok());
+    return std::get<0>(m_state);
+  }
+  const T& value() const& {
+    assert(ok());
+    return std::get<0>(m_state);
+  }
+  T&& value() && {
+    assert(ok());
+    return std::get<0>(std::move(m_state));
+  }
+  T& operator*() & { return value(); }
+  const T& operator*() const& { return value(); }
+  T* operator->() { return &value(); }
+  const T* operator->() const { return &value(); }
+
+  ScriptError& error() & {
+    assert(!ok());
+    return std::get<1>(m_state);
+  }
+  const ScriptError& error() const& {
+    assert(!ok());
+    return std::get<1>(m_state);
+  }
+  ScriptError&& error() && {
+    assert(!ok());
+    return std::get<1>(std::move(m_state));
+  }
+
+ private:
+  std::variant<T, ScriptError> m_state;
+};
+
+struct Unit {};
+using Status = Result<Unit>;
+inline Status Ok() { return Unit{}; }
+
+inline ScriptError MakeError(int32_t number) { return ScriptError{number, {}, {}, {}, false}; }
+inline ScriptError MakeError(int32_t number, SourcePos pos) { return ScriptError{number, {}, {}, pos, true}; }
+
+// Propagates a failed Result out of the calling function.
+#define VBS_TRY(expr)                                   \
+  do {                                                  \
+    auto&& vbs_try_result_ = (expr);                    \
+    if (!vbs_try_result_) return std::move(vbs_try_result_).error(); \
+  } while (0)
+
+}  // namespace vbs

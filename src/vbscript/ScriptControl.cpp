@@ -1,0 +1,114 @@
+#include "ScriptControl.h"
+
+#include "Compiler.h"
+#include "Parser.h"
+
+namespace vbs {
+
+namespace {
+
+bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
+  return Interpreter::Fold(a) == Interpreter::Fold(b);
+}
+
+constexpr int32_t kLanguageNotSet = 5;
+
+}  // namespace
+
+ScriptControl::ScriptControl() : m_interp(std::make_unique<Interpreter>()) {}
+
+ScriptControl::~ScriptControl() = default;
+
+void ScriptControl::Reset() {
+  m_interp->Clear();
+  m_error = ScriptErrorInfo{};
+}
+
+Status ScriptControl::SetLanguage(std::string_view language) {
+  if (!language.empty() && !EqualsIgnoringCase(language, "vbscript")) return MakeError(kLanguageNotSet);
+  m_language = language.empty() ? "" : "VBScript";
+  return Ok();
+}
+
+void ScriptControl::SetAllowUI(bool allow) {
+  m_allow_ui = allow;
+  m_interp->SetAllowUi(allow);
+}
+
+Status ScriptControl::SetLocale(int32_t lcid) {
+  auto locale = LocaleFromLcid(lcid);
+  if (!locale) return std::move(locale).error();
+  m_interp->SetLocale(**locale);
+  return Ok();
+}
+
+Status ScriptControl::CheckLanguage() const {
+  if (m_language.empty()) return MakeError(kLanguageNotSet);
+  return Ok();
+}
+
+void ScriptControl::BeginCall() {
+  m_error = ScriptErrorInfo{};
+  m_interp->ClearAbort();
+  if (m_timeout >= 0)
+    m_interp->SetDeadline(std::chrono::steady_clock::now() + std::chrono::milliseconds(m_timeout));
+  else
+    m_interp->SetDeadline(std::nullopt);
+}
+
+template <typename T>
+Result<T> ScriptControl::Guard(Result<T> result) {
+  if (result) return result;
+  const ScriptError& error = result.error();
+  m_error.number = error.number;
+  m_error.description = error.description.empty() ? std::u16string(ErrorText(error.number, m_interp->locale().language))
+                                                  : error.description;
+  m_interp->SetErr(error);
+  m_error.source = m_interp->err().source;
+  if (error.has_pos) {
+    m_error.line = error.pos.line;
+    m_error.column = error.pos.column;
+    if (error.pos.source < m_interp->sources().size()) m_error.source_name = m_interp->sources()[error.pos.source].name;
+  }
+  return result;
+}
+
+Status ScriptControl::AddObject(std::string name, Ref<Object> object, bool add_members) {
+  if (m_interp->FindGlobal(Interpreter::Fold(name))) return MakeError(457);
+  m_interp->AddNamedObject(std::move(name), std::move(object), add_members);
+  return Ok();
+}
+
+Status ScriptControl::AddCode(std::u16string_view code, std::string source_name) {
+  BeginCall();
+  VBS_TRY(Guard(CheckLanguage()));
+  uint32_t source = m_interp->sources().Add(source_name, std::u16string(code));
+  ParseResult parsed = ParseProgram(m_interp->sources(), source);
+  if (!parsed.errors.empty()) return Guard(Status(parsed.errors.front()));
+  auto program = Compiler(*m_interp, nullptr).CompileProgram(parsed.program);
+  if (!program) return Guard(Status(std::move(program).error()));
+  return Guard(m_interp->RunProgram(m_interp->Keep(std::move(*program))));
+}
+
+Status ScriptControl::ExecuteStatement(std::u16string_view statement) { return AddCode(statement, "ExecuteStatement"); }
+
+Result<Variant> ScriptControl::Eval(std::u16string_view expression) {
+  BeginCall();
+  if (auto language = CheckLanguage(); !language) return Guard(Result<Variant>(std::move(language).error()));
+  uint32_t source = m_interp->sources().Add("Eval", std::u16string(expression));
+  auto parsed = ParseExpression(m_interp->sources(), source);
+  if (!parsed) return Guard(Result<Variant>(std::move(parsed).error()));
+  auto program = Compiler(*m_interp, nullptr).CompileExpression(**parsed);
+  if (!program) return Guard(Result<Variant>(std::move(program).error()));
+  return Guard(m_interp->EvalProgram(m_interp->Keep(std::move(*program))));
+}
+
+Result<Variant> ScriptControl::Run(std::string_view procedure, std::span<Variant> args) {
+  BeginCall();
+  if (auto language = CheckLanguage(); !language) return Guard(Result<Variant>(std::move(language).error()));
+  const GlobalEntry* entry = m_interp->FindGlobal(Interpreter::Fold(procedure));
+  if (!entry || entry->kind != GlobalEntry::Kind::Procedure) return Guard(Result<Variant>(MakeError(err::kTypeMismatch)));
+  return Guard(m_interp->Call(*entry->procedure, nullptr, args));
+}
+
+}  // namespace vbs

@@ -1,0 +1,262 @@
+#include "StmtNodes.h"
+
+#include "Coercion.h"
+#include "SafeArray.h"
+
+namespace vbs {
+
+namespace {
+
+bool IsInterruption(const ScriptError& error) { return error.number == err::kAborted; }
+
+Result<bool> Condition(Frame& frame, ExprNode& condition) {
+  auto value = condition.Eval(frame);
+  if (!value) return std::move(value).error();
+  if (value->is_boolean()) return value->as_boolean();
+  return IsTrue(*value, frame.interp.locale());
+}
+
+// What a loop does with the way its body ended: whether to leave, and what to report upwards.
+bool LeavesLoop(Flow flow, Flow own_exit, Flow& report) {
+  if (flow == Flow::Normal) return false;
+  report = flow == own_exit ? Flow::Normal : flow;
+  return true;
+}
+
+}  // namespace
+
+Result<Flow> BlockNode::Exec(Frame& frame) const {
+  for (const StmtNodePtr& statement : statements) {
+    if (auto interrupt = frame.interp.CheckInterrupt(); !interrupt) {
+      ScriptError error = std::move(interrupt).error();
+      error.pos = statement->pos();
+      error.has_pos = true;
+      return error;
+    }
+    auto flow = statement->Exec(frame);
+    if (!flow) {
+      ScriptError& error = flow.error();
+      if (!error.has_pos) {
+        error.pos = statement->pos();
+        error.has_pos = true;
+      }
+      if (frame.resume_next && !IsInterruption(error)) {
+        frame.interp.SetErr(error);
+        continue;
+      }
+      return flow;
+    }
+    if (*flow != Flow::Normal) return flow;
+  }
+  return Flow::Normal;
+}
+
+Result<Flow> ExprStmtNode::Exec(Frame& frame) {
+  VBS_TRY(m_expr->Invoke(frame));
+  return Flow::Normal;
+}
+
+Result<Flow> AssignNode::Exec(Frame& frame) {
+  auto value = m_value->Eval(frame);
+  if (!value) return std::move(value).error();
+  VBS_TRY(m_target->Assign(frame, std::move(*value), m_is_set));
+  return Flow::Normal;
+}
+
+Result<Flow> AppendNode::Exec(Frame& frame) {
+  auto value = m_value->Eval(frame);
+  if (!value) return std::move(value).error();
+  VBS_TRY(ConcatAssign(m_target->Storage(frame).Deref(), *value, frame.interp.locale()));
+  return Flow::Normal;
+}
+
+Result<Flow> RedimNode::Exec(Frame& frame) {
+  for (RedimTarget& item : m_targets) {
+    std::vector<ArrayBound> bounds;
+    for (ExprNodePtr& bound : item.bounds) {
+      auto value = bound->Eval(frame);
+      if (!value) return std::move(value).error();
+      auto upper = value->to_long(frame.interp.locale());
+      if (!upper) return std::move(upper).error();
+      bounds.push_back({0, *upper});
+    }
+    auto address = item.target->Address(frame);
+    if (!address) return std::move(address).error();
+    if (!*address) return MakeError(err::kTypeMismatch);
+    VBS_TRY(Redim(**address, bounds, m_preserve ? RedimMode::Preserve : RedimMode::Discard));
+  }
+  return Flow::Normal;
+}
+
+Result<Flow> EraseNode::Exec(Frame& frame) {
+  for (ExprNodePtr& target : m_targets) {
+    auto address = target->Address(frame);
+    if (!address) return std::move(address).error();
+    if (!*address) return MakeError(err::kTypeMismatch);
+    VBS_TRY(Erase(**address));
+  }
+  return Flow::Normal;
+}
+
+Result<Flow> IfNode::Exec(Frame& frame) {
+  for (ConditionalBlock& branch : m_branches) {
+    auto holds = Condition(frame, *branch.condition);
+    if (!holds) return std::move(holds).error();
+    if (*holds) return branch.body.Exec(frame);
+  }
+  return m_else.Exec(frame);
+}
+
+Result<Flow> SelectNode::Exec(Frame& frame) {
+  auto subject = m_subject->Eval(frame);
+  if (!subject) return std::move(subject).error();
+  for (CaseBlock& block : m_cases) {
+    for (ExprNodePtr& candidate : block.values) {
+      auto value = candidate->Eval(frame);
+      if (!value) return std::move(value).error();
+      auto equal = Compare(BinaryOperator::Equal, *subject, *value, frame.interp.compare_mode(), frame.interp.locale());
+      if (!equal) return std::move(equal).error();
+      if (equal->is_boolean() && equal->as_boolean()) return block.body.Exec(frame);
+    }
+  }
+  return m_else.Exec(frame);
+}
+
+Result<Flow> ForNode::Exec(Frame& frame) {
+  const Locale& locale = frame.interp.locale();
+  auto from = m_from->Eval(frame);
+  if (!from) return std::move(from).error();
+  auto to = m_to->Eval(frame);
+  if (!to) return std::move(to).error();
+  Variant step = Variant::Integer(1);
+  if (m_step) {
+    auto value = m_step->Eval(frame);
+    if (!value) return std::move(value).error();
+    step = std::move(*value);
+  }
+  auto plain_from = LetValue(std::move(*from));
+  if (!plain_from) return std::move(plain_from).error();
+  auto plain_to = LetValue(std::move(*to));
+  if (!plain_to) return std::move(plain_to).error();
+  auto plain_step = LetValue(std::move(step));
+  if (!plain_step) return std::move(plain_step).error();
+  Variant& limit = frame.slots[m_temp];
+  Variant& increment = frame.slots[m_temp + 1];
+  limit = std::move(*plain_to);
+  increment = std::move(*plain_step);
+  auto step_value = increment.to_double(locale);
+  if (!step_value) return std::move(step_value).error();
+  const BinaryOperator keep_going = *step_value >= 0 ? BinaryOperator::LessEqual : BinaryOperator::GreaterEqual;
+
+  VBS_TRY(m_counter->Assign(frame, std::move(*plain_from), false));
+  Flow report = Flow::Normal;
+  for (;;) {
+    auto counter = m_counter->Eval(frame);
+    if (!counter) return std::move(counter).error();
+    auto within = Compare(keep_going, *counter, limit, CompareMode::Binary, locale);
+    if (!within) return std::move(within).error();
+    if (!within->is_boolean() || !within->as_boolean()) break;
+    auto flow = m_body.Exec(frame);
+    if (!flow) return flow;
+    if (LeavesLoop(*flow, Flow::ExitFor, report)) return report;
+    auto current = m_counter->Eval(frame);
+    if (!current) return std::move(current).error();
+    auto next = Add(*current, increment, locale);
+    if (!next) return std::move(next).error();
+    VBS_TRY(m_counter->Assign(frame, std::move(*next), false));
+  }
+  return Flow::Normal;
+}
+
+namespace {
+
+// Keeps an array from being resized while For Each walks it.
+class ArrayLock {
+ public:
+  explicit ArrayLock(Ref<SafeArray> array) : m_array(std::move(array)) { m_array->Lock(); }
+  ~ArrayLock() { m_array->Unlock(); }
+  ArrayLock(const ArrayLock&) = delete;
+  ArrayLock& operator=(const ArrayLock&) = delete;
+
+ private:
+  Ref<SafeArray> m_array;
+};
+
+}  // namespace
+
+Result<Flow> ForEachNode::Exec(Frame& frame) {
+  auto collection = m_collection->Eval(frame);
+  if (!collection) return std::move(collection).error();
+  Flow report = Flow::Normal;
+  auto visit = [&](Variant element) -> Result<bool> {
+    bool is_object = element.is_object();
+    VBS_TRY(m_element->Assign(frame, std::move(element), is_object));
+    auto flow = m_body.Exec(frame);
+    if (!flow) return std::move(flow).error();
+    return LeavesLoop(*flow, Flow::ExitFor, report);
+  };
+
+  if (collection->is_array()) {
+    Ref<SafeArray> array(collection->as_array());
+    ArrayLock lock(array);
+    for (size_t i = 0; i < array->size(); ++i) {
+      auto leave = visit(array->elements()[i]);
+      if (!leave) return std::move(leave).error();
+      if (*leave) return report;
+    }
+    return Flow::Normal;
+  }
+  if (!collection->is_object() || !collection->as_object()) return MakeError(err::kNotCollection);
+  auto enumerator = collection->as_object()->Enumerate();
+  if (!enumerator) return std::move(enumerator).error();
+  for (;;) {
+    Variant element;
+    auto more = (*enumerator)->Next(element);
+    if (!more) return std::move(more).error();
+    if (!*more) break;
+    auto leave = visit(std::move(element));
+    if (!leave) return std::move(leave).error();
+    if (*leave) return report;
+  }
+  return Flow::Normal;
+}
+
+Result<Flow> LoopNode::Exec(Frame& frame) {
+  const bool check_before = m_kind == ast::LoopCondition::WhileBefore || m_kind == ast::LoopCondition::UntilBefore;
+  const bool until = m_kind == ast::LoopCondition::UntilBefore || m_kind == ast::LoopCondition::UntilAfter;
+  Flow report = Flow::Normal;
+  for (;;) {
+    if (check_before) {
+      auto holds = Condition(frame, *m_condition);
+      if (!holds) return std::move(holds).error();
+      if (*holds == until) break;
+    }
+    auto flow = m_body.Exec(frame);
+    if (!flow) return flow;
+    if (m_while_wend ? *flow != Flow::Normal : LeavesLoop(*flow, Flow::ExitDo, report))
+      return m_while_wend ? *flow : report;
+    if (m_condition && !check_before) {
+      auto holds = Condition(frame, *m_condition);
+      if (!holds) return std::move(holds).error();
+      if (*holds == until) break;
+    }
+  }
+  return Flow::Normal;
+}
+
+Result<Flow> WithNode::Exec(Frame& frame) {
+  auto object = m_object->Eval(frame);
+  if (!object) return std::move(object).error();
+  frame.slots[m_slot] = std::move(*object);
+  auto flow = m_body.Exec(frame);
+  frame.slots[m_slot] = Variant();
+  return flow;
+}
+
+Result<Flow> OnErrorNode::Exec(Frame& frame) {
+  frame.resume_next = m_resume_next;
+  frame.interp.err() = ErrState{};
+  return Flow::Normal;
+}
+
+}  // namespace vbs
