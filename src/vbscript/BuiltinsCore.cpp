@@ -138,9 +138,9 @@ Result<Variant> ChrFunction(Frame& frame, Args args) {
 Result<Variant> CreateObjectFunction(Frame& frame, Args args) {
   auto name = TextOf(frame, args[0]);
   if (!name) return std::move(name).error();
-  ScriptError error = MakeError(err::kCannotCreate);
-  error.description = std::u16string(ErrorText(err::kCannotCreate, LocaleOf(frame).language)) + u": '" + *name + u"'";
-  return error;
+  auto object = frame.interp.CreateObject(*name);
+  if (!object) return std::move(object).error();
+  return Variant::Object(*object);
 }
 
 const Builtin kCore[] = {

@@ -46,6 +46,8 @@ class Compiler {
 
   // CompilerDeclarations.cpp
   Status DeclareGlobals(ast::Program& program, bool option_explicit);
+  Status DeclareGlobal(ast::Stmt& statement, Scope& constants,
+                       std::vector<std::pair<Procedure*, ast::ProcedureStmt*>>& bodies, bool option_explicit);
   Result<Procedure*> DeclareProcedure(ast::ProcedureStmt& statement, ClassInfo* owner);
   Status DeclareClass(ast::ClassStmt& statement, bool option_explicit);
   Status CompileProcedureBody(Procedure& procedure, ast::ProcedureStmt& statement, bool option_explicit);
@@ -58,6 +60,7 @@ class Compiler {
   Result<StmtNodePtr> CompileStatement(ast::Stmt& statement, Scope& scope);
   Result<StmtNodePtr> CompileAssign(ast::AssignStmt& statement, Scope& scope);
   Result<StmtNodePtr> CompileFor(ast::ForStmt& statement, Scope& scope);
+  Result<StmtNodePtr> CompileGlobalArrays(ast::DimStmt& dim, Scope& scope);
 
   // CompilerExpressions.cpp
   Result<ExprNodePtr> CompileExpr(ast::Expr& expression, Scope& scope);

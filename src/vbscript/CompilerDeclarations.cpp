@@ -24,7 +24,10 @@ Result<Variant> Compiler::ConstantValue(const ast::Expr& expression, Scope& scop
         case ast::LiteralKind::Nothing: return Variant::Nothing();
         case ast::LiteralKind::Boolean: return Variant::Boolean(literal.boolean);
         case ast::LiteralKind::Integer: return Variant::Integer(static_cast<int16_t>(literal.integer));
-        case ast::LiteralKind::Long: return Variant::Long(literal.integer);
+        case ast::LiteralKind::Long:
+          if (literal.integer >= INT16_MIN && literal.integer <= INT16_MAX)
+            return Variant::Integer(static_cast<int16_t>(literal.integer));
+          return Variant::Long(literal.integer);
         case ast::LiteralKind::Double: return Variant::Double(literal.number);
         case ast::LiteralKind::String: return Variant::String(literal.text);
         case ast::LiteralKind::Date: return Variant::Date(literal.number);
@@ -224,54 +227,87 @@ Status Compiler::CompileProcedureBody(Procedure& procedure, ast::ProcedureStmt& 
   return Ok();
 }
 
+namespace {
+
+// Every statement of a block and of the blocks nested in it, in source order: global code may
+// declare variables and procedures inside an If or a loop, and they are global all the same.
+template <typename Visit>
+void ForEachNested(ast::Block& block, Visit&& visit) {
+  for (ast::StmtPtr& statement : block) {
+    visit(*statement);
+    switch (statement->kind) {
+      case ast::StmtKind::If: {
+        auto& s = static_cast<ast::IfStmt&>(*statement);
+        for (ast::IfBranch& branch : s.branches) ForEachNested(branch.body, visit);
+        ForEachNested(s.else_body, visit);
+        break;
+      }
+      case ast::StmtKind::Select: {
+        auto& s = static_cast<ast::SelectStmt&>(*statement);
+        for (ast::CaseClause& clause : s.cases) ForEachNested(clause.body, visit);
+        ForEachNested(s.else_body, visit);
+        break;
+      }
+      case ast::StmtKind::For: ForEachNested(static_cast<ast::ForStmt&>(*statement).body, visit); break;
+      case ast::StmtKind::ForEach: ForEachNested(static_cast<ast::ForEachStmt&>(*statement).body, visit); break;
+      case ast::StmtKind::Do: ForEachNested(static_cast<ast::DoStmt&>(*statement).body, visit); break;
+      case ast::StmtKind::While: ForEachNested(static_cast<ast::WhileStmt&>(*statement).body, visit); break;
+      case ast::StmtKind::With: ForEachNested(static_cast<ast::WithStmt&>(*statement).body, visit); break;
+      default: break;
+    }
+  }
+}
+
+}  // namespace
+
 Status Compiler::DeclareGlobals(ast::Program& program, bool option_explicit) {
   Scope constants;
   std::vector<std::pair<Procedure*, ast::ProcedureStmt*>> bodies;
-  for (ast::StmtPtr& statement : program.body) {
-    switch (statement->kind) {
-      case ast::StmtKind::Dim: {
-        auto& dim = static_cast<ast::DimStmt&>(*statement);
-        for (ast::VarDecl& var : dim.vars) {
-          Variant* storage = m_interp.DeclareGlobal(Interpreter::Fold(var.name));
-          if (var.is_array && var.bounds.empty()) {
-            *storage = Variant::Array(SafeArray::CreateUndimensioned());
-          } else if (var.is_array) {
-            auto uppers = ConstantBounds(var.bounds, constants);
-            if (!uppers) return std::move(uppers).error();
-            std::vector<ArrayBound> bounds;
-            for (int32_t upper : *uppers) bounds.push_back({0, upper});
-            auto array = SafeArray::Create(bounds);
-            if (!array) return MakeError(array.error().number, var.pos);
-            *storage = Variant::Array(*array);
-            storage->MarkFixedArray();
-          }
-        }
-        break;
-      }
-      case ast::StmtKind::Const: {
-        auto& constant = static_cast<ast::ConstStmt&>(*statement);
-        for (ast::ConstItem& item : constant.items) {
-          auto value = ConstantValue(*item.value, constants);
-          if (!value) return std::move(value).error();
-          *m_interp.DeclareGlobal(Interpreter::Fold(item.name), GlobalEntry::Kind::Constant) = std::move(*value);
-        }
-        break;
-      }
-      case ast::StmtKind::Procedure: {
-        auto& proc = static_cast<ast::ProcedureStmt&>(*statement);
-        auto procedure = DeclareProcedure(proc, nullptr);
-        if (!procedure) return std::move(procedure).error();
-        bodies.emplace_back(*procedure, &proc);
-        break;
-      }
-      case ast::StmtKind::Class:
-        VBS_TRY(DeclareClass(static_cast<ast::ClassStmt&>(*statement), option_explicit));
-        break;
-      default:
-        break;
-    }
-  }
+  Status status = Ok();
+  ForEachNested(program.body, [&](ast::Stmt& statement) {
+    if (status) status = DeclareGlobal(statement, constants, bodies, option_explicit);
+  });
+  VBS_TRY(status);
   for (auto& [procedure, proc] : bodies) VBS_TRY(CompileProcedureBody(*procedure, *proc, option_explicit));
+  return Ok();
+}
+
+Status Compiler::DeclareGlobal(ast::Stmt& statement, Scope& constants,
+                               std::vector<std::pair<Procedure*, ast::ProcedureStmt*>>& bodies, bool option_explicit) {
+  switch (statement.kind) {
+    case ast::StmtKind::Dim: {
+      auto& dim = static_cast<ast::DimStmt&>(statement);
+      for (ast::VarDecl& var : dim.vars) {
+        // The name exists at once; an array comes into being when its Dim runs.
+        m_interp.DeclareGlobal(Interpreter::Fold(var.name));
+        if (var.is_array && !var.bounds.empty()) {
+          auto uppers = ConstantBounds(var.bounds, constants);
+          if (!uppers) return std::move(uppers).error();
+        }
+      }
+      break;
+    }
+    case ast::StmtKind::Const: {
+      auto& constant = static_cast<ast::ConstStmt&>(statement);
+      for (ast::ConstItem& item : constant.items) {
+        auto value = ConstantValue(*item.value, constants);
+        if (!value) return std::move(value).error();
+        *m_interp.DeclareGlobal(Interpreter::Fold(item.name), GlobalEntry::Kind::Constant) = std::move(*value);
+      }
+      break;
+    }
+    case ast::StmtKind::Procedure: {
+      auto& proc = static_cast<ast::ProcedureStmt&>(statement);
+      auto procedure = DeclareProcedure(proc, nullptr);
+      if (!procedure) return std::move(procedure).error();
+      bodies.emplace_back(*procedure, &proc);
+      break;
+    }
+    case ast::StmtKind::Class:
+      return DeclareClass(static_cast<ast::ClassStmt&>(statement), option_explicit);
+    default:
+      break;
+  }
   return Ok();
 }
 

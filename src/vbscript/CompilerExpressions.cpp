@@ -37,7 +37,10 @@ Variant LiteralValue(const ast::LiteralExpr& literal) {
     case ast::LiteralKind::Nothing: return Variant::Nothing();
     case ast::LiteralKind::Boolean: return Variant::Boolean(literal.boolean);
     case ast::LiteralKind::Integer: return Variant::Integer(static_cast<int16_t>(literal.integer));
-    case ast::LiteralKind::Long: return Variant::Long(literal.integer);
+    // "&h10&" is an Integer all the same: a Long literal that fits 16 bits narrows, as on Windows.
+    case ast::LiteralKind::Long:
+      if (literal.integer >= INT16_MIN && literal.integer <= INT16_MAX) return Variant::Integer(static_cast<int16_t>(literal.integer));
+      return Variant::Long(literal.integer);
     case ast::LiteralKind::Double: return Variant::Double(literal.number);
     case ast::LiteralKind::String: return Variant::String(literal.text);
     case ast::LiteralKind::Date: return Variant::Date(literal.number);
@@ -200,6 +203,9 @@ Result<ExprNodePtr> Compiler::CompileExpr(ast::Expr& expression, Scope& scope) {
 
     case ast::ExprKind::Call: {
       auto& call = static_cast<ast::CallExpr&>(expression);
+      // (f)(x) calls f with x: parentheses around the callee change nothing.
+      while (call.callee->kind == ast::ExprKind::Paren)
+        call.callee = std::move(static_cast<ast::ParenExpr&>(*call.callee).inner);
       if (call.callee->kind == ast::ExprKind::Name)
         return CompileName(static_cast<ast::NameExpr&>(*call.callee).name, call.callee->pos, &call.args, scope);
       if (call.callee->kind == ast::ExprKind::Member)

@@ -70,6 +70,19 @@ Result<StmtNodePtr> Compiler::CompileFor(ast::ForStmt& statement, Scope& scope) 
                                                std::move(step), temp, std::move(*body)));
 }
 
+Result<StmtNodePtr> Compiler::CompileGlobalArrays(ast::DimStmt& dim, Scope& scope) {
+  std::vector<DimArrayNode::Item> items;
+  for (ast::VarDecl& var : dim.vars) {
+    if (!var.is_array) continue;
+    const GlobalEntry* entry = m_interp.FindGlobal(Interpreter::Fold(var.name));
+    auto uppers = ConstantBounds(var.bounds, scope);
+    if (!uppers) return std::move(uppers).error();
+    items.push_back(DimArrayNode::Item{entry->storage, std::move(*uppers), !var.bounds.empty()});
+  }
+  if (items.empty()) return StmtNodePtr();
+  return StmtNodePtr(std::make_unique<DimArrayNode>(dim.pos, std::move(items)));
+}
+
 Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scope) {
   switch (statement.kind) {
     case ast::StmtKind::Assign:
@@ -77,6 +90,8 @@ Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scop
 
     case ast::StmtKind::Call: {
       auto& call = static_cast<ast::CallStmt&>(statement);
+      while (call.callee->kind == ast::ExprKind::Paren)
+        call.callee = std::move(static_cast<ast::ParenExpr&>(*call.callee).inner);
       Result<ExprNodePtr> expr = ExprNodePtr();
       bool has_args = call.call_keyword || !call.args.empty();
       if (call.callee->kind == ast::ExprKind::Name) {
@@ -98,8 +113,9 @@ Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scop
     case ast::StmtKind::Dim: {
       // Inside procedures, Dims were gathered beforehand; in global code they are globals already.
       // Code that Execute runs inside a procedure keeps its own variables in its own slots.
-      if (scope.procedure || !m_outer) return StmtNodePtr();
       auto& dim = static_cast<ast::DimStmt&>(statement);
+      if (!scope.procedure && !m_outer) return CompileGlobalArrays(dim, scope);
+      if (scope.procedure) return StmtNodePtr();
       for (ast::VarDecl& var : dim.vars) {
         std::string folded = Interpreter::Fold(var.name);
         if (!scope.names.contains(folded)) scope.names[folded] = Name{NewSlot(scope), false, false, {}};

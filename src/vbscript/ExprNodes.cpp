@@ -20,6 +20,15 @@ Status ExprNode::Invoke(Frame& frame) {
 
 // ---- Arguments ----
 
+ArgValues::~ArgValues() {
+  for (Ref<SafeArray>& array : m_locked) array->Unlock();
+}
+
+void ArgValues::Lock(Ref<SafeArray> array) {
+  array->Lock();
+  m_locked.push_back(std::move(array));
+}
+
 void ArgValues::Add(Variant value) {
   if (m_count < kInline) {
     m_inline[m_count++] = std::move(value);
@@ -40,7 +49,7 @@ Status EvalArgs(Frame& frame, const ExprNodes& args, ArgValues& out, bool by_ref
       continue;
     }
     if (by_reference && !arg->ForcesByVal()) {
-      auto address = arg->Address(frame);
+      auto address = arg->AddressForArgument(frame, out);
       if (!address) return std::move(address).error();
       if (*address) {
         out.Add(Variant::Reference(*address));
@@ -210,6 +219,13 @@ Result<Variant> NamedObjectNode::Eval(Frame& frame) {
 }
 
 Result<Variant> NewNode::Eval(Frame& frame) {
+  // RegExp is built in: New RegExp makes the engine's object even when a script declares a class
+  // of that name.
+  if (m_name == "regexp") {
+    auto object = frame.interp.CreateObject(u"VBScript.RegExp");
+    if (!object) return std::move(object).error();
+    return Variant::Object(*object);
+  }
   const GlobalEntry* entry = frame.interp.FindGlobal(m_name);
   if (!entry || entry->kind != GlobalEntry::Kind::Class) return MakeError(err::kNotAClass);
   auto instance = frame.interp.NewInstance(*entry->class_info);
@@ -330,7 +346,25 @@ Result<Variant> IndexNode::Eval(Frame& frame) {
   return IndexValue(*holder, values.span(), frame.interp.locale());
 }
 
-Result<Variant*> IndexNode::Address(Frame&) { return static_cast<Variant*>(nullptr); }
+Result<Variant*> IndexNode::AddressForArgument(Frame& frame, ArgValues& args) {
+  auto holder = m_holder->Address(frame);
+  if (!holder) return holder;
+  if (!*holder || !(*holder)->is_array()) return static_cast<Variant*>(nullptr);
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, false));
+  std::vector<int32_t> indices;
+  for (Variant& index : values.span()) {
+    auto i = index.Deref().to_long(frame.interp.locale());
+    if (!i) return std::move(i).error();
+    indices.push_back(*i);
+  }
+  auto array = MutableArray(**holder);
+  if (!array) return std::move(array).error();
+  auto offset = (*array)->Offset(indices);
+  if (!offset) return std::move(offset).error();
+  args.Lock(Ref<SafeArray>(*array));
+  return &(*array)->elements()[*offset];
+}
 
 Status IndexNode::Assign(Frame& frame, Variant value, bool is_set) {
   ArgValues values;

@@ -11,6 +11,7 @@
 #include "Interpreter.h"
 #include "Nodes.h"
 #include "Procedure.h"
+#include "SafeArray.h"
 
 namespace vbs {
 
@@ -23,8 +24,10 @@ class ArgValues {
   ArgValues(const ArgValues&) = delete;
   ArgValues& operator=(const ArgValues&) = delete;
 
+  ~ArgValues();
   std::span<Variant> span() { return m_count <= kInline ? std::span<Variant>(m_inline, m_count) : std::span<Variant>(m_more); }
   void Add(Variant value);
+  void Lock(Ref<SafeArray> array);
 
  private:
   // Most calls have few arguments: they stay on the C++ stack, with no allocation.
@@ -32,6 +35,7 @@ class ArgValues {
   Variant m_inline[kInline];
   std::vector<Variant> m_more;
   size_t m_count = 0;
+  std::vector<Ref<SafeArray>> m_locked;
 };
 
 // by_reference: whether arguments that name variables are passed as references.
@@ -236,7 +240,7 @@ class IndexNode final : public ExprNode {
   IndexNode(SourcePos pos, ExprNodePtr holder, ExprNodes args)
       : ExprNode(pos), m_holder(std::move(holder)), m_args(std::move(args)) {}
   Result<Variant> Eval(Frame& frame) override;
-  Result<Variant*> Address(Frame& frame) override;
+  Result<Variant*> AddressForArgument(Frame& frame, ArgValues& args) override;
   Status Assign(Frame& frame, Variant value, bool is_set) override;
 
  private:

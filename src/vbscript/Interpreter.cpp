@@ -32,6 +32,21 @@ const char* StackLimitOfThisThread() {
 Interpreter::Interpreter() : m_locale(&ItalianLocale()), m_link(std::make_shared<EngineLink>()) {
   m_link->interp = this;
   m_err_object = MakeRef<ErrObject>(*this);
+  RegisterStandardObjects(*this);
+}
+
+void Interpreter::RegisterObjectClass(std::string_view name, ObjectFactory factory) {
+  m_object_classes[Fold(name)] = std::move(factory);
+}
+
+Result<Ref<Object>> Interpreter::CreateObject(std::u16string_view name) {
+  std::string folded;
+  for (char16_t c : name) folded += c < 128 ? static_cast<char>(c) : '?';
+  auto it = m_object_classes.find(Fold(folded));
+  if (it != m_object_classes.end()) return it->second(*this);
+  ScriptError error = MakeError(err::kCannotCreate);
+  error.description = std::u16string(ErrorText(err::kCannotCreate, m_locale->language)) + u": '" + std::u16string(name) + u"'";
+  return error;
 }
 
 Interpreter::~Interpreter() {

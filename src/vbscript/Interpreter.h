@@ -10,6 +10,7 @@
 #include <atomic>
 #include <chrono>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -112,6 +113,13 @@ class Interpreter {
   uint64_t generation() const { return m_generation; }
   const Builtin* FindBuiltin(std::string_view folded) const;
 
+  // ---- Objects made by CreateObject ----
+  using ObjectFactory = std::function<Result<Ref<Object>>(Interpreter&)>;
+  // Registers a class under its name ("Scripting.Dictionary"); names match without regard to case.
+  void RegisterObjectClass(std::string_view name, ObjectFactory factory);
+  // A new object of a registered class; error 429 naming the class otherwise.
+  Result<Ref<Object>> CreateObject(std::u16string_view name);
+
   // ---- Running ----
   // Runs global code (its temporaries get a frame of their own).
   Status RunProgram(const CompiledProgram& program, Frame* outer = nullptr, bool resume_next = false);
@@ -163,6 +171,7 @@ class Interpreter {
   std::vector<std::unique_ptr<ClassInfo>> m_classes;
   std::vector<std::unique_ptr<CompiledProgram>> m_programs;
   std::vector<NamedObject> m_named_objects;
+  std::unordered_map<std::string, ObjectFactory> m_object_classes;
   uint64_t m_generation = 0;
 
   ErrState m_err;
@@ -182,6 +191,9 @@ class Interpreter {
   const char* m_stack_limit = nullptr;
 };
 
+// Registers the objects every engine offers to CreateObject (Scripting.Dictionary, ...).
+void RegisterStandardObjects(Interpreter& interp);
+
 // Standard error numbers the interpreter raises.
 namespace err {
 inline constexpr int32_t kInvalidCall = 5;
@@ -192,6 +204,7 @@ inline constexpr int32_t kFixedArray = 10;
 inline constexpr int32_t kTypeMismatch = 13;
 inline constexpr int32_t kOutOfStack = 28;
 inline constexpr int32_t kObjectNotSet = 91;
+inline constexpr int32_t kForNotInitialised = 92;
 inline constexpr int32_t kNullUse = 94;
 inline constexpr int32_t kObjectRequired = 424;
 inline constexpr int32_t kCannotCreate = 429;

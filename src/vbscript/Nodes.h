@@ -16,6 +16,7 @@
 namespace vbs {
 
 struct Frame;
+class ArgValues;
 
 // How a statement ends: normally, or by one of the Exit statements that unwinds to its construct.
 enum class Flow : uint8_t { Normal, ExitDo, ExitFor, ExitProcedure };
@@ -36,6 +37,13 @@ class ExprNode {
   // The storage the expression names (a variable, an array element), so that a ByRef argument can
   // share it; null when the expression is a plain value.
   virtual Result<Variant*> Address(Frame& frame);
+
+  // The storage to pass to a ByRef parameter. An array element is passed by reference too; its
+  // array stays locked for the call (a ReDim in the callee fails with error 10, as on Windows).
+  virtual Result<Variant*> AddressForArgument(Frame& frame, ArgValues& args) {
+    (void)args;
+    return Address(frame);
+  }
 
   // `expr = value` (Let) or `Set expr = value`. Error 424/13 family by default: most expressions
   // cannot be assigned to.

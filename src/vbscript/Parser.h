@@ -39,6 +39,7 @@ ParseResult ParseProgram(const SourceTable& sources, uint32_t source_id);
 // One expression (Eval): here "a = b" compares. Anything after the expression is an error.
 Result<ast::ExprPtr> ParseExpression(const SourceTable& sources, uint32_t source_id);
 
+// The machinery behind ParseProgram and ParseExpression; an instance parses one text once.
 class Parser {
  public:
   Parser(const SourceTable& sources, uint32_t source_id);

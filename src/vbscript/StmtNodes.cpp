@@ -16,6 +16,15 @@ Result<bool> Condition(Frame& frame, ExprNode& condition) {
   return IsTrue(*value, frame.interp.locale());
 }
 
+// Under "On Error Resume Next" an error in the header of a compound statement resumes with the next
+// statement, which is the first of its body: Windows runs the If branch, the loop body, the With
+// body whose header failed. True when the error was absorbed that way.
+bool ResumeIntoBody(Frame& frame, const ScriptError& error) {
+  if (!frame.resume_next || IsInterruption(error)) return false;
+  frame.interp.SetErr(error);
+  return true;
+}
+
 // What a loop does with the way its body ended: whether to leave, and what to report upwards.
 bool LeavesLoop(Flow flow, Flow own_exit, Flow& report) {
   if (flow == Flow::Normal) return false;
@@ -72,6 +81,12 @@ Result<Flow> AppendNode::Exec(Frame& frame) {
 
 Result<Flow> RedimNode::Exec(Frame& frame) {
   for (RedimTarget& item : m_targets) {
+    auto address = item.target->Address(frame);
+    if (!address) return std::move(address).error();
+    if (!*address) return MakeError(err::kTypeMismatch);
+    // Without Preserve a fixed array refuses before its new bounds are even looked at; with
+    // Preserve the bounds are read first, as Windows does.
+    if (!m_preserve && (*address)->IsFixedArray()) return MakeError(err::kFixedArray);
     std::vector<ArrayBound> bounds;
     for (ExprNodePtr& bound : item.bounds) {
       auto value = bound->Eval(frame);
@@ -80,9 +95,6 @@ Result<Flow> RedimNode::Exec(Frame& frame) {
       if (!upper) return std::move(upper).error();
       bounds.push_back({0, *upper});
     }
-    auto address = item.target->Address(frame);
-    if (!address) return std::move(address).error();
-    if (!*address) return MakeError(err::kTypeMismatch);
     VBS_TRY(Redim(**address, bounds, m_preserve ? RedimMode::Preserve : RedimMode::Discard));
   }
   return Flow::Normal;
@@ -101,8 +113,8 @@ Result<Flow> EraseNode::Exec(Frame& frame) {
 Result<Flow> IfNode::Exec(Frame& frame) {
   for (ConditionalBlock& branch : m_branches) {
     auto holds = Condition(frame, *branch.condition);
-    if (!holds) return std::move(holds).error();
-    if (*holds) return branch.body.Exec(frame);
+    if (!holds && !ResumeIntoBody(frame, holds.error())) return std::move(holds).error();
+    if (!holds || *holds) return branch.body.Exec(frame);
   }
   return m_else.Exec(frame);
 }
@@ -113,7 +125,10 @@ Result<Flow> SelectNode::Exec(Frame& frame) {
   for (CaseBlock& block : m_cases) {
     for (ExprNodePtr& candidate : block.values) {
       auto value = candidate->Eval(frame);
-      if (!value) return std::move(value).error();
+      if (!value) {
+        if (ResumeIntoBody(frame, value.error())) return block.body.Exec(frame);
+        return std::move(value).error();
+      }
       auto equal = Compare(BinaryOperator::Equal, *subject, *value, frame.interp.compare_mode(), frame.interp.locale());
       if (!equal) return std::move(equal).error();
       if (equal->is_boolean() && equal->as_boolean()) return block.body.Exec(frame);
@@ -124,14 +139,23 @@ Result<Flow> SelectNode::Exec(Frame& frame) {
 
 Result<Flow> ForNode::Exec(Frame& frame) {
   const Locale& locale = frame.interp.locale();
+  // A header that fails under "On Error Resume Next" runs the body once; its Next then finds the
+  // loop uninitialised (error 92) and resumes after it.
+  auto header_failed = [&](const ScriptError& error) -> Result<Flow> {
+    if (!ResumeIntoBody(frame, error)) return error;
+    auto flow = m_body.Exec(frame);
+    if (!flow) return flow;
+    frame.interp.SetErr(MakeError(err::kForNotInitialised));
+    return *flow == Flow::ExitFor ? Flow::Normal : *flow;
+  };
   auto from = m_from->Eval(frame);
-  if (!from) return std::move(from).error();
+  if (!from) return header_failed(from.error());
   auto to = m_to->Eval(frame);
-  if (!to) return std::move(to).error();
+  if (!to) return header_failed(to.error());
   Variant step = Variant::Integer(1);
   if (m_step) {
     auto value = m_step->Eval(frame);
-    if (!value) return std::move(value).error();
+    if (!value) return header_failed(value.error());
     step = std::move(*value);
   }
   auto plain_from = LetValue(std::move(*from));
@@ -186,7 +210,10 @@ class ArrayLock {
 
 Result<Flow> ForEachNode::Exec(Frame& frame) {
   auto collection = m_collection->Eval(frame);
-  if (!collection) return std::move(collection).error();
+  if (!collection) {
+    if (!ResumeIntoBody(frame, collection.error())) return std::move(collection).error();
+    return m_body.Exec(frame);
+  }
   Flow report = Flow::Normal;
   auto visit = [&](Variant element) -> Result<bool> {
     bool is_object = element.is_object();
@@ -206,7 +233,12 @@ Result<Flow> ForEachNode::Exec(Frame& frame) {
     }
     return Flow::Normal;
   }
-  if (!collection->is_object() || !collection->as_object()) return MakeError(err::kNotCollection);
+  if (!collection->is_object() || !collection->as_object()) {
+    if (!ResumeIntoBody(frame, MakeError(err::kNotCollection))) return MakeError(err::kNotCollection);
+    auto flow = m_body.Exec(frame);
+    if (!flow) return flow;
+    return LeavesLoop(*flow, Flow::ExitFor, report) ? report : Flow::Normal;
+  }
   auto enumerator = collection->as_object()->Enumerate();
   if (!enumerator) return std::move(enumerator).error();
   for (;;) {
@@ -228,8 +260,8 @@ Result<Flow> LoopNode::Exec(Frame& frame) {
   for (;;) {
     if (check_before) {
       auto holds = Condition(frame, *m_condition);
-      if (!holds) return std::move(holds).error();
-      if (*holds == until) break;
+      if (!holds && !ResumeIntoBody(frame, holds.error())) return std::move(holds).error();
+      if (holds && *holds == until) break;
     }
     auto flow = m_body.Exec(frame);
     if (!flow) return flow;
@@ -246,11 +278,27 @@ Result<Flow> LoopNode::Exec(Frame& frame) {
 
 Result<Flow> WithNode::Exec(Frame& frame) {
   auto object = m_object->Eval(frame);
-  if (!object) return std::move(object).error();
-  frame.slots[m_slot] = std::move(*object);
+  if (!object && !ResumeIntoBody(frame, object.error())) return std::move(object).error();
+  frame.slots[m_slot] = object ? std::move(*object) : Variant();
   auto flow = m_body.Exec(frame);
   frame.slots[m_slot] = Variant();
   return flow;
+}
+
+Result<Flow> DimArrayNode::Exec(Frame&) {
+  for (Item& item : m_items) {
+    if (!item.fixed) {
+      *item.storage = Variant::Array(SafeArray::CreateUndimensioned());
+      continue;
+    }
+    std::vector<ArrayBound> bounds;
+    for (int32_t upper : item.uppers) bounds.push_back({0, upper});
+    auto array = SafeArray::Create(bounds);
+    if (!array) return std::move(array).error();
+    *item.storage = Variant::Array(*array);
+    item.storage->MarkFixedArray();
+  }
+  return Flow::Normal;
 }
 
 Result<Flow> OnErrorNode::Exec(Frame& frame) {

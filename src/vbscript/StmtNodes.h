@@ -174,6 +174,21 @@ class OnErrorNode final : public StmtNode {
   bool m_resume_next;
 };
 
+// `Dim a(3)` or `Dim a()` in global code: the array is made when the statement runs.
+class DimArrayNode final : public StmtNode {
+ public:
+  struct Item {
+    Variant* storage;
+    std::vector<int32_t> uppers;
+    bool fixed;
+  };
+  DimArrayNode(SourcePos pos, std::vector<Item> items) : StmtNode(pos), m_items(std::move(items)) {}
+  Result<Flow> Exec(Frame& frame) override;
+
+ private:
+  std::vector<Item> m_items;
+};
+
 // A statement that fails when run: a compile-time finding that VBScript reports only at run time,
 // such as an assignment to a constant.
 class FailNode final : public StmtNode {

@@ -52,6 +52,9 @@ TEST(LexerTest, SplitsSourceIntoTokens) {
       // Hex digits stop at the first letter that is not one.
       {"&h01or&h02", {K::IntegerLiteral, K::Or, K::IntegerLiteral, K::EndOfInput}},
       {"a &b & c", {K::Identifier, K::Ampersand, K::Identifier, K::Ampersand, K::Identifier, K::EndOfInput}},
+      // "&" and an octal digit make an octal number, as "&O" does: "s&7" is two operands.
+      {"s&7", {K::Identifier, K::IntegerLiteral, K::EndOfInput}},
+      {"s&8", {K::Identifier, K::Ampersand, K::IntegerLiteral, K::EndOfInput}},
       {"[a b] [x]", {K::Identifier, K::Identifier, K::EndOfInput}},
       {"Dim Step, Property", {K::Dim, K::Step, K::Comma, K::Property, K::EndOfInput}},
       {"1to 2", {K::IntegerLiteral, K::To, K::IntegerLiteral, K::EndOfInput}},

@@ -1,0 +1,7 @@
+#include "Interpreter.h"
+
+namespace vbs {
+
+void RegisterStandardObjects(Interpreter&) {}
+
+}  // namespace vbs

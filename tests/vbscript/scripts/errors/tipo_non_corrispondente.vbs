@@ -1,0 +1,3 @@
+' locale: en-US
+Dim x
+x = CInt("abc")                                    ' expect runtime error 13
