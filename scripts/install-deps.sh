@@ -5,7 +5,7 @@ set -euo pipefail
 packages=(
   cmake ninja-build g++ pkg-config
   libfmt-dev libzip-dev libcurl4-openssl-dev
-  libgtest-dev libbenchmark-dev
+  libgtest-dev libbenchmark-dev liblua5.4-dev
 )
 
 missing=()

@@ -10,7 +10,8 @@ const Builtin* FindBuiltinFunction(std::string_view folded_name) {
   // Built once from the family tables; read-only afterwards, so engines may share it.
   static const std::unordered_map<std::string, const Builtin*> kByName = [] {
     std::unordered_map<std::string, const Builtin*> map;
-    for (auto family : {CoreBuiltins(), CodeBuiltins()})
+    for (auto family : {CoreBuiltins(), CodeBuiltins(), StringBuiltins(), MathBuiltins(), DateBuiltins(),
+                        FormatBuiltins(), ConversionBuiltins(), InteractionBuiltins()})
       for (const Builtin& builtin : family) map[Interpreter::Fold(builtin.name)] = &builtin;
     return map;
   }();

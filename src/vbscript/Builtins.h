@@ -35,5 +35,11 @@ std::optional<Variant> NamedConstantValue(std::string_view folded_name);
 // The families.
 std::span<const Builtin> CoreBuiltins();
 std::span<const Builtin> CodeBuiltins();
+std::span<const Builtin> StringBuiltins();
+std::span<const Builtin> MathBuiltins();
+std::span<const Builtin> DateBuiltins();
+std::span<const Builtin> FormatBuiltins();
+std::span<const Builtin> ConversionBuiltins();
+std::span<const Builtin> InteractionBuiltins();
 
 }  // namespace vbs

@@ -69,72 +69,6 @@ Result<std::u16string> TextOf(Frame& frame, const Variant& value) {
   return text->ToU16String();
 }
 
-Result<Variant> LenFunction(Frame& frame, Args args) {
-  const Variant& v = args[0].Deref();
-  if (v.is_null()) return Variant::Null();
-  auto text = TextOf(frame, v);
-  if (!text) return std::move(text).error();
-  return Variant::Long(static_cast<int32_t>(text->size()));
-}
-
-Result<int32_t> Count(Frame& frame, const Variant& value) {
-  auto n = value.Deref().to_long(LocaleOf(frame));
-  if (!n) return std::move(n).error();
-  if (*n < 0) return MakeError(err::kInvalidCall);
-  return *n;
-}
-
-Result<Variant> LeftFunction(Frame& frame, Args args) {
-  if (args[0].Deref().is_null()) return Variant::Null();
-  auto text = TextOf(frame, args[0]);
-  if (!text) return std::move(text).error();
-  auto n = Count(frame, args[1]);
-  if (!n) return std::move(n).error();
-  return Variant::String(std::u16string_view(*text).substr(0, static_cast<size_t>(*n)));
-}
-
-Result<Variant> RightFunction(Frame& frame, Args args) {
-  if (args[0].Deref().is_null()) return Variant::Null();
-  auto text = TextOf(frame, args[0]);
-  if (!text) return std::move(text).error();
-  auto n = Count(frame, args[1]);
-  if (!n) return std::move(n).error();
-  size_t keep = std::min(text->size(), static_cast<size_t>(*n));
-  return Variant::String(std::u16string_view(*text).substr(text->size() - keep));
-}
-
-Result<Variant> MidFunction(Frame& frame, Args args) {
-  if (args[0].Deref().is_null()) return Variant::Null();
-  auto text = TextOf(frame, args[0]);
-  if (!text) return std::move(text).error();
-  auto start = args[1].Deref().to_long(LocaleOf(frame));
-  if (!start) return std::move(start).error();
-  if (*start < 1) return MakeError(err::kInvalidCall);
-  size_t length = std::u16string::npos;
-  if (args.size() > 2) {
-    auto n = Count(frame, args[2]);
-    if (!n) return std::move(n).error();
-    length = static_cast<size_t>(*n);
-  }
-  size_t from = static_cast<size_t>(*start) - 1;
-  if (from >= text->size()) return Variant::String(u"");
-  return Variant::String(std::u16string_view(*text).substr(from, length));
-}
-
-Result<Variant> AscFunction(Frame& frame, Args args) {
-  auto text = TextOf(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (text->empty()) return MakeError(err::kInvalidCall);
-  return Variant::Integer(static_cast<int16_t>((*text)[0]));
-}
-
-Result<Variant> ChrFunction(Frame& frame, Args args) {
-  auto code = args[0].Deref().to_long(LocaleOf(frame));
-  if (!code) return std::move(code).error();
-  if (*code < -32768 || *code > 65535) return MakeError(err::kInvalidCall);
-  return Variant::String(std::u16string(1, static_cast<char16_t>(*code)));
-}
-
 Result<Variant> CreateObjectFunction(Frame& frame, Args args) {
   auto name = TextOf(frame, args[0]);
   if (!name) return std::move(name).error();
@@ -164,12 +98,6 @@ const Builtin kCore[] = {
     {"CCur", 1, 1, &Convert<Subtype::Currency>, "to Currency"},
     {"CDate", 1, 1, &Convert<Subtype::Date>, "to Date"},
     {"CStr", 1, 1, &Convert<Subtype::String>, "to String"},
-    {"Len", 1, 1, &LenFunction, "length in characters"},
-    {"Left", 2, 2, &LeftFunction, "the first n characters"},
-    {"Right", 2, 2, &RightFunction, "the last n characters"},
-    {"Mid", 2, 3, &MidFunction, "characters from a position"},
-    {"Asc", 1, 1, &AscFunction, "code of the first character"},
-    {"Chr", 1, 1, &ChrFunction, "the character of a code"},
     {"CreateObject", 1, 2, &CreateObjectFunction, "an object of a registered class"},
 };
 

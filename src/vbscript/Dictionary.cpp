@@ -1,8 +1,9 @@
 #include "Dictionary.h"
 
+#include <algorithm>
 #include <bit>
-#include <cstring>
 
+#include "Interpreter.h"
 #include "SafeArray.h"
 #include "Utf.h"
 
@@ -142,28 +143,30 @@ uint32_t Dictionary::Lookup(const Variant& key, uint64_t hash, size_t& slot) con
     return kMissing;
   }
   const size_t mask = m_slots.size() - 1;
+  const auto low = static_cast<uint32_t>(hash);
   for (size_t i = hash & mask;; i = (i + 1) & mask) {
-    const uint32_t held = m_slots[i];
-    if (held == 0) {
+    const Slot& held = m_slots[i];
+    if (held.entry == 0) {
       slot = i;
       return kMissing;
     }
-    const Entry& entry = m_entries[held - 1];
+    if (held.hash != low) continue;
+    const Entry& entry = m_entries[held.entry - 1];
     if (entry.hash == hash && SameKey(entry.key, key)) {
       slot = i;
-      return held - 1;
+      return held.entry - 1;
     }
   }
 }
 
 void Dictionary::Rebuild(size_t capacity) {
-  m_slots.assign(capacity, 0);
+  m_slots.assign(capacity, Slot{});
   const size_t mask = capacity - 1;
   for (size_t e = 0; e < m_entries.size(); ++e) {
     if (!m_entries[e].live) continue;
     size_t i = m_entries[e].hash & mask;
-    while (m_slots[i] != 0) i = (i + 1) & mask;
-    m_slots[i] = static_cast<uint32_t>(e + 1);
+    while (m_slots[i].entry != 0) i = (i + 1) & mask;
+    m_slots[i] = Slot{static_cast<uint32_t>(e + 1), static_cast<uint32_t>(m_entries[e].hash)};
   }
 }
 
@@ -173,7 +176,7 @@ void Dictionary::Append(Variant key, Variant item, uint64_t hash, size_t slot) {
     (void)Lookup(key, hash, slot);
   }
   m_entries.push_back(Entry{std::move(key), std::move(item), hash, true});
-  m_slots[slot] = static_cast<uint32_t>(m_entries.size());
+  m_slots[slot] = Slot{static_cast<uint32_t>(m_entries.size()), static_cast<uint32_t>(hash)};
   ++m_live;
 }
 
@@ -182,15 +185,15 @@ void Dictionary::Append(Variant key, Variant item, uint64_t hash, size_t slot) {
 void Dictionary::Erase(uint32_t entry, size_t slot) {
   const size_t mask = m_slots.size() - 1;
   size_t hole = slot;
-  for (size_t j = (slot + 1) & mask; m_slots[j] != 0; j = (j + 1) & mask) {
-    const size_t home = m_entries[m_slots[j] - 1].hash & mask;
+  for (size_t j = (slot + 1) & mask; m_slots[j].entry != 0; j = (j + 1) & mask) {
+    const size_t home = m_slots[j].hash & mask;
     const bool stays = hole <= j ? (hole < home && home <= j) : (hole < home || home <= j);
     if (!stays) {
       m_slots[hole] = m_slots[j];
       hole = j;
     }
   }
-  m_slots[hole] = 0;
+  m_slots[hole] = Slot{};
   if (entry != kMissing) {
     m_entries[entry].live = false;
     --m_live;
@@ -285,7 +288,7 @@ Result<Variant> Dictionary::PutKey(CallArgs& args, Variant value) {
   (void)Lookup(value, *new_hash, new_slot);
   std::swap(m_entries[entry].key, value);
   m_entries[entry].hash = *new_hash;
-  m_slots[new_slot] = entry + 1;
+  m_slots[new_slot] = Slot{entry + 1, static_cast<uint32_t>(*new_hash)};
   return Variant();
 }
 

@@ -43,6 +43,12 @@ class Dictionary final : public HostObject<Dictionary> {
     uint64_t hash = 0;
     bool live = true;
   };
+  // An index slot holds the low half of its key's hash, so probing past other keys reads the
+  // index alone and touches an entry only when the hashes agree.
+  struct Slot {
+    uint32_t entry = 0;  // entry number + 1; 0 is an empty slot
+    uint32_t hash = 0;
+  };
 
   Result<Variant> AddMember(CallArgs& args);
   Result<Variant> Exists(CallArgs& args);
@@ -70,7 +76,7 @@ class Dictionary final : public HostObject<Dictionary> {
   void CompactIfSparse();
 
   std::vector<Entry> m_entries;
-  std::vector<uint32_t> m_slots;  // entry number + 1; 0 is an empty slot
+  std::vector<Slot> m_slots;
   size_t m_live = 0;
   CompareMode m_mode = CompareMode::Binary;
   int32_t m_mode_value = 0;

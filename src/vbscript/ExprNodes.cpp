@@ -96,6 +96,10 @@ Result<Object*> RequireObject(const Variant& value) {
 // ---- Variables ----
 
 Status VariableNode::Assign(Frame& frame, Variant value, bool is_set) {
+  if (!is_set && !value.is_object() && !value.IsRef()) {
+    Storage(frame).Deref() = std::move(value);
+    return Ok();
+  }
   return StoreInto(Storage(frame).Deref(), std::move(value), is_set);
 }
 
@@ -284,19 +288,57 @@ bool FastDoubleOp(BinaryOperator op, double a, double b, Variant& out) {
     case BinaryOperator::Add: out = Variant::Double(a + b); return true;
     case BinaryOperator::Subtract: out = Variant::Double(a - b); return true;
     case BinaryOperator::Multiply: out = Variant::Double(a * b); return true;
+    case BinaryOperator::Equal: out = Variant::Boolean(a == b); return true;
+    case BinaryOperator::NotEqual: out = Variant::Boolean(a != b); return true;
     case BinaryOperator::Less: out = Variant::Boolean(a < b); return true;
+    case BinaryOperator::LessEqual: out = Variant::Boolean(a <= b); return true;
     case BinaryOperator::Greater: out = Variant::Boolean(a > b); return true;
+    case BinaryOperator::GreaterEqual: out = Variant::Boolean(a >= b); return true;
+    default: return false;
+  }
+}
+
+// Integer, Long or Double: the operands that the fast paths take as they are.
+bool PlainNumber(const Variant& v, double& out) {
+  switch (v.subtype()) {
+    case Subtype::Integer: out = v.as_integer(); return true;
+    case Subtype::Long: out = v.as_long(); return true;
+    case Subtype::Double: out = v.as_double(); return true;
     default: return false;
   }
 }
 
 }  // namespace
 
+DirectOperand::DirectOperand(ExprNode* node) {
+  if (auto* constant = dynamic_cast<ConstantNode*>(node)) {
+    m_kind = Kind::Constant;
+    m_pointer = &constant->value();
+  } else if (auto* local = dynamic_cast<LocalNode*>(node)) {
+    m_kind = Kind::Local;
+    m_slot = local->slot();
+  } else if (auto* global = dynamic_cast<GlobalNode*>(node)) {
+    m_kind = Kind::Global;
+    m_pointer = global->storage();
+  }
+}
+
 Result<Variant> BinaryNode::Eval(Frame& frame) {
-  auto left = m_left->Eval(frame);
-  if (!left) return left;
-  auto right = m_right->Eval(frame);
-  if (!right) return right;
+  Variant left_value, right_value;
+  const Variant* left = m_left_direct.Get(frame);
+  if (!left) {
+    auto evaluated = m_left->Eval(frame);
+    if (!evaluated) return evaluated;
+    left_value = std::move(*evaluated);
+    left = &left_value;
+  }
+  const Variant* right = m_right_direct.Get(frame);
+  if (!right) {
+    auto evaluated = m_right->Eval(frame);
+    if (!evaluated) return evaluated;
+    right_value = std::move(*evaluated);
+    right = &right_value;
+  }
   const Variant& a = *left;
   const Variant& b = *right;
   Variant fast;
@@ -304,8 +346,9 @@ Result<Variant> BinaryNode::Eval(Frame& frame) {
     int32_t x = a.is_integer() ? a.as_integer() : a.as_long();
     int32_t y = b.is_integer() ? b.as_integer() : b.as_long();
     if (FastIntegerOp(m_op, x, y, a.is_integer() && b.is_integer(), fast)) return fast;
-  } else if (a.is_double() && b.is_double() && FastDoubleOp(m_op, a.as_double(), b.as_double(), fast)) {
-    return fast;
+  } else {
+    double x, y;
+    if (PlainNumber(a, x) && PlainNumber(b, y) && FastDoubleOp(m_op, x, y, fast)) return fast;
   }
   return ApplyBinary(m_op, a, b, frame.interp.compare_mode(), frame.interp.locale());
 }

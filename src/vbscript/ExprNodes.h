@@ -100,6 +100,7 @@ class GlobalNode final : public VariableNode {
  public:
   GlobalNode(SourcePos pos, Variant* storage) : VariableNode(pos), m_storage(storage) {}
   Variant& Storage(Frame&) override { return *m_storage; }
+  Variant* storage() const { return m_storage; }
 
  private:
   Variant* m_storage;
@@ -178,16 +179,42 @@ class UnaryNode final : public ExprNode {
   ExprNodePtr m_operand;
 };
 
+// Reads an operand that is a constant or a plain variable in place, with no call and no copy: the
+// operands of most arithmetic in loops.
+class DirectOperand {
+ public:
+  explicit DirectOperand(ExprNode* node);
+  // The operand's value, or null when it must be evaluated.
+  const Variant* Get(Frame& frame) const {
+    switch (m_kind) {
+      case Kind::Constant:
+      case Kind::Global: return m_pointer;
+      case Kind::Local: return &frame.slots[m_slot].Deref();
+      case Kind::None: break;
+    }
+    return nullptr;
+  }
+
+ private:
+  enum class Kind : uint8_t { None, Constant, Local, Global };
+  Kind m_kind = Kind::None;
+  uint32_t m_slot = 0;
+  const Variant* m_pointer = nullptr;
+};
+
 class BinaryNode final : public ExprNode {
  public:
   BinaryNode(SourcePos pos, BinaryOperator op, ExprNodePtr left, ExprNodePtr right)
-      : ExprNode(pos), m_op(op), m_left(std::move(left)), m_right(std::move(right)) {}
+      : ExprNode(pos), m_op(op), m_left(std::move(left)), m_right(std::move(right)),
+        m_left_direct(m_left.get()), m_right_direct(m_right.get()) {}
   Result<Variant> Eval(Frame& frame) override;
 
  private:
   BinaryOperator m_op;
   ExprNodePtr m_left;
   ExprNodePtr m_right;
+  DirectOperand m_left_direct;
+  DirectOperand m_right_direct;
 };
 
 class IsNode final : public ExprNode {

@@ -5,9 +5,9 @@
 
 #include <cassert>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <utility>
-#include <variant>
 
 #include "Source.h"
 
@@ -24,26 +24,28 @@ struct ScriptError {
   bool has_pos = false;
 };
 
+// The value and, only when something failed, the error on the heap: the success path, which is
+// nearly every evaluation of every expression, moves a plain value and tests one pointer.
 template <typename T>
 class [[nodiscard]] Result {
  public:
-  Result(T value) : m_state(std::move(value)) {}
-  Result(ScriptError error) : m_state(std::move(error)) {}
+  Result(T value) : m_value(std::move(value)) {}
+  Result(ScriptError error) : m_error(std::make_unique<ScriptError>(std::move(error))) {}
 
-  bool ok() const { return m_state.index() == 0; }
+  bool ok() const { return m_error == nullptr; }
   explicit operator bool() const { return ok(); }
 
   T& value() & {
     assert(ok());
-    return std::get<0>(m_state);
+    return m_value;
   }
   const T& value() const& {
     assert(ok());
-    return std::get<0>(m_state);
+    return m_value;
   }
   T&& value() && {
     assert(ok());
-    return std::get<0>(std::move(m_state));
+    return std::move(m_value);
   }
   T& operator*() & { return value(); }
   const T& operator*() const& { return value(); }
@@ -52,19 +54,20 @@ class [[nodiscard]] Result {
 
   ScriptError& error() & {
     assert(!ok());
-    return std::get<1>(m_state);
+    return *m_error;
   }
   const ScriptError& error() const& {
     assert(!ok());
-    return std::get<1>(m_state);
+    return *m_error;
   }
   ScriptError&& error() && {
     assert(!ok());
-    return std::get<1>(std::move(m_state));
+    return std::move(*m_error);
   }
 
  private:
-  std::variant<T, ScriptError> m_state;
+  T m_value{};
+  std::unique_ptr<ScriptError> m_error;
 };
 
 struct Unit {};

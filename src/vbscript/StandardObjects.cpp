@@ -1,7 +1,20 @@
+#include "Dictionary.h"
+#include "FileSystem.h"
 #include "Interpreter.h"
+#include "RegExp.h"
 
 namespace vbs {
 
-void RegisterStandardObjects(Interpreter&) {}
+void RegisterStandardObjects(Interpreter& interp) {
+  interp.RegisterObjectClass("Scripting.Dictionary", [](Interpreter& engine) -> Result<Ref<Object>> {
+    return Ref<Object>(MakeRef<Dictionary>(engine.locale()));
+  });
+  interp.RegisterObjectClass("Scripting.FileSystemObject", [](Interpreter& engine) -> Result<Ref<Object>> {
+    return Ref<Object>(MakeRef<FileSystemObject>(engine.locale()));
+  });
+  interp.RegisterObjectClass("VBScript.RegExp", [](Interpreter& engine) -> Result<Ref<Object>> {
+    return Ref<Object>(MakeRef<RegExp>(engine));
+  });
+}
 
 }  // namespace vbs

@@ -174,20 +174,57 @@ Result<Flow> ForNode::Exec(Frame& frame) {
 
   VBS_TRY(m_counter->Assign(frame, std::move(*plain_from), false));
   Flow report = Flow::Normal;
+  auto step_counter = [&]() -> Status {
+    auto current = m_counter->Eval(frame);
+    if (!current) return std::move(current).error();
+    auto next = Add(*current, increment, locale);
+    if (!next) return std::move(next).error();
+    return m_counter->Assign(frame, std::move(*next), false);
+  };
+  bool body_ran = false;  // set when the fast loop hands over right after a run of the body
+
+  // Whole-number loops on a plain variable, the common case, count in a machine integer; the
+  // counter keeps the subtype that adding the step would give it (Integer, widening to Long).
+  auto* variable = dynamic_cast<VariableNode*>(m_counter.get());
+  auto whole = [](const Variant& v) { return v.is_integer() || v.is_long(); };
+  if (variable && whole(limit) && whole(increment)) {
+    const int64_t last = limit.is_integer() ? limit.as_integer() : limit.as_long();
+    const int64_t by = increment.is_integer() ? increment.as_integer() : increment.as_long();
+    for (;;) {
+      Variant& counter = variable->Storage(frame).Deref();
+      if (!whole(counter)) break;
+      const int64_t current = counter.is_integer() ? counter.as_integer() : counter.as_long();
+      if (by >= 0 ? current > last : current < last) return Flow::Normal;
+      VBS_TRY(frame.interp.CheckInterrupt());
+      auto flow = m_body.Exec(frame);
+      if (!flow) return flow;
+      if (LeavesLoop(*flow, Flow::ExitFor, report)) return report;
+      Variant& after = variable->Storage(frame).Deref();
+      if (!whole(after)) {
+        body_ran = true;
+        break;
+      }
+      const int64_t next = (after.is_integer() ? after.as_integer() : after.as_long()) + by;
+      if (after.is_integer() && increment.is_integer() && next >= INT16_MIN && next <= INT16_MAX)
+        after = Variant::Integer(static_cast<int16_t>(next));
+      else if (next >= INT32_MIN && next <= INT32_MAX)
+        after = Variant::Long(static_cast<int32_t>(next));
+      else
+        after = Variant::Double(static_cast<double>(next));
+    }
+  }
+  if (body_ran) VBS_TRY(step_counter());
   for (;;) {
     auto counter = m_counter->Eval(frame);
     if (!counter) return std::move(counter).error();
     auto within = Compare(keep_going, *counter, limit, CompareMode::Binary, locale);
     if (!within) return std::move(within).error();
     if (!within->is_boolean() || !within->as_boolean()) break;
+    VBS_TRY(frame.interp.CheckInterrupt());
     auto flow = m_body.Exec(frame);
     if (!flow) return flow;
     if (LeavesLoop(*flow, Flow::ExitFor, report)) return report;
-    auto current = m_counter->Eval(frame);
-    if (!current) return std::move(current).error();
-    auto next = Add(*current, increment, locale);
-    if (!next) return std::move(next).error();
-    VBS_TRY(m_counter->Assign(frame, std::move(*next), false));
+    VBS_TRY(step_counter());
   }
   return Flow::Normal;
 }
@@ -216,6 +253,7 @@ Result<Flow> ForEachNode::Exec(Frame& frame) {
   }
   Flow report = Flow::Normal;
   auto visit = [&](Variant element) -> Result<bool> {
+    VBS_TRY(frame.interp.CheckInterrupt());
     bool is_object = element.is_object();
     VBS_TRY(m_element->Assign(frame, std::move(element), is_object));
     auto flow = m_body.Exec(frame);
@@ -258,6 +296,8 @@ Result<Flow> LoopNode::Exec(Frame& frame) {
   const bool until = m_kind == ast::LoopCondition::UntilBefore || m_kind == ast::LoopCondition::UntilAfter;
   Flow report = Flow::Normal;
   for (;;) {
+    // An empty body has no statement at which to notice a stop: the loop itself looks.
+    VBS_TRY(frame.interp.CheckInterrupt());
     if (check_before) {
       auto holds = Condition(frame, *m_condition);
       if (!holds && !ResumeIntoBody(frame, holds.error())) return std::move(holds).error();

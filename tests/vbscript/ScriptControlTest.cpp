@@ -1,0 +1,138 @@
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "vbscript/HostObject.h"
+#include "vbscript/SafeArray.h"
+#include "vbscript/ScriptControl.h"
+#include "vbscript/Utf.h"
+
+namespace vbs {
+namespace {
+
+// A host object as the library will bind its functions: one table row per member.
+class Libreria final : public HostObject<Libreria> {
+ public:
+  explicit Libreria(const Locale& locale) : HostObject(locale) {}
+  static std::span<const Member> Members() {
+    static const Member kMembers[] = {
+        {"Somma", 2, 3, &Libreria::Somma, nullptr, "A, B[, C]: the sum"},
+        {"Riempi", 1, 1, &Libreria::Riempi, nullptr, "Arr: fills the caller's variable with a 1-based array"},
+        {"Valore", 0, 0, &Libreria::GetValore, &Libreria::PutValore, "a read-write property", true},
+    };
+    return kMembers;
+  }
+  std::u16string ClassName() const override { return u"Libreria"; }
+  int32_t valore = 7;
+
+ private:
+  Result<Variant> Somma(CallArgs& args) {
+    auto a = args.Long(0);
+    if (!a) return std::move(a).error();
+    auto b = args.Long(1);
+    if (!b) return std::move(b).error();
+    auto c = args.Long(2, 0);
+    if (!c) return std::move(c).error();
+    return Variant::Long(*a + *b + *c);
+  }
+  Result<Variant> Riempi(CallArgs& args) {
+    ArrayBound bound{1, 3};
+    auto array = SafeArray::Create(std::span<const ArrayBound>(&bound, 1));
+    if (!array) return std::move(array).error();
+    for (int i = 0; i < 3; ++i) (*array)->elements()[i] = Variant::Integer(static_cast<int16_t>((i + 1) * 10));
+    args.Out(0) = Variant::Array(*array);
+    return Variant();
+  }
+  Result<Variant> GetValore(CallArgs&) { return Variant::Long(valore); }
+  Result<Variant> PutValore(CallArgs&, Variant value) {
+    auto v = value.to_long(locale());
+    if (!v) return std::move(v).error();
+    valore = *v;
+    return Variant();
+  }
+};
+
+class Motore : public ::testing::Test {
+ protected:
+  void SetUp() override { ASSERT_TRUE(engine.SetLanguage("vbscript")); }
+  Status Add(std::string_view code) { return engine.AddCode(Utf8ToUtf16(code), "prova"); }
+  std::string EvalText(std::string_view expression) {
+    auto value = engine.Eval(Utf8ToUtf16(expression));
+    if (!value) return "error " + std::to_string(engine.Error().number);
+    auto text = value->to_string(engine.interpreter().locale());
+    return text ? Utf16ToUtf8(text->view()) : "unprintable";
+  }
+  ScriptControl engine;
+};
+
+TEST_F(Motore, AddCodeEvalRunEExecuteStatementCondividonoLoStatoGlobale) {
+  ASSERT_TRUE(Add("Dim n\nn = 2\nFunction Doppio(x)\n Doppio = x * 2\nEnd Function\nSub Main\n n = n + 1\nEnd Sub"));
+  ASSERT_TRUE(engine.ExecuteStatement(u"main"));
+  EXPECT_EQ(EvalText("n"), "3");
+  Variant args[] = {Variant::Integer(21)};
+  auto result = engine.Run("DOPPIO", args);
+  ASSERT_TRUE(result);
+  EXPECT_EQ(result->as_integer(), 42);
+  engine.Reset();
+  EXPECT_EQ(EvalText("IsEmpty(n)"), "Vero");
+}
+
+TEST_F(Motore, IMembriDiUnOggettoAggiuntoDiventanoNomiGlobali) {
+  auto libreria = MakeRef<Libreria>(engine.interpreter().locale());
+  ASSERT_TRUE(engine.AddObject("ClsLibreria", libreria, true));
+  ASSERT_TRUE(Add("Dim a, t\nRiempi a\nt = Somma(a(1), a(3)) + Somma(1, 2, 3)\nValore = 5\n"));
+  EXPECT_EQ(EvalText("t"), "46");
+  EXPECT_EQ(EvalText("LBound(a) & UBound(a)"), "13");
+  EXPECT_EQ(libreria->valore, 5);
+  EXPECT_EQ(EvalText("ClsLibreria.Somma(1, 1)"), "2");
+  EXPECT_EQ(EvalText("Somma(1)"), "error 450");
+  EXPECT_FALSE(engine.AddObject("clslibreria", libreria, false)) << "a name may be added once";
+}
+
+TEST_F(Motore, LErroreDiceNumeroRigaEColonna) {
+  EXPECT_FALSE(Add("Dim x\nx = 1\n  x = x / 0\n"));
+  EXPECT_EQ(engine.Error().number, 11);
+  EXPECT_EQ(engine.Error().line, 3u);
+  EXPECT_EQ(engine.Error().column, 3u);
+  EXPECT_EQ(Utf16ToUtf8(engine.Error().description), "Divisione per zero");
+  EXPECT_EQ(engine.Error().source_name, "prova");
+
+  EXPECT_FALSE(Add("x = (1 +\n"));
+  EXPECT_EQ(engine.Error().number, 1023) << "expected expression";
+  EXPECT_EQ(engine.Error().line, 1u);
+
+  ASSERT_TRUE(engine.SetLocale(1033));
+  EXPECT_FALSE(Add("Sub S\nEnd Sub\nS 1\n"));
+  EXPECT_EQ(Utf16ToUtf8(engine.Error().description), "Wrong number of arguments or invalid property assignment");
+}
+
+TEST_F(Motore, SenzaLinguaggioNienteGira) {
+  ScriptControl vuoto;
+  EXPECT_FALSE(vuoto.AddCode(u"x = 1"));
+  EXPECT_FALSE(vuoto.SetLanguage("JScript"));
+  EXPECT_TRUE(vuoto.SetLanguage("VBSCRIPT"));
+  EXPECT_EQ(vuoto.Language(), "VBScript");
+}
+
+TEST_F(Motore, IlTimeoutFermaUnCicloInfinito) {
+  engine.SetTimeout(100);
+  auto started = std::chrono::steady_clock::now();
+  EXPECT_FALSE(Add("Do\nLoop"));
+  EXPECT_LT(std::chrono::steady_clock::now() - started, std::chrono::seconds(10));
+  EXPECT_EQ(engine.Error().line, 1u);
+  engine.SetTimeout(-1);
+  EXPECT_TRUE(Add("Dim i\nFor i = 1 To 1000 : Next"));
+}
+
+TEST_F(Motore, UnaRichiestaDaUnAltroThreadFermaLoScriptAnchePassandoResumeNext) {
+  std::thread stop([this] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    engine.RequestAbort();
+  });
+  EXPECT_FALSE(Add("On Error Resume Next\nDo\nLoop"));
+  stop.join();
+  EXPECT_EQ(engine.Error().number, err::kAborted);
+}
+
+}  // namespace
+}  // namespace vbs

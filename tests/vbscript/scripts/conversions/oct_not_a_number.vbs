@@ -1,0 +1,1 @@
+x = Oct("otto")                                                                      ' expect runtime error 13

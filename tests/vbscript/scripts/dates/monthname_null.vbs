@@ -1,0 +1,1 @@
+x = MonthName(1, Null)                                                               ' expect runtime error 94

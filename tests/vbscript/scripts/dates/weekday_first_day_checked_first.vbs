@@ -1,0 +1,1 @@
+x = Weekday(Null, 8)                                                                 ' expect runtime error 5

@@ -1,0 +1,1 @@
+x = FormatPercent("molto")                                                           ' expect runtime error 13

@@ -1,0 +1,1 @@
+x = FormatCurrency(1000, Null)                                                       ' expect runtime error 94

@@ -1,0 +1,1 @@
+x = InputBox("Quale ruota?")                                                         ' expect runtime error 70

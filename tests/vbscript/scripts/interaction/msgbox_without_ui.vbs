@@ -1,0 +1,2 @@
+' With no user to answer, asking is refused.
+MsgBox "ciao"                                                                        ' expect runtime error 70

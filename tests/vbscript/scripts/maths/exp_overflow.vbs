@@ -1,0 +1,1 @@
+x = Exp(1000)                                                                        ' expect runtime error 6

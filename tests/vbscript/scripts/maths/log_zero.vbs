@@ -1,0 +1,1 @@
+x = Log(0)                                                                           ' expect runtime error 5

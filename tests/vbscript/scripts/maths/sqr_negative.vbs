@@ -1,0 +1,1 @@
+x = Sqr(-1)                                                                          ' expect runtime error 5

@@ -1,0 +1,1 @@
+x = Cos(Null)                                                                        ' expect runtime error 94

@@ -1,0 +1,1 @@
+x = Asc("")                                                                          ' expect runtime error 5

@@ -1,0 +1,1 @@
+x = Asc(Null)                                                                        ' expect runtime error 94

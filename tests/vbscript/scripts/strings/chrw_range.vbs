@@ -1,0 +1,1 @@
+x = ChrW(65536)                                                                      ' expect runtime error 5

@@ -1,0 +1,1 @@
+x = InStr(Null, "abc", "a")                                                          ' expect runtime error 94

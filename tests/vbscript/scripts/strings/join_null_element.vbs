@@ -1,0 +1,1 @@
+x = Join(Array("a", Null))                                                           ' expect runtime error 94

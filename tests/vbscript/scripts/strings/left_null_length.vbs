@@ -1,0 +1,1 @@
+x = Left("abc", Null)                                                                ' expect runtime error 94

@@ -1,0 +1,1 @@
+x = Mid(Null, 0)                                                                     ' expect runtime error 5

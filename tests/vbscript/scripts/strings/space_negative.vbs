@@ -1,0 +1,1 @@
+x = Space(-1)                                                                        ' expect runtime error 5

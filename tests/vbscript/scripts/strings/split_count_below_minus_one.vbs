@@ -1,0 +1,1 @@
+a = Split("a,b", ",", -2)                                                            ' expect runtime error 5
