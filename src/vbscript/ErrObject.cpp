@@ -63,7 +63,11 @@ Result<Variant> ErrObject::GetHelpContext(CallArgs&) { return Variant::Long(0); 
 Result<Variant> ErrObject::Raise(CallArgs& args) {
   auto number = args.Long(0);
   if (!number) return std::move(number).error();
+  // 0 and positive numbers past 16 bits are no error numbers: Raise itself is called wrongly.
+  if (*number == 0 || *number > 0xFFFF) return MakeError(err::kInvalidCall);
   ScriptError error = MakeError(*number);
+  // What Raise is not told is kept from the Err object as it stands, as Windows does.
+  error.source = m_interp.err().source;
   if (args.Has(1)) {
     auto source = args.String(1);
     if (!source) return std::move(source).error();
