@@ -103,6 +103,14 @@ class HostObject : public Object {
       return (self.*m.put)(call, std::move(value));
     }
     if (!m.get) return MakeError(438);
+    if (m.max_args == 0 && !args.empty()) {
+      // folder.SubFolders("x"): the arguments go to the default member of what the property gives.
+      CallArgs none({}, *m_locale);
+      auto result = (self.*m.get)(none);
+      if (!result) return result;
+      if (!result->is_object() || !result->as_object()) return MakeError(450);
+      return result->as_object()->Invoke(kDefaultMember, InvokeKind::Get, args);
+    }
     if (args.size() < m.min_args || args.size() > m.max_args) return MakeError(450);
     CallArgs call(args, *m_locale);
     return (self.*m.get)(call);

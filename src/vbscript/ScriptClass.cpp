@@ -1,5 +1,7 @@
 #include "ScriptClass.h"
 
+#include <array>
+
 #include "Coercion.h"
 #include "SafeArray.h"
 #include "Utf.h"
@@ -8,19 +10,33 @@ namespace vbs {
 
 namespace {
 
-std::vector<int32_t> Indices(std::span<Variant> args, const Locale& locale, ScriptError* error) {
-  std::vector<int32_t> indices;
-  indices.reserve(args.size());
-  for (Variant& arg : args) {
-    auto index = arg.Deref().to_long(locale);
-    if (!index) {
-      *error = index.error();
-      return {};
+// The subscripts of one element access, kept on the stack: indexing runs in the innermost loops of
+// scripts and must not allocate. VBScript arrays have at most 60 dimensions.
+class Subscripts {
+ public:
+  Status Read(std::span<Variant> args, const Locale& locale) {
+    if (args.size() > m_values.size()) return MakeError(err::kSubscript);
+    for (size_t i = 0; i < args.size(); ++i) {
+      const Variant& arg = args[i].Deref();
+      if (arg.is_integer()) {
+        m_values[i] = arg.as_integer();
+      } else if (arg.is_long()) {
+        m_values[i] = arg.as_long();
+      } else {
+        auto index = arg.to_long(locale);
+        if (!index) return std::move(index).error();
+        m_values[i] = *index;
+      }
     }
-    indices.push_back(*index);
+    m_count = args.size();
+    return Ok();
   }
-  return indices;
-}
+  std::span<const int32_t> span() const { return {m_values.data(), m_count}; }
+
+ private:
+  std::array<int32_t, 64> m_values{};
+  size_t m_count = 0;
+};
 
 }  // namespace
 
@@ -122,10 +138,9 @@ void ClassInstance::LastReleased() {
 Result<Variant> IndexValue(const Variant& holder, std::span<Variant> args, const Locale& locale) {
   const Variant& value = holder.Deref();
   if (value.is_array()) {
-    ScriptError error;
-    auto indices = Indices(args, locale, &error);
-    if (error.number) return error;
-    return ReadElement(value, indices);
+    Subscripts indices;
+    VBS_TRY(indices.Read(args, locale));
+    return ReadElement(value, indices.span());
   }
   if (value.is_object()) {
     if (!value.as_object()) return MakeError(err::kObjectNotSet);
@@ -137,19 +152,23 @@ Result<Variant> IndexValue(const Variant& holder, std::span<Variant> args, const
 Status AssignIndexed(Variant& holder, std::span<Variant> args, Variant value, bool is_set, const Locale& locale) {
   Variant& target = holder.Deref();
   if (target.is_array()) {
-    ScriptError error;
-    auto indices = Indices(args, locale, &error);
-    if (error.number) return error;
+    Subscripts indices;
+    VBS_TRY(indices.Read(args, locale));
     if (is_set && !value.is_object()) return MakeError(err::kObjectRequired);
     if (!is_set) {
       auto plain = ValueOf(value);
       if (!plain) return std::move(plain).error();
       value = std::move(*plain);
     }
-    return WriteElement(target, indices, std::move(value));
+    return WriteElement(target, indices.span(), std::move(value));
   }
   if (target.is_object()) {
     if (!target.as_object()) return MakeError(err::kObjectNotSet);
+    if (!is_set) {
+      auto plain = ValueOf(value);
+      if (!plain) return std::move(plain).error();
+      value = std::move(*plain);
+    }
     std::vector<Variant> all(args.begin(), args.end());
     all.push_back(std::move(value));
     auto result = target.as_object()->Invoke(kDefaultMember, is_set ? InvokeKind::Set : InvokeKind::Let, all);

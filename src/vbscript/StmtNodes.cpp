@@ -288,6 +288,8 @@ Result<Flow> ForEachNode::Exec(Frame& frame) {
     if (!leave) return std::move(leave).error();
     if (*leave) return report;
   }
+  // A collection walked to its end leaves the loop variable Empty, as Windows does.
+  VBS_TRY(m_element->Assign(frame, Variant(), false));
   return Flow::Normal;
 }
 
