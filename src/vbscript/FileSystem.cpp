@@ -97,19 +97,19 @@ enum class EntryKind { File, Folder };
 
 // What a path names when its last part may hold wildcards: the matching files or folders, sorted.
 // Error `missing` when nothing matches, 76 when the folder itself is missing.
-Result<std::vector<fs::path>> Matching(const fs::path& spec, EntryKind kind, int32_t missing) {
+Result<std::vector<fs::path>> Matching(const fs::path& wanted, EntryKind kind, int32_t missing) {
   std::error_code ec;
-  if (!HasWildcards(spec)) {
-    const fs::file_status status = fs::status(spec, ec);
+  if (!HasWildcards(wanted)) {
+    const fs::file_status status = fs::status(wanted, ec);
     if (!fs::exists(status) || fs::is_directory(status) != (kind == EntryKind::Folder)) {
-      const fs::path parent = spec.parent_path();
+      const fs::path parent = wanted.parent_path();
       return MakeError(parent.empty() || fs::is_directory(parent, ec) ? missing : kPathNotFound);
     }
-    return std::vector<fs::path>{spec};
+    return std::vector<fs::path>{wanted};
   }
-  const fs::path folder = spec.parent_path().empty() ? fs::path(".") : spec.parent_path();
+  const fs::path folder = wanted.parent_path().empty() ? fs::path(".") : wanted.parent_path();
   if (!fs::is_directory(folder, ec)) return MakeError(kPathNotFound);
-  const std::u16string pattern = NameOf(spec);
+  const std::u16string pattern = NameOf(wanted);
   auto entries = ListFolder(folder);
   if (!entries) return std::move(entries).error();
   std::vector<fs::path> found;
@@ -144,10 +144,10 @@ fs::path TempFolder() {
   return ec ? fs::path("/tmp") : temp;
 }
 
-// A drive specification: a letter, "C:" with or without a path, or a rooted path.
-bool NamesDrive(std::u16string_view spec) {
-  if (spec.size() == 1 && IsLetter(spec[0])) return true;
-  return HasDrive(spec) || (!spec.empty() && IsSeparator(spec[0]));
+// A drive designation: a letter, "C:" with or without a path, or a rooted path.
+bool NamesDrive(std::u16string_view wanted) {
+  if (wanted.size() == 1 && IsLetter(wanted[0])) return true;
+  return HasDrive(wanted) || (!wanted.empty() && IsSeparator(wanted[0]));
 }
 
 }  // namespace
@@ -439,48 +439,48 @@ Result<Variant> FileSystemObject::CreateTextFile(CallArgs& args) {
 }
 
 Result<Variant> FileSystemObject::DeleteFile(CallArgs& args) {
-  auto spec = args.String(0);
-  if (!spec) return std::move(spec).error();
+  auto wanted = args.String(0);
+  if (!wanted) return std::move(wanted).error();
   auto force = args.Boolean(1, false);
   if (!force) return std::move(force).error();
-  auto files = Matching(NativePath(*spec), EntryKind::File, kFileNotFound);
+  auto files = Matching(NativePath(*wanted), EntryKind::File, kFileNotFound);
   if (!files) return std::move(files).error();
   for (const fs::path& file : *files) VBS_TRY(DeleteOneFile(file, *force ? Force::Yes : Force::No));
   return Variant();
 }
 
 Result<Variant> FileSystemObject::DeleteFolder(CallArgs& args) {
-  auto spec = args.String(0);
-  if (!spec) return std::move(spec).error();
+  auto wanted = args.String(0);
+  if (!wanted) return std::move(wanted).error();
   auto force = args.Boolean(1, false);
   if (!force) return std::move(force).error();
-  auto folders = Matching(NativePath(*spec), EntryKind::Folder, kPathNotFound);
+  auto folders = Matching(NativePath(*wanted), EntryKind::Folder, kPathNotFound);
   if (!folders) return std::move(folders).error();
   for (const fs::path& folder : *folders) VBS_TRY(DeleteTree(folder, *force ? Force::Yes : Force::No));
   return Variant();
 }
 
 Result<Variant> FileSystemObject::DriveExists(CallArgs& args) {
-  auto spec = args.String(0);
-  if (!spec) return std::move(spec).error();
-  return Variant::Boolean(NamesDrive(*spec));
+  auto wanted = args.String(0);
+  if (!wanted) return std::move(wanted).error();
+  return Variant::Boolean(NamesDrive(*wanted));
 }
 
 Result<Variant> FileSystemObject::Drives(CallArgs&) { return Variant::Object(MakeRef<DriveList>(locale())); }
 
 Result<Variant> FileSystemObject::FileExists(CallArgs& args) {
-  auto spec = args.String(0);
-  if (!spec) return std::move(spec).error();
+  auto wanted = args.String(0);
+  if (!wanted) return std::move(wanted).error();
   std::error_code ec;
-  const fs::file_status status = fs::status(NativePath(*spec), ec);
+  const fs::file_status status = fs::status(NativePath(*wanted), ec);
   return Variant::Boolean(fs::exists(status) && !fs::is_directory(status));
 }
 
 Result<Variant> FileSystemObject::FolderExists(CallArgs& args) {
-  auto spec = args.String(0);
-  if (!spec) return std::move(spec).error();
+  auto wanted = args.String(0);
+  if (!wanted) return std::move(wanted).error();
   std::error_code ec;
-  return Variant::Boolean(fs::is_directory(NativePath(*spec), ec));
+  return Variant::Boolean(fs::is_directory(NativePath(*wanted), ec));
 }
 
 Result<Variant> FileSystemObject::GetAbsolutePathName(CallArgs& args) {
@@ -497,9 +497,9 @@ Result<Variant> FileSystemObject::GetBaseName(CallArgs& args) {
 }
 
 Result<Variant> FileSystemObject::GetDrive(CallArgs& args) {
-  auto spec = args.String(0);
-  if (!spec) return std::move(spec).error();
-  if (!NamesDrive(*spec)) return MakeError(kDeviceUnavailable);
+  auto wanted = args.String(0);
+  if (!wanted) return std::move(wanted).error();
+  if (!NamesDrive(*wanted)) return MakeError(kDeviceUnavailable);
   return Variant::Object(MakeRef<DriveObject>(locale()));
 }
 
