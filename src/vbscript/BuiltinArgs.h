@@ -25,7 +25,9 @@ inline bool IsNull(const Variant& value) { return value.Deref().is_null(); }
 inline Result<VbString> TextArg(Frame& frame, const Variant& value) {
   return value.Deref().to_string(frame.interp.locale());
 }
-inline Result<int32_t> LongArg(Frame& frame, const Variant& value) { return value.Deref().to_long(frame.interp.locale()); }
+inline Result<int32_t> LongArg(Frame& frame, const Variant& value) {
+  return value.Deref().to_long(frame.interp.locale());
+}
 inline Result<double> DoubleArg(Frame& frame, const Variant& value) {
   return value.Deref().to_double(frame.interp.locale());
 }

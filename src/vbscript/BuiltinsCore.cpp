@@ -49,7 +49,15 @@ Result<Variant> IsEmptyFunction(Frame&, Args args) { return Variant::Boolean(arg
 Result<Variant> IsObjectFunction(Frame&, Args args) { return Variant::Boolean(args[0].Deref().is_object()); }
 
 Result<Variant> IsNumericFunction(Frame& frame, Args args) {
-  const Variant& v = args[0].Deref();
+  const Variant& given = args[0].Deref();
+  // An object answers through its default value.
+  Variant value;
+  if (given.is_object()) {
+    auto plain = ValueOf(given);
+    if (!plain) return Variant::Boolean(false);
+    value = std::move(*plain);
+  }
+  const Variant& v = given.is_object() ? value : given;
   if (v.is_number() || v.is_boolean() || v.is_empty()) return Variant::Boolean(true);
   if (v.is_string()) return Variant::Boolean(ParseNumber(v.as_string_view(), LocaleOf(frame)).has_value());
   return Variant::Boolean(false);

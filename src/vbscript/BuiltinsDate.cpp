@@ -139,7 +139,8 @@ DateTimeParts LocalNow() {
   const std::time_t now = std::time(nullptr);
   std::tm local{};
   localtime_r(&now, &local);
-  return DateTimeParts{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
+  return DateTimeParts{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,
+                       local.tm_hour, local.tm_min, local.tm_sec};
 }
 
 double TodaySerial(const DateTimeParts& p) { return *SerialFromDate(p.year, p.month, p.day); }
@@ -457,16 +458,21 @@ const Builtin kDate[] = {
     {"Minute", 1, 1, &PartFunction<&DateTimeParts::minute>, "Minute(date): the minute"},
     {"Second", 1, 1, &PartFunction<&DateTimeParts::second>, "Second(date): the second"},
     {"Weekday", 1, 2, &WeekdayFunction, "Weekday(date [, firstdayofweek]): the day of the week, 1-7"},
-    {"WeekdayName", 1, 3, &WeekdayNameFunction, "WeekdayName(weekday [, abbreviate [, firstdayofweek]]): the day's name"},
+    {"WeekdayName", 1, 3, &WeekdayNameFunction,
+     "WeekdayName(weekday [, abbreviate [, firstdayofweek]]): the day's name"},
     {"MonthName", 1, 2, &MonthNameFunction, "MonthName(month [, abbreviate]): the month's name"},
-    {"DateSerial", 3, 3, &DateSerialFunction, "DateSerial(year, month, day): a date, carrying over out-of-range months and days"},
+    {"DateSerial", 3, 3, &DateSerialFunction,
+     "DateSerial(year, month, day): a date, carrying over out-of-range months and days"},
     {"TimeSerial", 3, 3, &TimeSerialFunction, "TimeSerial(hour, minute, second): a time, carrying over into days"},
     {"DateValue", 1, 1, &DateValueFunction, "DateValue(date): the date without its time"},
     {"TimeValue", 1, 1, &TimeValueFunction, "TimeValue(date): the time without its date"},
     {"DateAdd", 3, 3, &DateAddFunction, "DateAdd(interval, number, date): the date moved by a number of intervals"},
-    {"DateDiff", 3, 5, &DateDiffFunction, "DateDiff(interval, date1, date2 [, firstdayofweek [, firstweekofyear]]): intervals between"},
-    {"DatePart", 2, 4, &DatePartFunction, "DatePart(interval, date [, firstdayofweek [, firstweekofyear]]): one part of a date"},
-    {"FormatDateTime", 1, 2, &FormatDateTimeFunction, "FormatDateTime(date [, format]): the date as the locale writes it"},
+    {"DateDiff", 3, 5, &DateDiffFunction,
+     "DateDiff(interval, date1, date2 [, firstdayofweek [, firstweekofyear]]): intervals between"},
+    {"DatePart", 2, 4, &DatePartFunction,
+     "DatePart(interval, date [, firstdayofweek [, firstweekofyear]]): one part of a date"},
+    {"FormatDateTime", 1, 2, &FormatDateTimeFunction,
+     "FormatDateTime(date [, format]): the date as the locale writes it"},
 };
 
 }  // namespace

@@ -88,7 +88,8 @@ struct NumberStyle {
 // The number's digits with separators, without a sign.
 std::u16string Digits(const Decimal& d, const NumberStyle& style, const Locale& locale) {
   auto digit_at = [&](int i) -> char16_t {
-    return i >= 0 && i < static_cast<int>(d.digits.size()) ? static_cast<char16_t>(d.digits[static_cast<size_t>(i)]) : u'0';
+    if (i < 0 || i >= static_cast<int>(d.digits.size())) return u'0';
+    return static_cast<char16_t>(d.digits[static_cast<size_t>(i)]);
   };
   std::u16string out;
   const int whole_digits = d.digits.empty() ? 0 : d.point;
@@ -172,9 +173,9 @@ Result<Variant> FormatFunction(Frame& frame, Args args) {
 
 const Builtin kFormat[] = {
     {"FormatNumber", 1, 5, &FormatFunction<Kind::Number>,
-     "FormatNumber(number [, digits [, leadingzero [, parentheses [, grouping]]]]): the number as the locale writes it"},
+     "FormatNumber(number [, digits [, leadingzero [, parentheses [, grouping]]]]): as the locale writes it"},
     {"FormatCurrency", 1, 5, &FormatFunction<Kind::Currency>,
-     "FormatCurrency(number [, digits [, leadingzero [, parentheses [, grouping]]]]): an amount with the currency symbol"},
+     "FormatCurrency(number [, digits [, leadingzero [, parentheses [, grouping]]]]): with the currency symbol"},
     {"FormatPercent", 1, 5, &FormatFunction<Kind::Percent>,
      "FormatPercent(number [, digits [, leadingzero [, parentheses [, grouping]]]]): the number times 100 with '%'"},
 };

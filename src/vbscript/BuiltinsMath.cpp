@@ -75,26 +75,10 @@ double SquareRoot(double x) { return std::sqrt(x); }
 
 // ---- Rnd and Randomize ----
 
-// The generator's seed belongs to the engine: it is kept in a global variable whose name no script
-// can spell (no name contains ']'), so every engine starts from Windows' initial seed, and Reset,
-// which clears the globals, starts it again.
-constexpr std::string_view kSeedVariable = "]rnd seed";
-
-Variant& SeedOf(Interpreter& interp) {
-  if (const GlobalEntry* entry = interp.FindGlobal(kSeedVariable)) return *entry->storage;
-  Variant* storage = interp.DeclareGlobal(std::string(kSeedVariable));
-  *storage = Variant::Long(static_cast<int32_t>(RandomGenerator::kInitialSeed));
-  return *storage;
-}
-
-// Runs `step` on the engine's generator and keeps the new seed.
+// Runs `step` on the engine's own generator: every engine has its sequence, restarted by Reset.
 template <typename Step>
 auto WithGenerator(Frame& frame, Step step) {
-  Variant& seed = SeedOf(frame.interp);
-  RandomGenerator generator(static_cast<uint32_t>(seed.as_long()));
-  auto result = step(generator);
-  seed = Variant::Long(static_cast<int32_t>(generator.seed()));
-  return result;
+  return step(frame.interp.random());
 }
 
 // Rnd([number]): the next number in [0, 1); 0 repeats the last one, a negative number reseeds.
@@ -132,7 +116,8 @@ const Builtin kMath[] = {
     {"Sin", 1, 1, &RealFunction<&Sine, Domain::All>, "Sin(radians): the sine"},
     {"Tan", 1, 1, &RealFunction<&Tangent, Domain::All>, "Tan(radians): the tangent"},
     {"Exp", 1, 1, &RealFunction<&Exponential, Domain::All>, "Exp(number): e raised to the number"},
-    {"Log", 1, 1, &RealFunction<&NaturalLog, Domain::Positive>, "Log(number): the natural logarithm of a positive number"},
+    {"Log", 1, 1, &RealFunction<&NaturalLog, Domain::Positive>,
+     "Log(number): the natural logarithm of a positive number"},
     {"Sqr", 1, 1, &RealFunction<&SquareRoot, Domain::NotNegative>, "Sqr(number): the square root"},
     {"Rnd", 0, 1, &RndFunction, "Rnd([number]): a pseudo-random Single in [0, 1), Windows' sequence"},
     {"Randomize", 0, 1, &RandomizeFunction, "Randomize [seed]: seeds Rnd from the number or from Timer"},

@@ -291,6 +291,7 @@ void Interpreter::Clear() {
   m_procedures.clear();
   m_programs.clear();
   m_err = ErrState{};
+  m_random = RandomGenerator();
   ++m_generation;
 }
 

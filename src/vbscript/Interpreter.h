@@ -21,6 +21,7 @@
 #include "Object.h"
 #include "Operators.h"
 #include "Procedure.h"
+#include "Random.h"
 #include "Source.h"
 
 namespace vbs {
@@ -131,6 +132,9 @@ class Interpreter {
   CompiledProgram& Keep(std::unique_ptr<CompiledProgram> program);
   Procedure& Keep(std::unique_ptr<Procedure> procedure);
 
+  // The generator of Rnd and Randomize.
+  RandomGenerator& random() { return m_random; }
+
   ErrState& err() { return m_err; }
   ErrObject& err_object() { return *m_err_object; }
   // Records a caught error in Err, filling in the standard description and source.
@@ -176,6 +180,7 @@ class Interpreter {
 
   ErrState m_err;
   Ref<ErrObject> m_err_object;
+  RandomGenerator m_random;
   std::shared_ptr<struct EngineLink> m_link;
 
   std::atomic<bool> m_abort{false};

@@ -21,7 +21,9 @@ void RandomGenerator::MixHighBits(uint32_t bits) {
   m_seed = (((bits & 0xFFFF) << 8) ^ ((bits >> 8) & 0xFFFF00)) | (m_seed & 0xFF);
 }
 
-void RandomGenerator::Randomize(double number) { MixHighBits(static_cast<uint32_t>(std::bit_cast<uint64_t>(number) >> 32)); }
+void RandomGenerator::Randomize(double number) {
+  MixHighBits(static_cast<uint32_t>(std::bit_cast<uint64_t>(number) >> 32));
+}
 
 void RandomGenerator::RandomizeFromTimer(float timer) { MixHighBits(std::bit_cast<uint32_t>(timer)); }
 
@@ -32,7 +34,8 @@ float SecondsSinceMidnight() {
   localtime_r(&seconds, &local);
   const auto millis =
       std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() % 1000;
-  return static_cast<float>(local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec) + static_cast<float>(millis) / 1000.0f;
+  return static_cast<float>(local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec) +
+         static_cast<float>(millis) / 1000.0f;
 }
 
 }  // namespace vbs
