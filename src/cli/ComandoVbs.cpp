@@ -2,6 +2,7 @@
 #include <fmt/format.h>
 #include <fmt/ostream.h>
 #include <fstream>
+#include <iostream>
 #include <sstream>
 
 #include "Comandi.h"
@@ -12,6 +13,33 @@
 namespace lottolab::cli {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+// Message boxes of a script run from a terminal: the text is printed and the first button taken;
+// an input box reads a line from standard input (end of input cancels it).
+class UiTerminale final : public vbs::UiHandler {
+ public:
+  explicit UiTerminale(std::ostream& out) : m_out(out) {}
+  int MessageBox(std::u16string_view prompt, int buttons, std::u16string_view) override {
+    m_out << vbs::Utf16ToUtf8(prompt) << '\n' << std::flush;
+    constexpr int kPrimoPulsante[] = {1, 1, 3, 6, 6, 4};  // OK, OK, Abort, Yes, Yes, Retry
+    int gruppo = buttons & 0x7;
+    return gruppo < 6 ? kPrimoPulsante[gruppo] : 1;
+  }
+  std::optional<std::u16string> InputBox(std::u16string_view prompt, std::u16string_view,
+                                         std::u16string_view) override {
+    m_out << vbs::Utf16ToUtf8(prompt) << ' ' << std::flush;
+    std::string riga;
+    if (!std::getline(std::cin, riga)) return std::nullopt;
+    return vbs::Utf8ToUtf16(riga);
+  }
+
+ private:
+  std::ostream& m_out;
+};
+
+}  // namespace
 
 int ComandoVbs(Contesto& contesto, const Parole& parole, std::ostream& err) {
   size_t i = 0;
@@ -37,6 +65,8 @@ int ComandoVbs(Contesto& contesto, const Parole& parole, std::ostream& err) {
   contenuto << in.rdbuf();
 
   vbs::ScriptControl motore;
+  UiTerminale ui(contesto.out);
+  motore.SetUiHandler(&ui);
   (void)motore.SetLanguage("VBScript");
   (void)motore.SetLocale(lcid);
   auto wscript = vbs::MakeRef<WScript>(motore.interpreter(), file.filename().string(),

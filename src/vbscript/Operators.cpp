@@ -325,6 +325,10 @@ int CompareNumbers(const Variant& a, const Variant& b) {
     };
     return Order(scaled(a), scaled(b));
   }
+  // A Single against a Double compares in single precision, as Windows does:
+  // CSng(0.001 * 0.001) = 0.000001 holds there.
+  if ((a.is_single() && b.is_double()) || (a.is_double() && b.is_single()))
+    return Order(static_cast<float>(RealOf(a)), static_cast<float>(RealOf(b)));
   return Order(RealOf(a), RealOf(b));
 }
 

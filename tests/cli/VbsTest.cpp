@@ -70,6 +70,9 @@ TEST_F(ComandoVbsTest, ArgomentiUscitaEdErrori) {
   EXPECT_EQ(uscita.codice, 1);
   EXPECT_NE(uscita.err.find(sintassi + "(2, "), std::string::npos) << uscita.err;
 
+  auto messaggio = Script("msg.vbs", "WScript.Echo MsgBox(\"Continuo?\", vbYesNo)\n");
+  EXPECT_EQ(Esegui({messaggio}).out, "Continuo?\n6\n") << "the terminal takes the first button";
+
   EXPECT_EQ(Esegui({"--locale", "fr-FR", errore}).codice, 2);
   EXPECT_EQ(Esegui({(m_cartella / "manca.vbs").string()}).codice, 2);
 }

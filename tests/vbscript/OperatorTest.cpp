@@ -206,7 +206,7 @@ TEST(OperatorTest, ComparisonsByValueStringsAfterNumbers) {
       {Op::Greater, I(0), Bool(true), "Boolean True"},
       {Op::Equal, Bool(true), I(-1), "Boolean True"},
       {Op::Equal, I(1), D(1.0), "Boolean True"},
-      {Op::Equal, S(0.1f), D(0.1), "Boolean False"},
+      {Op::Equal, S(0.1f), D(0.1), "Boolean True"},  // compared in single precision, as Windows does
       {Op::Equal, Cur(0.1), D(0.1), "Boolean True"},
       {Op::Less, Cur(1.5), I(2), "Boolean True"},
       {Op::Equal, Variant::Currency(INT64_MAX), Variant::Currency(INT64_MAX - 1), "Boolean False"},
