@@ -378,7 +378,39 @@ Result<Variant> BuiltinCallNode::Eval(Frame& frame) {
   return m_builtin->function(frame, values.span());
 }
 
+IndexNode::IndexNode(SourcePos pos, ExprNodePtr holder, ExprNodes args)
+    : ExprNode(pos), m_holder(std::move(holder)), m_args(std::move(args)), m_direct_holder(m_holder.get()) {
+  m_all_direct = !m_args.empty() && m_args.size() <= 8;
+  for (const ExprNodePtr& arg : m_args) {
+    m_direct_args.emplace_back(arg.get());
+    m_all_direct = m_all_direct && m_direct_args.back().IsDirect();
+  }
+}
+
+Variant* IndexNode::DirectElement(Frame& frame, bool for_writing) {
+  if (!m_all_direct) return nullptr;
+  Variant* holder = m_direct_holder.Storage(frame);
+  if (!holder || !holder->is_array()) return nullptr;
+  int32_t indices[8];
+  for (size_t i = 0; i < m_direct_args.size(); ++i) {
+    const Variant* index = m_direct_args[i].Get(frame);
+    if (!index) return nullptr;
+    if (index->is_integer())
+      indices[i] = index->as_integer();
+    else if (index->is_long())
+      indices[i] = index->as_long();
+    else
+      return nullptr;
+  }
+  SafeArray* array = holder->as_array();
+  if (for_writing && array->RefCount() > 1) return nullptr;
+  auto offset = array->Offset(std::span<const int32_t>(indices, m_direct_args.size()));
+  if (!offset) return nullptr;
+  return &array->elements()[*offset];
+}
+
 Result<Variant> IndexNode::Eval(Frame& frame) {
+  if (Variant* element = DirectElement(frame, false)) return *element;
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, false));
   auto address = m_holder->Address(frame);
@@ -410,6 +442,12 @@ Result<Variant*> IndexNode::AddressForArgument(Frame& frame, ArgValues& args) {
 }
 
 Status IndexNode::Assign(Frame& frame, Variant value, bool is_set) {
+  if (!is_set && !value.is_object() && !value.IsRef()) {
+    if (Variant* element = DirectElement(frame, true)) {
+      *element = std::move(value);
+      return Ok();
+    }
+  }
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, false));
   auto address = m_holder->Address(frame);

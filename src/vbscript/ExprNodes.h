@@ -184,6 +184,15 @@ class UnaryNode final : public ExprNode {
 class DirectOperand {
  public:
   explicit DirectOperand(ExprNode* node);
+  bool IsDirect() const { return m_kind != Kind::None; }
+  // The storage of a variable operand (null for constants and everything else).
+  Variant* Storage(Frame& frame) const {
+    switch (m_kind) {
+      case Kind::Global: return const_cast<Variant*>(m_pointer);
+      case Kind::Local: return &frame.slots[m_slot].Deref();
+      default: return nullptr;
+    }
+  }
   // The operand's value, or null when it must be evaluated.
   const Variant* Get(Frame& frame) const {
     switch (m_kind) {
@@ -264,15 +273,22 @@ class BuiltinCallNode final : public ExprNode {
 // holder(args): an element of the array a variable holds, or the default member of its object.
 class IndexNode final : public ExprNode {
  public:
-  IndexNode(SourcePos pos, ExprNodePtr holder, ExprNodes args)
-      : ExprNode(pos), m_holder(std::move(holder)), m_args(std::move(args)) {}
+  IndexNode(SourcePos pos, ExprNodePtr holder, ExprNodes args);
   Result<Variant> Eval(Frame& frame) override;
   Result<Variant*> AddressForArgument(Frame& frame, ArgValues& args) override;
   Status Assign(Frame& frame, Variant value, bool is_set) override;
 
  private:
+  // a(i, j) with plain variables or constants as whole-number subscripts on a variable holding an
+  // array: the element's place, found with no call and no allocation; null when the general path
+  // must decide.
+  Variant* DirectElement(Frame& frame, bool for_writing);
+
   ExprNodePtr m_holder;
   ExprNodes m_args;
+  DirectOperand m_direct_holder;
+  std::vector<DirectOperand> m_direct_args;
+  bool m_all_direct = false;
 };
 
 // A late-bound name called with arguments.

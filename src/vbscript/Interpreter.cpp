@@ -232,7 +232,7 @@ Result<Variant> Interpreter::Call(const Procedure& procedure, ClassInstance* me,
     else
       param = arg.Deref();
   }
-  InitialiseArrays(procedure, slots);
+  if (!procedure.fixed_arrays.empty() || !procedure.dynamic_arrays.empty()) InitialiseArrays(procedure, slots);
   Frame frame{*this, slots, &procedure, me, nullptr, false};
   auto flow = procedure.body.Exec(frame);
   Result<Variant> result = flow ? Result<Variant>(std::move(slots[Procedure::kResultSlot]))

@@ -68,6 +68,12 @@ Result<Flow> ExprStmtNode::Exec(Frame& frame) {
 Result<Flow> AssignNode::Exec(Frame& frame) {
   auto value = m_value->Eval(frame);
   if (!value) return std::move(value).error();
+  if (!m_is_set && !value->is_object() && !value->IsRef()) {
+    if (Variant* target = m_direct_target.Storage(frame)) {
+      *target = std::move(*value);
+      return Flow::Normal;
+    }
+  }
   VBS_TRY(m_target->Assign(frame, std::move(*value), m_is_set));
   return Flow::Normal;
 }

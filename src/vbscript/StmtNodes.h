@@ -21,13 +21,16 @@ class ExprStmtNode final : public StmtNode {
 class AssignNode final : public StmtNode {
  public:
   AssignNode(SourcePos pos, ExprNodePtr target, ExprNodePtr value, bool is_set)
-      : StmtNode(pos), m_target(std::move(target)), m_value(std::move(value)), m_is_set(is_set) {}
+      : StmtNode(pos), m_target(std::move(target)), m_value(std::move(value)), m_is_set(is_set),
+        m_direct_target(m_target.get()) {}
   Result<Flow> Exec(Frame& frame) override;
 
  private:
   ExprNodePtr m_target;
   ExprNodePtr m_value;
   bool m_is_set;
+  // A plain local or global target takes a plain value with no call.
+  DirectOperand m_direct_target;
 };
 
 // `s = s & x` on a variable: appends in place, so that building a string in a loop stays linear.
