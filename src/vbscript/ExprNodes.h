@@ -31,7 +31,7 @@ class ArgValues {
 
  private:
   // Most calls have few arguments: they stay on the C++ stack, with no allocation.
-  static constexpr size_t kInline = 6;
+  static constexpr size_t kInline = 4;
   Variant m_inline[kInline];
   std::vector<Variant> m_more;
   size_t m_count = 0;
