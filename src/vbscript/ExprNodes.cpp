@@ -84,6 +84,18 @@ Status StoreInto(Variant& target, Variant value, bool is_set) {
   return Ok();
 }
 
+// The value a property assignment hands over: for Let the plain value, for Set an object.
+Result<Variant> AssignedValue(Variant value, bool is_set) {
+  if (!is_set) return LetValue(std::move(value));
+  if (!value.Deref().is_object()) return MakeError(err::kObjectRequired);
+  return value;
+}
+
+Status Discard(Result<Variant> result) {
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
 Result<Object*> RequireObject(const Variant& value) {
   const Variant& v = value.Deref();
   if (!v.is_object()) return MakeError(err::kObjectRequired);
@@ -495,23 +507,12 @@ Result<Variant> MemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) 
 Result<Variant> MemberNode::Eval(Frame& frame) { return Call(frame, InvokeKind::Get, nullptr); }
 
 Status MemberNode::Assign(Frame& frame, Variant value, bool is_set) {
-  if (!is_set) {
-    auto plain = LetValue(std::move(value));
-    if (!plain) return std::move(plain).error();
-    value = std::move(*plain);
-  } else if (!value.Deref().is_object()) {
-    return MakeError(err::kObjectRequired);
-  }
-  auto result = Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &value);
-  if (!result) return std::move(result).error();
-  return Ok();
+  auto assigned = AssignedValue(std::move(value), is_set);
+  if (!assigned) return std::move(assigned).error();
+  return Discard(Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &*assigned));
 }
 
-Status MemberNode::Invoke(Frame& frame) {
-  auto result = Call(frame, InvokeKind::Method, nullptr);
-  if (!result) return std::move(result).error();
-  return Ok();
-}
+Status MemberNode::Invoke(Frame& frame) { return Discard(Call(frame, InvokeKind::Method, nullptr)); }
 
 Result<Variant> MeMemberNode::Eval(Frame& frame) {
   ArgValues values;
@@ -520,17 +521,12 @@ Result<Variant> MeMemberNode::Eval(Frame& frame) {
 }
 
 Status MeMemberNode::Assign(Frame& frame, Variant value, bool is_set) {
-  if (!is_set) {
-    auto plain = LetValue(std::move(value));
-    if (!plain) return std::move(plain).error();
-    value = std::move(*plain);
-  }
+  auto assigned = AssignedValue(std::move(value), is_set);
+  if (!assigned) return std::move(assigned).error();
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, true));
-  values.Add(std::move(value));
-  auto result = frame.me->InvokeMember(m_member, is_set ? InvokeKind::Set : InvokeKind::Let, values.span());
-  if (!result) return std::move(result).error();
-  return Ok();
+  values.Add(std::move(*assigned));
+  return Discard(frame.me->InvokeMember(m_member, is_set ? InvokeKind::Set : InvokeKind::Let, values.span()));
 }
 
 Status MeMemberNode::Invoke(Frame& frame) {
@@ -551,21 +547,12 @@ Result<Variant> HostMemberNode::Call(Frame& frame, InvokeKind kind, Variant* val
 Result<Variant> HostMemberNode::Eval(Frame& frame) { return Call(frame, InvokeKind::Get, nullptr); }
 
 Status HostMemberNode::Assign(Frame& frame, Variant value, bool is_set) {
-  if (!is_set) {
-    auto plain = LetValue(std::move(value));
-    if (!plain) return std::move(plain).error();
-    value = std::move(*plain);
-  }
-  auto result = Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &value);
-  if (!result) return std::move(result).error();
-  return Ok();
+  auto assigned = AssignedValue(std::move(value), is_set);
+  if (!assigned) return std::move(assigned).error();
+  return Discard(Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &*assigned));
 }
 
-Status HostMemberNode::Invoke(Frame& frame) {
-  auto result = Call(frame, InvokeKind::Method, nullptr);
-  if (!result) return std::move(result).error();
-  return Ok();
-}
+Status HostMemberNode::Invoke(Frame& frame) { return Discard(Call(frame, InvokeKind::Method, nullptr)); }
 
 Result<Variant> ValueIndexNode::Eval(Frame& frame) {
   auto callee = m_callee->Eval(frame);
