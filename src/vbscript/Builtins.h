@@ -24,6 +24,8 @@ struct Builtin {
   std::string_view description;
   // Functions that see the caller's variables (Eval, Execute) get references to them.
   bool wants_references = false;
+  // Statements in function form (Randomize): used for a value they are a type mismatch.
+  bool gives_no_value = false;
 };
 
 // Every built-in, for lookup by folded name.

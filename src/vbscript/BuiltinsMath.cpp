@@ -120,7 +120,7 @@ const Builtin kMath[] = {
      "Log(number): the natural logarithm of a positive number"},
     {"Sqr", 1, 1, &RealFunction<&SquareRoot, Domain::NotNegative>, "Sqr(number): the square root"},
     {"Rnd", 0, 1, &RndFunction, "Rnd([number]): a pseudo-random Single in [0, 1), Windows' sequence"},
-    {"Randomize", 0, 1, &RandomizeFunction, "Randomize [seed]: seeds Rnd from the number or from Timer"},
+    {"Randomize", 0, 1, &RandomizeFunction, "Randomize [seed]: seeds Rnd from the number or from Timer", false, true},
 };
 
 }  // namespace

@@ -384,6 +384,13 @@ Result<Variant> ProcedureCallNode::Eval(Frame& frame) {
 }
 
 Result<Variant> BuiltinCallNode::Eval(Frame& frame) {
+  if (m_builtin->gives_no_value) return MakeError(err::kTypeMismatch);
+  return Call(frame);
+}
+
+Status BuiltinCallNode::Invoke(Frame& frame) { return Discard(Call(frame)); }
+
+Result<Variant> BuiltinCallNode::Call(Frame& frame) {
   if (m_args.size() < m_builtin->min_args || m_args.size() > m_builtin->max_args) return MakeError(err::kWrongArgs);
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, m_builtin->wants_references));

@@ -264,8 +264,11 @@ class BuiltinCallNode final : public ExprNode {
   BuiltinCallNode(SourcePos pos, const Builtin* builtin, ExprNodes args)
       : ExprNode(pos), m_builtin(builtin), m_args(std::move(args)) {}
   Result<Variant> Eval(Frame& frame) override;
+  Status Invoke(Frame& frame) override;
 
  private:
+  Result<Variant> Call(Frame& frame);
+
   const Builtin* m_builtin;
   ExprNodes m_args;
 };
