@@ -29,11 +29,7 @@ void ArgValues::Lock(Ref<SafeArray> array) {
   m_locked.push_back(std::move(array));
 }
 
-void ArgValues::Add(Variant value) {
-  if (m_count < kInline) {
-    m_inline[m_count++] = std::move(value);
-    return;
-  }
+void ArgValues::Spill(Variant value) {
   if (m_count == kInline) {
     m_more.reserve(kInline * 2);
     for (Variant& v : m_inline) m_more.push_back(std::move(v));
@@ -42,7 +38,7 @@ void ArgValues::Add(Variant value) {
   ++m_count;
 }
 
-Status EvalArgs(Frame& frame, const ExprNodes& args, ArgValues& out, bool by_reference) {
+Status EvalArgs(Frame& frame, std::span<const ExprNodePtr> args, ArgValues& out, bool by_reference) {
   for (const ExprNodePtr& arg : args) {
     if (!arg) {
       out.Add(Variant::Error(err::kParamNotFound));
@@ -377,9 +373,22 @@ Result<Variant> IsNode::Eval(Frame& frame) {
 
 // ---- Calls ----
 
+ProcedureCallNode::ProcedureCallNode(SourcePos pos, const Procedure* procedure, ExprNodes args)
+    : ExprNode(pos), m_procedure(procedure), m_args(std::move(args)) {
+  for (const ExprNodePtr& arg : m_args) m_direct.emplace_back(arg.get());
+}
+
 Result<Variant> ProcedureCallNode::Eval(Frame& frame) {
   ArgValues values;
-  VBS_TRY(EvalArgs(frame, m_args, values, true));
+  for (size_t i = 0; i < m_args.size(); ++i) {
+    if (Variant* storage = m_direct[i].Storage(frame)) {
+      values.Add(Variant::Reference(storage));
+    } else if (const Variant* constant = m_direct[i].Get(frame)) {
+      values.Add(*constant);
+    } else {
+      VBS_TRY(EvalArgs(frame, std::span<const ExprNodePtr>(&m_args[i], 1), values, true));
+    }
+  }
   return frame.interp.Call(*m_procedure, nullptr, values.span());
 }
 

@@ -26,10 +26,18 @@ class ArgValues {
 
   ~ArgValues();
   std::span<Variant> span() { return m_count <= kInline ? std::span<Variant>(m_inline, m_count) : std::span<Variant>(m_more); }
-  void Add(Variant value);
+  void Add(Variant value) {
+    if (m_count < kInline) {
+      m_inline[m_count++] = std::move(value);
+      return;
+    }
+    Spill(std::move(value));
+  }
   void Lock(Ref<SafeArray> array);
 
  private:
+  void Spill(Variant value);
+
   // Most calls have few arguments: they stay on the C++ stack, with no allocation.
   static constexpr size_t kInline = 4;
   Variant m_inline[kInline];
@@ -39,7 +47,7 @@ class ArgValues {
 };
 
 // by_reference: whether arguments that name variables are passed as references.
-Status EvalArgs(Frame& frame, const ExprNodes& args, ArgValues& out, bool by_reference);
+Status EvalArgs(Frame& frame, std::span<const ExprNodePtr> args, ArgValues& out, bool by_reference);
 
 // The value for a Let assignment: an object gives its default value.
 Result<Variant> LetValue(Variant value);
@@ -250,13 +258,14 @@ class ParenNode final : public ExprNode {
 // A call of a script procedure known when the code was compiled.
 class ProcedureCallNode final : public ExprNode {
  public:
-  ProcedureCallNode(SourcePos pos, const Procedure* procedure, ExprNodes args)
-      : ExprNode(pos), m_procedure(procedure), m_args(std::move(args)) {}
+  ProcedureCallNode(SourcePos pos, const Procedure* procedure, ExprNodes args);
   Result<Variant> Eval(Frame& frame) override;
 
  private:
   const Procedure* m_procedure;
   ExprNodes m_args;
+  // Arguments that are plain variables or constants are passed with no call.
+  std::vector<DirectOperand> m_direct;
 };
 
 class BuiltinCallNode final : public ExprNode {

@@ -23,7 +23,7 @@ struct Procedure {
   bool is_public = true;
   SourcePos pos;
   uint32_t param_count = 0;
-  std::vector<bool> param_by_val;
+  std::vector<uint8_t> param_by_val;  // one byte each: read on every call
   uint32_t slot_count = 1;
   // Folded names of the named slots (return value, parameters, locals), for code that Execute and
   // Eval compile inside the procedure.
