@@ -69,9 +69,7 @@ class ProcedureRef final : public Object {
 Result<Variant> GetRefFunction(Frame& frame, Args args) {
   auto name = args[0].Deref().to_string(frame.interp.locale());
   if (!name) return std::move(name).error();
-  std::string folded;
-  for (char16_t c : name->view()) folded += static_cast<char>(c < 128 ? c : '?');
-  const GlobalEntry* entry = frame.interp.FindGlobal(Interpreter::Fold(folded));
+  const GlobalEntry* entry = frame.interp.FindGlobal(Interpreter::Fold(name->view()));
   if (!entry || entry->kind != GlobalEntry::Kind::Procedure) return MakeError(err::kInvalidCall);
   return Variant::Object(MakeRef<ProcedureRef>(frame.interp, *entry->procedure));
 }

@@ -75,12 +75,6 @@ double SquareRoot(double x) { return std::sqrt(x); }
 
 // ---- Rnd and Randomize ----
 
-// Runs `step` on the engine's own generator: every engine has its sequence, restarted by Reset.
-template <typename Step>
-auto WithGenerator(Frame& frame, Step step) {
-  return step(frame.interp.random());
-}
-
 // Rnd([number]): the next number in [0, 1); 0 repeats the last one, a negative number reseeds.
 Result<Variant> RndFunction(Frame& frame, Args args) {
   float number = 1;
@@ -89,7 +83,8 @@ Result<Variant> RndFunction(Frame& frame, Args args) {
     if (!n) return std::move(n).error();
     number = *n;
   }
-  return Variant::Single(WithGenerator(frame, [&](RandomGenerator& g) { return g.Rnd(number); }));
+  // Each engine has its own sequence, restarted by Reset.
+  return Variant::Single(frame.interp.random().Rnd(number));
 }
 
 // Randomize [number]: mixes the number, or the time of day, into the seed.
@@ -97,15 +92,11 @@ Result<Variant> RandomizeFunction(Frame& frame, Args args) {
   if (IsGiven(args, 0)) {
     auto n = DoubleArg(frame, args[0]);
     if (!n) return std::move(n).error();
-    return WithGenerator(frame, [&](RandomGenerator& g) {
-      g.Randomize(*n);
-      return Variant();
-    });
-  }
-  return WithGenerator(frame, [](RandomGenerator& g) {
-    g.RandomizeFromTimer(SecondsSinceMidnight());
+    frame.interp.random().Randomize(*n);
     return Variant();
-  });
+  }
+  frame.interp.random().RandomizeFromTimer(SecondsSinceMidnight());
+  return Variant();
 }
 
 const Builtin kMath[] = {

@@ -449,6 +449,15 @@ Result<Variant> StrReverseFunction(Frame& frame, Args args) {
   return Variant::String(out);
 }
 
+// An optional count argument (Replace, Split): -1, also when missing, means all; below -1 is error 5.
+Result<int32_t> CountArg(Frame& frame, Args args, size_t index) {
+  if (!IsGiven(args, index)) return -1;
+  auto n = LongArg(frame, args[index]);
+  if (!n) return std::move(n).error();
+  if (*n < -1) return MakeError(err::kInvalidCall);
+  return *n;
+}
+
 // Replace(expression, find, replacement [, start [, count [, compare]]]): the result begins at
 // `start`, the text before it dropped. Unlike most string functions, a Null string is error 94.
 Result<Variant> ReplaceFunction(Frame& frame, Args args) {
@@ -465,13 +474,8 @@ Result<Variant> ReplaceFunction(Frame& frame, Args args) {
     if (*n < 1) return MakeError(err::kInvalidCall);
     start = *n;
   }
-  int32_t count = -1;
-  if (IsGiven(args, 4)) {
-    auto n = LongArg(frame, args[4]);
-    if (!n) return std::move(n).error();
-    if (*n < -1) return MakeError(err::kInvalidCall);
-    count = *n;
-  }
+  auto count = CountArg(frame, args, 4);
+  if (!count) return std::move(count).error();
   auto mode = CompareArg(frame, args, 5);
   if (!mode) return std::move(mode).error();
 
@@ -479,11 +483,11 @@ Result<Variant> ReplaceFunction(Frame& frame, Args args) {
   const std::u16string_view text = static_cast<size_t>(start) > whole.size() ? u"" : whole.substr(start - 1);
   const std::u16string_view find = parts[1]->view();
   const std::u16string_view replacement = parts[2]->view();
-  if (find.empty() || count == 0) return Text(text);
+  if (find.empty() || *count == 0) return Text(text);
   const Search search(text, find, *mode);
   std::u16string out;
   size_t at = 0;
-  for (int32_t done = 0; count == -1 || done < count; ++done) {
+  for (int32_t done = 0; *count == -1 || done < *count; ++done) {
     const size_t found = search.Next(at);
     if (found == std::u16string_view::npos) break;
     out.append(text.substr(at, found - at)).append(replacement);
@@ -506,22 +510,17 @@ Result<Variant> SplitFunction(Frame& frame, Args args) {
     if (!d) return std::move(d).error();
     delimiter = std::move(*d);
   }
-  int32_t count = -1;
-  if (IsGiven(args, 2)) {
-    auto n = LongArg(frame, args[2]);
-    if (!n) return std::move(n).error();
-    if (*n < -1) return MakeError(err::kInvalidCall);
-    count = *n;
-  }
+  auto count = CountArg(frame, args, 2);
+  if (!count) return std::move(count).error();
   auto mode = CompareArg(frame, args, 3);
   if (!mode) return std::move(mode).error();
 
   std::vector<std::u16string_view> parts;
   const std::u16string_view view = text->view();
-  if (!view.empty() && count != 0) {
+  if (!view.empty() && *count != 0) {
     const Search search(view, delimiter.view(), *mode);
     size_t at = 0;
-    while (delimiter.size() != 0 && (count == -1 || static_cast<int32_t>(parts.size()) < count - 1)) {
+    while (delimiter.size() != 0 && (*count == -1 || static_cast<int32_t>(parts.size()) < *count - 1)) {
       const size_t found = search.Next(at);
       if (found == std::u16string_view::npos) break;
       parts.push_back(view.substr(at, found - at));

@@ -6,6 +6,7 @@
 #include "ErrObject.h"
 #include "SafeArray.h"
 #include "ScriptClass.h"
+#include "Utf.h"
 
 namespace vbs {
 
@@ -40,9 +41,7 @@ void Interpreter::RegisterObjectClass(std::string_view name, ObjectFactory facto
 }
 
 Result<Ref<Object>> Interpreter::CreateObject(std::u16string_view name) {
-  std::string folded;
-  for (char16_t c : name) folded += c < 128 ? static_cast<char>(c) : '?';
-  auto it = m_object_classes.find(Fold(folded));
+  auto it = m_object_classes.find(Fold(name));
   if (it != m_object_classes.end()) return it->second(*this);
   ScriptError error = MakeError(err::kCannotCreate);
   error.description = std::u16string(ErrorText(err::kCannotCreate, m_locale->language)) + u": '" + std::u16string(name) + u"'";
@@ -61,6 +60,8 @@ std::string Interpreter::Fold(std::string_view name) {
   }
   return folded;
 }
+
+std::string Interpreter::Fold(std::u16string_view name) { return Fold(Utf16ToUtf8(name)); }
 
 const GlobalEntry* Interpreter::FindGlobal(std::string_view folded) const {
   auto it = m_globals.find(std::string(folded));

@@ -100,6 +100,8 @@ class Interpreter {
   // ---- Global names ----
   // Folds a name for lookup: the language ignores case.
   static std::string Fold(std::string_view name);
+  // The same for a name that a script handed over as a string (CreateObject, GetRef).
+  static std::string Fold(std::u16string_view name);
   const GlobalEntry* FindGlobal(std::string_view folded) const;
   // FindGlobal, then the members of the objects added with their members as global names; a member
   // found there is remembered as a global name.
