@@ -240,7 +240,7 @@ Result<ExprNodePtr> Compiler::CompileExpr(ast::Expr& expression, Scope& scope) {
       if (!right) return right;
       if (binary.op == ast::BinaryOp::Is)
         return ExprNodePtr(std::make_unique<IsNode>(expression.pos, std::move(*left), std::move(*right)));
-      return ExprNodePtr(std::make_unique<BinaryNode>(expression.pos, ToOperator(binary.op), std::move(*left), std::move(*right)));
+      return MakeBinaryNode(expression.pos, ToOperator(binary.op), std::move(*left), std::move(*right));
     }
 
     case ast::ExprKind::Paren: {

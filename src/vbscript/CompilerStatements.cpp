@@ -1,5 +1,7 @@
 #include "Compiler.h"
 
+#include <optional>
+
 namespace vbs {
 
 namespace {
@@ -7,6 +9,15 @@ namespace {
 bool IsName(const ast::Expr* expr, const std::string& folded) {
   return expr && expr->kind == ast::ExprKind::Name &&
          Interpreter::Fold(static_cast<const ast::NameExpr*>(expr)->name) == folded;
+}
+
+std::optional<BinaryOperator> UpdateOperator(ast::BinaryOp op) {
+  switch (op) {
+    case ast::BinaryOp::Add: return BinaryOperator::Add;
+    case ast::BinaryOp::Subtract: return BinaryOperator::Subtract;
+    case ast::BinaryOp::Multiply: return BinaryOperator::Multiply;
+    default: return std::nullopt;
+  }
 }
 
 }  // namespace
@@ -38,6 +49,16 @@ Result<StmtNodePtr> Compiler::CompileAssign(ast::AssignStmt& statement, Scope& s
         target->release();
         return StmtNodePtr(std::make_unique<AppendNode>(statement.pos, std::unique_ptr<VariableNode>(variable),
                                                         std::move(*value)));
+      }
+    }
+    // `n = n + 1` and its kin on a plain variable update it in place.
+    if (auto op = UpdateOperator(binary.op); op && IsName(binary.left.get(), folded)) {
+      auto target = CompileName(static_cast<ast::NameExpr&>(*statement.target).name, statement.target->pos, nullptr, scope);
+      if (!target) return std::move(target).error();
+      if (DirectOperand(target->get()).IsVariable()) {
+        auto value = CompileExpr(*binary.right, scope);
+        if (!value) return std::move(value).error();
+        return MakeUpdateNode(statement.pos, *op, std::move(*target), std::move(*value));
       }
     }
   }

@@ -1,6 +1,7 @@
 #include "ExprNodes.h"
 
 #include "Coercion.h"
+#include "FastArithmetic.h"
 #include "SafeArray.h"
 #include "ScriptClass.h"
 
@@ -263,61 +264,6 @@ Result<Variant> UnaryNode::Eval(Frame& frame) {
   return operand;
 }
 
-namespace {
-
-// The common cases of loops and counters, on whole numbers that need no promotion.
-bool FastIntegerOp(BinaryOperator op, int32_t a, int32_t b, bool both_integer, Variant& out) {
-  int64_t r;
-  switch (op) {
-    case BinaryOperator::Add: r = int64_t{a} + b; break;
-    case BinaryOperator::Subtract: r = int64_t{a} - b; break;
-    case BinaryOperator::Multiply: r = int64_t{a} * b; break;
-    case BinaryOperator::Equal: out = Variant::Boolean(a == b); return true;
-    case BinaryOperator::NotEqual: out = Variant::Boolean(a != b); return true;
-    case BinaryOperator::Less: out = Variant::Boolean(a < b); return true;
-    case BinaryOperator::LessEqual: out = Variant::Boolean(a <= b); return true;
-    case BinaryOperator::Greater: out = Variant::Boolean(a > b); return true;
-    case BinaryOperator::GreaterEqual: out = Variant::Boolean(a >= b); return true;
-    default: return false;
-  }
-  if (both_integer && r >= INT16_MIN && r <= INT16_MAX) {
-    out = Variant::Integer(static_cast<int16_t>(r));
-    return true;
-  }
-  if (r >= INT32_MIN && r <= INT32_MAX) {
-    out = Variant::Long(static_cast<int32_t>(r));
-    return true;
-  }
-  return false;
-}
-
-bool FastDoubleOp(BinaryOperator op, double a, double b, Variant& out) {
-  switch (op) {
-    case BinaryOperator::Add: out = Variant::Double(a + b); return true;
-    case BinaryOperator::Subtract: out = Variant::Double(a - b); return true;
-    case BinaryOperator::Multiply: out = Variant::Double(a * b); return true;
-    case BinaryOperator::Equal: out = Variant::Boolean(a == b); return true;
-    case BinaryOperator::NotEqual: out = Variant::Boolean(a != b); return true;
-    case BinaryOperator::Less: out = Variant::Boolean(a < b); return true;
-    case BinaryOperator::LessEqual: out = Variant::Boolean(a <= b); return true;
-    case BinaryOperator::Greater: out = Variant::Boolean(a > b); return true;
-    case BinaryOperator::GreaterEqual: out = Variant::Boolean(a >= b); return true;
-    default: return false;
-  }
-}
-
-// Integer, Long or Double: the operands that the fast paths take as they are.
-bool PlainNumber(const Variant& v, double& out) {
-  switch (v.subtype()) {
-    case Subtype::Integer: out = v.as_integer(); return true;
-    case Subtype::Long: out = v.as_long(); return true;
-    case Subtype::Double: out = v.as_double(); return true;
-    default: return false;
-  }
-}
-
-}  // namespace
-
 DirectOperand::DirectOperand(ExprNode* node) {
   if (auto* constant = dynamic_cast<ConstantNode*>(node)) {
     m_kind = Kind::Constant;
@@ -332,33 +278,59 @@ DirectOperand::DirectOperand(ExprNode* node) {
 }
 
 Result<Variant> BinaryNode::Eval(Frame& frame) {
-  Variant left_value, right_value;
-  const Variant* left = m_left_direct.Get(frame);
-  if (!left) {
-    auto evaluated = m_left->Eval(frame);
-    if (!evaluated) return evaluated;
-    left_value = std::move(*evaluated);
-    left = &left_value;
+  auto left = m_left->Eval(frame);
+  if (!left) return left;
+  auto right = m_right->Eval(frame);
+  if (!right) return right;
+  return ApplyBinary(m_op, *left, *right, frame.interp.compare_mode(), frame.interp.locale());
+}
+
+template <BinaryOperator Op>
+Result<Variant> ArithmeticNode<Op>::Eval(Frame& frame) {
+  const Variant* a = m_left_direct.Get(frame);
+  const Variant* b = m_right_direct.Get(frame);
+  if (a && b) {
+    Variant out;
+    if (TryFastApply<Op>(*a, *b, out)) [[likely]]
+      return out;
   }
-  const Variant* right = m_right_direct.Get(frame);
-  if (!right) {
-    auto evaluated = m_right->Eval(frame);
-    if (!evaluated) return evaluated;
-    right_value = std::move(*evaluated);
-    right = &right_value;
+  return EvalOperands(frame);
+}
+
+template <BinaryOperator Op>
+Result<Variant> ArithmeticNode<Op>::EvalOperands(Frame& frame) {
+  if (const Variant* a = m_left_direct.Get(frame)) {
+    if (const Variant* b = m_right_direct.Get(frame)) return FastApply<Op>(*a, *b, frame);
+    // Taken now: evaluating the right side may change the variable.
+    const Variant left = *a;
+    auto right = m_right->Eval(frame);
+    if (!right) return right;
+    return FastApply<Op>(left, *right, frame);
   }
-  const Variant& a = *left;
-  const Variant& b = *right;
-  Variant fast;
-  if ((a.is_integer() || a.is_long()) && (b.is_integer() || b.is_long())) {
-    int32_t x = a.is_integer() ? a.as_integer() : a.as_long();
-    int32_t y = b.is_integer() ? b.as_integer() : b.as_long();
-    if (FastIntegerOp(m_op, x, y, a.is_integer() && b.is_integer(), fast)) return fast;
-  } else {
-    double x, y;
-    if (PlainNumber(a, x) && PlainNumber(b, y) && FastDoubleOp(m_op, x, y, fast)) return fast;
+  auto left = m_left->Eval(frame);
+  if (!left) return left;
+  if (const Variant* b = m_right_direct.Get(frame)) return FastApply<Op>(*left, *b, frame);
+  auto right = m_right->Eval(frame);
+  if (!right) return right;
+  return FastApply<Op>(*left, *right, frame);
+}
+
+ExprNodePtr MakeBinaryNode(SourcePos pos, BinaryOperator op, ExprNodePtr left, ExprNodePtr right) {
+  auto make = [&]<BinaryOperator Op>() -> ExprNodePtr {
+    return std::make_unique<ArithmeticNode<Op>>(pos, std::move(left), std::move(right));
+  };
+  switch (op) {
+    case BinaryOperator::Add: return make.template operator()<BinaryOperator::Add>();
+    case BinaryOperator::Subtract: return make.template operator()<BinaryOperator::Subtract>();
+    case BinaryOperator::Multiply: return make.template operator()<BinaryOperator::Multiply>();
+    case BinaryOperator::Equal: return make.template operator()<BinaryOperator::Equal>();
+    case BinaryOperator::NotEqual: return make.template operator()<BinaryOperator::NotEqual>();
+    case BinaryOperator::Less: return make.template operator()<BinaryOperator::Less>();
+    case BinaryOperator::LessEqual: return make.template operator()<BinaryOperator::LessEqual>();
+    case BinaryOperator::Greater: return make.template operator()<BinaryOperator::Greater>();
+    case BinaryOperator::GreaterEqual: return make.template operator()<BinaryOperator::GreaterEqual>();
+    default: return std::make_unique<BinaryNode>(pos, op, std::move(left), std::move(right));
   }
-  return ApplyBinary(m_op, a, b, frame.interp.compare_mode(), frame.interp.locale());
 }
 
 Result<Variant> IsNode::Eval(Frame& frame) {

@@ -193,6 +193,7 @@ class DirectOperand {
  public:
   explicit DirectOperand(ExprNode* node);
   bool IsDirect() const { return m_kind != Kind::None; }
+  bool IsVariable() const { return m_kind == Kind::Local || m_kind == Kind::Global; }
   // The storage of a variable operand (null for constants and everything else).
   Variant* Storage(Frame& frame) const {
     switch (m_kind) {
@@ -219,20 +220,41 @@ class DirectOperand {
   const Variant* m_pointer = nullptr;
 };
 
+// The operators without a fast path of their own: division, powers, Mod, concatenation, logic.
 class BinaryNode final : public ExprNode {
  public:
   BinaryNode(SourcePos pos, BinaryOperator op, ExprNodePtr left, ExprNodePtr right)
-      : ExprNode(pos), m_op(op), m_left(std::move(left)), m_right(std::move(right)),
-        m_left_direct(m_left.get()), m_right_direct(m_right.get()) {}
+      : ExprNode(pos), m_op(op), m_left(std::move(left)), m_right(std::move(right)) {}
   Result<Variant> Eval(Frame& frame) override;
 
  private:
   BinaryOperator m_op;
   ExprNodePtr m_left;
   ExprNodePtr m_right;
+};
+
+// +, -, * and the comparisons, the operators of loops and counters. The operator is part of the
+// node's type, so that whole numbers and Doubles are computed inline; everything else goes through
+// the general rules.
+template <BinaryOperator Op>
+class ArithmeticNode final : public ExprNode {
+ public:
+  ArithmeticNode(SourcePos pos, ExprNodePtr left, ExprNodePtr right)
+      : ExprNode(pos), m_left(std::move(left)), m_right(std::move(right)), m_left_direct(m_left.get()),
+        m_right_direct(m_right.get()) {}
+  Result<Variant> Eval(Frame& frame) override;
+
+ private:
+  // Operands that must be evaluated, or values the inline arithmetic leaves to the general rules.
+  [[gnu::noinline]] Result<Variant> EvalOperands(Frame& frame);
+
+  ExprNodePtr m_left;
+  ExprNodePtr m_right;
   DirectOperand m_left_direct;
   DirectOperand m_right_direct;
 };
+
+ExprNodePtr MakeBinaryNode(SourcePos pos, BinaryOperator op, ExprNodePtr left, ExprNodePtr right);
 
 class IsNode final : public ExprNode {
  public:

@@ -155,7 +155,7 @@ void Interpreter::SetErr(const ScriptError& error) {
 
 bool Interpreter::DeadlinePassed() const { return std::chrono::steady_clock::now() >= *m_deadline; }
 
-Status Interpreter::InterruptError() {
+ScriptError Interpreter::InterruptError() const {
   ScriptError error = MakeError(err::kAborted);
   bool italian = m_locale->language == Language::Italian;
   error.description = m_abort.load(std::memory_order_relaxed)

@@ -147,9 +147,14 @@ class Interpreter {
   void RequestAbort() { m_abort.store(true, std::memory_order_relaxed); }
   void ClearAbort() { m_abort.store(false, std::memory_order_relaxed); }
   void SetDeadline(std::optional<std::chrono::steady_clock::time_point> deadline) { m_deadline = deadline; }
-  // Error when an abort was requested or the time-out passed; checked at every statement.
+  // True when an abort was requested or the time-out passed; looked at before every statement.
+  [[gnu::always_inline]] bool InterruptDue() {
+    return m_abort.load(std::memory_order_relaxed) || (m_deadline && ++m_ticks % 1024 == 0 && DeadlinePassed());
+  }
+  // The error that ends the script once InterruptDue has said so.
+  ScriptError InterruptError() const;
   Status CheckInterrupt() {
-    if (m_abort.load(std::memory_order_relaxed) || (m_deadline && ++m_ticks % 1024 == 0 && DeadlinePassed()))
+    if (InterruptDue()) [[unlikely]]
       return InterruptError();
     return Ok();
   }
@@ -163,7 +168,6 @@ class Interpreter {
 
  private:
   bool DeadlinePassed() const;
-  Status InterruptError();
   Status EnterCall();
 
   SourceTable m_sources;
@@ -224,5 +228,7 @@ inline constexpr int32_t kNotAClass = 506;
 inline constexpr int32_t kAborted = -2147467260;  // E_ABORT, as a stopped script reports
 inline constexpr int32_t kParamNotFound = -2147352572;  // DISP_E_PARAMNOTFOUND: an omitted argument
 }  // namespace err
+
+inline bool BlockNode::InterruptDue(Frame& frame) { return frame.interp.InterruptDue(); }
 
 }  // namespace vbs

@@ -81,7 +81,28 @@ using StmtNodePtr = std::unique_ptr<StmtNode>;
 class BlockNode {
  public:
   std::vector<StmtNodePtr> statements;
-  Result<Flow> Exec(Frame& frame) const;
+
+  // Inline: the body of every loop runs through here at each iteration.
+  [[gnu::always_inline]] Result<Flow> Exec(Frame& frame) const {
+    for (const StmtNodePtr& statement : statements) {
+      if (InterruptDue(frame)) [[unlikely]]
+        return Interrupted(frame, *statement);
+      auto flow = statement->Exec(frame);
+      if (!flow) [[unlikely]] {
+        if (Absorbed(frame, *statement, flow.error())) continue;
+        return flow;
+      }
+      if (*flow != Flow::Normal) return flow;
+    }
+    return Flow::Normal;
+  }
+
+ private:
+  static inline bool InterruptDue(Frame& frame);  // defined with the interpreter
+  // The error paths, out of line so that the loop above stays small.
+  [[gnu::noinline]] static ScriptError Interrupted(Frame& frame, const StmtNode& statement);
+  // Gives the error the statement's position; true when "On Error Resume Next" absorbs it.
+  [[gnu::noinline]] static bool Absorbed(Frame& frame, const StmtNode& statement, ScriptError& error);
 };
 
 }  // namespace vbs

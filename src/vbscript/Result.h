@@ -24,13 +24,33 @@ struct ScriptError {
   bool has_pos = false;
 };
 
+// Frees an error; out of line, so that the success path, which only tests the pointer, stays small.
+struct ErrorDeleter {
+  void operator()(ScriptError* error) const;
+};
+using ErrorPtr = std::unique_ptr<ScriptError, ErrorDeleter>;
+
+// A failed Result's error on its way to another Result: passing a failure up the call chain moves
+// one pointer, with no new allocation. It turns into the ScriptError itself where one is wanted.
+class [[nodiscard]] Failure {
+ public:
+  explicit Failure(ErrorPtr error) : m_error(std::move(error)) {}
+  operator ScriptError() && { return std::move(*m_error); }
+  ScriptError* operator->() { return m_error.get(); }
+  ErrorPtr Release() && { return std::move(m_error); }
+
+ private:
+  ErrorPtr m_error;
+};
+
 // The value and, only when something failed, the error on the heap: the success path, which is
 // nearly every evaluation of every expression, moves a plain value and tests one pointer.
 template <typename T>
 class [[nodiscard]] Result {
  public:
   Result(T value) : m_value(std::move(value)) {}
-  Result(ScriptError error) : m_error(std::make_unique<ScriptError>(std::move(error))) {}
+  Result(ScriptError error) : m_error(new ScriptError(std::move(error))) {}
+  Result(Failure failure) : m_error(std::move(failure).Release()) {}
 
   bool ok() const { return m_error == nullptr; }
   explicit operator bool() const { return ok(); }
@@ -60,14 +80,14 @@ class [[nodiscard]] Result {
     assert(!ok());
     return *m_error;
   }
-  ScriptError&& error() && {
+  Failure error() && {
     assert(!ok());
-    return std::move(*m_error);
+    return Failure(std::move(m_error));
   }
 
  private:
   T m_value{};
-  std::unique_ptr<ScriptError> m_error;
+  ErrorPtr m_error;
 };
 
 struct Unit {};

@@ -1,6 +1,7 @@
 #include "StmtNodes.h"
 
 #include "Coercion.h"
+#include "FastArithmetic.h"
 #include "SafeArray.h"
 
 namespace vbs {
@@ -34,30 +35,21 @@ bool LeavesLoop(Flow flow, Flow own_exit, Flow& report) {
 
 }  // namespace
 
-Result<Flow> BlockNode::Exec(Frame& frame) const {
-  for (const StmtNodePtr& statement : statements) {
-    if (auto interrupt = frame.interp.CheckInterrupt(); !interrupt) {
-      ScriptError error = std::move(interrupt).error();
-      error.pos = statement->pos();
-      error.has_pos = true;
-      return error;
-    }
-    auto flow = statement->Exec(frame);
-    if (!flow) {
-      ScriptError& error = flow.error();
-      if (!error.has_pos) {
-        error.pos = statement->pos();
-        error.has_pos = true;
-      }
-      if (frame.resume_next && !IsInterruption(error)) {
-        frame.interp.SetErr(error);
-        continue;
-      }
-      return flow;
-    }
-    if (*flow != Flow::Normal) return flow;
+ScriptError BlockNode::Interrupted(Frame& frame, const StmtNode& statement) {
+  ScriptError error = frame.interp.InterruptError();
+  error.pos = statement.pos();
+  error.has_pos = true;
+  return error;
+}
+
+bool BlockNode::Absorbed(Frame& frame, const StmtNode& statement, ScriptError& error) {
+  if (!error.has_pos) {
+    error.pos = statement.pos();
+    error.has_pos = true;
   }
-  return Flow::Normal;
+  if (!frame.resume_next || IsInterruption(error)) return false;
+  frame.interp.SetErr(error);
+  return true;
 }
 
 Result<Flow> ExprStmtNode::Exec(Frame& frame) {
@@ -83,6 +75,43 @@ Result<Flow> AppendNode::Exec(Frame& frame) {
   if (!value) return std::move(value).error();
   VBS_TRY(ConcatAssign(m_target->Storage(frame).Deref(), *value, frame.interp.locale()));
   return Flow::Normal;
+}
+
+template <BinaryOperator Op>
+Result<Flow> UpdateNode<Op>::Exec(Frame& frame) {
+  Variant& target = *m_direct_target.Storage(frame);
+  if (const Variant* value = m_direct_value.Get(frame)) {
+    if (TryFastApply<Op>(target, *value, target)) [[likely]]
+      return Flow::Normal;
+    return Store(target, target, *value, frame);
+  }
+  const Variant current = target;  // taken first: evaluating the right side may change the variable
+  auto value = m_value->Eval(frame);
+  if (!value) return std::move(value).error();
+  if (TryFastApply<Op>(current, *value, target)) [[likely]]
+    return Flow::Normal;
+  return Store(target, current, *value, frame);
+}
+
+template <BinaryOperator Op>
+Result<Flow> UpdateNode<Op>::Store(Variant& target, const Variant& current, const Variant& value, Frame& frame) {
+  auto result = ApplyBinary(Op, current, value, frame.interp.compare_mode(), frame.interp.locale());
+  if (!result) return std::move(result).error();
+  target = std::move(*result);
+  return Flow::Normal;
+}
+
+StmtNodePtr MakeUpdateNode(SourcePos pos, BinaryOperator op, ExprNodePtr target, ExprNodePtr value) {
+  assert(DirectOperand(target.get()).IsVariable());
+  switch (op) {
+    case BinaryOperator::Add:
+      return std::make_unique<UpdateNode<BinaryOperator::Add>>(pos, std::move(target), std::move(value));
+    case BinaryOperator::Subtract:
+      return std::make_unique<UpdateNode<BinaryOperator::Subtract>>(pos, std::move(target), std::move(value));
+    default:
+      assert(op == BinaryOperator::Multiply);
+      return std::make_unique<UpdateNode<BinaryOperator::Multiply>>(pos, std::move(target), std::move(value));
+  }
 }
 
 Result<Flow> RedimNode::Exec(Frame& frame) {
@@ -194,29 +223,32 @@ Result<Flow> ForNode::Exec(Frame& frame) {
   auto* variable = dynamic_cast<VariableNode*>(m_counter.get());
   auto whole = [](const Variant& v) { return v.is_integer() || v.is_long(); };
   if (variable && whole(limit) && whole(increment)) {
-    const int64_t last = limit.is_integer() ? limit.as_integer() : limit.as_long();
-    const int64_t by = increment.is_integer() ? increment.as_integer() : increment.as_long();
+    const int64_t last = limit.as_whole();
+    const int64_t by = increment.as_whole();
+    // The variable's storage stays where it is for the whole loop (a slot, a global, the target of
+    // a ByRef parameter).
+    Variant& counter = variable->Storage(frame).Deref();
+    // The body looks for a stop before each statement; an empty one has no statement to look.
+    const bool check_here = m_body.statements.empty();
     for (;;) {
-      Variant& counter = variable->Storage(frame).Deref();
       if (!whole(counter)) break;
-      const int64_t current = counter.is_integer() ? counter.as_integer() : counter.as_long();
+      const int64_t current = counter.as_whole();
       if (by >= 0 ? current > last : current < last) return Flow::Normal;
-      VBS_TRY(frame.interp.CheckInterrupt());
+      if (check_here) VBS_TRY(frame.interp.CheckInterrupt());
       auto flow = m_body.Exec(frame);
       if (!flow) return flow;
       if (LeavesLoop(*flow, Flow::ExitFor, report)) return report;
-      Variant& after = variable->Storage(frame).Deref();
-      if (!whole(after)) {
+      if (!whole(counter)) {
         body_ran = true;
         break;
       }
-      const int64_t next = (after.is_integer() ? after.as_integer() : after.as_long()) + by;
-      if (after.is_integer() && increment.is_integer() && next >= INT16_MIN && next <= INT16_MAX)
-        after = Variant::Integer(static_cast<int16_t>(next));
+      const int64_t next = counter.as_whole() + by;
+      if (counter.is_integer() && increment.is_integer() && next >= INT16_MIN && next <= INT16_MAX)
+        counter = Variant::Integer(static_cast<int16_t>(next));
       else if (next >= INT32_MIN && next <= INT32_MAX)
-        after = Variant::Long(static_cast<int32_t>(next));
+        counter = Variant::Long(static_cast<int32_t>(next));
       else
-        after = Variant::Double(static_cast<double>(next));
+        counter = Variant::Double(static_cast<double>(next));
     }
   }
   if (body_ran) VBS_TRY(step_counter());

@@ -45,6 +45,29 @@ class AppendNode final : public StmtNode {
   ExprNodePtr m_value;
 };
 
+// `x = x + e`, `x = x - e`, `x = x * e` on a plain local or global variable: the counters and sums
+// of loops, computed and stored with no pass through the general assignment.
+template <BinaryOperator Op>
+class UpdateNode final : public StmtNode {
+ public:
+  UpdateNode(SourcePos pos, ExprNodePtr target, ExprNodePtr value)
+      : StmtNode(pos), m_target(std::move(target)), m_value(std::move(value)), m_direct_target(m_target.get()),
+        m_direct_value(m_value.get()) {}
+  Result<Flow> Exec(Frame& frame) override;
+
+ private:
+  // The general rules, for what the inline arithmetic leaves.
+  static Result<Flow> Store(Variant& target, const Variant& current, const Variant& value, Frame& frame);
+
+  ExprNodePtr m_target;
+  ExprNodePtr m_value;
+  DirectOperand m_direct_target;
+  DirectOperand m_direct_value;
+};
+
+// `target = target op value` for a target that is a plain local or global and op one of +, -, *.
+StmtNodePtr MakeUpdateNode(SourcePos pos, BinaryOperator op, ExprNodePtr target, ExprNodePtr value);
+
 struct RedimTarget {
   ExprNodePtr target;
   ExprNodes bounds;

@@ -11,6 +11,7 @@
 // coercions (`to_*`, defined with every other conversion rule in Coercion.cpp) and the operators
 // see through a reference.
 
+#include <bit>
 #include <cassert>
 #include <cstdint>
 #include <string>
@@ -80,7 +81,7 @@ class Variant {
     Variant copy(other);
     return *this = std::move(copy);
   }
-  Variant& operator=(Variant&& other) noexcept {
+  [[gnu::always_inline]] Variant& operator=(Variant&& other) noexcept {
     if (this != &other) {
       // Taken before the old value goes: `other` may live inside it (x = x(0) on an array).
       const Subtype subtype = other.m_subtype;
@@ -99,53 +100,18 @@ class Variant {
   }
 
   static Variant Null() { return Variant(Subtype::Null); }
-  static Variant Integer(int16_t v) {
-    Variant r(Subtype::Integer);
-    r.m_u.i16 = v;
-    return r;
-  }
-  static Variant Long(int32_t v) {
-    Variant r(Subtype::Long);
-    r.m_u.i32 = v;
-    return r;
-  }
-  static Variant Single(float v) {
-    Variant r(Subtype::Single);
-    r.m_u.f32 = v;
-    return r;
-  }
-  static Variant Double(double v) {
-    Variant r(Subtype::Double);
-    r.m_u.f64 = v;
-    return r;
-  }
+  // Integer is held widened, so that as_whole reads Integer and Long alike.
+  static Variant Integer(int16_t v) { return Variant(Subtype::Integer, v); }
+  static Variant Long(int32_t v) { return Variant(Subtype::Long, v); }
+  static Variant Single(float v) { return Variant(Subtype::Single, std::bit_cast<uint32_t>(v)); }
+  static Variant Double(double v) { return Variant(Subtype::Double, std::bit_cast<int64_t>(v)); }
   // `scaled` is the amount times 10000.
-  static Variant Currency(int64_t scaled) {
-    Variant r(Subtype::Currency);
-    r.m_u.i64 = scaled;
-    return r;
-  }
+  static Variant Currency(int64_t scaled) { return Variant(Subtype::Currency, scaled); }
   // `serial` is an OLE date: days since 30 December 1899, the time as the fraction.
-  static Variant Date(double serial) {
-    Variant r(Subtype::Date);
-    r.m_u.f64 = serial;
-    return r;
-  }
-  static Variant Boolean(bool v) {
-    Variant r(Subtype::Boolean);
-    r.m_u.b = v;
-    return r;
-  }
-  static Variant Byte(uint8_t v) {
-    Variant r(Subtype::Byte);
-    r.m_u.u8 = v;
-    return r;
-  }
-  static Variant Error(int32_t scode) {
-    Variant r(Subtype::Error);
-    r.m_u.i32 = scode;
-    return r;
-  }
+  static Variant Date(double serial) { return Variant(Subtype::Date, std::bit_cast<int64_t>(serial)); }
+  static Variant Boolean(bool v) { return Variant(Subtype::Boolean, v ? 1 : 0); }
+  static Variant Byte(uint8_t v) { return Variant(Subtype::Byte, v); }
+  static Variant Error(int32_t scode) { return Variant(Subtype::Error, scode); }
   static Variant String(VbString s) {
     Variant r(Subtype::String);
     r.m_u.str = s.Detach();
@@ -190,12 +156,15 @@ class Variant {
   bool is_object() const { return m_subtype == Subtype::Object; }
   bool is_nothing() const { return is_object() && m_u.obj == nullptr; }
   // Integer, Long, Single, Double, Currency or Byte: what IsNumeric accepts without parsing.
+  // Integer or Long: the whole numbers that counters and most arithmetic in loops hold.
+  bool is_whole() const { return m_subtype == Subtype::Integer || m_subtype == Subtype::Long; }
   bool is_number() const {
     return (m_subtype >= Subtype::Integer && m_subtype <= Subtype::Currency) || m_subtype == Subtype::Byte;
   }
 
-  int16_t as_integer() const { return assert(is_integer()), m_u.i16; }
+  int16_t as_integer() const { return assert(is_integer()), static_cast<int16_t>(m_u.i32); }
   int32_t as_long() const { return assert(is_long()), m_u.i32; }
+  int32_t as_whole() const { return assert(is_whole()), m_u.i32; }
   float as_single() const { return assert(is_single()), m_u.f32; }
   double as_double() const { return assert(is_double()), m_u.f64; }
   int64_t as_currency() const { return assert(is_currency()), m_u.i64; }
@@ -237,6 +206,9 @@ class Variant {
   static constexpr uint8_t kFixedFlag = 1;
 
   explicit Variant(Subtype subtype) noexcept : m_subtype(subtype) { m_u.i64 = 0; }
+  // The whole payload written at once: a number made here and read back at once (the result of
+  // an operator) then costs no partial-store stall.
+  Variant(Subtype subtype, int64_t bits) noexcept : m_subtype(subtype) { m_u.i64 = bits; }
   bool IsHeap() const { return m_subtype >= Subtype::String; }
   void AddRefHeap() const;
   void ReleaseHeap();
@@ -244,7 +216,6 @@ class Variant {
   Subtype m_subtype = Subtype::Empty;
   uint8_t m_flags = 0;
   union Payload {
-    int16_t i16;
     int32_t i32;
     int64_t i64;
     float f32;

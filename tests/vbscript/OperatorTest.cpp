@@ -345,8 +345,8 @@ TEST(OperatorTest, IsComparesObjectIdentity) {
   EXPECT_FALSE(*Is(a, b));
   EXPECT_TRUE(*Is(Variant::Nothing(), Variant::Nothing()));
   EXPECT_FALSE(*Is(a, Variant::Nothing()));
-  EXPECT_EQ(Is(a, I(1)).error().number, 424);
-  EXPECT_EQ(Is(kEmpty, Variant::Nothing()).error().number, 424);
+  EXPECT_EQ(Is(a, I(1)).error()->number, 424);
+  EXPECT_EQ(Is(kEmpty, Variant::Nothing()).error()->number, 424);
 }
 
 TEST(OperatorTest, ConcatAssignAppendsInPlaceWhenTheStringIsOwnedAlone) {

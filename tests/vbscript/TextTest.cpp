@@ -129,8 +129,8 @@ TEST(LocaleTest, KnownLcidsAndError5ForOthers) {
   EXPECT_EQ((*LocaleFromLcid(1033))->decimal_separator, u'.');
   EXPECT_EQ((*LocaleFromLcid(1040))->month_names[0], u"gennaio");
   EXPECT_EQ((*LocaleFromLcid(1040))->day_names[1], u"lunedì");
-  EXPECT_EQ(LocaleFromLcid(9999).error().number, 5);
-  EXPECT_EQ(LocaleFromLcid(0).error().number, 5);
+  EXPECT_EQ(LocaleFromLcid(9999).error()->number, 5);
+  EXPECT_EQ(LocaleFromLcid(0).error()->number, 5);
 }
 
 TEST(DateTimeTest, SerialsOfKnownDays) {

@@ -143,9 +143,9 @@ TEST(VbStringTest, SharedStringsCopyBeforeWriting) {
 }
 
 TEST(VbStringTest, LengthsBeyondTheLimitAreOutOfMemory) {
-  EXPECT_EQ(VbString::TryCreate(VbString::kMaxLength + 1, u' ').error().number, 7);
+  EXPECT_EQ(VbString::TryCreate(VbString::kMaxLength + 1, u' ').error()->number, 7);
   VbString s(u"a");
-  EXPECT_EQ(s.Reserve(VbString::kMaxLength + 1).error().number, 7);
+  EXPECT_EQ(s.Reserve(VbString::kMaxLength + 1).error()->number, 7);
   auto filled = VbString::TryCreate(3, u'z');
   ASSERT_TRUE(filled);
   EXPECT_EQ(*filled, u"zzz");
@@ -165,8 +165,8 @@ TEST(SafeArrayTest, BoundsAndColumnMajorOffsets) {
   EXPECT_EQ(*array.UBound(1), 3);
   EXPECT_EQ(*array.LBound(2), -1);
   EXPECT_EQ(*array.UBound(2), 0);
-  EXPECT_EQ(array.LBound(3).error().number, 9);
-  EXPECT_EQ(array.UBound(0).error().number, 9);
+  EXPECT_EQ(array.LBound(3).error()->number, 9);
+  EXPECT_EQ(array.UBound(0).error()->number, 9);
   const struct {
     std::vector<int32_t> indices;
     int64_t offset;
@@ -181,9 +181,9 @@ TEST(SafeArrayTest, BoundsAndColumnMajorOffsets) {
 }
 
 TEST(SafeArrayTest, CreationRejectsBadAndHugeBounds) {
-  EXPECT_EQ(SafeArray::Create(std::vector<ArrayBound>{{0, -2}}).error().number, 9);
-  EXPECT_EQ(SafeArray::Create(std::vector<ArrayBound>{{0, 2000000000}}).error().number, 7);
-  EXPECT_EQ(SafeArray::Create(std::vector<ArrayBound>{{0, 99999}, {0, 99999}}).error().number, 7);
+  EXPECT_EQ(SafeArray::Create(std::vector<ArrayBound>{{0, -2}}).error()->number, 9);
+  EXPECT_EQ(SafeArray::Create(std::vector<ArrayBound>{{0, 2000000000}}).error()->number, 7);
+  EXPECT_EQ(SafeArray::Create(std::vector<ArrayBound>{{0, 99999}, {0, 99999}}).error()->number, 7);
   auto empty = SafeArray::Create(std::vector<ArrayBound>{{0, -1}});
   ASSERT_TRUE(empty);
   EXPECT_EQ((*empty)->size(), 0u);
@@ -276,7 +276,7 @@ TEST(SafeArrayTest, EraseFreesADynamicArray) {
   ASSERT_TRUE(Erase(a));
   EXPECT_TRUE(a.is_array());
   EXPECT_EQ(a.as_array()->DimensionCount(), 0u);
-  EXPECT_EQ(a.as_array()->UBound(1).error().number, 9);
+  EXPECT_EQ(a.as_array()->UBound(1).error()->number, 9);
   Variant number = Variant::Integer(1);
   EXPECT_EQ(ErrorOf(Erase(number)), 13);
   // ReDim Preserve of an erased array starts afresh.
