@@ -347,10 +347,31 @@ Result<Variant> IsNode::Eval(Frame& frame) {
 
 ProcedureCallNode::ProcedureCallNode(SourcePos pos, const Procedure* procedure, ExprNodes args)
     : ExprNode(pos), m_procedure(procedure), m_args(std::move(args)) {
-  for (const ExprNodePtr& arg : m_args) m_direct.emplace_back(arg.get());
+  m_all_direct = true;
+  for (const ExprNodePtr& arg : m_args) {
+    m_direct.emplace_back(arg.get());
+    m_all_direct = m_all_direct && m_direct.back().IsDirect();
+  }
 }
 
 Result<Variant> ProcedureCallNode::Eval(Frame& frame) {
+  if (!m_all_direct) return EvalArgsFirst(frame);
+  if (m_args.size() != m_procedure->param_count) return MakeError(err::kWrongArgs);
+  // Plain variables and constants go straight into the parameter slots.
+  auto callee = frame.interp.OpenFrame(m_procedure->slot_count);
+  if (!callee) return std::move(callee).error();
+  for (size_t i = 0; i < m_args.size(); ++i) {
+    Variant& param = callee->slots[Procedure::kFirstParamSlot + i];
+    Variant* storage = m_direct[i].Storage(frame);
+    if (storage && !m_procedure->param_by_val[i])
+      param = Variant::Reference(storage);
+    else
+      param = *m_direct[i].Get(frame);
+  }
+  return frame.interp.RunFrame(*m_procedure, nullptr, *callee);
+}
+
+Result<Variant> ProcedureCallNode::EvalArgsFirst(Frame& frame) {
   ArgValues values;
   for (size_t i = 0; i < m_args.size(); ++i) {
     if (Variant* storage = m_direct[i].Storage(frame)) {

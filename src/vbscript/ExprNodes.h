@@ -284,10 +284,14 @@ class ProcedureCallNode final : public ExprNode {
   Result<Variant> Eval(Frame& frame) override;
 
  private:
+  // Arguments that need evaluating: their values are gathered first, then the call is made.
+  Result<Variant> EvalArgsFirst(Frame& frame);
+
   const Procedure* m_procedure;
   ExprNodes m_args;
   // Arguments that are plain variables or constants are passed with no call.
   std::vector<DirectOperand> m_direct;
+  bool m_all_direct = true;
 };
 
 class BuiltinCallNode final : public ExprNode {

@@ -165,40 +165,37 @@ ScriptError Interpreter::InterruptError() const {
   return error;
 }
 
-Status Interpreter::EnterCall() {
+Result<FrameSlots> Interpreter::OpenFrame(uint32_t count) {
   char probe;
   if (m_depth == 0) m_stack_limit = StackLimitOfThisThread();
   if (m_depth >= kMaxCallDepth || (m_stack_limit && &probe < m_stack_limit)) return MakeError(err::kOutOfStack);
-  ++m_depth;
-  return Ok();
-}
-
-Variant* Interpreter::AllocateSlots(uint32_t count) {
-  if (count > kSegmentSlots) return nullptr;
-  m_marks.push_back({m_segment, m_offset});
-  if (m_segments.empty() || m_offset + count > kSegmentSlots) {
-    size_t next = m_segments.empty() ? 0 : m_segment + 1;
-    if (next == m_segments.size()) {
-      if (m_segments.size() >= kMaxSegments) {
-        m_marks.pop_back();
-        return nullptr;
-      }
-      m_segments.push_back(std::make_unique<Variant[]>(kSegmentSlots));
-    }
-    m_segment = next;
-    m_offset = 0;
-  }
-  Variant* slots = &m_segments[m_segment][m_offset];
+  if (m_segments.empty() || m_offset + count > kSegmentSlots) return OpenFrameInNewSegment(count);
+  FrameSlots frame{&m_segments[m_segment][m_offset], count, m_offset, m_segment};
   m_offset += count;
-  return slots;
+  ++m_depth;
+  return frame;
 }
 
-void Interpreter::ReleaseSlots(Variant* slots, uint32_t count) {
-  // Clearing may run Class_Terminate, which takes slots above these: the mark is restored after.
-  for (uint32_t i = 0; i < count; ++i) slots[i] = Variant();
-  m_segment = m_marks.back().first;
-  m_offset = m_marks.back().second;
-  m_marks.pop_back();
+Result<FrameSlots> Interpreter::OpenFrameInNewSegment(uint32_t count) {
+  if (count > kSegmentSlots) return MakeError(err::kOutOfStack);
+  const size_t next = m_segments.empty() ? 0 : m_segment + 1;
+  if (next == m_segments.size()) {
+    if (m_segments.size() >= kMaxSegments) return MakeError(err::kOutOfStack);
+    m_segments.push_back(std::make_unique<Variant[]>(kSegmentSlots));
+  }
+  FrameSlots frame{m_segments[next].get(), count, m_offset, m_segment};
+  m_segment = next;
+  m_offset = count;
+  ++m_depth;
+  return frame;
+}
+
+void Interpreter::CloseFrame(const FrameSlots& frame) {
+  // Clearing may run Class_Terminate, which opens frames above this one: the stack is rewound after.
+  for (uint32_t i = 0; i < frame.count; ++i) frame.slots[i] = Variant();
+  m_segment = frame.previous_segment;
+  m_offset = frame.previous_offset;
+  --m_depth;
 }
 
 namespace {
@@ -219,27 +216,26 @@ void InitialiseArrays(const Procedure& procedure, Variant* slots) {
 
 Result<Variant> Interpreter::Call(const Procedure& procedure, ClassInstance* me, std::span<Variant> args) {
   if (args.size() != procedure.param_count) return MakeError(err::kWrongArgs);
-  VBS_TRY(EnterCall());
-  Variant* slots = AllocateSlots(procedure.slot_count);
-  if (!slots) {
-    --m_depth;
-    return MakeError(err::kOutOfStack);
-  }
+  auto frame = OpenFrame(procedure.slot_count);
+  if (!frame) return std::move(frame).error();
   for (uint32_t i = 0; i < procedure.param_count; ++i) {
     Variant& arg = args[i];
-    Variant& param = slots[Procedure::kFirstParamSlot + i];
+    Variant& param = frame->slots[Procedure::kFirstParamSlot + i];
     if (arg.IsRef() && !procedure.param_by_val[i])
       param = arg;
     else
       param = arg.Deref();
   }
-  if (!procedure.fixed_arrays.empty() || !procedure.dynamic_arrays.empty()) InitialiseArrays(procedure, slots);
-  Frame frame{*this, slots, &procedure, me, nullptr, false};
+  return RunFrame(procedure, me, *frame);
+}
+
+Result<Variant> Interpreter::RunFrame(const Procedure& procedure, ClassInstance* me, const FrameSlots& slots) {
+  if (!procedure.fixed_arrays.empty() || !procedure.dynamic_arrays.empty()) InitialiseArrays(procedure, slots.slots);
+  Frame frame{*this, slots.slots, &procedure, me, nullptr, false};
   auto flow = procedure.body.Exec(frame);
-  Result<Variant> result = flow ? Result<Variant>(std::move(slots[Procedure::kResultSlot]))
+  Result<Variant> result = flow ? Result<Variant>(std::move(slots.slots[Procedure::kResultSlot]))
                                 : Result<Variant>(std::move(flow).error());
-  ReleaseSlots(slots, procedure.slot_count);
-  --m_depth;
+  CloseFrame(slots);
   return result;
 }
 
@@ -253,31 +249,21 @@ Result<Ref<ClassInstance>> Interpreter::NewInstance(ClassInfo& info) {
 }
 
 Status Interpreter::RunProgram(const CompiledProgram& program, Frame* outer, bool resume_next) {
-  VBS_TRY(EnterCall());
-  Variant* slots = AllocateSlots(program.temp_count);
-  if (!slots) {
-    --m_depth;
-    return MakeError(err::kOutOfStack);
-  }
-  Frame frame{*this, slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer, resume_next};
+  auto slots = OpenFrame(program.temp_count);
+  if (!slots) return std::move(slots).error();
+  Frame frame{*this, slots->slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer, resume_next};
   auto flow = program.body.Exec(frame);
-  ReleaseSlots(slots, program.temp_count);
-  --m_depth;
+  CloseFrame(*slots);
   if (!flow) return std::move(flow).error();
   return Ok();
 }
 
 Result<Variant> Interpreter::EvalProgram(const CompiledProgram& program, Frame* outer) {
-  VBS_TRY(EnterCall());
-  Variant* slots = AllocateSlots(program.temp_count);
-  if (!slots) {
-    --m_depth;
-    return MakeError(err::kOutOfStack);
-  }
-  Frame frame{*this, slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer, false};
+  auto slots = OpenFrame(program.temp_count);
+  if (!slots) return std::move(slots).error();
+  Frame frame{*this, slots->slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer, false};
   auto value = program.expression->Eval(frame);
-  ReleaseSlots(slots, program.temp_count);
-  --m_depth;
+  CloseFrame(*slots);
   return value;
 }
 

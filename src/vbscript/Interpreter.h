@@ -41,6 +41,14 @@ class UiHandler {
                                                  std::u16string_view default_text) = 0;
 };
 
+// The slots of one call on the engine's slot stack, and where the stack stood before them.
+struct FrameSlots {
+  Variant* slots = nullptr;
+  uint32_t count = 0;
+  uint32_t previous_offset = 0;
+  size_t previous_segment = 0;
+};
+
 struct Frame {
   class Interpreter& interp;
   Variant* slots = nullptr;
@@ -129,6 +137,11 @@ class Interpreter {
   Result<Variant> EvalProgram(const CompiledProgram& program, Frame* outer = nullptr);
   // Calls a script procedure; `args` may hold references for ByRef parameters.
   Result<Variant> Call(const Procedure& procedure, ClassInstance* me, std::span<Variant> args);
+  // A call in two steps, for callers that put the arguments straight into the parameter slots:
+  // OpenFrame takes the frame (error 28 when the stack is exhausted), RunFrame runs the body in it
+  // and gives the frame back.
+  Result<FrameSlots> OpenFrame(uint32_t count);
+  Result<Variant> RunFrame(const Procedure& procedure, ClassInstance* me, const FrameSlots& frame);
   Result<Ref<ClassInstance>> NewInstance(ClassInfo& info);
   // Keeps a compiled program alive as long as the engine, since procedures point into it.
   CompiledProgram& Keep(std::unique_ptr<CompiledProgram> program);
@@ -159,16 +172,15 @@ class Interpreter {
     return Ok();
   }
 
-  // Slots for a frame, all Empty; released in the reverse order.
-  Variant* AllocateSlots(uint32_t count);
-  void ReleaseSlots(Variant* slots, uint32_t count);
+  // Empties a frame's slots and gives them back; frames close in the reverse order of opening.
+  void CloseFrame(const FrameSlots& frame);
 
   // Clears globals and objects (running Class_Terminate where due) and forgets all code.
   void Clear();
 
  private:
   bool DeadlinePassed() const;
-  Status EnterCall();
+  [[gnu::noinline]] Result<FrameSlots> OpenFrameInNewSegment(uint32_t count);
 
   SourceTable m_sources;
   const Locale* m_locale;
@@ -195,9 +207,8 @@ class Interpreter {
 
   // The slot stack: fixed-size segments, so slots never move while referenced.
   std::vector<std::unique_ptr<Variant[]>> m_segments;
-  std::vector<std::pair<size_t, size_t>> m_marks;
   size_t m_segment = 0;
-  size_t m_offset = 0;
+  uint32_t m_offset = 0;
   uint32_t m_depth = 0;
   const char* m_stack_limit = nullptr;
 };

@@ -98,7 +98,7 @@ class BlockNode {
   }
 
  private:
-  static inline bool InterruptDue(Frame& frame);  // defined with the interpreter
+  [[gnu::always_inline]] static inline bool InterruptDue(Frame& frame);  // defined with the interpreter
   // The error paths, out of line so that the loop above stays small.
   [[gnu::noinline]] static ScriptError Interrupted(Frame& frame, const StmtNode& statement);
   // Gives the error the statement's position; true when "On Error Resume Next" absorbs it.

@@ -244,11 +244,11 @@ Result<Flow> ForNode::Exec(Frame& frame) {
       }
       const int64_t next = counter.as_whole() + by;
       if (counter.is_integer() && increment.is_integer() && next >= INT16_MIN && next <= INT16_MAX)
-        counter = Variant::Integer(static_cast<int16_t>(next));
+        counter.AssignPlain(Variant::Integer(static_cast<int16_t>(next)));
       else if (next >= INT32_MIN && next <= INT32_MAX)
-        counter = Variant::Long(static_cast<int32_t>(next));
+        counter.AssignPlain(Variant::Long(static_cast<int32_t>(next)));
       else
-        counter = Variant::Double(static_cast<double>(next));
+        counter.AssignPlain(Variant::Double(static_cast<double>(next)));
     }
   }
   if (body_ran) VBS_TRY(step_counter());

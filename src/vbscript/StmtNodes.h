@@ -57,7 +57,8 @@ class UpdateNode final : public StmtNode {
 
  private:
   // The general rules, for what the inline arithmetic leaves.
-  static Result<Flow> Store(Variant& target, const Variant& current, const Variant& value, Frame& frame);
+  [[gnu::noinline]] static Result<Flow> Store(Variant& target, const Variant& current, const Variant& value,
+                                              Frame& frame);
 
   ExprNodePtr m_target;
   ExprNodePtr m_value;

@@ -95,6 +95,13 @@ class Variant {
     }
     return *this;
   }
+  // Assignment between values that own nothing (numbers, dates, Booleans, Empty): a plain copy.
+  void AssignPlain(const Variant& plain) {
+    assert(!IsHeap() && !plain.IsHeap());
+    m_subtype = plain.m_subtype;
+    m_flags = 0;
+    m_u = plain.m_u;
+  }
   ~Variant() {
     if (IsHeap()) ReleaseHeap();
   }
