@@ -1,0 +1,91 @@
+#include "ClsFunctionsGeodoScript.h"
+
+#include <algorithm>
+#include <cctype>
+#include <unordered_map>
+
+#include "vbscript/ErrorTable.h"
+#include "vbscript/Interpreter.h"
+#include "vbscript/Utf.h"
+
+namespace lottolab::script {
+
+namespace {
+
+using Funzione = ClsFunctionsGeodoScript::Funzione;
+
+std::string Minuscolo(std::string_view nome) {
+  std::string piegato(nome);
+  for (char& c : piegato) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return piegato;
+}
+
+struct Tabella {
+  std::vector<Funzione> funzioni;
+  std::unordered_map<std::string, vbs::DispId> per_nome;  // lower-case name -> member number
+};
+
+const Tabella& TabellaCompleta() {
+  static const Tabella tabella = [] {
+    Tabella t;
+    for (auto famiglia : {FunzioniCostanti(), FunzioniEsecuzione(), FunzioniOutput(), FunzioniArchivio(),
+                          FunzioniAritmetica(), FunzioniRitardi()})
+      t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
+    for (size_t i = 0; i < t.funzioni.size(); ++i) {
+      [[maybe_unused]] bool nuovo =
+          t.per_nome.emplace(Minuscolo(t.funzioni[i].nome), static_cast<vbs::DispId>(i + 1)).second;
+      assert(nuovo && "a name appears twice in the library's table");
+    }
+    return t;
+  }();
+  return tabella;
+}
+
+}  // namespace
+
+ClsFunctionsGeodoScript::ClsFunctionsGeodoScript(InterfacciaScript& ospite, const vbs::Locale& locale,
+                                                 ImpostazioniLibreria impostazioni)
+    : m_ospite(ospite), m_locale(locale), m_impostazioni(std::move(impostazioni)) {}
+
+ClsFunctionsGeodoScript::~ClsFunctionsGeodoScript() { m_html.Chiudi(); }
+
+std::span<const Funzione> ClsFunctionsGeodoScript::Funzioni() { return TabellaCompleta().funzioni; }
+
+vbs::DispId ClsFunctionsGeodoScript::FindMember(std::string_view name) {
+  const auto& per_nome = TabellaCompleta().per_nome;
+  auto it = per_nome.find(Minuscolo(name));
+  return it == per_nome.end() ? vbs::kUnknownMember : it->second;
+}
+
+vbs::Result<vbs::Variant> ClsFunctionsGeodoScript::Invoke(vbs::DispId member, vbs::InvokeKind kind,
+                                                          std::span<vbs::Variant> args) {
+  const auto funzioni = Funzioni();
+  if (member < 1 || static_cast<size_t>(member) > funzioni.size()) return vbs::MakeError(vbs::err::kNoMember);
+  const Funzione& funzione = funzioni[member - 1];
+  // Nothing in the library can be assigned to: constants are read-only.
+  if (kind == vbs::InvokeKind::Let || kind == vbs::InvokeKind::Set) return vbs::MakeError(vbs::err::kIllegalAssignment);
+  if (args.size() < funzione.min_args || args.size() > funzione.max_args) return vbs::MakeError(vbs::err::kWrongArgs);
+  vbs::CallArgs call(args, m_locale);
+  auto risultato = funzione.chiamata(*this, call);
+  if (risultato || risultato.error().number == vbs::err::kAborted) return risultato;
+  const vbs::ScriptError& errore = risultato.error();
+  std::string descrizione = errore.description.empty()
+                                ? vbs::Utf16ToUtf8(vbs::ErrorText(errore.number, m_locale.language))
+                                : vbs::Utf16ToUtf8(errore.description);
+  m_ospite.Mostra(AvvisoCritico("ClsFunctionsGeodoScript." + std::string(funzione.nome), errore.number,
+                                std::move(descrizione)));
+  return vbs::Variant();
+}
+
+vbs::Result<const TabellaEstrazioni*> ClsFunctionsGeodoScript::Archivio() const {
+  if (!m_impostazioni.archivio || m_impostazioni.archivio->Vuota())
+    return vbs::ScriptError{5, u"Archivio delle estrazioni non caricato", {}, {}, false};
+  return m_impostazioni.archivio;
+}
+
+void ClsFunctionsGeodoScript::Scrivi(std::string testo, int16_t colore, bool grassetto) {
+  m_html.Scrivi(testo, colore, grassetto);
+  m_ospite.Scrivi(TrattoTesto{std::move(testo), colore, grassetto});
+}
+
+}  // namespace lottolab::script

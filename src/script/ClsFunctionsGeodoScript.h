@@ -1,0 +1,117 @@
+#pragma once
+
+// The library object: the one object through which a user's script reaches the archive, the
+// statistics and the output. The host adds it to the engine with its members as global names, so
+// scripts call `Estratto(...)` or `Scrivi(...)` with no prefix. A new one is made for every run and
+// holds that run's state.
+//
+// The members are a table of rows, one per public name, gathered from one file per family:
+//
+//   {"Estratto", 3, 3, &Estratto, "IdEstr, Ruota, Posizione: the number drawn there, 0 for TU_"},
+//
+// The text after the name describes the arguments and the result; the reference page and the
+// editor's call tips are generated from it. Every function's failure is caught here, shown titled
+// "ClsFunctionsGeodoScript." and the function's name, and the script goes on.
+
+#include <atomic>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "InterfacciaScript.h"
+#include "OutputHtml.h"
+#include "archive/TabellaEstrazioni.h"
+#include "vbscript/HostObject.h"
+
+namespace lottolab::script {
+
+struct ImpostazioniLibreria {
+  const TabellaEstrazioni* archivio = nullptr;  // null when no archive is loaded
+  std::filesystem::path cartella_base;         // holds Script/, Script/Funzioni/, scriptOutput/
+  std::filesystem::path cartella_dati_app;     // what GetDirectoryAppData gives
+  std::string colore_sfondo_html = "#FFFFFF";
+};
+
+// One record of ImpostaInterruzioni.
+struct Interruzione {
+  int32_t primo = 0;
+  int32_t secondo = 0;
+  int16_t terzo = 0;
+};
+
+class ClsFunctionsGeodoScript final : public vbs::Object {
+ public:
+  using Chiamata = vbs::Result<vbs::Variant> (*)(ClsFunctionsGeodoScript& libreria, vbs::CallArgs& args);
+  struct Funzione {
+    std::string_view nome;
+    uint8_t min_args;
+    uint8_t max_args;
+    Chiamata chiamata;
+    std::string_view descrizione;
+  };
+
+  ClsFunctionsGeodoScript(InterfacciaScript& ospite, const vbs::Locale& locale, ImpostazioniLibreria impostazioni);
+  ~ClsFunctionsGeodoScript() override;
+
+  // The whole table, every family together.
+  static std::span<const Funzione> Funzioni();
+
+  std::u16string ClassName() const override { return u"ClsFunctionsGeodoScript"; }
+  vbs::DispId FindMember(std::string_view name) override;
+  const void* MemberLayout() const override { return Funzioni().data(); }
+  vbs::Result<vbs::Variant> Invoke(vbs::DispId member, vbs::InvokeKind kind, std::span<vbs::Variant> args) override;
+
+  // ---- What the host sets before the run ----
+  void SetNomeFileHtmlOut(std::string nome) { m_nome_file_html = std::move(nome); }
+  void SetFlagSalvaPrevisioniInCorso(bool attivo) { m_salva_previsioni = attivo; }
+  // From any thread: what the stop button does. The script sees it through ScriptInterrotto.
+  void StopProcess() { m_stop.store(true, std::memory_order_relaxed); }
+
+  // ---- The run's state, for the families ----
+  InterfacciaScript& ospite() { return m_ospite; }
+  const vbs::Locale& locale() const { return m_locale; }
+  const ImpostazioniLibreria& impostazioni() const { return m_impostazioni; }
+  // The archive; error 5 with a clear description when none is loaded.
+  vbs::Result<const TabellaEstrazioni*> Archivio() const;
+
+  bool Interrotto() const { return m_stop.load(std::memory_order_relaxed); }
+  void AzzeraStop() { m_stop.store(false, std::memory_order_relaxed); }
+  std::vector<Interruzione>& interruzioni() { return m_interruzioni; }
+  std::vector<bool>& estrazioni_attive() { return m_estrazioni_attive; }
+
+  const std::string& nome_file_html() const { return m_nome_file_html; }
+  bool salva_previsioni() const { return m_salva_previsioni; }
+  OutputHtml& html() { return m_html; }
+  // The HTML pages of a multi-output run, in the order they were written.
+  std::vector<std::filesystem::path>& pagine() { return m_pagine; }
+  // The text colour that ColoreTesto set for the next output.
+  int16_t& colore_testo() { return m_colore_testo; }
+
+  // Text output: to the host and, when the page is open, to the HTML page.
+  void Scrivi(std::string testo, int16_t colore, bool grassetto);
+
+ private:
+  InterfacciaScript& m_ospite;
+  const vbs::Locale& m_locale;
+  ImpostazioniLibreria m_impostazioni;
+  std::atomic<bool> m_stop{false};
+  std::vector<Interruzione> m_interruzioni;
+  std::vector<bool> m_estrazioni_attive;
+  std::string m_nome_file_html;
+  bool m_salva_previsioni = false;
+  OutputHtml m_html;
+  std::vector<std::filesystem::path> m_pagine;
+  int16_t m_colore_testo = kNero;
+};
+
+// The families of the table, one file each.
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniCostanti();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEsecuzione();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniOutput();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniArchivio();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniAritmetica();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniRitardi();
+
+}  // namespace lottolab::script

@@ -1,0 +1,182 @@
+// The entry points the host calls around the script's Main, and the script's side of stopping and
+// progress.
+
+#include <algorithm>
+#include <fmt/format.h>
+
+#include "ClsFunctionsGeodoScript.h"
+#include "vbscript/Utf.h"
+
+namespace lottolab::script {
+
+namespace {
+
+namespace fs = std::filesystem;
+using Libreria = ClsFunctionsGeodoScript;
+using vbs::CallArgs;
+using vbs::Result;
+using vbs::Variant;
+
+// The page name used when the host set none.
+constexpr std::string_view kNomePaginaPredefinito = "output.htm";
+
+Result<Variant> InitScript(Libreria& lib, CallArgs&) {
+  lib.colore_testo() = kNero;
+  return Variant();
+}
+
+Result<Variant> AzzeraArrayInterruzioni(Libreria& lib, CallArgs&) {
+  lib.interruzioni().clear();
+  return Variant();
+}
+
+// Every draw of the archive starts active; functions that honour the flags skip inactive ones.
+Result<Variant> InitArrayFlagEstrazioniAttive(Libreria& lib, CallArgs&) {
+  const TabellaEstrazioni* archivio = lib.impostazioni().archivio;
+  lib.estrazioni_attive().assign(archivio ? static_cast<size_t>(archivio->EstrazioniArchivio()) + 1 : 0, true);
+  return Variant();
+}
+
+Result<Variant> AzzeraFlagStopProcess(Libreria& lib, CallArgs&) {
+  lib.AzzeraStop();
+  return Variant();
+}
+
+Result<Variant> StopProcess(Libreria& lib, CallArgs&) {
+  lib.StopProcess();
+  return Variant();
+}
+
+Result<Variant> ScriptInterrotto(Libreria& lib, CallArgs&) { return Variant::Boolean(lib.Interrotto()); }
+
+// A record with the same first two values is updated; any other is added at the end.
+Result<Variant> ImpostaInterruzioni(Libreria& lib, CallArgs& args) {
+  auto primo = args.Long(0);
+  if (!primo) return std::move(primo).error();
+  auto secondo = args.Long(1);
+  if (!secondo) return std::move(secondo).error();
+  auto terzo = args.Integer(2);
+  if (!terzo) return std::move(terzo).error();
+  for (Interruzione& record : lib.interruzioni()) {
+    if (record.primo == *primo && record.secondo == *secondo) {
+      record.terzo = *terzo;
+      return Variant();
+    }
+  }
+  lib.interruzioni().push_back({*primo, *secondo, *terzo});
+  return Variant();
+}
+
+// AvanzamentoElab Valore, Massimo or AvanzamentoElab Inizio, Fine, Valore.
+Result<Variant> AvanzamentoElab(Libreria& lib, CallArgs& args) {
+  double inizio = 0;
+  double fine = 0;
+  double valore = 0;
+  if (args.Has(2)) {
+    auto a = args.Double(0);
+    if (!a) return std::move(a).error();
+    auto b = args.Double(1);
+    if (!b) return std::move(b).error();
+    auto c = args.Double(2);
+    if (!c) return std::move(c).error();
+    inizio = *a;
+    fine = *b;
+    valore = *c;
+  } else {
+    auto a = args.Double(0);
+    if (!a) return std::move(a).error();
+    auto b = args.Double(1);
+    if (!b) return std::move(b).error();
+    valore = *a;
+    fine = *b;
+  }
+  const double ampiezza = fine - inizio;
+  const double percentuale = ampiezza > 0 ? (valore - inizio) * 100.0 / ampiezza : 100.0;
+  lib.ospite().Avanzamento(std::clamp(percentuale, 0.0, 100.0));
+  return Variant();
+}
+
+Result<Variant> ApriPagina(Libreria& lib, const std::string& nome) {
+  const fs::path file = lib.impostazioni().cartella_base / "scriptOutput" / nome;
+  auto aperta = lib.html().Apri(file, lib.impostazioni().colore_sfondo_html);
+  if (!aperta) lib.ospite().Mostra(aperta.Errore());
+  return Variant();
+}
+
+Result<Variant> AzzeraHtmlOutput(Libreria& lib, CallArgs&) {
+  const std::string& nome = lib.nome_file_html();
+  return ApriPagina(lib, nome.empty() ? std::string(kNomePaginaPredefinito) : nome);
+}
+
+// In a multi-output run every output has a page of its own: the run's name, its number, ".html".
+Result<Variant> AzzeraHtmlOutputMulti(Libreria& lib, CallArgs&) {
+  lib.html().Chiudi();
+  fs::path base = lib.nome_file_html().empty() ? fs::path(kNomePaginaPredefinito) : fs::path(lib.nome_file_html());
+  const std::string nome = fmt::format("{}_{}.html", base.stem().string(), lib.pagine().size() + 1);
+  auto risultato = ApriPagina(lib, nome);
+  if (lib.html().Aperto()) lib.pagine().push_back(lib.html().Percorso());
+  return risultato;
+}
+
+Result<Variant> ChiudiFileHtmlOutput(Libreria& lib, CallArgs&) {
+  lib.html().Chiudi();
+  return Variant();
+}
+
+// The text output keeps its colours as it is written: there is nothing left to colour.
+Result<Variant> ColoraRtfOutput(Libreria&, CallArgs&) { return Variant(); }
+
+// The end of one output of a multi-output run: its page is complete.
+Result<Variant> ColoraRtfOutputMulti(Libreria& lib, CallArgs&) {
+  lib.html().Chiudi();
+  return Variant();
+}
+
+// Entry points of the run sequence whose state arrives with later families (files a script opens,
+// spreadsheets, bets): until then there is nothing to release.
+Result<Variant> NienteDaRilasciare(Libreria&, CallArgs&) { return Variant(); }
+
+// The host hands over its window itself, before the object is added; from a script it does nothing.
+Result<Variant> setFromScript(Libreria&, CallArgs&) { return Variant(); }
+
+Result<Variant> SetNomeFileHtmlOut(Libreria& lib, CallArgs& args) {
+  auto nome = args.String(0);
+  if (!nome) return std::move(nome).error();
+  lib.SetNomeFileHtmlOut(vbs::Utf16ToUtf8(*nome));
+  return Variant();
+}
+
+Result<Variant> SetFlagSalvaPrevisioniInCorso(Libreria& lib, CallArgs& args) {
+  auto attivo = args.Boolean(0, true);
+  if (!attivo) return std::move(attivo).error();
+  lib.SetFlagSalvaPrevisioniInCorso(*attivo);
+  return Variant();
+}
+
+const Libreria::Funzione kEsecuzione[] = {
+    {"InitScript", 0, 0, &InitScript, "(host) prepares the library for a run"},
+    {"AzzeraArrayInterruzioni", 0, 0, &AzzeraArrayInterruzioni, "(host) empties the interruption records"},
+    {"InitArrayFlagEstrazioniAttive", 0, 0, &InitArrayFlagEstrazioniAttive, "(host) marks every draw active"},
+    {"AzzeraFlagStopProcess", 0, 0, &AzzeraFlagStopProcess, "clears the stop flag"},
+    {"ResettaGiocate", 0, 0, &NienteDaRilasciare, "(host) forgets the bets of an earlier run"},
+    {"AzzeraHtmlOutput", 0, 0, &AzzeraHtmlOutput, "(host) starts the HTML page of the run"},
+    {"AzzeraHtmlOutputMulti", 0, 0, &AzzeraHtmlOutputMulti, "starts the HTML page of the next output"},
+    {"ColoraRtfOutput", 0, 0, &ColoraRtfOutput, "(host) completes the text output"},
+    {"ColoraRtfOutputMulti", 0, 0, &ColoraRtfOutputMulti, "completes the current output of a multi-output run"},
+    {"CloseAllFileHandle", 0, 0, &NienteDaRilasciare, "closes every file the script opened"},
+    {"DeinizializzaXls", 0, 0, &NienteDaRilasciare, "(host) releases the open spreadsheet"},
+    {"ChiudiFileHtmlOutput", 0, 0, &ChiudiFileHtmlOutput, "(host) closes the HTML page"},
+    {"StopProcess", 0, 0, &StopProcess, "asks the script and the library's long loops to stop"},
+    {"ScriptInterrotto", 0, 0, &ScriptInterrotto, "True once a stop was asked: long loops test it and leave"},
+    {"ImpostaInterruzioni", 3, 3, &ImpostaInterruzioni, "A, B, C: adds the record (A, B, C), or sets C of the record (A, B)"},
+    {"AvanzamentoElab", 2, 3, &AvanzamentoElab, "Valore, Massimo | Inizio, Fine, Valore: moves the progress bar"},
+    {"setFromScript", 0, 1, &setFromScript, "(host) hands the script window to the library"},
+    {"SetNomeFileHtmlOut", 1, 1, &SetNomeFileHtmlOut, "Nome: the file name of the run's HTML page"},
+    {"SetFlagSalvaPrevisioniInCorso", 0, 1, &SetFlagSalvaPrevisioniInCorso, "[Attivo]: the run saves forecasts"},
+};
+
+}  // namespace
+
+std::span<const Libreria::Funzione> FunzioniEsecuzione() { return kEsecuzione; }
+
+}  // namespace lottolab::script

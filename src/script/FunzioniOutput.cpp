@@ -1,0 +1,76 @@
+// The script's text output: to the output box (with colours) and to the run's HTML page.
+
+#include "ClsFunctionsGeodoScript.h"
+#include "vbscript/Utf.h"
+
+namespace lottolab::script {
+
+namespace {
+
+using Libreria = ClsFunctionsGeodoScript;
+using vbs::CallArgs;
+using vbs::Result;
+using vbs::Variant;
+
+// The text of an argument as the script would print it (numbers in the engine's locale); an omitted
+// argument is empty.
+Result<std::string> Testo(const CallArgs& args, size_t i) {
+  auto testo = args.String(i, u"");
+  if (!testo) return std::move(testo).error();
+  return vbs::Utf16ToUtf8(*testo);
+}
+
+Result<Variant> ScriviTesto(Libreria& lib, CallArgs& args, size_t i_testo, size_t i_grassetto, size_t i_a_capo,
+                            int16_t colore) {
+  auto testo = Testo(args, i_testo);
+  if (!testo) return std::move(testo).error();
+  auto grassetto = args.Boolean(i_grassetto, false);
+  if (!grassetto) return std::move(grassetto).error();
+  auto a_capo = args.Boolean(i_a_capo, true);
+  if (!a_capo) return std::move(a_capo).error();
+  if (*a_capo) *testo += '\n';
+  lib.Scrivi(std::move(*testo), colore, *grassetto);
+  return Variant();
+}
+
+// Scrivi [Testo], [Grassetto], [ACapo], [ColoreSfondo], [ColoreTesto], [Dimensione]
+Result<Variant> Scrivi(Libreria& lib, CallArgs& args) {
+  auto colore = args.Has(4) ? args.Integer(4) : Result<int16_t>(lib.colore_testo());
+  if (!colore) return std::move(colore).error();
+  return ScriviTesto(lib, args, 0, 1, 2, *colore);
+}
+
+// ScriviConColori Testo, ColoreTesto, [Grassetto], [ACapo]
+Result<Variant> ScriviConColori(Libreria& lib, CallArgs& args) {
+  auto colore = args.Integer(1);
+  if (!colore) return std::move(colore).error();
+  return ScriviTesto(lib, args, 0, 2, 3, *colore);
+}
+
+Result<Variant> ColoreTesto(Libreria& lib, CallArgs& args) {
+  auto colore = args.Integer(0);
+  if (!colore) return std::move(colore).error();
+  lib.colore_testo() = *colore;
+  return Variant();
+}
+
+Result<Variant> Messaggio(Libreria& lib, CallArgs& args) {
+  auto testo = Testo(args, 0);
+  if (!testo) return std::move(testo).error();
+  lib.ospite().Messaggio(*testo);
+  return Variant();
+}
+
+const Libreria::Funzione kOutput[] = {
+    {"Scrivi", 0, 6, &Scrivi,
+     "[Testo], [Grassetto], [ACapo = True], [ColoreSfondo], [ColoreTesto], [Dimensione]: writes a line of output"},
+    {"ScriviConColori", 2, 4, &ScriviConColori, "Testo, ColoreTesto, [Grassetto], [ACapo = True]: writes in a colour"},
+    {"ColoreTesto", 1, 1, &ColoreTesto, "Colore: the colour of the text Scrivi writes from now on"},
+    {"Messaggio", 1, 1, &Messaggio, "Testo: shows a short notice in the status line"},
+};
+
+}  // namespace
+
+std::span<const Libreria::Funzione> FunzioniOutput() { return kOutput; }
+
+}  // namespace lottolab::script

@@ -1,0 +1,65 @@
+#include "OutputHtml.h"
+
+#include <fmt/format.h>
+
+#include "InterfacciaScript.h"
+
+namespace lottolab::script {
+
+namespace fs = std::filesystem;
+
+Esito<Fatto> OutputHtml::Apri(const fs::path& file, std::string_view colore_sfondo) {
+  Chiudi();
+  std::error_code errore;
+  if (!fs::is_directory(file.parent_path(), errore))
+    return AvvisoEsclamativo(fmt::format("Path di lavoro {} non valido !", file.parent_path().string()));
+  m_file.open(file, std::ios::binary | std::ios::trunc);
+  if (!m_file) return AvvisoEsclamativo(fmt::format("Impossibile creare il file {}", file.string()));
+  m_percorso = file;
+  m_file << "<html>\n<body bgcolor =" << colore_sfondo << ">\n<pre>\n";
+  return Fatto{};
+}
+
+void OutputHtml::Scrivi(std::string_view testo, int16_t colore, bool grassetto) {
+  if (!Aperto() || testo.empty()) return;
+  const bool colorato = colore != kNero;
+  if (colorato) m_file << "<font color=\"" << ColoreHtml(colore) << "\">";
+  if (grassetto) m_file << "<b>";
+  m_file << TestoHtml(testo);
+  if (grassetto) m_file << "</b>";
+  if (colorato) m_file << "</font>";
+}
+
+void OutputHtml::ScriviMarkup(std::string_view markup) {
+  if (Aperto()) m_file << markup;
+}
+
+void OutputHtml::Chiudi() {
+  if (!Aperto()) return;
+  m_file << "</pre>\n</body>\n</html>\n";
+  m_file.close();
+}
+
+std::string_view ColoreHtml(int16_t colore) {
+  static constexpr std::string_view kColori[] = {"#000000", "#0000FF", "#FF0000", "#008000",
+                                                 "#FFFF00", "#FFFFFF", "#00FFFF", "#FF00FF"};
+  if (colore < 0 || colore > kMagenta) return kColori[kNero];
+  return kColori[colore];
+}
+
+std::string TestoHtml(std::string_view testo) {
+  std::string html;
+  html.reserve(testo.size());
+  for (char c : testo) {
+    switch (c) {
+      case '<': html += "&lt;"; break;
+      case '>': html += "&gt;"; break;
+      case '&': html += "&amp;"; break;
+      case '"': html += "&quot;"; break;
+      default: html += c;
+    }
+  }
+  return html;
+}
+
+}  // namespace lottolab::script
