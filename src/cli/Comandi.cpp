@@ -18,7 +18,9 @@ constexpr std::string_view kUso =
     "  estrazione ID|GG/MM/AAAA  mostra un'estrazione\n"
     "  ritardo|frequenza|storico [--ruote BA,VE|TT] [--sorte N] [--posizioni 1,3] [--inizio X] [--fine X] N1 [N2 ...]\n"
     "  tabellone [--ruota VE] [--inizio X] [--fine X]\n"
-    "  vbs [--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]   esegue un programma VBScript\n";
+    "  vbs [--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]   esegue un programma VBScript\n"
+    "  esegui SCRIPT.ls [--timeout MINUTI] [--html FILE]     esegue uno script sull'archivio\n"
+    "  nuovo-script FILE.ls      scrive lo schema di uno script nuovo\n";
 
 }  // namespace
 
@@ -54,6 +56,8 @@ int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err
   if (comando == "storico") return ComandoStatistica(contesto, parole, Statistica::Storico);
   if (comando == "tabellone") return ComandoTabellone(contesto, parole);
   if (comando == "vbs") return ComandoVbs(contesto, parole, err);
+  if (comando == "esegui") return ComandoEsegui(contesto, parole, err);
+  if (comando == "nuovo-script") return ComandoNuovoScript(contesto, parole);
   return contesto.Fallisci(AvvisoEsclamativo(fmt::format("comando sconosciuto: {} (lottolab --help per l'elenco)", comando)));
 }
 

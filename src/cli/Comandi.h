@@ -22,6 +22,11 @@ int ComandoStatistica(Contesto& contesto, const Parole& parole, Statistica stati
 int ComandoTabellone(Contesto& contesto, const Parole& parole);
 // Runs a plain VBScript program with a WScript object; its exit status is the script's.
 int ComandoVbs(Contesto& contesto, const Parole& parole, std::ostream& err);
+// Runs a user's script with the library, its includes and the run sequence; the text output goes to
+// `out`, messages and the error report to `err`.
+int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err);
+// Writes the template of a new script; an existing file is left alone.
+int ComandoNuovoScript(Contesto& contesto, const Parole& parole);
 
 // The whole command line: global options, then a command and its words.
 int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err);

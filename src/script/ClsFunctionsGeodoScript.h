@@ -29,7 +29,8 @@ namespace lottolab::script {
 
 struct ImpostazioniLibreria {
   const TabellaEstrazioni* archivio = nullptr;  // null when no archive is loaded
-  std::filesystem::path cartella_base;         // holds Script/, Script/Funzioni/, scriptOutput/
+  std::filesystem::path cartella_base;         // holds Script/ and Script/Funzioni/
+  std::filesystem::path cartella_output;       // where the run's HTML pages go: scriptOutput/ of the base
   std::filesystem::path cartella_dati_app;     // what GetDirectoryAppData gives
   std::string colore_sfondo_html = "#FFFFFF";
 };

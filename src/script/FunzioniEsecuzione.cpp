@@ -97,7 +97,7 @@ Result<Variant> AvanzamentoElab(Libreria& lib, CallArgs& args) {
 }
 
 Result<Variant> ApriPagina(Libreria& lib, const std::string& nome) {
-  const fs::path file = lib.impostazioni().cartella_base / "scriptOutput" / nome;
+  const fs::path file = lib.impostazioni().cartella_output / nome;
   auto aperta = lib.html().Apri(file, lib.impostazioni().colore_sfondo_html);
   if (!aperta) lib.ospite().Mostra(aperta.Errore());
   return Variant();

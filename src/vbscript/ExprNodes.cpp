@@ -153,6 +153,8 @@ Result<Variant*> LateNameNode::Address(Frame& frame) {
 Status LateNameNode::Assign(Frame& frame, Variant value, bool is_set) { return AssignWith(frame, {}, std::move(value), is_set); }
 
 Status LateNameNode::Invoke(Frame& frame) {
+  // A name called as a statement that names nothing is a call of a missing procedure.
+  if (!Resolve(frame)) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
   auto result = CallWith(frame, {}, InvokeKind::Method);
   if (!result) return std::move(result).error();
   return Ok();

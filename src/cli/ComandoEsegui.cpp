@@ -1,0 +1,146 @@
+#include <algorithm>
+#include <filesystem>
+#include <fmt/format.h>
+#include <fmt/ostream.h>
+#include <fstream>
+#include <sstream>
+
+#include "Comandi.h"
+#include "archive/ClsEstrazioni.h"
+#include "script/EsecuzioneScript.h"
+#include "vbscript/Interpreter.h"
+#include "vbscript/Utf.h"
+
+namespace lottolab::cli {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kUsoEsegui = "uso: lottolab esegui SCRIPT.ls [--timeout MINUTI] [--html FILE]";
+
+// A script run from a terminal: its text output on stdout, everything meant for a window on stderr.
+class OspiteTerminale final : public script::InterfacciaScript {
+ public:
+  OspiteTerminale(std::ostream& out, SegnalatoreTerminale& segnalatore, std::ostream& err)
+      : m_out(out), m_segnalatore(segnalatore), m_err(err) {}
+  void Scrivi(const script::TrattoTesto& tratto) override { m_out << tratto.testo; }
+  void Mostra(const Avviso& avviso) override { m_segnalatore.Mostra(avviso); }
+  void Messaggio(const std::string& testo) override { m_err << testo << '\n'; }
+  void Avanzamento(double) override {}
+
+ private:
+  std::ostream& m_out;
+  SegnalatoreTerminale& m_segnalatore;
+  std::ostream& m_err;
+};
+
+// Nobody answers dialogs on the command line: a message box prints its text and takes its first
+// button, an input box takes its default answer.
+class UiSenzaRisposte final : public vbs::UiHandler {
+ public:
+  explicit UiSenzaRisposte(std::ostream& err) : m_err(err) {}
+  int MessageBox(std::u16string_view prompt, int buttons, std::u16string_view) override {
+    m_err << vbs::Utf16ToUtf8(prompt) << '\n';
+    constexpr int kPrimoPulsante[] = {1, 1, 3, 6, 6, 4};  // OK, OK, Abort, Yes, Yes, Retry
+    const int gruppo = buttons & 0x7;
+    return gruppo < 6 ? kPrimoPulsante[gruppo] : 1;
+  }
+  std::optional<std::u16string> InputBox(std::u16string_view prompt, std::u16string_view,
+                                         std::u16string_view predefinito) override {
+    m_err << vbs::Utf16ToUtf8(prompt) << '\n';
+    return std::u16string(predefinito);
+  }
+
+ private:
+  std::ostream& m_err;
+};
+
+// Minutes as a whole or decimal number ("2", "0.5"); nothing for anything else.
+std::optional<double> Minuti(const std::string& testo) {
+  if (testo.empty() || testo.size() > 8 || testo.find_first_not_of("0123456789.") != std::string::npos ||
+      testo.find('.') != testo.rfind('.') || testo == ".")
+    return std::nullopt;
+  return std::stod(testo);
+}
+
+}  // namespace
+
+int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
+  std::optional<fs::path> script_file;
+  std::optional<fs::path> pagina;
+  int32_t timeout_ms = -1;
+  for (size_t i = 0; i < parole.size(); ++i) {
+    const std::string& parola = parole[i];
+    if (parola == "--timeout" || parola == "--html") {
+      if (i + 1 == parole.size())
+        return contesto.Fallisci(AvvisoEsclamativo(fmt::format("manca il valore dell'opzione {}", parola)));
+      const std::string& valore = parole[++i];
+      if (parola == "--html") {
+        pagina = fs::absolute(valore);
+        continue;
+      }
+      auto minuti = Minuti(valore);
+      if (!minuti)
+        return contesto.Fallisci(AvvisoEsclamativo(fmt::format("--timeout vuole i minuti (0 = Infinito): {}", valore)));
+      timeout_ms = *minuti == 0 ? -1 : std::max(1, static_cast<int32_t>(*minuti * 60000));
+    } else if (!script_file && !parola.starts_with("--")) {
+      script_file = parola;
+    } else {
+      return contesto.Fallisci(AvvisoEsclamativo(std::string(kUsoEsegui)));
+    }
+  }
+  if (!script_file) return contesto.Fallisci(AvvisoEsclamativo(std::string(kUsoEsegui)));
+  std::ifstream in(*script_file, std::ios::binary);
+  if (!in) return contesto.Fallisci(AvvisoEsclamativo(fmt::format("impossibile leggere il file {}", script_file->string())));
+  std::stringstream contenuto;
+  contenuto << in.rdbuf();
+
+  std::optional<TabellaEstrazioni> archivio;
+  if (fs::exists(contesto.archivio)) {
+    auto tabella = contesto.CaricaTabella();
+    if (!tabella) return contesto.Fallisci(tabella.Errore());
+    archivio = std::move(tabella).Valore();
+  }
+
+  script::OpzioniEsecuzione opzioni;
+  opzioni.libreria.archivio = archivio ? &*archivio : nullptr;
+  opzioni.libreria.cartella_base = contesto.configurazione.base;
+  opzioni.libreria.cartella_dati_app = contesto.configurazione.base;
+  opzioni.libreria.cartella_output = pagina ? pagina->parent_path() : contesto.configurazione.base / "scriptOutput";
+  if (pagina) opzioni.nome_file_html = pagina->filename().string();
+  opzioni.timeout_ms = timeout_ms;
+  opzioni.nome_script = script_file->filename().string();
+  std::error_code ignorato;
+  fs::create_directories(opzioni.libreria.cartella_output, ignorato);
+
+  OspiteTerminale ospite(contesto.out, contesto.segnalatore, err);
+  UiSenzaRisposte ui(err);
+  script::EsecutoreScript esecutore(ospite, &ui);
+  const auto esito = esecutore.Esegui(vbs::DecodeScriptFile(contenuto.str()), opzioni);
+  contesto.out.flush();
+  switch (esito.stato) {
+    case script::EsitoEsecuzione::Stato::Completato:
+      // Library functions that failed were reported, and the script went on to its end.
+      return kUscitaRiuscita;
+    case script::EsitoEsecuzione::Stato::ErroreScript:
+      err << script::RapportoErrore(*esito.errore);
+      return kUscitaErrore;
+    default:
+      return kUscitaErrore;
+  }
+}
+
+int ComandoNuovoScript(Contesto& contesto, const Parole& parole) {
+  if (parole.size() != 1) return contesto.Fallisci(AvvisoEsclamativo("uso: lottolab nuovo-script FILE.ls"));
+  const fs::path file = parole[0];
+  if (fs::exists(file))
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("il file {} esiste già: non lo sovrascrivo", file.string())));
+  std::ofstream out(file, std::ios::binary);
+  out << script::kModelloScript;
+  if (!out.flush())
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("impossibile scrivere il file {}", file.string())));
+  return kUscitaRiuscita;
+}
+
+}  // namespace lottolab::cli

@@ -1,0 +1,79 @@
+#include "ArgomentiLotto.h"
+
+#include <optional>
+
+#include "archive/Ruote.h"
+#include "stats/Numeri.h"
+#include "vbscript/SafeArray.h"
+
+namespace lottolab::script {
+
+namespace {
+
+// The swap of the two wheel values that scripts and the table number differently; nullopt for
+// every other text.
+std::optional<int> RuotaScambiata(std::u16string_view testo) {
+  if (testo == u"11") return kTutteLeRuote;
+  if (testo == u"12") return NZ;
+  return std::nullopt;
+}
+
+// The elements of argument i converted one by one. Scripts declare their arrays from 0 and fill
+// them from 1, so the Empty elements they leave hold no value and are passed over.
+template <typename T, typename Converti>
+vbs::Result<std::vector<T>> Elementi(const vbs::CallArgs& args, size_t i, Converti converti) {
+  auto valore = args.Value(i);
+  if (!valore) return std::move(valore).error();
+  std::vector<T> elementi;
+  if (!valore->is_array()) {
+    auto convertito = converti(*valore);
+    if (!convertito) return std::move(convertito).error();
+    elementi.push_back(*convertito);
+    return elementi;
+  }
+  for (const vbs::Variant& elemento : valore->as_array()->elements()) {
+    if (elemento.is_empty()) continue;
+    auto convertito = converti(elemento);
+    if (!convertito) return std::move(convertito).error();
+    elementi.push_back(*convertito);
+  }
+  return elementi;
+}
+
+}  // namespace
+
+vbs::Result<int> RuotaTabella(const vbs::Variant& valore, const vbs::Locale& locale) {
+  auto testo = valore.to_string(locale);
+  if (!testo) return std::move(testo).error();
+  if (auto scambiata = RuotaScambiata(testo->view())) return *scambiata;
+  auto ruota = valore.to_integer(locale);
+  if (!ruota) return std::move(ruota).error();
+  return int{*ruota};
+}
+
+vbs::Result<int> RuotaTabella(const vbs::CallArgs& args, size_t i) {
+  auto testo = args.String(i);
+  if (!testo) return std::move(testo).error();
+  if (auto scambiata = RuotaScambiata(*testo)) return *scambiata;
+  auto ruota = args.Integer(i);
+  if (!ruota) return std::move(ruota).error();
+  return int{*ruota};
+}
+
+vbs::Result<std::vector<int>> RuoteArgomento(const vbs::CallArgs& args, size_t i) {
+  return Elementi<int>(args, i, [&args](const vbs::Variant& v) { return RuotaTabella(v, args.locale()); });
+}
+
+vbs::Result<std::vector<double>> ValoriArgomento(const vbs::CallArgs& args, size_t i) {
+  return Elementi<double>(args, i, [&args](const vbs::Variant& v) { return v.to_double(args.locale()); });
+}
+
+vbs::Result<std::vector<int>> NumeriArgomento(const vbs::CallArgs& args, size_t i) {
+  return Elementi<int>(args, i, [&args](const vbs::Variant& v) -> vbs::Result<int> {
+    auto numero = v.to_double(args.locale());
+    if (!numero) return std::move(numero).error();
+    return int{stats::Fuori90(*numero)};
+  });
+}
+
+}  // namespace lottolab::script

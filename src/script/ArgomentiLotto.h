@@ -1,0 +1,32 @@
+#pragma once
+
+// Arguments that many library functions share: wheels in the script's numbering, and groups of
+// numbers or wheels that a script passes either as one value or as an array.
+//
+// Scripts call all the wheels together 11 (TU_, TT_) and Nazionale 12 (NZ_), while the table of
+// draws keeps Nazionale at 11 and uses 12 for all the wheels. Existing scripts rely on that swap, so
+// it is kept, and it happens here, once, as each argument arrives.
+
+#include <cstddef>
+#include <vector>
+
+#include "vbscript/HostObject.h"
+
+namespace lottolab::script {
+
+// The table wheel for a wheel in the script's numbering. The value is compared as the script writes
+// it: only "11" and "12" are swapped, anything else is converted to a 16-bit integer and kept, so a
+// wheel outside 1..12 stays outside for the caller to refuse or ignore.
+vbs::Result<int> RuotaTabella(const vbs::Variant& valore, const vbs::Locale& locale);
+vbs::Result<int> RuotaTabella(const vbs::CallArgs& args, size_t i);
+
+// Argument i as table wheels: the one value given, or every element of an array of any bounds.
+vbs::Result<std::vector<int>> RuoteArgomento(const vbs::CallArgs& args, size_t i);
+
+// Argument i as numbers, the one value or every element of an array, each converted to a Double.
+vbs::Result<std::vector<double>> ValoriArgomento(const vbs::CallArgs& args, size_t i);
+
+// ValoriArgomento with each value brought into 1..90 by Fuori90.
+vbs::Result<std::vector<int>> NumeriArgomento(const vbs::CallArgs& args, size_t i);
+
+}  // namespace lottolab::script

@@ -1,0 +1,3 @@
+Function Saluto(nome)
+  Saluto = "Ciao " & nome
+End Function

@@ -1,0 +1,6 @@
+Option Explicit
+includi NonEsiste.ls
+
+Sub Main
+  Scrivi "mai"
+End Sub
