@@ -40,9 +40,20 @@ vbs::Result<std::vector<T>> Elementi(const vbs::CallArgs& args, size_t i, Conver
   return elementi;
 }
 
+// A whole number's text is "11" or "12" exactly when its value is: the common case needs no text.
+std::optional<int> RuotaIntera(const vbs::Variant& valore) {
+  if (!valore.is_whole()) return std::nullopt;
+  const int32_t ruota = valore.as_whole();
+  if (ruota == 11) return kTutteLeRuote;
+  if (ruota == 12) return NZ;
+  if (ruota < INT16_MIN || ruota > INT16_MAX) return std::nullopt;
+  return ruota;
+}
+
 }  // namespace
 
 vbs::Result<int> RuotaTabella(const vbs::Variant& valore, const vbs::Locale& locale) {
+  if (auto ruota = RuotaIntera(valore)) return *ruota;
   auto testo = valore.to_string(locale);
   if (!testo) return std::move(testo).error();
   if (auto scambiata = RuotaScambiata(testo->view())) return *scambiata;
@@ -52,6 +63,7 @@ vbs::Result<int> RuotaTabella(const vbs::Variant& valore, const vbs::Locale& loc
 }
 
 vbs::Result<int> RuotaTabella(const vbs::CallArgs& args, size_t i) {
+  if (auto ruota = RuotaIntera(args[i])) return *ruota;
   auto testo = args.String(i);
   if (!testo) return std::move(testo).error();
   if (auto scambiata = RuotaScambiata(*testo)) return *scambiata;

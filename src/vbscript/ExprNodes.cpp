@@ -548,9 +548,21 @@ Status MeMemberNode::Invoke(Frame& frame) {
   return Ok();
 }
 
+HostMemberNode::HostMemberNode(SourcePos pos, uint32_t object, DispId member, ExprNodes args)
+    : ExprNode(pos), m_object(object), m_member(member), m_args(std::move(args)) {
+  for (const ExprNodePtr& arg : m_args) m_direct.emplace_back(arg.get());
+}
+
 Result<Variant> HostMemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) {
   ArgValues values;
-  VBS_TRY(EvalArgs(frame, m_args, values, true));
+  for (size_t i = 0; i < m_args.size(); ++i) {
+    if (Variant* storage = m_direct[i].Storage(frame))
+      values.Add(Variant::Reference(storage));
+    else if (const Variant* constant = m_direct[i].Get(frame))
+      values.Add(*constant);
+    else
+      VBS_TRY(EvalArgs(frame, std::span<const ExprNodePtr>(&m_args[i], 1), values, true));
+  }
   if (value) values.Add(std::move(*value));
   return frame.interp.named_objects()[m_object].object->Invoke(m_member, kind, values.span());
 }

@@ -382,8 +382,7 @@ class MeMemberNode final : public ExprNode {
 // A member of an object the host added with its members as global names.
 class HostMemberNode final : public ExprNode {
  public:
-  HostMemberNode(SourcePos pos, uint32_t object, DispId member, ExprNodes args)
-      : ExprNode(pos), m_object(object), m_member(member), m_args(std::move(args)) {}
+  HostMemberNode(SourcePos pos, uint32_t object, DispId member, ExprNodes args);
   Result<Variant> Eval(Frame& frame) override;
   Status Assign(Frame& frame, Variant value, bool is_set) override;
   Status Invoke(Frame& frame) override;
@@ -394,6 +393,8 @@ class HostMemberNode final : public ExprNode {
   uint32_t m_object;
   DispId m_member;
   ExprNodes m_args;
+  // Plain variables and constants among the arguments are passed with no call.
+  std::vector<DirectOperand> m_direct;
 };
 
 // callee(args) where the callee is itself a call: f(1)(2), obj.items(0)(1).

@@ -24,7 +24,9 @@ bool CallArgs::Has(size_t i) const {
 
 Result<Variant> CallArgs::Value(size_t i) const { return ValueOf(m_args[i].Deref()); }
 
+// Whole numbers and Doubles, what host functions get nearly always, are read with no conversion.
 Result<int32_t> CallArgs::Long(size_t i) const {
+  if ((*this)[i].is_whole()) return (*this)[i].as_whole();
   auto v = (*this)[i].to_long(m_locale);
   if (!v) return AtArgument(std::move(v).error(), i, m_locale.language);
   return *v;
@@ -33,12 +35,16 @@ Result<int32_t> CallArgs::Long(size_t i) const {
 Result<int32_t> CallArgs::Long(size_t i, int32_t if_missing) const { return Has(i) ? Long(i) : Result<int32_t>(if_missing); }
 
 Result<int16_t> CallArgs::Integer(size_t i) const {
+  if (const Variant& plain = (*this)[i]; plain.is_whole() && plain.as_whole() >= INT16_MIN && plain.as_whole() <= INT16_MAX)
+    return static_cast<int16_t>(plain.as_whole());
   auto v = (*this)[i].to_integer(m_locale);
   if (!v) return AtArgument(std::move(v).error(), i, m_locale.language);
   return *v;
 }
 
 Result<double> CallArgs::Double(size_t i) const {
+  if (const Variant& plain = (*this)[i]; plain.is_whole() || plain.is_double())
+    return plain.is_double() ? plain.as_double() : plain.as_whole();
   auto v = (*this)[i].to_double(m_locale);
   if (!v) return AtArgument(std::move(v).error(), i, m_locale.language);
   return *v;

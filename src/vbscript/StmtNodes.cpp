@@ -220,7 +220,7 @@ Result<Flow> ForNode::Exec(Frame& frame) {
 
   // Whole-number loops on a plain variable, the common case, count in a machine integer; the
   // counter keeps the subtype that adding the step would give it (Integer, widening to Long).
-  auto* variable = dynamic_cast<VariableNode*>(m_counter.get());
+  VariableNode* variable = m_variable;
   auto whole = [](const Variant& v) { return v.is_integer() || v.is_long(); };
   if (variable && whole(limit) && whole(increment)) {
     const int64_t last = limit.as_whole();

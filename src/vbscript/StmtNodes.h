@@ -133,7 +133,8 @@ class ForNode final : public StmtNode {
   ForNode(SourcePos pos, ExprNodePtr counter, ExprNodePtr from, ExprNodePtr to, ExprNodePtr step, uint32_t temp,
           BlockNode body)
       : StmtNode(pos), m_counter(std::move(counter)), m_from(std::move(from)), m_to(std::move(to)),
-        m_step(std::move(step)), m_temp(temp), m_body(std::move(body)) {}
+        m_step(std::move(step)), m_temp(temp), m_body(std::move(body)),
+        m_variable(dynamic_cast<VariableNode*>(m_counter.get())) {}
   Result<Flow> Exec(Frame& frame) override;
 
  private:
@@ -143,6 +144,7 @@ class ForNode final : public StmtNode {
   ExprNodePtr m_step;
   uint32_t m_temp;  // two slots: the limit, then the step
   BlockNode m_body;
+  VariableNode* m_variable;  // the counter when it is a plain variable: whole-number loops count fast
 };
 
 class ForEachNode final : public StmtNode {
