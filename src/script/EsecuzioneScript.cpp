@@ -106,6 +106,7 @@ EsitoEsecuzione EsecutoreScript::EseguiNelMotore(vbs::ScriptControl& motore, Cls
   motore.SetAllowUI(true);
   motore.SetUiHandler(m_ui);
   (void)motore.AddObject("ClsFunctionsGeodoScript", vbs::Ref<vbs::Object>(&libreria), true);
+  if (opzioni.finestra) (void)motore.AddObject("F_Script", opzioni.finestra, true);
   motore.SetTimeout(opzioni.timeout_ms);
 
   // Each statement of the sequence stops the run at its first error; the closing ones always run.

@@ -18,6 +18,7 @@
 #include "ClsFunctionsGeodoScript.h"
 #include "IncludiFile.h"
 #include "InterfacciaScript.h"
+#include "vbscript/Object.h"
 
 namespace vbs {
 class ScriptControl;
@@ -56,6 +57,9 @@ struct OpzioniEsecuzione {
   bool salva_previsioni = false;
   std::string nome_file_html;  // empty: NomeFileHtmlOutput of now
   std::string nome_script = "script";  // the name errors give for the user's code
+  // The window that runs the script, added under "F_Script" with its members as global names; none
+  // on the command line.
+  vbs::Ref<vbs::Object> finestra;
 };
 
 struct EsitoEsecuzione {

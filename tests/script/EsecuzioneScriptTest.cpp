@@ -190,6 +190,26 @@ TEST_F(EsecuzioneScript, ConstantsAreReadOnly) {
   EXPECT_EQ(esito.errore->riga, 3u);
 }
 
+TEST_F(EsecuzioneScript, AMultiOutputRunWritesAPagePerOutput) {
+  m_opzioni.multi_output = true;
+  auto esito = Esegui(
+      "Sub Main\nScrivi \"primo\"\nColoraRtfOutputMulti\nAzzeraHtmlOutputMulti\nScrivi \"secondo\"\nEnd Sub");
+  EXPECT_EQ(esito.stato, EsitoEsecuzione::Stato::Completato);
+  ASSERT_EQ(esito.pagine.size(), 2u);
+  EXPECT_EQ(esito.pagine[0].filename(), "pagina_1.html");
+  EXPECT_EQ(esito.pagine[1].filename(), "pagina_2.html");
+  EXPECT_NE(Leggi(esito.pagine[0]).find("primo\n</pre>"), std::string::npos);
+  EXPECT_NE(Leggi(esito.pagine[1]).find("secondo\n</pre>"), std::string::npos);
+}
+
+TEST_F(EsecuzioneScript, ProgressAndNoticesReachTheHost) {
+  auto esito = Esegui("Sub Main\nAvanzamentoElab 5, 20\nAvanzamentoElab 10, 20, 15\nAvanzamentoElab 1, 0\n"
+                      "Messaggio \"quasi\"\nEnd Sub");
+  EXPECT_EQ(esito.stato, EsitoEsecuzione::Stato::Completato);
+  EXPECT_EQ(m_ospite.m_avanzamento, (std::vector<double>{25, 50, 100}));
+  EXPECT_EQ(m_ospite.m_messaggi, std::vector<std::string>{"quasi"});
+}
+
 TEST_F(EsecuzioneScript, TheTimeOutEndsAnEndlessScript) {
   m_opzioni.timeout_ms = 100;
   auto esito = Esegui("Sub Main\nDo\nLoop\nEnd Sub");
