@@ -1,7 +1,7 @@
 // Reading the Lotto draw archive: the numbers, dates and indices of each draw.
 
 #include "ArgomentiLotto.h"
-#include "ClsFunctionsGeodoScript.h"
+#include "Famiglia.h"
 #include "archive/DateEstrazione.h"
 #include "vbscript/Interpreter.h"
 #include "vbscript/SafeArray.h"
@@ -11,10 +11,7 @@ namespace lottolab::script {
 
 namespace {
 
-using Libreria = ClsFunctionsGeodoScript;
-using vbs::CallArgs;
-using vbs::Result;
-using vbs::Variant;
+using namespace famiglia;
 
 // Argument i as the index of a draw of the table. An index outside it is a subscript out of range,
 // as for an array, because scripts walk the archive like one.

@@ -5,7 +5,7 @@
 // the number as written (Gemello, the cyclometric differences, ComplAdX), receive it unchanged.
 
 #include "ArgomentiLotto.h"
-#include "ClsFunctionsGeodoScript.h"
+#include "Famiglia.h"
 #include "stats/Numeri.h"
 #include "vbscript/Utf.h"
 
@@ -13,10 +13,7 @@ namespace lottolab::script {
 
 namespace {
 
-using Libreria = ClsFunctionsGeodoScript;
-using vbs::CallArgs;
-using vbs::Result;
-using vbs::Variant;
+using namespace famiglia;
 
 using DiUnNumero = int16_t (*)(double);
 using DiDueNumeri = int16_t (*)(double, double);

@@ -1,16 +1,13 @@
 // The constants scripts use without declaring them: wheels, sorte, colours and three numbers.
 // They are read-only members of the library object.
 
-#include "ClsFunctionsGeodoScript.h"
+#include "Famiglia.h"
 
 namespace lottolab::script {
 
 namespace {
 
-using Libreria = ClsFunctionsGeodoScript;
-using vbs::CallArgs;
-using vbs::Result;
-using vbs::Variant;
+using namespace famiglia;
 
 template <int32_t V>
 Result<Variant> Lungo(Libreria&, CallArgs&) {

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <fmt/format.h>
 
-#include "ClsFunctionsGeodoScript.h"
+#include "Famiglia.h"
 #include "vbscript/Utf.h"
 
 namespace lottolab::script {
@@ -12,10 +12,7 @@ namespace lottolab::script {
 namespace {
 
 namespace fs = std::filesystem;
-using Libreria = ClsFunctionsGeodoScript;
-using vbs::CallArgs;
-using vbs::Result;
-using vbs::Variant;
+using namespace famiglia;
 
 // The page name used when the host set none.
 constexpr std::string_view kNomePaginaPredefinito = "output.htm";

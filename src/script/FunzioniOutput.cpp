@@ -1,16 +1,13 @@
 // The script's text output: to the output box (with colours) and to the run's HTML page.
 
-#include "ClsFunctionsGeodoScript.h"
+#include "Famiglia.h"
 #include "vbscript/Utf.h"
 
 namespace lottolab::script {
 
 namespace {
 
-using Libreria = ClsFunctionsGeodoScript;
-using vbs::CallArgs;
-using vbs::Result;
-using vbs::Variant;
+using namespace famiglia;
 
 // The text of an argument as the script would print it (numbers in the engine's locale); an omitted
 // argument is empty.

@@ -7,7 +7,7 @@
 #include <fmt/format.h>
 
 #include "ArgomentiLotto.h"
-#include "ClsFunctionsGeodoScript.h"
+#include "Famiglia.h"
 #include "stats/Numeri.h"
 #include "stats/Ritardi.h"
 #include "vbscript/SafeArray.h"
@@ -17,10 +17,7 @@ namespace lottolab::script {
 
 namespace {
 
-using Libreria = ClsFunctionsGeodoScript;
-using vbs::CallArgs;
-using vbs::Result;
-using vbs::Variant;
+using namespace famiglia;
 
 vbs::ScriptError ArgomentoNonValido(std::string descrizione) {
   return vbs::ScriptError{5, vbs::Utf8ToUtf16(descrizione), {}, {}, false};
