@@ -29,7 +29,9 @@ const Tabella& TabellaCompleta() {
   static const Tabella tabella = [] {
     Tabella t;
     for (auto famiglia : {FunzioniCostanti(), FunzioniEsecuzione(), FunzioniOutput(), FunzioniArchivio(),
-                          FunzioniAritmetica(), FunzioniRitardi()})
+                          FunzioniAritmetica(), FunzioniRitardi(), FunzioniStatistiche(), FunzioniElenchi(),
+                          FunzioniFormazioni(), FunzioniTabelle(), FunzioniTesto(), FunzioniCombinazioni(),
+                          FunzioniArray(), FunzioniFile(), FunzioniDialoghi(), FunzioniEstrazioniAttive()})
       t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =

@@ -17,7 +17,10 @@
 #include <filesystem>
 #include <span>
 #include <string>
+#include <memory>
 #include <string_view>
+#include <typeindex>
+#include <unordered_map>
 #include <vector>
 
 #include "InterfacciaScript.h"
@@ -93,6 +96,16 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
   // Text output: to the host and, when the page is open, to the HTML page.
   void Scrivi(std::string testo, int16_t colore, bool grassetto);
 
+  // The state a family keeps for the run (files it opened, a table being built, a development in
+  // progress), made empty on first use and dropped with the object. Each family declares its own
+  // type in its own file.
+  template <typename T>
+  T& Stato() {
+    std::shared_ptr<void>& stato = m_stati[std::type_index(typeid(T))];
+    if (!stato) stato = std::make_shared<T>();
+    return *static_cast<T*>(stato.get());
+  }
+
  private:
   InterfacciaScript& m_ospite;
   const vbs::Locale& m_locale;
@@ -105,6 +118,7 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
   OutputHtml m_html;
   std::vector<std::filesystem::path> m_pagine;
   int16_t m_colore_testo = kNero;
+  std::unordered_map<std::type_index, std::shared_ptr<void>> m_stati;
 };
 
 // The families of the table, one file each.
@@ -114,5 +128,15 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniOutput();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniArchivio();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniAritmetica();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniRitardi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniStatistiche();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniElenchi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniFormazioni();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniTabelle();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniTesto();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniCombinazioni();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniArray();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniFile();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniDialoghi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEstrazioniAttive();
 
 }  // namespace lottolab::script

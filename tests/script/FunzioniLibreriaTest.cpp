@@ -4,66 +4,13 @@
 #include <vector>
 
 #include "archive/DateEstrazione.h"
-#include "script/ClsFunctionsGeodoScript.h"
+#include "LibreriaDiProva.h"
 #include "stats/ArchiviDiProva.h"
-#include "vbscript/ScriptControl.h"
-#include "vbscript/Utf.h"
 
 namespace lottolab::script {
 namespace {
 
 using test::Archivio;
-
-class OspiteDiProva final : public InterfacciaScript {
- public:
-  void Scrivi(const TrattoTesto&) override {}
-  void Mostra(const Avviso& avviso) override { avvisi.push_back(avviso); }
-  void Messaggio(const std::string&) override {}
-  void Avanzamento(double) override {}
-
-  std::vector<Avviso> avvisi;
-};
-
-// The library added to an engine as a script run does, over a table built by each test.
-class Libreria : public ::testing::Test {
- protected:
-  void Avvia(TabellaEstrazioni tab) {
-    m_tab = std::move(tab);
-    ImpostazioniLibreria impostazioni;
-    impostazioni.archivio = &m_tab;
-    ASSERT_TRUE(m_engine.SetLanguage("VBScript"));
-    ASSERT_TRUE(m_engine.AddObject(
-        "ClsFunctionsGeodoScript",
-        vbs::MakeRef<ClsFunctionsGeodoScript>(m_ospite, m_engine.interpreter().locale(), impostazioni), true));
-  }
-
-  // The value as the script prints it; "errore n" when evaluating it failed in the engine itself.
-  std::string Testo(std::string_view espressione) {
-    auto valore = m_engine.Eval(vbs::Utf8ToUtf16(espressione));
-    if (!valore) return "errore " + std::to_string(m_engine.Error().number);
-    auto testo = valore->to_string(m_engine.interpreter().locale());
-    return testo ? vbs::Utf16ToUtf8(testo->view()) : "non stampabile";
-  }
-
-  bool Vuoto(std::string_view espressione) {
-    auto valore = m_engine.Eval(vbs::Utf8ToUtf16(espressione));
-    return valore && valore->is_empty();
-  }
-
-  void Esegui(std::string_view codice) { ASSERT_TRUE(m_engine.AddCode(vbs::Utf8ToUtf16(codice), "prova")); }
-
-  // The one message shown since the last call, which is forgotten.
-  Avviso UnicoAvviso() {
-    EXPECT_EQ(m_ospite.avvisi.size(), 1u);
-    Avviso avviso = m_ospite.avvisi.empty() ? Avviso{} : m_ospite.avvisi.back();
-    m_ospite.avvisi.clear();
-    return avviso;
-  }
-
-  TabellaEstrazioni m_tab;
-  OspiteDiProva m_ospite;
-  vbs::ScriptControl m_engine;
-};
 
 // Every wheel holds (wheel * 7 + position) so that any wheel read by mistake shows.
 Estrazione Datata(int id, GruppoData data) {

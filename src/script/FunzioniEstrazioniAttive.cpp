@@ -1,0 +1,7 @@
+#include "Famiglia.h"
+
+namespace lottolab::script {
+
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEstrazioniAttive() { return {}; }
+
+}  // namespace lottolab::script

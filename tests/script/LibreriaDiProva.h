@@ -1,0 +1,71 @@
+#pragma once
+
+// The library added to an engine as a script run adds it, over a table of draws chosen by each
+// test: the fixture of the tests of the library's families.
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "script/ClsFunctionsGeodoScript.h"
+#include "vbscript/ScriptControl.h"
+#include "vbscript/Utf.h"
+
+namespace lottolab::script {
+
+// Keeps everything the library hands to its host.
+class OspiteDiProva final : public InterfacciaScript {
+ public:
+  void Scrivi(const TrattoTesto& tratto) override { testo += tratto.testo; }
+  void Mostra(const Avviso& avviso) override { avvisi.push_back(avviso); }
+  void Messaggio(const std::string& messaggio) override { messaggi.push_back(messaggio); }
+  void Avanzamento(double) override {}
+
+  std::string testo;
+  std::vector<Avviso> avvisi;
+  std::vector<std::string> messaggi;
+};
+
+// The library added to an engine as a script run does, over a table built by each test.
+class Libreria : public ::testing::Test {
+ protected:
+  void Avvia(TabellaEstrazioni tab, ImpostazioniLibreria impostazioni = {}) {
+    m_tab = std::move(tab);
+    impostazioni.archivio = &m_tab;
+    ASSERT_TRUE(m_engine.SetLanguage("VBScript"));
+    ASSERT_TRUE(m_engine.AddObject(
+        "ClsFunctionsGeodoScript",
+        vbs::MakeRef<ClsFunctionsGeodoScript>(m_ospite, m_engine.interpreter().locale(), impostazioni), true));
+  }
+
+  // The value as the script prints it; "errore n" when evaluating it failed in the engine itself.
+  std::string Testo(std::string_view espressione) {
+    auto valore = m_engine.Eval(vbs::Utf8ToUtf16(espressione));
+    if (!valore) return "errore " + std::to_string(m_engine.Error().number);
+    auto testo = valore->to_string(m_engine.interpreter().locale());
+    return testo ? vbs::Utf16ToUtf8(testo->view()) : "non stampabile";
+  }
+
+  bool Vuoto(std::string_view espressione) {
+    auto valore = m_engine.Eval(vbs::Utf8ToUtf16(espressione));
+    return valore && valore->is_empty();
+  }
+
+  void Esegui(std::string_view codice) { ASSERT_TRUE(m_engine.AddCode(vbs::Utf8ToUtf16(codice), "prova")); }
+
+  // The one message shown since the last call, which is forgotten.
+  Avviso UnicoAvviso() {
+    EXPECT_EQ(m_ospite.avvisi.size(), 1u);
+    Avviso avviso = m_ospite.avvisi.empty() ? Avviso{} : m_ospite.avvisi.back();
+    m_ospite.avvisi.clear();
+    return avviso;
+  }
+
+  TabellaEstrazioni m_tab;
+  OspiteDiProva m_ospite;
+  vbs::ScriptControl m_engine;
+};
+
+}  // namespace lottolab::script
