@@ -1,5 +1,6 @@
 #include "ArgomentiLotto.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "archive/Ruote.h"
@@ -86,6 +87,21 @@ vbs::Result<std::vector<int>> NumeriArgomento(const vbs::CallArgs& args, size_t 
     if (!numero) return std::move(numero).error();
     return int{stats::Fuori90(*numero)};
   });
+}
+
+vbs::Variant ArrayDaUno(std::vector<vbs::Variant> valori) {
+  const vbs::ArrayBound limiti{1, static_cast<int32_t>(valori.size())};
+  auto array = vbs::SafeArray::Create(std::span<const vbs::ArrayBound>(&limiti, 1));
+  if (!array) return vbs::Variant();  // only a list too long for any array gets here
+  std::move(valori.begin(), valori.end(), (*array)->elements().begin());
+  return vbs::Variant::Array(std::move(*array));
+}
+
+vbs::Variant ArrayDaUno(std::span<const int> valori) {
+  std::vector<vbs::Variant> lunghi;
+  lunghi.reserve(valori.size());
+  for (int valore : valori) lunghi.push_back(vbs::Variant::Long(valore));
+  return ArrayDaUno(std::move(lunghi));
 }
 
 }  // namespace lottolab::script

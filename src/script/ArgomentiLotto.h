@@ -8,6 +8,7 @@
 // it is kept, and it happens here, once, as each argument arrives.
 
 #include <cstddef>
+#include <span>
 #include <vector>
 
 #include "vbscript/HostObject.h"
@@ -28,5 +29,11 @@ vbs::Result<std::vector<double>> ValoriArgomento(const vbs::CallArgs& args, size
 
 // ValoriArgomento with each value brought into 1..90 by Fuori90.
 vbs::Result<std::vector<int>> NumeriArgomento(const vbs::CallArgs& args, size_t i);
+
+// A 1-based array of the values, as the library returns its lists: element k of the script's array
+// is values[k - 1]. An empty list gives an array with bounds (1 To 0).
+vbs::Variant ArrayDaUno(std::vector<vbs::Variant> valori);
+// The same for whole numbers, as Long.
+vbs::Variant ArrayDaUno(std::span<const int> valori);
 
 }  // namespace lottolab::script
