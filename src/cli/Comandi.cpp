@@ -20,7 +20,8 @@ constexpr std::string_view kUso =
     "  tabellone [--ruota VE] [--inizio X] [--fine X]\n"
     "  vbs [--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]   esegue un programma VBScript\n"
     "  esegui SCRIPT.ls [--timeout MINUTI] [--html FILE]     esegue uno script sull'archivio\n"
-    "  nuovo-script FILE.ls      scrive lo schema di uno script nuovo\n";
+    "  nuovo-script FILE.ls      scrive lo schema di uno script nuovo\n"
+    "  funzioni [--html FILE]    elenca le funzioni degli script (o ne scrive la pagina di riferimento)\n";
 
 }  // namespace
 
@@ -58,6 +59,7 @@ int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err
   if (comando == "vbs") return ComandoVbs(contesto, parole, err);
   if (comando == "esegui") return ComandoEsegui(contesto, parole, err);
   if (comando == "nuovo-script") return ComandoNuovoScript(contesto, parole);
+  if (comando == "funzioni") return ComandoFunzioni(contesto, parole, err);
   return contesto.Fallisci(AvvisoEsclamativo(fmt::format("comando sconosciuto: {} (lottolab --help per l'elenco)", comando)));
 }
 

@@ -25,6 +25,9 @@ int ComandoVbs(Contesto& contesto, const Parole& parole, std::ostream& err);
 // Runs a user's script with the library, its includes and the run sequence; the text output goes to
 // `out`, messages and the error report to `err`.
 int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err);
+// Lists the library's public names, each with whether it is implemented and its arguments, or
+// writes a reference page of them with --html FILE.
+int ComandoFunzioni(Contesto& contesto, const Parole& parole, std::ostream& err);
 // Writes the template of a new script; an existing file is left alone.
 int ComandoNuovoScript(Contesto& contesto, const Parole& parole);
 
