@@ -19,7 +19,7 @@ constexpr std::string_view kUso =
     "  ritardo|frequenza|storico [--ruote BA,VE|TT] [--sorte N] [--posizioni 1,3] [--inizio X] [--fine X] N1 [N2 ...]\n"
     "  tabellone [--ruota VE] [--inizio X] [--fine X]\n"
     "  vbs [--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]   esegue un programma VBScript\n"
-    "  esegui SCRIPT.ls [--timeout MINUTI] [--html FILE]     esegue uno script sull'archivio\n"
+    "  esegui SCRIPT.ls [--timeout MINUTI] [--html FILE] [--risposte FILE]   esegue uno script sull'archivio\n"
     "  nuovo-script FILE.ls      scrive lo schema di uno script nuovo\n"
     "  funzioni [--html FILE]    elenca le funzioni degli script (o ne scrive la pagina di riferimento)\n";
 

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <charconv>
+#include <deque>
 #include <filesystem>
 #include <fmt/format.h>
 #include <fmt/ostream.h>
@@ -17,23 +19,95 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kUsoEsegui = "uso: lottolab esegui SCRIPT.ls [--timeout MINUTI] [--html FILE]";
+constexpr std::string_view kUsoEsegui =
+    "uso: lottolab esegui SCRIPT.ls [--timeout MINUTI] [--html FILE] [--risposte FILE]";
+
+// "3", "1.4.7", "2, 5": whole numbers separated by "." or ","; nothing when anything else is there.
+std::optional<std::vector<int>> NumeriDellaRisposta(std::string_view riga) {
+  std::vector<int> numeri;
+  while (true) {
+    const size_t separatore = riga.find_first_of(".,");
+    std::string_view campo = riga.substr(0, separatore);
+    while (campo.starts_with(' ')) campo.remove_prefix(1);
+    while (campo.ends_with(' ')) campo.remove_suffix(1);
+    int numero = 0;
+    auto [fine, errore] = std::from_chars(campo.data(), campo.data() + campo.size(), numero);
+    if (campo.empty() || errore != std::errc() || fine != campo.data() + campo.size()) return std::nullopt;
+    numeri.push_back(numero);
+    if (separatore == std::string_view::npos) return numeri;
+    riga.remove_prefix(separatore + 1);
+  }
+}
 
 // A script run from a terminal: its text output on stdout, everything meant for a window on stderr.
+// The script's dialogs are answered by the lines of the answers file, in order: numbers, positions
+// of items counted from 1, or a path; an empty line cancels. Once the lines are over, and for a line
+// that does not fit its dialog, the dialog takes its default answer.
 class OspiteTerminale final : public script::InterfacciaScript {
  public:
-  OspiteTerminale(std::ostream& out, SegnalatoreTerminale& segnalatore, std::ostream& err)
-      : m_out(out), m_segnalatore(segnalatore), m_err(err) {}
+  OspiteTerminale(std::ostream& out, SegnalatoreTerminale& segnalatore, std::ostream& err,
+                  std::deque<std::string> risposte)
+      : m_out(out), m_segnalatore(segnalatore), m_err(err), m_risposte(std::move(risposte)) {}
   void Scrivi(const script::TrattoTesto& tratto) override { m_out << tratto.testo; }
   void Mostra(const Avviso& avviso) override { m_segnalatore.Mostra(avviso); }
   void Messaggio(const std::string& testo) override { m_err << testo << '\n'; }
   void Avanzamento(double) override {}
 
+  std::optional<std::vector<int>> ScegliVoci(const std::string& titolo, const std::vector<std::string>& voci,
+                                             bool multipla) override {
+    auto riga = ProssimaRisposta(titolo);
+    if (riga && riga->empty()) return std::nullopt;
+    auto posizioni = riga ? NumeriDiRisposta(*riga) : std::nullopt;
+    if (!posizioni) return InterfacciaScript::ScegliVoci(titolo, voci, multipla);
+    for (int& posizione : *posizioni) --posizione;
+    return posizioni;
+  }
+  std::optional<std::vector<int>> ScegliNumeri(const std::string& titolo, int quanti, int massimo,
+                                               const std::vector<int>& proposti) override {
+    auto riga = ProssimaRisposta(titolo);
+    if (riga && riga->empty()) return std::nullopt;
+    auto numeri = riga ? NumeriDiRisposta(*riga) : std::nullopt;
+    return numeri ? numeri : InterfacciaScript::ScegliNumeri(titolo, quanti, massimo, proposti);
+  }
+  std::optional<std::string> ScegliPercorso(const std::string& titolo, const std::string& proposto,
+                                            bool cartella) override {
+    auto riga = ProssimaRisposta(titolo);
+    if (riga && riga->empty()) return std::nullopt;
+    return riga ? riga : InterfacciaScript::ScegliPercorso(titolo, proposto, cartella);
+  }
+
  private:
+  // The dialog's title goes to stderr, as a message box's text does; nothing once the lines are over.
+  std::optional<std::string> ProssimaRisposta(const std::string& titolo) {
+    m_err << titolo << '\n';
+    if (m_risposte.empty()) return std::nullopt;
+    std::string riga = std::move(m_risposte.front());
+    m_risposte.pop_front();
+    return riga;
+  }
+  std::optional<std::vector<int>> NumeriDiRisposta(const std::string& riga) {
+    auto numeri = NumeriDellaRisposta(riga);
+    if (!numeri) m_err << fmt::format("risposta non valida, vale la scelta predefinita: {}\n", riga);
+    return numeri;
+  }
+
   std::ostream& m_out;
   SegnalatoreTerminale& m_segnalatore;
   std::ostream& m_err;
+  std::deque<std::string> m_risposte;
 };
+
+std::optional<std::deque<std::string>> RigheDelFile(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  if (!in) return std::nullopt;
+  std::deque<std::string> righe;
+  for (std::string riga; std::getline(in, riga);) {
+    if (righe.empty() && riga.starts_with("\xEF\xBB\xBF")) riga.erase(0, 3);
+    if (riga.ends_with('\r')) riga.pop_back();
+    righe.push_back(std::move(riga));
+  }
+  return righe;
+}
 
 // Nobody answers dialogs on the command line: a message box prints its text and takes its first
 // button, an input box takes its default answer.
@@ -69,15 +143,23 @@ std::optional<double> Minuti(const std::string& testo) {
 int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
   std::optional<fs::path> script_file;
   std::optional<fs::path> pagina;
+  std::deque<std::string> risposte;
   int32_t timeout_ms = -1;
   for (size_t i = 0; i < parole.size(); ++i) {
     const std::string& parola = parole[i];
-    if (parola == "--timeout" || parola == "--html") {
+    if (parola == "--timeout" || parola == "--html" || parola == "--risposte") {
       if (i + 1 == parole.size())
         return contesto.Fallisci(AvvisoEsclamativo(fmt::format("manca il valore dell'opzione {}", parola)));
       const std::string& valore = parole[++i];
       if (parola == "--html") {
         pagina = fs::absolute(valore);
+        continue;
+      }
+      if (parola == "--risposte") {
+        auto righe = RigheDelFile(valore);
+        if (!righe)
+          return contesto.Fallisci(AvvisoEsclamativo(fmt::format("impossibile leggere il file delle risposte {}", valore)));
+        risposte = std::move(*righe);
         continue;
       }
       auto minuti = Minuti(valore);
@@ -114,7 +196,7 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
   std::error_code ignorato;
   fs::create_directories(opzioni.libreria.cartella_output, ignorato);
 
-  OspiteTerminale ospite(contesto.out, contesto.segnalatore, err);
+  OspiteTerminale ospite(contesto.out, contesto.segnalatore, err, std::move(risposte));
   UiSenzaRisposte ui(err);
   script::EsecutoreScript esecutore(ospite, &ui);
   const auto esito = esecutore.Esegui(vbs::DecodeScriptFile(contenuto.str()), opzioni);

@@ -89,6 +89,19 @@ vbs::Result<std::vector<int>> NumeriArgomento(const vbs::CallArgs& args, size_t 
   });
 }
 
+vbs::Result<vbs::Variant> ArrayEstrazione(const Estrazione& estrazione) {
+  const vbs::ArrayBound limiti[] = {{1, kNumeroRuote}, {1, kNumeriPerRuota}};
+  auto array = vbs::SafeArray::Create(limiti);
+  if (!array) return std::move(array).error();
+  auto elementi = (*array)->elements();
+  // The first index varies fastest in storage.
+  for (int ruota = 1; ruota <= kNumeroRuote; ++ruota) {
+    for (int posizione = 1; posizione <= kNumeriPerRuota; ++posizione)
+      elementi[(ruota - 1) + (posizione - 1) * kNumeroRuote] = vbs::Variant::Integer(estrazione.Numero(ruota, posizione));
+  }
+  return vbs::Variant::Array(std::move(*array));
+}
+
 vbs::Variant ArrayDaUno(std::vector<vbs::Variant> valori) {
   const vbs::ArrayBound limiti{1, static_cast<int32_t>(valori.size())};
   auto array = vbs::SafeArray::Create(std::span<const vbs::ArrayBound>(&limiti, 1));

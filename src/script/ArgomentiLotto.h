@@ -11,6 +11,7 @@
 #include <span>
 #include <vector>
 
+#include "archive/Estrazione.h"
 #include "vbscript/HostObject.h"
 
 namespace lottolab::script {
@@ -29,6 +30,10 @@ vbs::Result<std::vector<double>> ValoriArgomento(const vbs::CallArgs& args, size
 
 // ValoriArgomento with each value brought into 1..90 by Fuori90.
 vbs::Result<std::vector<int>> NumeriArgomento(const vbs::CallArgs& args, size_t i);
+
+// The numbers of a draw as the script reads them: aNumeri(Ruota, Posizione), both from 1, wheels in
+// the table's order (Nazionale is 11 here).
+vbs::Result<vbs::Variant> ArrayEstrazione(const Estrazione& estrazione);
 
 // A 1-based array of the values, as the library returns its lists: element k of the script's array
 // is values[k - 1]. An empty list gives an array with bounds (1 To 0).

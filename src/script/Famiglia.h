@@ -3,7 +3,10 @@
 // What every family file of the library works with: the library object and the engine's argument,
 // result and value types, by their short names.
 
+#include <string_view>
+
 #include "ClsFunctionsGeodoScript.h"
+#include "vbscript/Utf.h"
 
 namespace lottolab::script::famiglia {
 
@@ -13,3 +16,12 @@ using vbs::Result;
 using vbs::Variant;
 
 }  // namespace lottolab::script::famiglia
+
+namespace lottolab::script {
+
+// Error 5, "invalid procedure call", with the reason an argument is refused.
+inline vbs::ScriptError ArgomentoNonValido(std::string_view descrizione) {
+  return vbs::ScriptError{5, vbs::Utf8ToUtf16(descrizione), {}, {}, false};
+}
+
+}  // namespace lottolab::script

@@ -74,20 +74,6 @@ Result<Variant> IndiceMensile(Libreria& lib, CallArgs& args) {
   return Variant::Integer(indice);
 }
 
-// The array is indexed (wheel, position) from 1 in both dimensions, the first varying fastest in
-// storage.
-Result<Variant> ArrayEstrazione(const Estrazione& estrazione) {
-  const vbs::ArrayBound limiti[] = {{1, kNumeroRuote}, {1, kNumeriPerRuota}};
-  auto array = vbs::SafeArray::Create(limiti);
-  if (!array) return std::move(array).error();
-  auto elementi = (*array)->elements();
-  for (int ruota = 1; ruota <= kNumeroRuote; ++ruota) {
-    for (int posizione = 1; posizione <= kNumeriPerRuota; ++posizione)
-      elementi[(ruota - 1) + (posizione - 1) * kNumeroRuote] = Variant::Integer(estrazione.Numero(ruota, posizione));
-  }
-  return Variant::Array(std::move(*array));
-}
-
 Result<Variant> GetEstrazioneCompleta(Libreria& lib, CallArgs& args) {
   auto archivio = lib.Archivio();
   if (!archivio) return std::move(archivio).error();
@@ -134,24 +120,25 @@ Result<Variant> isIdEstrValido(Libreria& lib, CallArgs& args) {
 
 const Libreria::Funzione kArchivio[] = {
     {"Estratto", 3, 3, &Estratto,
-     "IdEstr, Ruota, Posizione: the number drawn there (Integer); 0 for TU_ or a value that is no wheel, error 9 "
-     "for a draw outside the archive or a position outside 1..5"},
+     "IdEstr, Ruota, Posizione: il numero estratto in quel punto (Integer); 0 per TU_ o per un valore che non è una "
+     "ruota, errore 9 per un'estrazione fuori dall'archivio o una posizione fuori da 1..5"},
     {"DataEstrazione", 1, 2, &DataEstrazione,
-     "IdEstr, [AnnoBreve = False]: the draw's date as \"GG/MM/AAAA\", or \"GG/MM/AA\" with AnnoBreve"},
-    {"giorno", 1, 1, &CampoData<&GruppoData::giorno>, "IdEstr: the day of the month of the draw (Integer)"},
-    {"Mese", 1, 1, &CampoData<&GruppoData::mese>, "IdEstr: the month of the draw, 1..12 (Integer)"},
-    {"Anno", 1, 1, &CampoData<&GruppoData::anno>, "IdEstr: the four-digit year of the draw (Integer)"},
+     "IdEstr, [AnnoBreve = False]: la data dell'estrazione come \"GG/MM/AAAA\", oppure \"GG/MM/AA\" con AnnoBreve"},
+    {"giorno", 1, 1, &CampoData<&GruppoData::giorno>, "IdEstr: il giorno del mese dell'estrazione (Integer)"},
+    {"Mese", 1, 1, &CampoData<&GruppoData::mese>, "IdEstr: il mese dell'estrazione, 1..12 (Integer)"},
+    {"Anno", 1, 1, &CampoData<&GruppoData::anno>, "IdEstr: l'anno dell'estrazione, a quattro cifre (Integer)"},
     {"IndiceAnnuale", 1, 1, &CampoData<&GruppoData::indice_annuale>,
-     "IdEstr: the number of the draw within its year (Integer)"},
+     "IdEstr: il numero progressivo dell'estrazione nel suo anno (Integer)"},
     {"IndiceMensile", 1, 1, &IndiceMensile,
-     "IdEstr: the number of the draw within its month, 1 for the month's first draw (Integer)"},
+     "IdEstr: il numero progressivo dell'estrazione nel suo mese, 1 per la prima estrazione del mese (Integer)"},
     {"GetEstrazioneCompleta", 2, 2, &GetEstrazioneCompleta,
-     "IdEstr, aNumeri: fills aNumeri with the draw's numbers as aNumeri(Ruota 1..11, Posizione 1..5), NZ at 11; "
-     "True when the draw exists, else False with aNumeri untouched"},
-    {"EstrazioniArchivio", 0, 0, &EstrazioniArchivio, "the number of draws in the archive, the last IdEstr (Long)"},
+     "IdEstr, aNumeri: riempie aNumeri con i numeri dell'estrazione come aNumeri(Ruota 1..11, Posizione 1..5), NZ "
+     "alla 11; True se l'estrazione esiste, altrimenti False lasciando aNumeri invariato"},
+    {"EstrazioniArchivio", 0, 0, &EstrazioniArchivio,
+     "il numero di estrazioni nell'archivio, cioè l'ultimo IdEstr (Long)"},
     {"DataEstrToIdEstr", 1, 1, &DataEstrToIdEstr,
-     "Data: the IdEstr of the draw of that date \"GG/MM/AAAA\" (Long), 0 when there is none"},
-    {"isIdEstrValido", 1, 1, &isIdEstrValido, "IdEstr: True when the archive holds a draw with that index"},
+     "Data: l'IdEstr dell'estrazione di quella data \"GG/MM/AAAA\" (Long), 0 se non ce n'è alcuna"},
+    {"isIdEstrValido", 1, 1, &isIdEstrValido, "IdEstr: True se l'archivio contiene un'estrazione con quell'indice"},
 };
 
 }  // namespace

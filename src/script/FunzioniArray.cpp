@@ -1,7 +1,435 @@
+// Arrays and small utilities for scripts: groups of numbers as lists, as text and as the 90 truth
+// values of a "presence" array, sorting, and the helpers that scripts used to write for
+// themselves (Iif, Scambia, MidX...).
+//
+// Lists are read as the other families read them: a single value is a list of one, and the Empty
+// elements that scripts leave in their arrays (element 0, declared and never filled) are no values.
+// Numbers come back as Long when whole, as Double otherwise.
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <limits>
+
+#include "ArgomentiLotto.h"
 #include "Famiglia.h"
+#include "stats/Numeri.h"
+#include "vbscript/Interpreter.h"
+#include "vbscript/SafeArray.h"
+#include "vbscript/Utf.h"
 
 namespace lottolab::script {
 
-std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniArray() { return {}; }
+namespace {
+
+using namespace famiglia;
+
+constexpr int kNumeri = 90;
+
+
+Variant Numero(double valore) {
+  const bool lungo = valore >= std::numeric_limits<int32_t>::min() && valore <= std::numeric_limits<int32_t>::max();
+  if (lungo && valore == static_cast<int32_t>(valore)) return Variant::Long(static_cast<int32_t>(valore));
+  return Variant::Double(valore);
+}
+
+Variant ArrayDiNumeri(std::span<const double> valori) {
+  std::vector<Variant> elementi;
+  elementi.reserve(valori.size());
+  for (double valore : valori) elementi.push_back(Numero(valore));
+  return ArrayDaUno(std::move(elementi));
+}
+
+bool Contiene(std::span<const double> valori, double valore) {
+  return std::find(valori.begin(), valori.end(), valore) != valori.end();
+}
+
+// ---- The 90 truth values ----
+
+Result<std::vector<int>> NumeriDa1a90(std::span<const double> valori) {
+  std::vector<int> numeri;
+  for (double valore : valori) {
+    if (!(valore >= 1 && valore <= kNumeri) || valore != std::floor(valore))
+      return ArgomentoNonValido(fmt::format("{} non è un numero da 1 a 90", valore));
+    numeri.push_back(static_cast<int>(valore));
+  }
+  return numeri;
+}
+
+// A 1-based array of 90 Booleans, True at the index of each number present.
+Result<Variant> PresenzeDi(std::span<const double> valori) {
+  auto numeri = NumeriDa1a90(valori);
+  if (!numeri) return std::move(numeri).error();
+  std::vector<Variant> presenze(kNumeri, Variant::Boolean(false));
+  for (int numero : *numeri) presenze[numero - 1] = Variant::Boolean(true);
+  return ArrayDaUno(std::move(presenze));
+}
+
+template <Result<std::vector<double>> (*Leggi)(const CallArgs&)>
+Result<Variant> Presenze(Libreria&, CallArgs& args) {
+  auto valori = Leggi(args);
+  if (!valori) return std::move(valori).error();
+  return PresenzeDi(*valori);
+}
+
+Result<std::vector<double>> ValoriPrimoArgomento(const CallArgs& args) { return ValoriArgomento(args, 0); }
+
+// The indices 1..90 of a one-dimensional array whose element is true, whatever its bounds.
+Result<std::vector<double>> NumeriPresenti(const CallArgs& args, size_t i) {
+  auto valore = args.Value(i);
+  if (!valore) return std::move(valore).error();
+  if (!valore->is_array() || valore->as_array()->DimensionCount() != 1)
+    return ArgomentoNonValido("Serve un vettore di valori Vero/Falso indicizzato dai numeri");
+  const vbs::SafeArray& array = *valore->as_array();
+  const int32_t inferiore = array.bounds()[0].lower;
+  std::vector<double> numeri;
+  for (int32_t numero = std::max(1, inferiore); numero <= std::min(kNumeri, array.bounds()[0].upper); ++numero) {
+    auto vero = array.elements()[numero - inferiore].to_boolean(args.locale());
+    if (!vero) return std::move(vero).error();
+    if (*vero) numeri.push_back(numero);
+  }
+  return numeri;
+}
+
+Result<Variant> ArrayBNumToArrayNum(Libreria&, CallArgs& args) {
+  auto numeri = NumeriPresenti(args, 0);
+  if (!numeri) return std::move(numeri).error();
+  return ArrayDiNumeri(*numeri);
+}
+
+Result<Variant> ArrayBToString(Libreria&, CallArgs& args) {
+  auto numeri = NumeriPresenti(args, 0);
+  if (!numeri) return std::move(numeri).error();
+  auto separatore = args.String(1, u".");
+  if (!separatore) return std::move(separatore).error();
+  std::string testo;
+  for (double numero : *numeri) {
+    if (!testo.empty()) testo += vbs::Utf16ToUtf8(*separatore);
+    testo += fmt::format("{:02}", static_cast<int>(numero));
+  }
+  return Variant::String(vbs::Utf8ToUtf16(testo));
+}
+
+// ---- Text and lists ----
+
+// The pieces between the separators, empty ones included; none for an empty text.
+std::vector<std::u16string_view> Pezzi(std::u16string_view testo, std::u16string_view separatore) {
+  std::vector<std::u16string_view> pezzi;
+  for (size_t inizio = 0; !testo.empty() && inizio <= testo.size();) {
+    const size_t fine = std::min(testo.find(separatore, inizio), testo.size());
+    pezzi.push_back(testo.substr(inizio, fine - inizio));
+    inizio = fine + separatore.size();
+  }
+  return pezzi;
+}
+
+Result<std::vector<double>> NumeriDelTesto(const CallArgs& args) {
+  auto testo = args.String(0);
+  if (!testo) return std::move(testo).error();
+  auto separatore = args.String(1, u".");
+  if (!separatore) return std::move(separatore).error();
+  if (separatore->empty()) return ArgomentoNonValido("Il separatore non può essere vuoto");
+  std::vector<double> numeri;
+  for (std::u16string_view pezzo : Pezzi(*testo, *separatore)) {
+    if (pezzo.find_first_not_of(u' ') == std::u16string_view::npos) continue;
+    auto numero = Variant::String(pezzo).to_double(args.locale());
+    if (!numero) return ArgomentoNonValido(fmt::format("\"{}\" non è un numero", vbs::Utf16ToUtf8(pezzo)));
+    numeri.push_back(*numero);
+  }
+  return numeri;
+}
+
+Result<Variant> StringaNumeriToArray(Libreria&, CallArgs& args) {
+  auto numeri = NumeriDelTesto(args);
+  if (!numeri) return std::move(numeri).error();
+  return ArrayDiNumeri(*numeri);
+}
+
+Result<Variant> SplitByChar(Libreria&, CallArgs& args) {
+  auto testo = args.String(0);
+  if (!testo) return std::move(testo).error();
+  auto carattere = args.String(1);
+  if (!carattere) return std::move(carattere).error();
+  if (carattere->empty()) return ArgomentoNonValido("Il carattere di separazione non può essere vuoto");
+  std::vector<Variant> pezzi;
+  for (std::u16string_view pezzo : Pezzi(*testo, *carattere)) pezzi.push_back(Variant::String(pezzo));
+  const auto quanti = static_cast<int32_t>(pezzi.size());
+  args.Out(2) = ArrayDaUno(std::move(pezzi));
+  return Variant::Long(quanti);
+}
+
+Result<Variant> MidX(Libreria&, CallArgs& args) {
+  auto testo = args.String(0);
+  if (!testo) return std::move(testo).error();
+  auto inizio = args.Long(1);
+  if (!inizio) return std::move(inizio).error();
+  auto lunghezza = args.Long(2, -1);
+  if (!lunghezza) return std::move(lunghezza).error();
+  const size_t da = static_cast<size_t>(std::max(*inizio, 1) - 1);
+  if (da >= testo->size()) return Variant::String(u"");
+  const size_t quanti = *lunghezza < 0 ? std::u16string::npos : static_cast<size_t>(*lunghezza);
+  return Variant::String(std::u16string_view(*testo).substr(da, quanti));
+}
+
+Result<Variant> RimuoviLastChr(Libreria&, CallArgs& args) {
+  auto testo = args.String(0);
+  if (!testo) return std::move(testo).error();
+  auto carattere = args.String(1, u"");
+  if (!carattere) return std::move(carattere).error();
+  std::u16string_view resto(*testo);
+  if (!resto.empty() && (carattere->empty() || resto.ends_with(*carattere)))
+    resto.remove_suffix(carattere->empty() ? 1 : carattere->size());
+  return Variant::String(resto);
+}
+
+// The elements of a one- or two-dimensional array row by row (the first index is the row), Empty
+// ones left out.
+Result<Variant> MatriceNumToVetNum(Libreria&, CallArgs& args) {
+  auto valore = args.Value(0);
+  if (!valore) return std::move(valore).error();
+  if (!valore->is_array()) return ArrayDaUno(std::vector<Variant>{*valore});
+  const vbs::SafeArray& array = *valore->as_array();
+  if (array.DimensionCount() > 2) return ArgomentoNonValido("Serve un vettore o una matrice di due dimensioni");
+  const size_t righe = array.DimensionCount() == 0 ? 0 : static_cast<size_t>(array.bounds()[0].count());
+  const size_t colonne = righe == 0 ? 0 : array.size() / righe;
+  std::vector<Variant> elementi;
+  for (size_t r = 0; r < righe; ++r)
+    for (size_t c = 0; c < colonne; ++c)
+      if (const Variant& elemento = array.elements()[r + c * righe]; !elemento.is_empty()) elementi.push_back(elemento);
+  return ArrayDaUno(std::move(elementi));
+}
+
+// ---- Counting inside a list ----
+
+template <bool (*Scelto)(double)>
+Result<Variant> NumeriScelti(Libreria&, CallArgs& args) {
+  auto valori = ValoriArgomento(args, 0);
+  if (!valori) return std::move(valori).error();
+  std::vector<double> scelti;
+  std::copy_if(valori->begin(), valori->end(), std::back_inserter(scelti), Scelto);
+  if (args.Has(1)) args.Out(1) = ArrayDiNumeri(scelti);
+  return Variant::Long(static_cast<int32_t>(scelti.size()));
+}
+
+bool EDispari(double n) { return stats::Dispari(n) == stats::kVero; }
+bool EPari(double n) { return stats::Pari(n) == stats::kVero; }
+bool ENullo(double n) { return n == 0; }
+bool EPrimo(double n) { return stats::Primo(n) == stats::kVero; }
+bool ENonPrimo(double n) { return !EPrimo(n); }
+
+std::vector<double> SenzaRipetuti(std::span<const double> valori) {
+  std::vector<double> unici;
+  for (double valore : valori)
+    if (!Contiene(unici, valore)) unici.push_back(valore);
+  return unici;
+}
+
+Result<Variant> EliminaRipetuti(Libreria&, CallArgs& args) {
+  auto valori = ValoriArgomento(args, 0);
+  if (!valori) return std::move(valori).error();
+  return ArrayDiNumeri(SenzaRipetuti(*valori));
+}
+
+Result<Variant> NumeriRipetuti(Libreria&, CallArgs& args) {
+  auto valori = ValoriArgomento(args, 0);
+  if (!valori) return std::move(valori).error();
+  std::vector<double> ripetuti;
+  for (double valore : SenzaRipetuti(*valori))
+    if (std::count(valori->begin(), valori->end(), valore) > 1) ripetuti.push_back(valore);
+  if (args.Has(1)) args.Out(1) = ArrayDiNumeri(ripetuti);
+  return Variant::Long(static_cast<int32_t>(ripetuti.size()));
+}
+
+Result<Variant> Ripetizioni(Libreria&, CallArgs& args) {
+  auto valori = ValoriArgomento(args, 0);
+  if (!valori) return std::move(valori).error();
+  auto numero = args.Double(1);
+  if (!numero) return std::move(numero).error();
+  return Variant::Long(static_cast<int32_t>(std::count(valori->begin(), valori->end(), *numero)));
+}
+
+Result<Variant> Differenza(Libreria&, CallArgs& args) {
+  auto primi = ValoriArgomento(args, 0);
+  if (!primi) return std::move(primi).error();
+  auto secondi = ValoriArgomento(args, 1);
+  if (!secondi) return std::move(secondi).error();
+  std::vector<double> differenza;
+  for (double valore : *primi)
+    if (!Contiene(*secondi, valore)) differenza.push_back(valore);
+  args.Out(2) = ArrayDiNumeri(differenza);
+  return Variant::Long(static_cast<int32_t>(differenza.size()));
+}
+
+template <bool Massimo>
+Result<Variant> Estremo(Libreria&, CallArgs& args) {
+  auto valori = ValoriArgomento(args, 0);
+  if (!valori) return std::move(valori).error();
+  if (valori->empty()) return ArgomentoNonValido("Nessun valore fra cui cercare");
+  return Numero(Massimo ? *std::max_element(valori->begin(), valori->end())
+                        : *std::min_element(valori->begin(), valori->end()));
+}
+
+// ---- Sorting ----
+
+// The language's order: numbers by value before any text, texts by code unit.
+struct Chiave {
+  bool testo;
+  double numero;
+  std::u16string_view stringa;
+  friend bool operator<(const Chiave& a, const Chiave& b) {
+    if (a.testo != b.testo) return !a.testo;
+    return a.testo ? a.stringa < b.stringa : a.numero < b.numero;
+  }
+};
+
+Result<Chiave> ChiaveDi(const Variant& valore, const vbs::Locale& locale) {
+  if (valore.is_string()) return Chiave{true, 0, valore.as_string_view()};
+  if (valore.is_number() || valore.is_boolean() || valore.is_date()) {
+    auto numero = valore.to_double(locale);
+    if (!numero) return std::move(numero).error();
+    return Chiave{false, *numero, {}};
+  }
+  return ArgomentoNonValido("La matrice contiene valori che non si possono ordinare");
+}
+
+struct Disposizione {
+  size_t righe;    // the extent of the first index
+  size_t colonne;  // 1 for a vector
+  size_t colonna;  // the 0-based column of the key
+};
+
+Result<Disposizione> DisposizioneDa(const vbs::SafeArray& array, const CallArgs& args) {
+  if (array.DimensionCount() == 1) return Disposizione{array.size(), 1, 0};
+  if (array.DimensionCount() != 2) return ArgomentoNonValido("Serve un vettore o una matrice di due dimensioni");
+  auto colonna = args.Long(2, 1);
+  if (!colonna) return std::move(colonna).error();
+  const vbs::ArrayBound& colonne = array.bounds()[1];
+  if (*colonna < colonne.lower || *colonna > colonne.upper)
+    return ArgomentoNonValido(
+        fmt::format("Colonna {} fuori dai limiti della matrice ({} .. {})", *colonna, colonne.lower, colonne.upper));
+  return Disposizione{static_cast<size_t>(array.bounds()[0].count()), static_cast<size_t>(colonne.count()),
+                      static_cast<size_t>(*colonna - colonne.lower)};
+}
+
+// Rows whose key is Empty stay where they are, so that the unused element 0 of a script's array
+// does not move into the middle of the numbers; the other rows are sorted, stably, among their places.
+Result<Variant> OrdinaMatrice(Libreria&, CallArgs& args) {
+  auto ordine = args.Long(1, 1);
+  if (!ordine) return std::move(ordine).error();
+  if (*ordine != 1 && *ordine != -1) return ArgomentoNonValido("Ordine deve essere 1 (crescente) o -1 (decrescente)");
+  if (!args.Out(0).is_array()) return ArgomentoNonValido("Serve un vettore o una matrice da ordinare");
+  auto array = vbs::MutableArray(args.Out(0));
+  if (!array) return std::move(array).error();
+  auto disposizione = DisposizioneDa(**array, args);
+  if (!disposizione) return std::move(disposizione).error();
+  const auto [righe, colonne, colonna] = *disposizione;
+  auto celle = (*array)->elements();
+
+  std::vector<size_t> posti;
+  std::vector<std::pair<Chiave, size_t>> chiavi;
+  for (size_t r = 0; r < righe; ++r) {
+    const Variant& cella = celle[r + colonna * righe];
+    if (cella.is_empty()) continue;
+    auto chiave = ChiaveDi(cella, args.locale());
+    if (!chiave) return std::move(chiave).error();
+    posti.push_back(r);
+    chiavi.emplace_back(*chiave, r);
+  }
+  const bool crescente = *ordine == 1;
+  std::stable_sort(chiavi.begin(), chiavi.end(), [crescente](const auto& a, const auto& b) {
+    return crescente ? a.first < b.first : b.first < a.first;
+  });
+  const std::vector<Variant> originali(celle.begin(), celle.end());
+  for (size_t i = 0; i < posti.size(); ++i)
+    for (size_t c = 0; c < colonne; ++c) celle[posti[i] + c * righe] = originali[chiavi[i].second + c * righe];
+  return Variant();
+}
+
+// ---- The script's own helpers ----
+
+Result<Variant> Iif(Libreria&, CallArgs& args) {
+  auto condizione = args.Boolean(0);
+  if (!condizione) return std::move(condizione).error();
+  return args.Value(*condizione ? 1 : 2);
+}
+
+Result<Variant> Scambia(Libreria&, CallArgs& args) {
+  std::swap(args.Out(0), args.Out(1));
+  return Variant();
+}
+
+Result<Variant> CopiaArray(Libreria&, CallArgs& args) {
+  auto origine = args.Value(0);
+  if (!origine) return std::move(origine).error();
+  if (!origine->is_array()) return ArgomentoNonValido("aOrigine non è un array");
+  args.Out(1) = std::move(*origine);
+  return Variant();
+}
+
+const Libreria::Funzione kArray[] = {
+    {"EliminaRipetuti", 1, 1, &EliminaRipetuti,
+     "aNumeri: un array con indice da 1 dei numeri senza ripetizioni, ciascuno dove compare la prima volta"},
+    {"ArrayNumeriToBool", 1, 1, &Presenze<&ValoriPrimoArgomento>,
+     "aNumeri: un array con indice da 1 di 90 Boolean, True all'indice di ogni numero presente; errore per un numero "
+     "fuori da 1..90"},
+    {"ArrayNumToArrayBNum", 1, 1, &Presenze<&ValoriPrimoArgomento>,
+     "aNumeri: come ArrayNumeriToBool, un array con indice da 1 di 90 Boolean, True a ogni numero presente"},
+    {"ArrayBNumToArrayNum", 1, 1, &ArrayBNumToArrayNum,
+     "aB: i numeri 1..90 il cui elemento di aB è vero, come array con indice da 1 in ordine crescente"},
+    {"ArrayBToString", 1, 2, &ArrayBToString,
+     "aB, [Separatore = \".\"]: i numeri il cui elemento di aB è vero, a due cifre ciascuno, uniti: \"05.12.90\""},
+    {"MatriceNumToVetNum", 1, 1, &MatriceNumToVetNum,
+     "aMatrice: gli elementi di un vettore o di una matrice a due dimensioni riga per riga, esclusi quelli Empty, "
+     "come array con indice da 1"},
+    {"MatriceNumToBNum", 1, 1, &Presenze<&ValoriPrimoArgomento>,
+     "aMatrice: un array con indice da 1 di 90 Boolean, True a ogni numero presente in un punto qualsiasi della "
+     "matrice"},
+    {"StringaNumeriToArray", 1, 2, &StringaNumeriToArray,
+     "Testo, [Separatore = \".\"]: i numeri scritti nel testo, \"1.2.45\", come array con indice da 1; i pezzi vuoti "
+     "sono saltati, un pezzo che non è un numero è un errore"},
+    {"StringaNumeriToArrayB", 1, 2, &Presenze<&NumeriDelTesto>,
+     "Testo, [Separatore = \".\"]: un array con indice da 1 di 90 Boolean, True a ogni numero scritto nel testo"},
+    {"NumeriDispari", 1, 2, &NumeriScelti<&EDispari>,
+     "aNumeri, [aRet]: quanti dei numeri, riportati in 1..90, sono dispari; aRet li riceve così come sono dati, come "
+     "array con indice da 1"},
+    {"NumeriPari", 1, 2, &NumeriScelti<&EPari>,
+     "aNumeri, [aRet]: quanti dei numeri, riportati in 1..90 (0 vale 90), sono pari; aRet li riceve così come sono "
+     "dati, come array con indice da 1"},
+    {"NumeriNulli", 1, 2, &NumeriScelti<&ENullo>,
+     "aNumeri, [aRet]: quanti dei valori sono 0; aRet li riceve come array con indice da 1"},
+    {"NumeriPrimi", 1, 2, &NumeriScelti<&EPrimo>,
+     "aNumeri, [aRet]: quanti dei numeri, riportati in 1..90, sono primi; aRet li riceve come array con indice da 1"},
+    {"NumeriNonPrimi", 1, 2, &NumeriScelti<&ENonPrimo>,
+     "aNumeri, [aRet]: quanti dei numeri, riportati in 1..90, non sono primi (1 compreso); aRet li riceve come array "
+     "con indice da 1"},
+    {"NumeriRipetuti", 1, 2, &NumeriRipetuti,
+     "aNumeri, [aRet]: quanti numeri diversi compaiono più di una volta; aRet li riceve, ciascuno una volta"},
+    {"Ripetizioni", 2, 2, &Ripetizioni, "aNumeri, Numero: quante volte Numero compare tra i numeri"},
+    {"Differenza", 3, 3, &Differenza,
+     "aA, aB, aRet: riempie aRet con i numeri di aA che non sono in aB, nell'ordine di aA, e restituisce quanti sono"},
+    {"Massimo", 1, 1, &Estremo<true>, "aNumeri: il più grande dei numeri"},
+    {"Minimo", 1, 1, &Estremo<false>, "aNumeri: il più piccolo dei numeri"},
+    {"OrdinaMatrice", 1, 3, &OrdinaMatrice,
+     "aMatrice, [Ordine = 1], [Colonna = 1]: ordina sul posto un vettore, o le righe di una matrice secondo la "
+     "colonna Colonna; Ordine 1 crescente, -1 decrescente; i numeri prima dei testi; le righe con chiave Empty "
+     "restano al loro posto"},
+    {"SplitByChar", 3, 3, &SplitByChar,
+     "Testo, Carattere, aRet: riempie aRet con i pezzi del testo tra i separatori (quelli vuoti inclusi), come array "
+     "con indice da 1, e restituisce quanti sono; 0 per un testo vuoto"},
+    {"MidX", 2, 3, &MidX,
+     "Testo, Inizio, [Lunghezza]: la parte del testo da Inizio (un inizio minore di 1 vale 1), lunga Lunghezza "
+     "caratteri, o il resto se Lunghezza manca o è negativa; \"\" per un inizio oltre la fine"},
+    {"RimuoviLastChr", 1, 2, &RimuoviLastChr,
+     "Testo, [Carattere]: il testo senza l'ultimo carattere; con Carattere, solo se il testo finisce con esso"},
+    {"Iif", 3, 3, &Iif, "Condizione, A, B: A se la condizione è vera, altrimenti B"},
+    {"Scambia", 2, 2, &Scambia, "a, b: scambia i valori delle due variabili del chiamante"},
+    {"CopiaArray", 2, 2, &CopiaArray, "aOrigine, aDest: mette in aDest una copia dell'array aOrigine"},
+};
+
+}  // namespace
+
+std::span<const Libreria::Funzione> FunzioniArray() { return kArray; }
 
 }  // namespace lottolab::script

@@ -1,7 +1,442 @@
+// Combinatorics for scripts: counting, developing every combination or disposition of a group of
+// numbers, the theoretical probabilities of the sorti, and random numbers.
+//
+// A development can be walked one group at a time (Init..., then Get... in a loop), which needs no
+// memory whatever its size, or produced whole as a matrix, which is refused beyond a size that
+// would exhaust memory.
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+#include <optional>
+#include <random>
+#include <ranges>
+
+#include "ArgomentiLotto.h"
 #include "Famiglia.h"
+#include "stats/Combinazioni.h"
+#include "stats/Numeri.h"
+#include "vbscript/Interpreter.h"
+#include "vbscript/SafeArray.h"
+#include "vbscript/Utf.h"
 
 namespace lottolab::script {
 
-std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniCombinazioni() { return {}; }
+namespace {
+
+using namespace famiglia;
+
+// Enough for every development of the 90 numbers that a script can usefully hold (all the terni,
+// 117480 of them, take 352440 elements); about 130 MB of values at the limit.
+constexpr double kMassimoElementiMatrice = 1 << 23;
+// The widest range the random functions walk or shuffle.
+constexpr int32_t kMassimoIntervalloCasuale = 10'000'000;
+
+
+// A count as a Long while it fits, a Double beyond.
+Variant Conteggio(double conteggio) {
+  if (conteggio <= std::numeric_limits<int32_t>::max()) return Variant::Long(static_cast<int32_t>(conteggio));
+  return Variant::Double(conteggio);
+}
+
+// The elements of an array argument as given, Empty ones (the unused element 0 of scripts' arrays)
+// left out; a single value is a group of one.
+Result<std::vector<Variant>> ElementiArgomento(const CallArgs& args, size_t i) {
+  auto valore = args.Value(i);
+  if (!valore) return std::move(valore).error();
+  if (!valore->is_array()) return std::vector<Variant>{*valore};
+  std::vector<Variant> elementi;
+  for (const Variant& elemento : valore->as_array()->elements())
+    if (!elemento.is_empty()) elementi.push_back(elemento);
+  return elementi;
+}
+
+Result<int> ClasseArgomento(const CallArgs& args, size_t i, size_t quanti) {
+  auto classe = args.Long(i);
+  if (!classe) return std::move(classe).error();
+  if (*classe < 1 || static_cast<size_t>(*classe) > quanti)
+    return ArgomentoNonValido(
+        fmt::format("Classe {} non valida: deve essere compresa tra 1 e {}, i numeri da sviluppare", *classe, quanti));
+  return *classe;
+}
+
+// ---- Counts ----
+
+Result<Variant> Combinazioni(Libreria&, CallArgs& args) {
+  auto n = args.Long(0);
+  if (!n) return std::move(n).error();
+  auto k = args.Long(1);
+  if (!k) return std::move(k).error();
+  if (*n < 0 || *k < 0) return ArgomentoNonValido("N e K non possono essere negativi");
+  return Conteggio(stats::Combinazioni(*n, *k));
+}
+
+Result<Variant> Permutazioni(Libreria&, CallArgs& args) {
+  auto n = args.Long(0);
+  if (!n) return std::move(n).error();
+  auto k = args.Long(1, *n);
+  if (!k) return std::move(k).error();
+  if (*n < 0 || *k < 0) return ArgomentoNonValido("N e K non possono essere negativi");
+  return Conteggio(stats::Disposizioni(*n, *k));
+}
+
+// 170! is the largest factorial a Double holds.
+Result<Variant> Fattoriale(Libreria&, CallArgs& args) {
+  auto n = args.Long(0);
+  if (!n) return std::move(n).error();
+  if (*n < 0 || *n > 170)
+    return ArgomentoNonValido(fmt::format("Fattoriale di {}: N deve essere compreso tra 0 e 170", *n));
+  return Variant::Double(stats::Fattoriale(*n));
+}
+
+// ---- Developments ----
+
+template <typename Motore>
+struct Sviluppo {
+  std::vector<Variant> elementi;
+  std::optional<Motore> motore;
+};
+
+struct StatoSviluppi {
+  Sviluppo<stats::SviluppoCombinazioni> integrale;
+  Sviluppo<stats::SviluppoDisposizioni> permutazioni;
+};
+
+template <typename Motore>
+using SviluppoDi = Sviluppo<Motore> StatoSviluppi::*;
+
+template <typename Motore>
+Result<Sviluppo<Motore>> NuovoSviluppo(const CallArgs& args) {
+  auto elementi = ElementiArgomento(args, 0);
+  if (!elementi) return std::move(elementi).error();
+  auto classe = ClasseArgomento(args, 1, elementi->size());
+  if (!classe) return std::move(classe).error();
+  const int n = static_cast<int>(elementi->size());
+  return Sviluppo<Motore>{std::move(*elementi), Motore(n, *classe)};
+}
+
+template <typename Motore>
+std::vector<Variant> GruppoCorrente(const Sviluppo<Motore>& sviluppo) {
+  std::vector<Variant> gruppo;
+  for (int posizione : sviluppo.motore->Gruppo()) gruppo.push_back(sviluppo.elementi[posizione]);
+  return gruppo;
+}
+
+template <typename Motore, SviluppoDi<Motore> Membro>
+Result<Variant> InitSviluppo(Libreria& lib, CallArgs& args) {
+  auto sviluppo = NuovoSviluppo<Motore>(args);
+  if (!sviluppo) return std::move(sviluppo).error();
+  Sviluppo<Motore>& stato = lib.Stato<StatoSviluppi>().*Membro;
+  stato = std::move(*sviluppo);
+  return Conteggio(stato.motore->Totale());
+}
+
+template <typename Motore, SviluppoDi<Motore> Membro>
+Result<Sviluppo<Motore>*> SviluppoAvviato(Libreria& lib) {
+  Sviluppo<Motore>& stato = lib.Stato<StatoSviluppi>().*Membro;
+  if (!stato.motore)
+    return ArgomentoNonValido("Nessuno sviluppo avviato: chiamare prima la funzione Init... dello sviluppo");
+  return &stato;
+}
+
+template <typename Motore, SviluppoDi<Motore> Membro>
+Result<Variant> ProssimoGruppo(Libreria& lib, CallArgs& args) {
+  auto sviluppo = SviluppoAvviato<Motore, Membro>(lib);
+  if (!sviluppo) return std::move(sviluppo).error();
+  if (!(*sviluppo)->motore->Avanza()) return Variant::Boolean(false);
+  args.Out(0) = ArrayDaUno(GruppoCorrente(**sviluppo));
+  return Variant::Boolean(true);
+}
+
+Result<Variant> GetCombSviluppate(Libreria& lib, CallArgs&) {
+  auto sviluppo = SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib);
+  if (!sviluppo) return std::move(sviluppo).error();
+  return Conteggio((*sviluppo)->motore->Sviluppati());
+}
+
+Result<Variant> GetPercCombSviluppate(Libreria& lib, CallArgs&) {
+  auto sviluppo = SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib);
+  if (!sviluppo) return std::move(sviluppo).error();
+  const auto& motore = *(*sviluppo)->motore;
+  return Variant::Double(100 * motore.Sviluppati() / motore.Totale());
+}
+
+// The matrix (group, element), 1-based in both dimensions; stored column-major, so element j of
+// group g sits at (g - 1) + (j - 1) * groups.
+template <typename Motore>
+Result<Variant> SviluppoCompleto(Libreria&, CallArgs& args) {
+  auto sviluppo = NuovoSviluppo<Motore>(args);
+  if (!sviluppo) return std::move(sviluppo).error();
+  Motore& motore = *sviluppo->motore;
+  const size_t classe = motore.Gruppo().size();
+  if (motore.Totale() * static_cast<double>(classe) > kMassimoElementiMatrice)
+    return ArgomentoNonValido(fmt::format(
+        "Sviluppo troppo grande: {:.0f} gruppi di classe {}; svilupparli uno alla volta con la funzione Init... "
+        "e il ciclo Get...",
+        motore.Totale(), classe));
+  const auto gruppi = static_cast<int32_t>(motore.Totale());
+  const vbs::ArrayBound limiti[] = {{1, gruppi}, {1, static_cast<int32_t>(classe)}};
+  auto matrice = vbs::SafeArray::Create(limiti);
+  if (!matrice) return std::move(matrice).error();
+  auto celle = (*matrice)->elements();
+  for (size_t g = 0; motore.Avanza(); ++g) {
+    auto gruppo = motore.Gruppo();
+    for (size_t j = 0; j < classe; ++j) celle[g + j * gruppi] = sviluppo->elementi[gruppo[j]];
+  }
+  args.Out(2) = Variant::Array(std::move(*matrice));
+  return Variant::Long(gruppi);
+}
+
+// ---- Ambi of a group ----
+
+using Ambo = std::pair<int, int>;
+
+// The matrix (ambo, 1..2), 1-based, of Long numbers.
+Result<Variant> MatriceDiAmbi(std::span<const Ambo> ambi) {
+  const auto quanti = static_cast<int32_t>(ambi.size());
+  const vbs::ArrayBound limiti[] = {{1, quanti}, {1, 2}};
+  auto matrice = vbs::SafeArray::Create(limiti);
+  if (!matrice) return std::move(matrice).error();
+  auto celle = (*matrice)->elements();
+  for (size_t a = 0; a < ambi.size(); ++a) {
+    celle[a] = Variant::Long(ambi[a].first);
+    celle[a + ambi.size()] = Variant::Long(ambi[a].second);
+  }
+  return Variant::Array(std::move(*matrice));
+}
+
+// Every ambo of the group, its numbers in the order they were given, that satisfies the test with
+// the value of argument 1; aRet receives the ambi, the count is returned.
+template <bool (*Scelto)(int, int, double)>
+Result<Variant> AmbiScelti(Libreria&, CallArgs& args) {
+  auto numeri = NumeriArgomento(args, 0);
+  if (!numeri) return std::move(numeri).error();
+  auto valore = args.Double(1);
+  if (!valore) return std::move(valore).error();
+  std::vector<Ambo> ambi;
+  for (size_t i = 0; i < numeri->size(); ++i)
+    for (size_t j = i + 1; j < numeri->size(); ++j)
+      if (Scelto((*numeri)[i], (*numeri)[j], *valore)) ambi.emplace_back((*numeri)[i], (*numeri)[j]);
+  auto matrice = MatriceDiAmbi(ambi);
+  if (!matrice) return std::move(matrice).error();
+  args.Out(2) = std::move(*matrice);
+  return Variant::Long(static_cast<int32_t>(ambi.size()));
+}
+
+bool DistanzaUguale(int a, int b, double distanza) { return stats::Distanza(a, b) == distanza; }
+bool SommaUguale(int a, int b, double somma) { return stats::Fuori90(a + b) == stats::Fuori90(somma); }
+
+// ---- Theoretical probabilities ----
+
+Result<double> ProbabilitaArgomenti(const CallArgs& args, size_t i_sorte, size_t i_quantita) {
+  auto sorte = args.Long(i_sorte);
+  if (!sorte) return std::move(sorte).error();
+  auto quantita = args.Long(i_quantita);
+  if (!quantita) return std::move(quantita).error();
+  if (*sorte < 1 || *sorte > stats::kEstrattiPerRuota)
+    return ArgomentoNonValido(fmt::format("Sorte {} non valida: deve essere compresa tra 1 e 5", *sorte));
+  if (*quantita < *sorte || *quantita > stats::kNumeriLotto)
+    return ArgomentoNonValido(fmt::format(
+        "Quantità di numeri {} non valida: deve essere compresa tra la sorte ({}) e 90", *quantita, *sorte));
+  return stats::ProbabilitaSorte(*sorte, *quantita);
+}
+
+Result<Variant> Prob(Libreria&, CallArgs& args) {
+  auto probabilita = ProbabilitaArgomenti(args, 0, 1);
+  if (!probabilita) return std::move(probabilita).error();
+  return Variant::Double(*probabilita);
+}
+
+Result<Variant> CicloTeorico(Libreria&, CallArgs& args) {
+  auto probabilita = ProbabilitaArgomenti(args, 0, 1);
+  if (!probabilita) return std::move(probabilita).error();
+  return Variant::Double(1 / *probabilita);
+}
+
+Result<int32_t> RitardoArgomento(const CallArgs& args, size_t i) {
+  auto ritardo = args.Long(i);
+  if (!ritardo) return std::move(ritardo).error();
+  if (*ritardo < 0) return ArgomentoNonValido(fmt::format("Ritardo {} non valido: non può essere negativo", *ritardo));
+  return *ritardo;
+}
+
+// The expected number of the 90 numbers' combinations of the class, each won with probability p
+// in every draw, whose delay lies in [minimo, massimo]: a delay of exactly r means r draws without
+// the sorte after one with it, probability p (1 - p)^r, so the range sums to
+// (1 - p)^minimo - (1 - p)^(massimo + 1).
+Result<Variant> QuantitaTeorica(const CallArgs& args, int32_t minimo, std::optional<int32_t> massimo) {
+  auto classe = args.Long(0);
+  if (!classe) return std::move(classe).error();
+  auto probabilita = ProbabilitaArgomenti(args, 1, 0);
+  if (!probabilita) return std::move(probabilita).error();
+  const double mancata = 1 - *probabilita;
+  const double oltre_massimo = massimo ? std::pow(mancata, *massimo + 1.0) : 0;
+  return Variant::Double(stats::Combinazioni(stats::kNumeriLotto, *classe) *
+                         (std::pow(mancata, minimo) - oltre_massimo));
+}
+
+Result<Variant> QuantitaTeoricaCombAlRitX(Libreria&, CallArgs& args) {
+  auto ritardo = RitardoArgomento(args, 2);
+  if (!ritardo) return std::move(ritardo).error();
+  return QuantitaTeorica(args, *ritardo, *ritardo);
+}
+
+Result<Variant> QuantitaTeoricaCombMagUgAlRitX(Libreria&, CallArgs& args) {
+  auto ritardo = RitardoArgomento(args, 2);
+  if (!ritardo) return std::move(ritardo).error();
+  return QuantitaTeorica(args, *ritardo, std::nullopt);
+}
+
+Result<Variant> QuantitaTeoricaCombCompreseTraRit(Libreria&, CallArgs& args) {
+  auto minimo = RitardoArgomento(args, 2);
+  if (!minimo) return std::move(minimo).error();
+  auto massimo = RitardoArgomento(args, 3);
+  if (!massimo) return std::move(massimo).error();
+  if (*massimo < *minimo)
+    return ArgomentoNonValido(fmt::format("Ritardo massimo {} minore del minimo {}", *massimo, *minimo));
+  return QuantitaTeorica(args, *minimo, *massimo);
+}
+
+// ---- Random numbers ----
+
+// Scripts use these for draws to play, not for experiments to repeat, so every run starts from a
+// fresh seed.
+struct StatoCasuale {
+  std::mt19937 generatore{std::random_device{}()};
+  std::optional<std::vector<int32_t>> univoci;  // the numbers still to give, in the order they come
+};
+
+Result<std::pair<int32_t, int32_t>> IntervalloArgomenti(const CallArgs& args, size_t i, int32_t minimo_mancante,
+                                                        int32_t massimo_mancante) {
+  auto minimo = args.Long(i, minimo_mancante);
+  if (!minimo) return std::move(minimo).error();
+  auto massimo = args.Long(i + 1, massimo_mancante);
+  if (!massimo) return std::move(massimo).error();
+  if (*massimo < *minimo) return ArgomentoNonValido(fmt::format("Massimo {} minore del minimo {}", *massimo, *minimo));
+  return std::pair{*minimo, *massimo};
+}
+
+Result<Variant> NumeroCasuale(Libreria& lib, CallArgs& args) {
+  auto intervallo = IntervalloArgomenti(args, 0, 1, 90);
+  if (!intervallo) return std::move(intervallo).error();
+  std::uniform_int_distribution<int32_t> distribuzione(intervallo->first, intervallo->second);
+  return Variant::Long(distribuzione(lib.Stato<StatoCasuale>().generatore));
+}
+
+Result<Variant> GetColonnaCasuale(Libreria& lib, CallArgs& args) {
+  auto quanti = args.Long(0);
+  if (!quanti) return std::move(quanti).error();
+  auto massimo = args.Long(2, stats::kNumeriLotto);
+  if (!massimo) return std::move(massimo).error();
+  if (*massimo < 1 || *massimo > kMassimoIntervalloCasuale)
+    return ArgomentoNonValido(
+        fmt::format("Massimo {} non valido: deve essere compreso tra 1 e {}", *massimo, kMassimoIntervalloCasuale));
+  if (*quanti < 1 || *quanti > *massimo)
+    return ArgomentoNonValido(
+        fmt::format("Quantità {} non valida: deve essere compresa tra 1 e {}", *quanti, *massimo));
+  std::vector<int> colonna(static_cast<size_t>(*quanti));
+  std::ranges::sample(std::views::iota(1, *massimo + 1), colonna.begin(), *quanti,
+                      lib.Stato<StatoCasuale>().generatore);
+  std::ranges::sort(colonna);
+  args.Out(1) = ArrayDaUno(colonna);
+  return Variant();
+}
+
+Result<Variant> InitGenNumUnivoci(Libreria& lib, CallArgs& args) {
+  auto intervallo = IntervalloArgomenti(args, 0, 1, 90);
+  if (!intervallo) return std::move(intervallo).error();
+  const auto [minimo, massimo] = *intervallo;
+  if (int64_t{massimo} - minimo >= kMassimoIntervalloCasuale)
+    return ArgomentoNonValido(fmt::format("Intervallo troppo ampio: al massimo {} numeri", kMassimoIntervalloCasuale));
+  StatoCasuale& stato = lib.Stato<StatoCasuale>();
+  std::vector<int32_t> numeri(static_cast<size_t>(massimo - minimo + 1));
+  std::iota(numeri.begin(), numeri.end(), minimo);
+  std::ranges::shuffle(numeri, stato.generatore);
+  stato.univoci = std::move(numeri);
+  return Variant();
+}
+
+Result<Variant> GetNumeroUnivoco(Libreria& lib, CallArgs&) {
+  auto& univoci = lib.Stato<StatoCasuale>().univoci;
+  if (!univoci) return ArgomentoNonValido("Generatore non avviato: chiamare prima InitGenNumUnivoci");
+  if (univoci->empty())
+    return ArgomentoNonValido("Numeri univoci esauriti: ogni numero dell'intervallo è già stato dato");
+  const int32_t numero = univoci->back();
+  univoci->pop_back();
+  return Variant::Long(numero);
+}
+
+using stats::SviluppoCombinazioni;
+using stats::SviluppoDisposizioni;
+
+const Libreria::Funzione kCombinazioni[] = {
+    {"Combinazioni", 2, 2, &Combinazioni,
+     "N, K: il numero di combinazioni di N elementi di classe K (Long, Double se più grande); 0 se K > N"},
+    {"Permutazioni", 1, 2, &Permutazioni,
+     "N, [K = N]: le disposizioni di N elementi di classe K, N! / (N - K)! (Long, Double se più grande)"},
+    {"FattN", 1, 1, &Fattoriale, "N: N! come Double, con N da 0 a 170"},
+    {"FattorialeNum", 1, 1, &Fattoriale, "N: N! come Double, con N da 0 a 170, come FattN"},
+    {"InitSviluppoIntegrale", 2, 2, &InitSviluppo<SviluppoCombinazioni, &StatoSviluppi::integrale>,
+     "aNumeri, Classe: prepara lo sviluppo di tutte le combinazioni di classe Classe dei numeri, in ordine "
+     "lessicografico delle loro posizioni; restituisce quante sono"},
+    {"GetCombSviluppo", 1, 1, &ProssimoGruppo<SviluppoCombinazioni, &StatoSviluppi::integrale>,
+     "aRet: mette in aRet la combinazione successiva dello sviluppo come array con indice da 1 e restituisce True; "
+     "False, lasciando aRet invariato, quando tutte le combinazioni sono già state date"},
+    {"GetCombSviluppate", 0, 0, &GetCombSviluppate, "il numero di combinazioni dello sviluppo date finora"},
+    {"GetPercCombSviluppate", 0, 0, &GetPercCombSviluppate,
+     "la percentuale, 0..100, delle combinazioni dello sviluppo date finora (Double)"},
+    {"SviluppoIntegrale", 3, 3, &SviluppoCompleto<SviluppoCombinazioni>,
+     "aNumeri, Classe, aRet: riempie aRet con tutte le combinazioni di classe Classe dei numeri come matrice "
+     "aRet(combinazione, elemento), con indici da 1, in ordine lessicografico; restituisce quante sono; uno sviluppo "
+     "di più di 8388608 elementi viene rifiutato"},
+    {"InitSviluppoPermutazioni", 2, 2, &InitSviluppo<SviluppoDisposizioni, &StatoSviluppi::permutazioni>,
+     "aNumeri, Classe: prepara lo sviluppo di tutti i gruppi ordinati (disposizioni) di Classe numeri diversi di "
+     "aNumeri, in ordine lessicografico delle loro posizioni; Classe uguale alla quantità di numeri dà le "
+     "permutazioni; restituisce quanti sono"},
+    {"GetCombPermutazioni", 1, 1, &ProssimoGruppo<SviluppoDisposizioni, &StatoSviluppi::permutazioni>,
+     "aRet: mette in aRet il gruppo successivo dello sviluppo delle permutazioni come array con indice da 1 e "
+     "restituisce True; False, lasciando aRet invariato, alla fine"},
+    {"SviluppoPermutazioni", 3, 3, &SviluppoCompleto<SviluppoDisposizioni>,
+     "aNumeri, Classe, aRet: riempie aRet con tutti i gruppi ordinati di Classe numeri come matrice aRet(gruppo, "
+     "elemento), con indici da 1; restituisce quanti sono; uno sviluppo di più di 8388608 elementi viene rifiutato"},
+    {"GetAmbiDistanzaX", 3, 3, &AmbiScelti<&DistanzaUguale>,
+     "aNumeri, Distanza, aRet: riempie aRet con gli ambi dei numeri (riportati in 1..90) la cui distanza sul cerchio "
+     "dei 90 è Distanza, come matrice aRet(ambo, 1..2), e restituisce quanti sono"},
+    {"GetAmbiSommaX", 3, 3, &AmbiScelti<&SommaUguale>,
+     "aNumeri, Somma, aRet: riempie aRet con gli ambi dei numeri (riportati in 1..90) la cui somma, riportata in "
+     "1..90, è uguale a Somma riportata in 1..90, come matrice aRet(ambo, 1..2), e restituisce quanti sono"},
+    {"Prob", 2, 2, &Prob,
+     "Sorte, QuantitaNumeri: la probabilità (Double) che un'estrazione su una ruota vinca la sorte (da 1 estratto a "
+     "5 cinquina) giocando QuantitaNumeri numeri, cioè che almeno Sorte di essi siano estratti"},
+    {"CicloTeorico", 2, 2, &CicloTeorico,
+     "Sorte, QuantitaNumeri: il ciclo teorico, 1 / Prob(Sorte, QuantitaNumeri): 18 per l'estratto di un numero, "
+     "400.5 per l'ambo di due"},
+    {"QuantitaTeoricaCombAlRitX", 3, 3, &QuantitaTeoricaCombAlRitX,
+     "Classe, Sorte, Ritardo: quante delle combinazioni di classe Classe dei 90 numeri ci si aspetta con un ritardo "
+     "di esattamente Ritardo estrazioni per la sorte su una ruota (Double)"},
+    {"QuantitaTeoricaCombMagUgAlRitX", 3, 3, &QuantitaTeoricaCombMagUgAlRitX,
+     "Classe, Sorte, Ritardo: quante delle combinazioni di classe Classe ci si aspetta con un ritardo di Ritardo "
+     "estrazioni o più per la sorte su una ruota (Double)"},
+    {"QuantitaTeoricaCombCompreseTraRit", 4, 4, &QuantitaTeoricaCombCompreseTraRit,
+     "Classe, Sorte, RitardoMin, RitardoMax: quante delle combinazioni di classe Classe ci si aspetta con un ritardo "
+     "da RitardoMin a RitardoMax estrazioni per la sorte su una ruota (Double)"},
+    {"NumeroCasuale", 0, 2, &NumeroCasuale, "[Min = 1], [Max = 90]: un numero intero casuale da Min a Max (Long)"},
+    {"GetColonnaCasuale", 2, 3, &GetColonnaCasuale,
+     "Quanti, aRet, [Max = 90]: riempie aRet con Quanti numeri casuali diversi da 1 a Max, in ordine crescente, come "
+     "array con indice da 1"},
+    {"InitGenNumUnivoci", 0, 2, &InitGenNumUnivoci,
+     "[Min = 1], [Max = 90]: prepara GetNumeroUnivoco a dare i numeri da Min a Max una volta ciascuno, in ordine "
+     "casuale"},
+    {"GetNumeroUnivoco", 0, 0, &GetNumeroUnivoco,
+     "il successivo numero casuale dell'intervallo di InitGenNumUnivoci non ancora dato (Long); errore quando sono "
+     "stati dati tutti"},
+};
+
+}  // namespace
+
+std::span<const Libreria::Funzione> FunzioniCombinazioni() { return kCombinazioni; }
 
 }  // namespace lottolab::script

@@ -129,8 +129,8 @@ Result<Variant> ColoraRtfOutputMulti(Libreria& lib, CallArgs&) {
   return Variant();
 }
 
-// Entry points of the run sequence whose state arrives with later families (files a script opens,
-// spreadsheets, bets): until then there is nothing to release.
+// Entry points of the run sequence whose state arrives with later families (spreadsheets, bets):
+// until then there is nothing to release.
 Result<Variant> NienteDaRilasciare(Libreria&, CallArgs&) { return Variant(); }
 
 // The host hands over its window itself, before the object is added; from a script it does nothing.
@@ -151,25 +151,28 @@ Result<Variant> SetFlagSalvaPrevisioniInCorso(Libreria& lib, CallArgs& args) {
 }
 
 const Libreria::Funzione kEsecuzione[] = {
-    {"InitScript", 0, 0, &InitScript, "(host) prepares the library for a run"},
-    {"AzzeraArrayInterruzioni", 0, 0, &AzzeraArrayInterruzioni, "(host) empties the interruption records"},
-    {"InitArrayFlagEstrazioniAttive", 0, 0, &InitArrayFlagEstrazioniAttive, "(host) marks every draw active"},
-    {"AzzeraFlagStopProcess", 0, 0, &AzzeraFlagStopProcess, "clears the stop flag"},
-    {"ResettaGiocate", 0, 0, &NienteDaRilasciare, "(host) forgets the bets of an earlier run"},
-    {"AzzeraHtmlOutput", 0, 0, &AzzeraHtmlOutput, "(host) starts the HTML page of the run"},
-    {"AzzeraHtmlOutputMulti", 0, 0, &AzzeraHtmlOutputMulti, "starts the HTML page of the next output"},
-    {"ColoraRtfOutput", 0, 0, &ColoraRtfOutput, "(host) completes the text output"},
-    {"ColoraRtfOutputMulti", 0, 0, &ColoraRtfOutputMulti, "completes the current output of a multi-output run"},
-    {"CloseAllFileHandle", 0, 0, &NienteDaRilasciare, "closes every file the script opened"},
-    {"DeinizializzaXls", 0, 0, &NienteDaRilasciare, "(host) releases the open spreadsheet"},
-    {"ChiudiFileHtmlOutput", 0, 0, &ChiudiFileHtmlOutput, "(host) closes the HTML page"},
-    {"StopProcess", 0, 0, &StopProcess, "asks the script and the library's long loops to stop"},
-    {"ScriptInterrotto", 0, 0, &ScriptInterrotto, "True once a stop was asked: long loops test it and leave"},
-    {"ImpostaInterruzioni", 3, 3, &ImpostaInterruzioni, "A, B, C: adds the record (A, B, C), or sets C of the record (A, B)"},
-    {"AvanzamentoElab", 2, 3, &AvanzamentoElab, "Valore, Massimo | Inizio, Fine, Valore: moves the progress bar"},
-    {"setFromScript", 0, 1, &setFromScript, "(host) hands the script window to the library"},
-    {"SetNomeFileHtmlOut", 1, 1, &SetNomeFileHtmlOut, "Nome: the file name of the run's HTML page"},
-    {"SetFlagSalvaPrevisioniInCorso", 0, 1, &SetFlagSalvaPrevisioniInCorso, "[Attivo]: the run saves forecasts"},
+    {"InitScript", 0, 0, &InitScript, "(host) prepara la libreria per un'esecuzione"},
+    {"AzzeraArrayInterruzioni", 0, 0, &AzzeraArrayInterruzioni, "(host) svuota i record delle interruzioni"},
+    {"InitArrayFlagEstrazioniAttive", 0, 0, &InitArrayFlagEstrazioniAttive, "(host) rende attive tutte le estrazioni"},
+    {"AzzeraFlagStopProcess", 0, 0, &AzzeraFlagStopProcess, "azzera il segnale di arresto"},
+    {"ResettaGiocate", 0, 0, &NienteDaRilasciare, "(host) dimentica le giocate di un'esecuzione precedente"},
+    {"AzzeraHtmlOutput", 0, 0, &AzzeraHtmlOutput, "(host) avvia la pagina HTML dell'esecuzione"},
+    {"AzzeraHtmlOutputMulti", 0, 0, &AzzeraHtmlOutputMulti, "avvia la pagina HTML dell'output successivo"},
+    {"ColoraRtfOutput", 0, 0, &ColoraRtfOutput, "(host) completa l'output di testo"},
+    {"ColoraRtfOutputMulti", 0, 0, &ColoraRtfOutputMulti, "completa l'output corrente di un'esecuzione con più output"},
+    {"DeinizializzaXls", 0, 0, &NienteDaRilasciare, "(host) rilascia il foglio di calcolo aperto"},
+    {"ChiudiFileHtmlOutput", 0, 0, &ChiudiFileHtmlOutput, "(host) chiude la pagina HTML"},
+    {"StopProcess", 0, 0, &StopProcess, "chiede allo script e ai cicli lunghi della libreria di fermarsi"},
+    {"ScriptInterrotto", 0, 0, &ScriptInterrotto,
+     "True dopo che è stato chiesto l'arresto: i cicli lunghi lo controllano e terminano"},
+    {"ImpostaInterruzioni", 3, 3, &ImpostaInterruzioni,
+     "A, B, C: aggiunge il record (A, B, C), o imposta C del record (A, B)"},
+    {"AvanzamentoElab", 2, 3, &AvanzamentoElab,
+     "Valore, Massimo | Inizio, Fine, Valore: aggiorna la barra di avanzamento"},
+    {"setFromScript", 0, 1, &setFromScript, "(host) affida alla libreria la finestra dello script"},
+    {"SetNomeFileHtmlOut", 1, 1, &SetNomeFileHtmlOut, "Nome: il nome del file della pagina HTML dell'esecuzione"},
+    {"SetFlagSalvaPrevisioniInCorso", 0, 1, &SetFlagSalvaPrevisioniInCorso,
+     "[Attivo]: l'esecuzione salva le previsioni"},
 };
 
 }  // namespace

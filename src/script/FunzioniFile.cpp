@@ -1,7 +1,463 @@
+// Files and folders a script reads and writes: text files line by line, draws kept in the
+// operator's results layout, and the usual operations on files. Names may be written with
+// backslashes, as scripts for Windows do, and relative names start from the base folder.
+//
+// A failure the user can fix (a missing file, a name already taken) is shown to the user and the
+// function gives its "nothing" (False, 0) so that the script can go on. No function replaces or
+// removes anything the script did not name explicitly.
+
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fmt/format.h>
+#include <fstream>
+#include <map>
+#include <thread>
+
+#include "ArgomentiLotto.h"
 #include "Famiglia.h"
+#include "archive/DateEstrazione.h"
+#include "archive/ImportaRisultati.h"
+#include "vbscript/SafeArray.h"
+#include "vbscript/Utf.h"
 
 namespace lottolab::script {
 
-std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniFile() { return {}; }
+namespace {
+
+namespace fs = std::filesystem;
+using namespace famiglia;
+
+// What the script opened or read in this run. The files written stay open between calls so that
+// writing line after line costs no reopening; the run sequence closes them at the end of every run.
+struct StatoFile {
+  std::map<fs::path, std::ofstream> aperti;
+  // The draws of the last file of draws read, kept while the file is unchanged: scripts read one
+  // draw per call.
+  fs::path file_estrazioni;
+  fs::file_time_type modifica_estrazioni;
+  uintmax_t dimensione_estrazioni = 0;
+  std::vector<Estrazione> estrazioni;
+};
+
+void Segnala(Libreria& lib, std::string_view funzione, std::string motivo) {
+  lib.ospite().Mostra(Avviso{TipoAvviso::Esclamativo, "ClsFunctionsGeodoScript." + std::string(funzione),
+                             std::move(motivo)});
+}
+
+Result<Variant> NonRiuscito(Libreria& lib, std::string_view funzione, std::string motivo, Variant nulla) {
+  Segnala(lib, funzione, std::move(motivo));
+  return nulla;
+}
+
+Result<Variant> NonRiuscito(Libreria& lib, std::string_view funzione, std::string motivo) {
+  return NonRiuscito(lib, funzione, std::move(motivo), Variant::Boolean(false));
+}
+
+
+// Argument i as a path: backslashes become '/', a relative name starts from the base folder.
+Result<fs::path> PercorsoArgomento(const Libreria& lib, const CallArgs& args, size_t i) {
+  auto nome = args.String(i);
+  if (!nome) return std::move(nome).error();
+  std::string testo = vbs::Utf16ToUtf8(*nome);
+  if (testo.empty()) return ArgomentoNonValido("Nome del file o della cartella mancante");
+  std::replace(testo.begin(), testo.end(), '\\', '/');
+  fs::path percorso(testo);
+  if (percorso.is_relative()) percorso = lib.impostazioni().cartella_base / percorso;
+  return percorso.lexically_normal();
+}
+
+std::string ConSeparatore(std::string cartella) {
+  if (!cartella.empty() && cartella.back() != '/') cartella += '/';
+  return cartella;
+}
+
+bool FileEsiste(const fs::path& percorso) {
+  std::error_code ec;
+  return fs::is_regular_file(percorso, ec);
+}
+
+bool CartellaEsiste(const fs::path& percorso) {
+  std::error_code ec;
+  return fs::is_directory(percorso, ec);
+}
+
+// Closing writes what is still buffered, so a full disk shows here.
+bool ChiusoBene(std::ofstream& out) {
+  out.close();
+  return !out.fail();
+}
+
+std::string MotivoChiusura(const fs::path& file) {
+  return fmt::format("Errore nella scrittura del file {}: il testo potrebbe essere incompleto", file.string());
+}
+
+// Before a file is read or copied, what the script wrote to it reaches the disk.
+void ScaricaSeAperto(Libreria& lib, const fs::path& file) {
+  auto& aperti = lib.Stato<StatoFile>().aperti;
+  if (auto it = aperti.find(file); it != aperti.end()) it->second.flush();
+}
+
+// Before a file is removed, renamed or replaced, the script's writing to it ends.
+bool ChiudiSeAperto(Libreria& lib, const fs::path& file) {
+  auto& aperti = lib.Stato<StatoFile>().aperti;
+  auto it = aperti.find(file);
+  if (it == aperti.end()) return true;
+  const bool bene = ChiusoBene(it->second);
+  aperti.erase(it);
+  return bene;
+}
+
+Result<Variant> ChiudiERiferisci(Libreria& lib, std::string_view funzione, const fs::path& file) {
+  if (!ChiudiSeAperto(lib, file)) return NonRiuscito(lib, funzione, MotivoChiusura(file));
+  return Variant::Boolean(true);
+}
+
+// The first line written to a file in a run opens it: appending to what it holds, or emptying it
+// first when the script asks.
+Result<Variant> ScriviFile(Libreria& lib, CallArgs& args) {
+  auto file = PercorsoArgomento(lib, args, 0);
+  if (!file) return std::move(file).error();
+  auto testo = args.String(1);
+  if (!testo) return std::move(testo).error();
+  auto aggiungi = args.Boolean(2, true);
+  if (!aggiungi) return std::move(aggiungi).error();
+  auto chiudi = args.Boolean(3, false);
+  if (!chiudi) return std::move(chiudi).error();
+
+  auto& aperti = lib.Stato<StatoFile>().aperti;
+  auto it = aperti.find(*file);
+  if (it == aperti.end()) {
+    std::ofstream out(*file, std::ios::binary | (*aggiungi ? std::ios::app : std::ios::trunc));
+    if (!out) return NonRiuscito(lib, "ScriviFile", fmt::format("Impossibile aprire in scrittura il file {}", file->string()));
+    it = aperti.emplace(*file, std::move(out)).first;
+  }
+  it->second << vbs::Utf16ToUtf8(*testo) << '\n';
+  if (!it->second) {
+    aperti.erase(it);
+    return NonRiuscito(lib, "ScriviFile", MotivoChiusura(*file));
+  }
+  if (*chiudi) return ChiudiERiferisci(lib, "ScriviFile", *file);
+  return Variant::Boolean(true);
+}
+
+Result<Variant> CloseFileHandle(Libreria& lib, CallArgs& args) {
+  auto file = PercorsoArgomento(lib, args, 0);
+  if (!file) return std::move(file).error();
+  return ChiudiERiferisci(lib, "CloseFileHandle", *file);
+}
+
+Result<Variant> CloseAllFileHandle(Libreria& lib, CallArgs&) {
+  auto& aperti = lib.Stato<StatoFile>().aperti;
+  for (auto& [file, out] : aperti) {
+    if (!ChiusoBene(out)) Segnala(lib, "CloseAllFileHandle", MotivoChiusura(file));
+  }
+  aperti.clear();
+  return Variant();
+}
+
+std::optional<std::string> LeggiTuttoIlFile(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  if (!in) return std::nullopt;
+  std::string contenuto{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  if (in.bad()) return std::nullopt;
+  return contenuto;
+}
+
+// The lines without their ends ("\n" or "\r\n"); the end of the last line makes no empty line after it.
+std::vector<Variant> Righe(std::u16string_view testo) {
+  std::vector<Variant> righe;
+  while (!testo.empty()) {
+    const size_t a_capo = testo.find(u'\n');
+    std::u16string_view riga = testo.substr(0, a_capo);
+    if (riga.ends_with(u'\r')) riga.remove_suffix(1);
+    righe.push_back(Variant::String(riga));
+    testo.remove_prefix(a_capo == std::u16string_view::npos ? testo.size() : a_capo + 1);
+  }
+  return righe;
+}
+
+Result<Variant> LeggiRigheFileDiTesto(Libreria& lib, CallArgs& args) {
+  auto file = PercorsoArgomento(lib, args, 0);
+  if (!file) return std::move(file).error();
+  ScaricaSeAperto(lib, *file);
+  if (!FileEsiste(*file))
+    return NonRiuscito(lib, "LeggiRigheFileDiTesto", fmt::format("Il file {} non esiste", file->string()), Variant::Long(0));
+  auto contenuto = LeggiTuttoIlFile(*file);
+  if (!contenuto)
+    return NonRiuscito(lib, "LeggiRigheFileDiTesto", fmt::format("Impossibile leggere il file {}", file->string()),
+                       Variant::Long(0));
+  std::vector<Variant> righe = Righe(vbs::DecodeScriptFile(*contenuto));
+  const auto quante = static_cast<int32_t>(righe.size());
+  args.Out(1) = ArrayDaUno(std::move(righe));
+  return Variant::Long(quante);
+}
+
+template <bool (*Esiste)(const fs::path&)>
+Result<Variant> Esistente(Libreria& lib, CallArgs& args) {
+  auto percorso = PercorsoArgomento(lib, args, 0);
+  if (!percorso) return std::move(percorso).error();
+  return Variant::Boolean(Esiste(*percorso));
+}
+
+Result<Variant> CreaDirectory(Libreria& lib, CallArgs& args) {
+  auto cartella = PercorsoArgomento(lib, args, 0);
+  if (!cartella) return std::move(cartella).error();
+  std::error_code ec;
+  fs::create_directories(*cartella, ec);
+  if (!CartellaEsiste(*cartella))
+    return NonRiuscito(lib, "CreaDirectory", fmt::format("Impossibile creare la cartella {}", cartella->string()));
+  return Variant::Boolean(true);
+}
+
+Result<Variant> CopiaFile(Libreria& lib, CallArgs& args) {
+  auto origine = PercorsoArgomento(lib, args, 0);
+  if (!origine) return std::move(origine).error();
+  auto destinazione = PercorsoArgomento(lib, args, 1);
+  if (!destinazione) return std::move(destinazione).error();
+  auto sovrascrivi = args.Boolean(2, false);
+  if (!sovrascrivi) return std::move(sovrascrivi).error();
+  std::error_code ec;
+  if (!FileEsiste(*origine))
+    return NonRiuscito(lib, "CopiaFile", fmt::format("Il file {} non esiste", origine->string()));
+  if (fs::exists(*destinazione, ec) && !*sovrascrivi)
+    return NonRiuscito(lib, "CopiaFile",
+                       fmt::format("Il file {} esiste già: non viene sovrascritto", destinazione->string()));
+  ScaricaSeAperto(lib, *origine);
+  ChiudiSeAperto(lib, *destinazione);
+  const auto opzioni = *sovrascrivi ? fs::copy_options::overwrite_existing : fs::copy_options::none;
+  if (!fs::copy_file(*origine, *destinazione, opzioni, ec) || ec)
+    return NonRiuscito(lib, "CopiaFile",
+                       fmt::format("Impossibile copiare il file {} in {}", origine->string(), destinazione->string()));
+  return Variant::Boolean(true);
+}
+
+Result<Variant> EliminaFile(Libreria& lib, CallArgs& args) {
+  auto file = PercorsoArgomento(lib, args, 0);
+  if (!file) return std::move(file).error();
+  std::error_code ec;
+  if (!FileEsiste(*file))
+    return NonRiuscito(lib, "EliminaFile", fmt::format("Il file {} non esiste", file->string()));
+  ChiudiSeAperto(lib, *file);
+  if (!fs::remove(*file, ec))
+    return NonRiuscito(lib, "EliminaFile", fmt::format("Impossibile eliminare il file {}", file->string()));
+  return Variant::Boolean(true);
+}
+
+Result<Variant> RinominaFile(Libreria& lib, CallArgs& args) {
+  auto origine = PercorsoArgomento(lib, args, 0);
+  if (!origine) return std::move(origine).error();
+  auto destinazione = PercorsoArgomento(lib, args, 1);
+  if (!destinazione) return std::move(destinazione).error();
+  std::error_code ec;
+  if (!FileEsiste(*origine))
+    return NonRiuscito(lib, "RinominaFile", fmt::format("Il file {} non esiste", origine->string()));
+  if (fs::exists(*destinazione, ec))
+    return NonRiuscito(lib, "RinominaFile",
+                       fmt::format("Il file {} esiste già: non viene sostituito", destinazione->string()));
+  ChiudiSeAperto(lib, *origine);
+  fs::rename(*origine, *destinazione, ec);
+  if (ec)
+    return NonRiuscito(lib, "RinominaFile",
+                       fmt::format("Impossibile rinominare il file {} in {}", origine->string(), destinazione->string()));
+  return Variant::Boolean(true);
+}
+
+// "*" any run of characters, "?" any one, letters compared ignoring case.
+bool CorrispondeAlModello(std::u16string_view nome, std::u16string_view modello) {
+  size_t n = 0, m = 0;
+  size_t stella = std::u16string_view::npos, ripresa = 0;
+  while (n < nome.size()) {
+    if (m < modello.size() && (modello[m] == u'?' || vbs::FoldCase(modello[m]) == vbs::FoldCase(nome[n]))) {
+      ++n;
+      ++m;
+    } else if (m < modello.size() && modello[m] == u'*') {
+      stella = m++;
+      ripresa = n;
+    } else if (stella != std::u16string_view::npos) {
+      m = stella + 1;
+      n = ++ripresa;
+    } else {
+      return false;
+    }
+  }
+  while (m < modello.size() && modello[m] == u'*') ++m;
+  return m == modello.size();
+}
+
+// Models separated by ";"; "*.*" stands for every file, with or without an extension.
+bool CorrispondeAlFiltro(std::u16string_view nome, std::u16string_view filtro) {
+  while (true) {
+    const size_t fine = filtro.find(u';');
+    const std::u16string_view modello = filtro.substr(0, fine);
+    if (modello == u"*.*" || CorrispondeAlModello(nome, modello)) return true;
+    if (fine == std::u16string_view::npos) return false;
+    filtro.remove_prefix(fine + 1);
+  }
+}
+
+Result<Variant> ElencoFileInDirectory(Libreria& lib, CallArgs& args) {
+  auto cartella = PercorsoArgomento(lib, args, 0);
+  if (!cartella) return std::move(cartella).error();
+  auto filtro = args.String(2, u"*.*");
+  if (!filtro) return std::move(filtro).error();
+  std::error_code ec;
+  if (!CartellaEsiste(*cartella))
+    return NonRiuscito(lib, "ElencoFileInDirectory", fmt::format("La cartella {} non esiste", cartella->string()),
+                       Variant::Long(0));
+  std::vector<std::u16string> nomi;
+  for (fs::directory_iterator it(*cartella, ec), fine; !ec && it != fine; it.increment(ec)) {
+    std::error_code tipo;
+    if (!it->is_regular_file(tipo)) continue;
+    std::u16string nome = vbs::Utf8ToUtf16(it->path().filename().string());
+    if (CorrispondeAlFiltro(nome, *filtro)) nomi.push_back(std::move(nome));
+  }
+  if (ec)
+    return NonRiuscito(lib, "ElencoFileInDirectory", fmt::format("Impossibile leggere la cartella {}", cartella->string()),
+                       Variant::Long(0));
+  std::sort(nomi.begin(), nomi.end());
+  std::vector<Variant> valori;
+  valori.reserve(nomi.size());
+  for (const std::u16string& nome : nomi) valori.push_back(Variant::String(nome));
+  args.Out(1) = ArrayDaUno(std::move(valori));
+  return Variant::Long(static_cast<int32_t>(nomi.size()));
+}
+
+Result<Variant> GetDirectoryTemp(Libreria&, CallArgs&) {
+  std::error_code ec;
+  return Variant::String(vbs::Utf8ToUtf16(ConSeparatore(fs::temp_directory_path(ec).string())));
+}
+
+Result<Variant> GetDirectoryAppData(Libreria& lib, CallArgs&) {
+  return Variant::String(vbs::Utf8ToUtf16(ConSeparatore(lib.impostazioni().cartella_dati_app.string())));
+}
+
+bool DesktopDisponibile() { return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY"); }
+
+// The desktop's opener is started without a shell, so no name can run a command, and without
+// waiting for it, since some desktops keep it until the program it starts is closed.
+bool AvviaApertura(const fs::path& file) {
+  const std::string percorso = file.string();
+  char programma[] = "xdg-open";
+  char* argomenti[] = {programma, const_cast<char*>(percorso.c_str()), nullptr};
+  pid_t processo = 0;
+  if (posix_spawnp(&processo, programma, nullptr, nullptr, argomenti, environ) != 0) return false;
+  std::thread([processo] { waitpid(processo, nullptr, 0); }).detach();
+  return true;
+}
+
+Result<Variant> LanciaFile(Libreria& lib, CallArgs& args) {
+  auto file = PercorsoArgomento(lib, args, 0);
+  if (!file) return std::move(file).error();
+  std::error_code ec;
+  if (!fs::exists(*file, ec)) return NonRiuscito(lib, "LanciaFile", fmt::format("Il file {} non esiste", file->string()));
+  if (!DesktopDisponibile())
+    return NonRiuscito(lib, "LanciaFile", fmt::format("Nessun desktop su cui aprire il file {}", file->string()));
+  ScaricaSeAperto(lib, *file);
+  if (!AvviaApertura(*file))
+    return NonRiuscito(lib, "LanciaFile", fmt::format("Impossibile aprire il file {} (xdg-open)", file->string()));
+  return Variant::Boolean(true);
+}
+
+// The draws of a file in the operator's results layout, read again only when the file changed; null
+// when it cannot be read, after telling the user why.
+const std::vector<Estrazione>* EstrazioniDelFile(Libreria& lib, std::string_view funzione, const fs::path& file) {
+  ScaricaSeAperto(lib, file);
+  StatoFile& stato = lib.Stato<StatoFile>();
+  std::error_code ec;
+  const auto modifica = fs::last_write_time(file, ec);
+  const uintmax_t dimensione = ec ? 0 : fs::file_size(file, ec);
+  if (!ec && file == stato.file_estrazioni && modifica == stato.modifica_estrazioni &&
+      dimensione == stato.dimensione_estrazioni)
+    return &stato.estrazioni;
+  stato.file_estrazioni.clear();
+  auto lette = LeggiNuoveEstrazioniDaFile(TabellaEstrazioni(), file);
+  if (!lette) {
+    Avviso avviso = lette.Errore();
+    avviso.titolo = "ClsFunctionsGeodoScript." + std::string(funzione);
+    lib.ospite().Mostra(avviso);
+    return nullptr;
+  }
+  stato.estrazioni = std::move(lette).Valore();
+  if (!ec) {
+    stato.file_estrazioni = file;
+    stato.modifica_estrazioni = modifica;
+    stato.dimensione_estrazioni = dimensione;
+  }
+  return &stato.estrazioni;
+}
+
+Result<Variant> QuantitaEstrazioniInFile(Libreria& lib, CallArgs& args) {
+  auto file = PercorsoArgomento(lib, args, 0);
+  if (!file) return std::move(file).error();
+  const auto* estrazioni = EstrazioniDelFile(lib, "QuantitaEstrazioniInFile", *file);
+  return Variant::Long(estrazioni ? static_cast<int32_t>(estrazioni->size()) : 0);
+}
+
+Result<Variant> LeggiEstrazioneDaFile(Libreria& lib, CallArgs& args) {
+  auto file = PercorsoArgomento(lib, args, 0);
+  if (!file) return std::move(file).error();
+  auto indice = args.Long(1);
+  if (!indice) return std::move(indice).error();
+  const auto* estrazioni = EstrazioniDelFile(lib, "LeggiEstrazioneDaFile", *file);
+  if (!estrazioni || *indice < 1 || static_cast<size_t>(*indice) > estrazioni->size()) return Variant::Boolean(false);
+  const Estrazione& estrazione = (*estrazioni)[static_cast<size_t>(*indice) - 1];
+  auto numeri = ArrayEstrazione(estrazione);
+  if (!numeri) return std::move(numeri).error();
+  args.Out(2) = std::move(*numeri);
+  if (args.Has(3)) args.Out(3) = Variant::String(vbs::Utf8ToUtf16(FormattaData(estrazione.data)));
+  return Variant::Boolean(true);
+}
+
+const Libreria::Funzione kFile[] = {
+    {"ScriviFile", 2, 4, &ScriviFile,
+     "NomeFile, Testo, [Aggiungi = True], [AChiusura = False]: scrive Testo e un a capo nel file (UTF-8), che resta "
+     "aperto fino a CloseFileHandle o alla fine dell'esecuzione; la prima riga dell'esecuzione si aggiunge al "
+     "contenuto del file, oppure lo svuota prima se Aggiungi è False; AChiusura lo chiude dopo questa riga. True se "
+     "scritto"},
+    {"CloseFileHandle", 1, 1, &CloseFileHandle,
+     "NomeFile: chiude il file aperto da ScriviFile, scrivendo ciò che resta; True se chiuso (anche se non era "
+     "aperto)"},
+    {"CloseAllFileHandle", 0, 0, &CloseAllFileHandle,
+     "chiude tutti i file aperti da ScriviFile; l'esecuzione la chiama alla fine, quindi i file sono sempre completi"},
+    {"LeggiRigheFileDiTesto", 2, 2, &LeggiRigheFileDiTesto,
+     "NomeFile, aRighe: riempie aRighe(1 To n) con le righe del file di testo, UTF-8 o Windows-1252, e restituisce n "
+     "(Long); 0 lasciando aRighe invariato se il file non si può leggere"},
+    {"FileEsistente", 1, 1, &Esistente<&FileEsiste>,
+     "NomeFile: True se il file esiste"},
+    {"DirectoryEsistente", 1, 1, &Esistente<&CartellaEsiste>,
+     "Cartella: True se la cartella esiste"},
+    {"CreaDirectory", 1, 1, &CreaDirectory,
+     "Cartella: crea la cartella e quelle superiori mancanti; True se alla fine esiste"},
+    {"CopiaFile", 2, 3, &CopiaFile,
+     "Origine, Destinazione, [Sovrascrivi = False]: copia il file; una Destinazione esistente viene sostituita solo "
+     "con Sovrascrivi. True se copiato"},
+    {"EliminaFile", 1, 1, &EliminaFile, "NomeFile: elimina il file (mai una cartella); True se eliminato"},
+    {"RinominaFile", 2, 2, &RinominaFile,
+     "Origine, Destinazione: rinomina o sposta il file; rifiutato se Destinazione esiste. True se eseguito"},
+    {"ElencoFileInDirectory", 2, 3, &ElencoFileInDirectory,
+     "Cartella, aFile, [Filtro = \"*.*\"]: riempie aFile(1 To n) con i nomi, in ordine alfabetico, dei file della "
+     "cartella che corrispondono a Filtro (* e ?, più modelli separati da \";\") e restituisce n (Long)"},
+    {"GetDirectoryTemp", 0, 0, &GetDirectoryTemp, "la cartella per i file temporanei, terminante con \"/\""},
+    {"GetDirectoryAppData", 0, 0, &GetDirectoryAppData, "la cartella dei dati dell'applicazione, terminante con \"/\""},
+    {"LanciaFile", 1, 1, &LanciaFile,
+     "NomeFile: apre il file con il programma del desktop associato (xdg-open), senza attendere; True se avviato, "
+     "False se non c'è un desktop"},
+    {"QuantitaEstrazioniInFile", 1, 1, &QuantitaEstrazioniInFile,
+     "NomeFile: il numero di estrazioni (Long) nel file, scritto nel formato dei risultati del gestore del gioco "
+     "(una riga per ruota: AAAA/MM/GG, sigla della ruota, cinque numeri) o in uno zip che lo contiene; 0 se non si "
+     "può leggere"},
+    {"LeggiEstrazioneDaFile", 3, 4, &LeggiEstrazioneDaFile,
+     "NomeFile, Indice, aNumeri, [Data]: riempie aNumeri(Ruota 1..11, Posizione 1..5), NZ alla 11, con i numeri "
+     "dell'estrazione numero Indice del file (da 1, dalla più vecchia) e Data con la sua data \"GG/MM/AAAA\"; True "
+     "se l'estrazione esiste, altrimenti False lasciando invariate le variabili"},
+};
+
+}  // namespace
+
+std::span<const Libreria::Funzione> FunzioniFile() { return kFile; }
 
 }  // namespace lottolab::script

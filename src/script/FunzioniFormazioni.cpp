@@ -1,7 +1,256 @@
+// Formations: groups of numbers that a script builds one by one and then studies as a whole.
+//
+// The formations of a run are kept in the library's state and named by their index, 1 for the first
+// one built; together they are the run's statistical group, which StatisticaGruppoFormazioni writes
+// out as a table. A formation holds each number once, in the order it was added.
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "ArgomentiLotto.h"
 #include "Famiglia.h"
+#include "stats/Numeri.h"
+#include "stats/Ritardi.h"
+#include "vbscript/Utf.h"
 
 namespace lottolab::script {
 
-std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniFormazioni() { return {}; }
+namespace {
+
+using namespace famiglia;
+
+
+struct StatoFormazioni {
+  std::vector<std::vector<int>> formazioni;
+};
+
+std::vector<std::vector<int>>& Formazioni(Libreria& lib) { return lib.Stato<StatoFormazioni>().formazioni; }
+
+void AggiungiNumero(std::vector<int>& formazione, int numero) {
+  if (std::find(formazione.begin(), formazione.end(), numero) == formazione.end()) formazione.push_back(numero);
+}
+
+Result<std::vector<int>> NumeriNonVuoti(const CallArgs& args, size_t i) {
+  auto numeri = NumeriArgomento(args, i);
+  if (!numeri) return std::move(numeri).error();
+  if (numeri->empty()) return ArgomentoNonValido("Nessun numero indicato");
+  return numeri;
+}
+
+// Argument i as the index of a formation built in this run.
+Result<std::vector<int>*> FormazioneArgomento(Libreria& lib, const CallArgs& args, size_t i) {
+  auto indice = args.Long(i);
+  if (!indice) return std::move(indice).error();
+  auto& formazioni = Formazioni(lib);
+  if (*indice < 1 || static_cast<size_t>(*indice) > formazioni.size()) {
+    return ArgomentoNonValido(
+        fmt::format("Formazione inesistente: {} (le formazioni vanno da 1 a {})", *indice, formazioni.size()));
+  }
+  return &formazioni[static_cast<size_t>(*indice - 1)];
+}
+
+Variant IndiceUltima(Libreria& lib) { return Variant::Long(static_cast<int32_t>(Formazioni(lib).size())); }
+
+// A new formation for index 0; otherwise the number joins formation IdFormazione.
+Result<Variant> AddItemFormazione(Libreria& lib, CallArgs& args) {
+  auto indice = args.Long(0);
+  if (!indice) return std::move(indice).error();
+  auto numero = args.Double(1);
+  if (!numero) return std::move(numero).error();
+  if (*indice == 0) {
+    Formazioni(lib).push_back({stats::Fuori90(*numero)});
+    return IndiceUltima(lib);
+  }
+  auto formazione = FormazioneArgomento(lib, args, 0);
+  if (!formazione) return std::move(formazione).error();
+  AggiungiNumero(**formazione, stats::Fuori90(*numero));
+  return Variant::Long(*indice);
+}
+
+Result<Variant> AddItemFormazioneMultipla(Libreria& lib, CallArgs& args) {
+  auto numeri = NumeriNonVuoti(args, 0);
+  if (!numeri) return std::move(numeri).error();
+  std::vector<int> formazione;
+  for (int numero : *numeri) AggiungiNumero(formazione, numero);
+  Formazioni(lib).push_back(std::move(formazione));
+  return IndiceUltima(lib);
+}
+
+Result<Variant> AddNumeriToGruppoStatistico(Libreria& lib, CallArgs& args) {
+  auto numeri = NumeriNonVuoti(args, 0);
+  if (!numeri) return std::move(numeri).error();
+  for (int numero : *numeri) Formazioni(lib).push_back({numero});
+  return IndiceUltima(lib);
+}
+
+Result<Variant> GetItemFormazione(Libreria& lib, CallArgs& args) {
+  auto formazione = FormazioneArgomento(lib, args, 0);
+  if (!formazione) return std::move(formazione).error();
+  auto posto = args.Long(1);
+  if (!posto) return std::move(posto).error();
+  const std::vector<int>& numeri = **formazione;
+  if (*posto < 1 || static_cast<size_t>(*posto) > numeri.size()) {
+    return ArgomentoNonValido(fmt::format("Elemento inesistente: {} (la formazione ne ha {})", *posto, numeri.size()));
+  }
+  return Variant::Integer(static_cast<int16_t>(numeri[static_cast<size_t>(*posto - 1)]));
+}
+
+Result<Variant> GetElementiFormazione(Libreria& lib, CallArgs& args) {
+  auto formazione = FormazioneArgomento(lib, args, 0);
+  if (!formazione) return std::move(formazione).error();
+  return ArrayDaUno(**formazione);
+}
+
+Result<Variant> GetQElemFormazione(Libreria& lib, CallArgs& args) {
+  auto formazione = FormazioneArgomento(lib, args, 0);
+  if (!formazione) return std::move(formazione).error();
+  return Variant::Long(static_cast<int32_t>((*formazione)->size()));
+}
+
+Result<Variant> GetClasseFormazione(Libreria& lib, CallArgs& args) {
+  auto formazione = FormazioneArgomento(lib, args, 0);
+  if (!formazione) return std::move(formazione).error();
+  return Variant::Integer(static_cast<int16_t>(std::min<size_t>((*formazione)->size(), kNumeriPerRuota)));
+}
+
+// ---- Statistics of a formation played as a whole ----
+
+struct Gioco {
+  std::vector<int> ruote;
+  int sorte = 1;
+  int inizio = 1;
+  int fine = 0;
+};
+
+Result<std::vector<int>> RuoteGiocate(const CallArgs& args, size_t i) {
+  auto ruote = RuoteArgomento(args, i);
+  if (!ruote) return std::move(ruote).error();
+  if (ruote->empty()) return ArgomentoNonValido("Nessuna ruota indicata");
+  for (int ruota : *ruote) {
+    if (ruota < 1 || ruota > kTutteLeRuote)
+      return ArgomentoNonValido(fmt::format("Ruota non valida: {} (da 1 a 12, TU_ per tutte)", ruota));
+  }
+  return ruote;
+}
+
+Result<int> Estremo(const TabellaEstrazioni& tab, const CallArgs& args, size_t i, int se_omesso,
+                    std::string_view nome) {
+  auto id_estr = args.Long(i, se_omesso);
+  if (!id_estr) return std::move(id_estr).error();
+  if (!tab.Contiene(*id_estr)) {
+    return ArgomentoNonValido(fmt::format("{} fuori dall'archivio: {} (le estrazioni vanno da 1 a {})", nome, *id_estr,
+                                          tab.EstrazioniArchivio()));
+  }
+  return *id_estr;
+}
+
+// The wheels at i, the sorte after them and the range at i_inizio, i_inizio + 1.
+Result<Gioco> GiocoArgomenti(const TabellaEstrazioni& tab, const CallArgs& args, size_t i, size_t i_inizio) {
+  Gioco gioco;
+  auto ruote = RuoteGiocate(args, i);
+  if (!ruote) return std::move(ruote).error();
+  gioco.ruote = std::move(*ruote);
+  auto sorte = args.Long(i + 1);
+  if (!sorte) return std::move(sorte).error();
+  if (*sorte < 1 || *sorte > kNumeriPerRuota)
+    return ArgomentoNonValido(fmt::format("Sorte non valida: {} (da 1 a 5)", *sorte));
+  gioco.sorte = *sorte;
+  auto inizio = Estremo(tab, args, i_inizio, 1, "Inizio");
+  if (!inizio) return std::move(inizio).error();
+  auto fine = Estremo(tab, args, i_inizio + 1, tab.EstrazioniArchivio(), "Fine");
+  if (!fine) return std::move(fine).error();
+  if (*inizio > *fine) return ArgomentoNonValido(fmt::format("Inizio ({}) dopo Fine ({})", *inizio, *fine));
+  gioco.inizio = *inizio;
+  gioco.fine = *fine;
+  return gioco;
+}
+
+struct Statistica {
+  int ritardo = 0;
+  int storico = 0;
+  int incremento = 0;
+  int frequenza = 0;
+};
+
+Statistica StatisticaDi(const TabellaEstrazioni& tab, std::span<const int> numeri, const Gioco& gioco) {
+  const auto figura = [&](auto funzione) {
+    return funzione(tab, gioco.ruote, numeri, gioco.sorte, gioco.fine, stats::kTuttePosizioni, gioco.inizio);
+  };
+  return {figura(stats::RitardoCombinazione), figura(stats::StoricoCombinazione),
+          figura(stats::IncrStoricoCombinazione), figura(stats::FrequenzaCombinazione)};
+}
+
+Result<Variant> StatisticaFormazione(Libreria& lib, CallArgs& args) {
+  auto archivio = lib.Archivio();
+  if (!archivio) return std::move(archivio).error();
+  auto numeri = NumeriNonVuoti(args, 0);
+  if (!numeri) return std::move(numeri).error();
+  auto gioco = GiocoArgomenti(**archivio, args, 1, 7);
+  if (!gioco) return std::move(gioco).error();
+  const Statistica statistica = StatisticaDi(**archivio, *numeri, *gioco);
+  args.Out(3) = Variant::Long(statistica.ritardo);
+  args.Out(4) = Variant::Long(statistica.storico);
+  args.Out(5) = Variant::Long(statistica.incremento);
+  args.Out(6) = Variant::Long(statistica.frequenza);
+  return Variant();
+}
+
+std::string NumeriInTesto(const std::vector<int>& numeri) {
+  std::string testo;
+  for (int numero : numeri) testo += fmt::format("{}{:02}", testo.empty() ? "" : ".", numero);
+  return testo;
+}
+
+Result<Variant> StatisticaGruppoFormazioni(Libreria& lib, CallArgs& args) {
+  auto archivio = lib.Archivio();
+  if (!archivio) return std::move(archivio).error();
+  auto gioco = GiocoArgomenti(**archivio, args, 0, 2);
+  if (!gioco) return std::move(gioco).error();
+  const auto& formazioni = Formazioni(lib);
+  if (formazioni.empty()) return ArgomentoNonValido("Nessuna formazione nel gruppo statistico");
+  constexpr std::string_view kRiga = "{:>10} {:>8} {:>8} {:>8} {:>8}  {}\n";
+  lib.Scrivi(fmt::format(kRiga, "Formazione", "Rit", "RitMax", "IncrMax", "Freq", "Numeri"), lib.colore_testo(), true);
+  for (size_t i = 0; i < formazioni.size(); ++i) {
+    const Statistica s = StatisticaDi(**archivio, formazioni[i], *gioco);
+    lib.Scrivi(fmt::format(kRiga, i + 1, s.ritardo, s.storico, s.incremento, s.frequenza, NumeriInTesto(formazioni[i])),
+               lib.colore_testo(), false);
+  }
+  return Variant();
+}
+
+const Libreria::Funzione kFormazioni[] = {
+    {"AddItemFormazione", 2, 2, &AddItemFormazione,
+     "IdFormazione, Numero: aggiunge Numero alla formazione IdFormazione, oppure con IdFormazione 0 crea una nuova "
+     "formazione che lo contiene; un numero già presente non viene aggiunto di nuovo; restituisce l'indice della "
+     "formazione (Long)"},
+    {"AddItemFormazioneMultipla", 1, 1, &AddItemFormazioneMultipla,
+     "aNumeri: crea una nuova formazione con i numeri di aNumeri, ciascuno una volta; restituisce il suo indice "
+     "(Long)"},
+    {"AddNumeriToGruppoStatistico", 1, 1, &AddNumeriToGruppoStatistico,
+     "aNumeri: aggiunge al gruppo statistico una formazione di un numero per ogni numero di aNumeri; restituisce "
+     "l'indice dell'ultima, che è il numero di formazioni contenute (Long)"},
+    {"GetItemFormazione", 2, 2, &GetItemFormazione,
+     "IdFormazione, Indice: il numero di posto Indice (da 1) della formazione (Integer)"},
+    {"GetElementiFormazione", 1, 1, &GetElementiFormazione,
+     "IdFormazione: i numeri della formazione nell'ordine in cui sono stati aggiunti (array con indice da 1)"},
+    {"GetQElemFormazione", 1, 1, &GetQElemFormazione, "IdFormazione: quanti numeri contiene la formazione (Long)"},
+    {"GetClasseFormazione", 1, 1, &GetClasseFormazione,
+     "IdFormazione: la sorte più alta che la formazione può vincere: il suo numero di elementi, al massimo CINQUINA_ "
+     "(Integer)"},
+    {"StatisticaFormazione", 7, 9, &StatisticaFormazione,
+     "aNumeri, aRuote, Sorte, RetRit, RetRitMax, RetIncrRitMax, RetFreq, [Inizio = 1], [Fine = ultima estrazione]: "
+     "imposta le quattro variabili al ritardo, al massimo storico, al suo incremento e alla frequenza di aNumeri "
+     "giocati in blocco per Sorte su aRuote in Inizio..Fine, come li danno RitardoCombinazione e le funzioni affini"},
+    {"StatisticaGruppoFormazioni", 2, 4, &StatisticaGruppoFormazioni,
+     "aRuote, Sorte, [Inizio = 1], [Fine = ultima estrazione]: scrive una tabella con una riga per ogni formazione "
+     "del gruppo statistico: il suo indice, i quattro valori di StatisticaFormazione e i suoi numeri"},
+};
+
+}  // namespace
+
+std::span<const Libreria::Funzione> FunzioniFormazioni() { return kFormazioni; }
 
 }  // namespace lottolab::script

@@ -60,10 +60,11 @@ Result<Variant> Messaggio(Libreria& lib, CallArgs& args) {
 
 const Libreria::Funzione kOutput[] = {
     {"Scrivi", 0, 6, &Scrivi,
-     "[Testo], [Grassetto], [ACapo = True], [ColoreSfondo], [ColoreTesto], [Dimensione]: writes a line of output"},
-    {"ScriviConColori", 2, 4, &ScriviConColori, "Testo, ColoreTesto, [Grassetto], [ACapo = True]: writes in a colour"},
-    {"ColoreTesto", 1, 1, &ColoreTesto, "Colore: the colour of the text Scrivi writes from now on"},
-    {"Messaggio", 1, 1, &Messaggio, "Testo: shows a short notice in the status line"},
+     "[Testo], [Grassetto], [ACapo = True], [ColoreSfondo], [ColoreTesto], [Dimensione]: scrive una riga di output"},
+    {"ScriviConColori", 2, 4, &ScriviConColori,
+     "Testo, ColoreTesto, [Grassetto], [ACapo = True]: scrive con un colore"},
+    {"ColoreTesto", 1, 1, &ColoreTesto, "Colore: il colore del testo scritto da Scrivi da qui in poi"},
+    {"Messaggio", 1, 1, &Messaggio, "Testo: mostra un breve avviso nella barra di stato"},
 };
 
 }  // namespace

@@ -1,15 +1,12 @@
-// The delay of a combination, over stats::RitardoCombinazione.
-//
-// The statistics take their preconditions on trust, so every argument a script gives is checked
-// here first: a wrong sorte, wheel or range is the script's mistake and must reach its author as a
-// message, never as a failed assertion.
+// The delay of a combination, over stats::RitardoCombinazione, and the reading of the arguments that
+// every function measuring a combination shares.
 
 #include <fmt/format.h>
 
 #include "ArgomentiLotto.h"
+#include "ArgomentiRitardi.h"
 #include "Famiglia.h"
 #include "stats/Numeri.h"
-#include "stats/Ritardi.h"
 #include "vbscript/SafeArray.h"
 #include "vbscript/Utf.h"
 
@@ -18,23 +15,6 @@ namespace lottolab::script {
 namespace {
 
 using namespace famiglia;
-
-vbs::ScriptError ArgomentoNonValido(std::string descrizione) {
-  return vbs::ScriptError{5, vbs::Utf8ToUtf16(descrizione), {}, {}, false};
-}
-
-// Where the optional arguments sit in each function's list.
-struct PostiFacoltativi {
-  size_t inizio;
-  size_t fine;
-  size_t posizioni;
-};
-
-struct Combinazione {
-  std::vector<int> ruote;
-  std::vector<int> numeri;
-  int sorte = 1;
-};
 
 Result<std::vector<int>> RuoteGiocate(const CallArgs& args, size_t i) {
   auto ruote = RuoteArgomento(args, i);
@@ -74,9 +54,9 @@ Result<int> Estremo(const TabellaEstrazioni& tab, const CallArgs& args, size_t i
 }
 
 // The flags are read at indices 1..5, whatever the array's lower bound, as scripts fill them.
-Result<stats::Posizioni> PosizioniGiocate(const CallArgs& args, size_t i) {
-  if (!args.Has(i)) return stats::kTuttePosizioni;
-  auto valore = args.Value(i);
+Result<stats::Posizioni> PosizioniGiocate(const CallArgs& args, std::optional<size_t> i) {
+  if (!i || !args.Has(*i)) return stats::kTuttePosizioni;
+  auto valore = args.Value(*i);
   if (!valore) return std::move(valore).error();
   constexpr std::string_view kForma = "Le posizioni vanno date in un array con gli indici da 1 a 5";
   if (!valore->is_array()) return ArgomentoNonValido(std::string(kForma));
@@ -91,23 +71,29 @@ Result<stats::Posizioni> PosizioniGiocate(const CallArgs& args, size_t i) {
   return posizioni;
 }
 
-Result<Variant> Ritardo(const Libreria& lib, const CallArgs& args, const Combinazione& giocata,
-                        PostiFacoltativi posti) {
+// The archive, the range and the positions, once the combination is read.
+Result<Misura> Completa(const Libreria& lib, const CallArgs& args, Giocata giocata, PostiFacoltativi posti) {
   auto archivio = lib.Archivio();
   if (!archivio) return std::move(archivio).error();
-  const TabellaEstrazioni& tab = **archivio;
-  auto inizio = Estremo(tab, args, posti.inizio, 1, "Inizio");
+  Misura misura;
+  misura.tab = *archivio;
+  misura.giocata = std::move(giocata);
+  auto inizio = Estremo(*misura.tab, args, posti.inizio, 1, "Inizio");
   if (!inizio) return std::move(inizio).error();
-  auto fine = Estremo(tab, args, posti.fine, tab.EstrazioniArchivio(), "Fine");
+  misura.inizio = *inizio;
+  auto fine = Estremo(*misura.tab, args, posti.fine, misura.tab->EstrazioniArchivio(), "Fine");
   if (!fine) return std::move(fine).error();
+  misura.fine = *fine;
   auto posizioni = PosizioniGiocate(args, posti.posizioni);
   if (!posizioni) return std::move(posizioni).error();
-  return Variant::Long(
-      stats::RitardoCombinazione(tab, giocata.ruote, giocata.numeri, giocata.sorte, *fine, *posizioni, *inizio));
+  misura.posizioni = *posizioni;
+  return misura;
 }
 
-Result<Variant> RitardoCombinazione(Libreria& lib, CallArgs& args) {
-  Combinazione giocata;
+}  // namespace
+
+Result<Misura> MisuraGruppo(const Libreria& lib, const CallArgs& args, PostiFacoltativi posti) {
+  Giocata giocata;
   auto ruote = RuoteGiocate(args, 0);
   if (!ruote) return std::move(ruote).error();
   giocata.ruote = std::move(*ruote);
@@ -117,13 +103,11 @@ Result<Variant> RitardoCombinazione(Libreria& lib, CallArgs& args) {
   auto sorte = Sorte(args, 2);
   if (!sorte) return std::move(sorte).error();
   giocata.sorte = *sorte;
-  return Ritardo(lib, args, giocata, {.inizio = 5, .fine = 3, .posizioni = 4});
+  return Completa(lib, args, std::move(giocata), posti);
 }
 
-// One wheel and the numbers from argument 1 on, each a single value, played for as many hits as
-// there are numbers.
-Result<Variant> RitardoSuRuota(Libreria& lib, CallArgs& args, int quanti_numeri) {
-  Combinazione giocata;
+Result<Misura> MisuraSuRuota(const Libreria& lib, const CallArgs& args, int quanti_numeri, PostiFacoltativi posti) {
+  Giocata giocata;
   auto ruote = RuoteGiocate(args, 0);
   if (!ruote) return std::move(ruote).error();
   giocata.ruote = std::move(*ruote);
@@ -133,8 +117,31 @@ Result<Variant> RitardoSuRuota(Libreria& lib, CallArgs& args, int quanti_numeri)
     giocata.numeri.push_back(stats::Fuori90(*numero));
   }
   giocata.sorte = quanti_numeri;
+  return Completa(lib, args, std::move(giocata), posti);
+}
+
+PostiFacoltativi PostiDopoINumeri(int quanti_numeri) {
   const size_t dopo = static_cast<size_t>(quanti_numeri) + 1;
-  return Ritardo(lib, args, giocata, {.inizio = dopo, .fine = dopo + 1, .posizioni = dopo + 2});
+  return {.inizio = dopo, .fine = dopo + 1, .posizioni = dopo + 2};
+}
+
+namespace {
+
+Variant Ritardo(const Misura& m) {
+  return Variant::Long(stats::RitardoCombinazione(*m.tab, m.giocata.ruote, m.giocata.numeri, m.giocata.sorte, m.fine,
+                                                  m.posizioni, m.inizio));
+}
+
+Result<Variant> RitardoCombinazione(Libreria& lib, CallArgs& args) {
+  auto misura = MisuraGruppo(lib, args, {.inizio = 5, .fine = 3, .posizioni = 4});
+  if (!misura) return std::move(misura).error();
+  return Ritardo(*misura);
+}
+
+Result<Variant> RitardoSuRuota(Libreria& lib, CallArgs& args, int quanti_numeri) {
+  auto misura = MisuraSuRuota(lib, args, quanti_numeri, PostiDopoINumeri(quanti_numeri));
+  if (!misura) return std::move(misura).error();
+  return Ritardo(*misura);
 }
 
 Result<Variant> EstrattoRitardo(Libreria& lib, CallArgs& args) { return RitardoSuRuota(lib, args, 1); }
@@ -149,6 +156,8 @@ const Libreria::Funzione kRitardi[] = {
     {"EstrattoRitardo", 2, 5, &EstrattoRitardo,
      "Ruota, Numero, [Inizio = 1], [Fine = last draw], [aPosizioni]: the delay of Numero on Ruota (TU_ for all) "
      "at Fine (Long)"},
+    {"RitardoEstratto", 2, 5, &EstrattoRitardo,
+     "Ruota, Numero, [Inizio = 1], [Fine = last draw], [aPosizioni]: the same as EstrattoRitardo (Long)"},
     {"AmboRitardo", 3, 6, &AmboRitardo,
      "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = last draw], [aPosizioni]: the delay of the ambo on Ruota "
      "(TU_ for all) at Fine, both numbers on one wheel of one draw (Long)"},

@@ -1,7 +1,235 @@
+// Tables a script builds row by row, written into the run's page as HTML tables and into the text
+// output as columns. Two tables can be built at once: the functions ending in X work on the second.
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <filesystem>
+#include <fmt/format.h>
+#include <optional>
+
 #include "Famiglia.h"
+#include "TabellaOutput.h"
+#include "vbscript/SafeArray.h"
+#include "vbscript/Utf.h"
 
 namespace lottolab::script {
 
-std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniTabelle() { return {}; }
+namespace {
+
+using namespace famiglia;
+
+constexpr size_t kPrima = 0;
+constexpr size_t kSeconda = 1;
+
+struct StatoTabelle {
+  std::array<std::optional<TabellaOutput>, 2> tabelle;
+  // The page that already holds the sorting script: every sortable table of the page shares it.
+  std::filesystem::path pagina_ordinabile;
+};
+
+constexpr std::string_view NomeInit(size_t tabella) { return tabella == kPrima ? "InitTabella" : "InitTabellaX"; }
+
+template <size_t N>
+Result<TabellaOutput*> TabellaIniziata(Libreria& lib) {
+  std::optional<TabellaOutput>& tabella = lib.Stato<StatoTabelle>().tabelle[N];
+  if (!tabella) return ArgomentoNonValido(fmt::format("Nessuna tabella iniziata: chiamare prima {}", NomeInit(N)));
+  return &*tabella;
+}
+
+Result<std::string> TestoCella(const Variant& valore, const vbs::Locale& locale) {
+  auto testo = valore.to_string(locale);
+  if (!testo) return std::move(testo).error();
+  return vbs::Utf16ToUtf8(testo->view());
+}
+
+// Argument i as the texts of a row: one value, or the elements of a one-dimensional array. Scripts
+// often declare an array from 0 and fill it from 1: an Empty element 0 is then no cell.
+Result<std::vector<Cella>> CelleArgomento(const CallArgs& args, size_t i) {
+  auto valore = args.Value(i);
+  if (!valore) return std::move(valore).error();
+  std::vector<Cella> celle;
+  if (!valore->is_array()) {
+    auto testo = TestoCella(*valore, args.locale());
+    if (!testo) return std::move(testo).error();
+    celle.push_back({std::move(*testo), {}});
+    return celle;
+  }
+  const vbs::SafeArray& array = *valore->as_array();
+  if (array.DimensionCount() != 1) return ArgomentoNonValido("I valori della riga vanno dati in un array a una dimensione");
+  auto elementi = array.elements();
+  if (!elementi.empty() && array.bounds()[0].lower == 0 && elementi[0].is_empty()) elementi = elementi.subspan(1);
+  for (const Variant& elemento : elementi) {
+    auto testo = TestoCella(elemento, args.locale());
+    if (!testo) return std::move(testo).error();
+    celle.push_back({std::move(*testo), {}});
+  }
+  return celle;
+}
+
+// An HTML width: pixels ("600", 600) or a percentage ("80%"); 0 lets the page choose.
+Result<std::string> LarghezzaArgomento(const CallArgs& args, size_t i) {
+  auto testo = args.String(i);
+  if (!testo) return std::move(testo).error();
+  std::string larghezza = vbs::Utf16ToUtf8(*testo);
+  std::string_view cifre = larghezza;
+  if (cifre.ends_with('%')) cifre.remove_suffix(1);
+  const bool valida = !cifre.empty() && std::all_of(cifre.begin(), cifre.end(), [](char c) {
+    return std::isdigit(static_cast<unsigned char>(c));
+  });
+  if (!valida)
+    return ArgomentoNonValido(fmt::format("Larghezza non valida: \"{}\" (pixel, come 600, o percentuale, come 80%)",
+                                          larghezza));
+  if (cifre.find_first_not_of('0') == std::string_view::npos) return std::string();
+  return larghezza;
+}
+
+// InitTabella aTitoli, [ColoreSfondoTitoli], [Allineamento], [Bordo], [Larghezza], [ColoreTestoTitoli]
+template <size_t N>
+Result<Variant> InitTabella(Libreria& lib, CallArgs& args) {
+  RigaTabella titoli;
+  auto celle = CelleArgomento(args, 0);
+  if (!celle) return std::move(celle).error();
+  if (celle->empty()) return ArgomentoNonValido("Nessun titolo per le colonne della tabella");
+  titoli.celle = std::move(*celle);
+  auto sfondo = ColoreFacoltativo(args, 1);
+  if (!sfondo) return std::move(sfondo).error();
+  auto allineamento = AllineamentoArgomento(args, 2, Allineamento::Centro);
+  if (!allineamento) return std::move(allineamento).error();
+  auto bordo = args.Long(3, 1);
+  if (!bordo) return std::move(bordo).error();
+  if (*bordo < 0) return ArgomentoNonValido(fmt::format("Bordo non valido: {} (0 per nessun bordo)", *bordo));
+  auto larghezza = args.Has(4) ? LarghezzaArgomento(args, 4) : Result<std::string>(std::string());
+  if (!larghezza) return std::move(larghezza).error();
+  auto testo = ColoreFacoltativo(args, 5);
+  if (!testo) return std::move(testo).error();
+  titoli.colori = {*sfondo, *testo};
+  titoli.allineamento = *allineamento;
+
+  std::optional<TabellaOutput>& tabella = lib.Stato<StatoTabelle>().tabelle[N];
+  tabella.emplace(std::move(titoli), *bordo);
+  tabella->ImpostaLarghezza(std::move(*larghezza));
+  return Variant();
+}
+
+// AddRigaTabella aValori, [ColoreSfondo], [Allineamento], [ColoreTesto]
+template <size_t N>
+Result<Variant> AddRigaTabella(Libreria& lib, CallArgs& args) {
+  auto tabella = TabellaIniziata<N>(lib);
+  if (!tabella) return std::move(tabella).error();
+  RigaTabella riga;
+  auto celle = CelleArgomento(args, 0);
+  if (!celle) return std::move(celle).error();
+  if (celle->size() > (*tabella)->Colonne()) {
+    return ArgomentoNonValido(
+        fmt::format("La riga ha {} valori e la tabella {} colonne", celle->size(), (*tabella)->Colonne()));
+  }
+  riga.celle = std::move(*celle);
+  auto sfondo = ColoreFacoltativo(args, 1);
+  if (!sfondo) return std::move(sfondo).error();
+  auto allineamento = AllineamentoArgomento(args, 2, Allineamento::Sinistra);
+  if (!allineamento) return std::move(allineamento).error();
+  auto testo = ColoreFacoltativo(args, 3);
+  if (!testo) return std::move(testo).error();
+  riga.colori = {*sfondo, *testo};
+  riga.allineamento = *allineamento;
+  (*tabella)->AggiungiRiga(std::move(riga));
+  return Variant();
+}
+
+// SetColoreCella Colonna, ColoreSfondo, [ColoreTesto]
+template <size_t N>
+Result<Variant> SetColoreCella(Libreria& lib, CallArgs& args) {
+  auto tabella = TabellaIniziata<N>(lib);
+  if (!tabella) return std::move(tabella).error();
+  RigaTabella* riga = (*tabella)->UltimaRiga();
+  if (!riga) return ArgomentoNonValido("La tabella non ha ancora righe da colorare");
+  auto colonna = args.Long(0);
+  if (!colonna) return std::move(colonna).error();
+  if (*colonna < 1 || static_cast<size_t>(*colonna) > riga->celle.size()) {
+    return ArgomentoNonValido(
+        fmt::format("Colonna non valida: {} (la tabella ha le colonne da 1 a {})", *colonna, riga->celle.size()));
+  }
+  auto sfondo = ColoreArgomento(args, 1);
+  if (!sfondo) return std::move(sfondo).error();
+  auto testo = ColoreFacoltativo(args, 2);
+  if (!testo) return std::move(testo).error();
+  riga->celle[static_cast<size_t>(*colonna - 1)].colori = {*sfondo, *testo};
+  return Variant();
+}
+
+template <size_t N>
+Result<Variant> SetTableWidth(Libreria& lib, CallArgs& args) {
+  auto tabella = TabellaIniziata<N>(lib);
+  if (!tabella) return std::move(tabella).error();
+  auto larghezza = LarghezzaArgomento(args, 0);
+  if (!larghezza) return std::move(larghezza).error();
+  (*tabella)->ImpostaLarghezza(std::move(*larghezza));
+  return Variant();
+}
+
+// The page is in preformatted text: the table goes between two runs of it.
+void ScriviNellaPagina(Libreria& lib, const TabellaOutput& tabella, bool ordinabile) {
+  OutputHtml& pagina = lib.html();
+  if (!pagina.Aperto()) return;
+  std::string markup = "</pre>\n";
+  std::filesystem::path& pagina_ordinabile = lib.Stato<StatoTabelle>().pagina_ordinabile;
+  if (ordinabile && pagina_ordinabile != pagina.Percorso()) {
+    markup += ScriptOrdinamento();
+    pagina_ordinabile = pagina.Percorso();
+  }
+  pagina.ScriviMarkup(markup + tabella.Html(ordinabile) + "<pre>");
+}
+
+// The table stays as it is after being written: GetTabella still gives it.
+template <size_t N, bool Ordinabile>
+Result<Variant> CreaTabella(Libreria& lib, CallArgs&) {
+  auto tabella = TabellaIniziata<N>(lib);
+  if (!tabella) return std::move(tabella).error();
+  ScriviNellaPagina(lib, **tabella, Ordinabile);
+  for (const TrattoTesto& tratto : (*tabella)->Testo()) lib.ospite().Scrivi(tratto);
+  return Variant();
+}
+
+template <size_t N>
+Result<Variant> GetTabella(Libreria& lib, CallArgs&) {
+  auto tabella = TabellaIniziata<N>(lib);
+  if (!tabella) return std::move(tabella).error();
+  return Variant::String(vbs::Utf8ToUtf16((*tabella)->Html(false)));
+}
+
+const Libreria::Funzione kTabelle[] = {
+    {"InitTabella", 1, 6, &InitTabella<kPrima>,
+     "aTitoli, [ColoreSfondoTitoli], [Allineamento = \"centro\"], [Bordo = 1], [Larghezza], [ColoreTestoTitoli]: "
+     "avvia una nuova tabella con una colonna per ogni titolo; Allineamento è \"sinistra\", \"centro\" o \"destra\", "
+     "Larghezza in pixel (600) o in percentuale (\"80%\")"},
+    {"AddRigaTabella", 1, 4, &AddRigaTabella<kPrima>,
+     "aValori, [ColoreSfondo], [Allineamento = \"sinistra\"], [ColoreTesto]: aggiunge una riga; meno valori che "
+     "colonne lasciano vuote le ultime celle, di più danno errore 5"},
+    {"SetColoreCella", 2, 3, &SetColoreCella<kPrima>,
+     "Colonna, ColoreSfondo, [ColoreTesto]: colora la cella della colonna 1.. dell'ultima riga"},
+    {"SetTableWidth", 1, 1, &SetTableWidth<kPrima>,
+     "Larghezza: la larghezza della tabella, in pixel (600) o in percentuale (\"80%\"), 0 per lasciarla scegliere "
+     "alla pagina"},
+    {"CreaTabella", 0, 0, &CreaTabella<kPrima, false>,
+     "scrive la tabella nella pagina HTML e come colonne allineate nell'output di testo"},
+    {"CreaTabellaOrdinabile", 0, 0, &CreaTabella<kPrima, true>,
+     "scrive la tabella come CreaTabella; nella pagina un clic su un titolo ordina le righe secondo quella colonna"},
+    {"GetTabella", 0, 0, &GetTabella<kPrima>, "l'HTML della tabella (String)"},
+    {"InitTabellaX", 1, 6, &InitTabella<kSeconda>,
+     "aTitoli, [ColoreSfondoTitoli], [Allineamento], [Bordo], [Larghezza], [ColoreTestoTitoli]: InitTabella per una "
+     "seconda tabella, costruita separatamente dalla prima"},
+    {"AddRigaTabellaX", 1, 4, &AddRigaTabella<kSeconda>,
+     "aValori, [ColoreSfondo], [Allineamento], [ColoreTesto]: AddRigaTabella per la seconda tabella"},
+    {"SetColoreCellaX", 2, 3, &SetColoreCella<kSeconda>,
+     "Colonna, ColoreSfondo, [ColoreTesto]: SetColoreCella per la seconda tabella"},
+    {"SetTableWidthX", 1, 1, &SetTableWidth<kSeconda>, "Larghezza: SetTableWidth per la seconda tabella"},
+    {"CreaTabellaX", 0, 0, &CreaTabella<kSeconda, false>, "scrive la seconda tabella come CreaTabella"},
+    {"GetTabellaX", 0, 0, &GetTabella<kSeconda>, "l'HTML della seconda tabella (String)"},
+};
+
+}  // namespace
+
+std::span<const Libreria::Funzione> FunzioniTabelle() { return kTabelle; }
 
 }  // namespace lottolab::script

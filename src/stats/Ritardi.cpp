@@ -23,7 +23,7 @@ class Giocata {
     assert(sorte >= 1 && sorte <= kNumeriPerRuota);
     for (int numero : numeri) {
       assert(numero >= 1 && numero <= kMassimoNumero);
-      m_giocato[numero] = 1;
+      for (int p = 0; p < kNumeriPerRuota; ++p) m_giocato[p][numero] = posizioni[p] ? 1 : 0;
     }
     std::array<bool, kNumeroRuote + 1> scelta{};
     for (int ruota : ruote) {
@@ -35,14 +35,13 @@ class Giocata {
     }
     for (int ruota = 1; ruota <= kNumeroRuote; ++ruota)
       if (scelta[ruota]) m_basi[m_numero_ruote++] = (ruota - 1) * kNumeriPerRuota;
-    for (int p = 0; p < kNumeriPerRuota; ++p) m_posizioni[p] = posizioni[p] ? 1 : 0;
   }
 
   // Played numbers among the flagged positions of the wheel whose five numbers start at `base`.
   int Colpi(const Estrazione& estrazione, int base) const {
-    int colpi = 0;
-    for (int p = 0; p < kNumeriPerRuota; ++p) colpi += m_giocato[estrazione.numeri[base + p]] & m_posizioni[p];
-    return colpi;
+    const uint8_t* numeri = &estrazione.numeri[base];
+    return m_giocato[0][numeri[0]] + m_giocato[1][numeri[1]] + m_giocato[2][numeri[2]] + m_giocato[3][numeri[3]] +
+           m_giocato[4][numeri[4]];
   }
 
   // The delay walk: backwards from `fine`, wheel by wheel in table order; the first winning wheel
@@ -63,11 +62,16 @@ class Giocata {
     return contatore;
   }
 
-  // The same test over every selected wheel, for the walks that count wins.
+  bool UnaRuota() const { return m_numero_ruote == 1; }
+
+  // The same test over every selected wheel, for the walks that count wins. The walks of one wheel,
+  // the most frequent, know it at compile time and lose the loop.
+  template <bool kUnaRuota>
   Esame Esamina(const Estrazione& estrazione) const {
     Esame esame;
     if (!estrazione.Presente()) return esame;
-    for (int i = 0; i < m_numero_ruote; ++i) {
+    const int numero_ruote = kUnaRuota ? 1 : m_numero_ruote;
+    for (int i = 0; i < numero_ruote; ++i) {
       const int base = m_basi[i];
       if (estrazione.numeri[base] != 0) esame.conta = true;
       if (Colpi(estrazione, base) >= m_sorte) ++esame.vincite;
@@ -77,9 +81,9 @@ class Giocata {
 
  private:
   int m_sorte;
-  // One flag for every value a byte can hold, so that a damaged record cannot read past the end.
-  std::array<uint8_t, 256> m_giocato{};
-  std::array<uint8_t, kNumeriPerRuota> m_posizioni{};
+  // For each position, whether a number held there is played and the position flagged: one flag for
+  // every value a byte can hold, so that a damaged record cannot read past the end.
+  std::array<std::array<uint8_t, 256>, kNumeriPerRuota> m_giocato{};
   std::array<int, kNumeroRuote> m_basi{};
   int m_numero_ruote = 0;
 };
@@ -110,11 +114,16 @@ void ControllaIntervallo([[maybe_unused]] const TabellaEstrazioni& tab, [[maybe_
   assert(inizio >= 1 && fine <= tab.EstrazioniArchivio());
 }
 
+template <bool kUnaRuota>
+Andamento Percorri(const TabellaEstrazioni& tab, const Giocata& giocata, int inizio, int fine) {
+  Andamento andamento;
+  for (int id = inizio; id <= fine; ++id) andamento.Aggiungi(giocata.Esamina<kUnaRuota>(tab[id]));
+  return andamento;
+}
+
 Andamento Percorri(const TabellaEstrazioni& tab, const Giocata& giocata, int inizio, int fine) {
   ControllaIntervallo(tab, inizio, fine);
-  Andamento andamento;
-  for (int id = inizio; id <= fine; ++id) andamento.Aggiungi(giocata.Esamina(tab[id]));
-  return andamento;
+  return giocata.UnaRuota() ? Percorri<true>(tab, giocata, inizio, fine) : Percorri<false>(tab, giocata, inizio, fine);
 }
 
 template <typename Valore>
@@ -125,7 +134,7 @@ std::vector<int> Serie(const TabellaEstrazioni& tab, const Giocata& giocata, int
   serie.reserve(static_cast<size_t>(fine - inizio + 1));
   Andamento andamento;
   for (int id = inizio; id <= fine; ++id) {
-    andamento.Aggiungi(giocata.Esamina(tab[id]));
+    andamento.Aggiungi(giocata.Esamina<false>(tab[id]));
     serie.push_back(valore(andamento));
   }
   return serie;
@@ -155,6 +164,16 @@ int StoricoCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote
 int IncrStoricoCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
                             int sorte, int fine, const Posizioni& posizioni, int inizio) {
   return Percorri(tab, Giocata(ruote, numeri, sorte, posizioni), inizio, fine).IncrStorico();
+}
+
+StatisticaNumero StatisticaCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote,
+                                        std::span<const int> numeri, int sorte, int fine, const Posizioni& posizioni,
+                                        int inizio) {
+  const Andamento andamento = Percorri(tab, Giocata(ruote, numeri, sorte, posizioni), inizio, fine);
+  return {.ritardo = andamento.ritardo,
+          .frequenza = andamento.frequenza,
+          .storico = andamento.storico,
+          .incr_storico = andamento.IncrStorico()};
 }
 
 std::vector<int> SerieRitardo(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,

@@ -19,6 +19,7 @@
 #include <span>
 #include <vector>
 
+#include "Tabellone.h"
 #include "archive/TabellaEstrazioni.h"
 
 namespace lottolab::stats {
@@ -47,6 +48,11 @@ int StoricoCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote
 // won has no closed run, so its increment is the whole current delay.
 int IncrStoricoCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
                             int sorte, int fine, const Posizioni& posizioni = kTuttePosizioni, int inizio = 1);
+
+// The four figures above of the same range from one walk.
+StatisticaNumero StatisticaCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote,
+                                        std::span<const int> numeri, int sorte, int fine,
+                                        const Posizioni& posizioni = kTuttePosizioni, int inizio = 1);
 
 // The series give, for each draw e of inizio..fine in order (element e - inizio), the statistic of the
 // range inizio..e: what RitardoCombinazione, FrequenzaCombinazione and StoricoCombinazione return with

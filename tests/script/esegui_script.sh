@@ -6,6 +6,7 @@
 # The script's first lines may ask for:
 #   ' opzioni: ARGS         more arguments for `lottolab esegui`
 #   ' archivio: reale       the real Lotto archive, imported from ../shared/data/lotto.txt
+# NAME.risposte, when present beside the script, goes with it, for `--risposte NAME.risposte`.
 # Include files come from the folders Funzioni/ (Script/Funzioni/ of the base folder) and DatiApp/
 # (the base folder itself, which is what GetDirectoryAppData names on the command line).
 #
@@ -34,6 +35,7 @@ fi
 opzioni=$(sed -n "s/^' opzioni: //p" "$script")
 
 cp "$script" "$base/$nome.ls"
+cp "$cartella/$nome.risposte" "$base/" 2>/dev/null
 cd "$base"
 # shellcheck disable=SC2086
 "$lottolab" esegui "$nome.ls" $opzioni > stdout.txt 2> stderr.txt

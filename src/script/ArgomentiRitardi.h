@@ -1,0 +1,55 @@
+#pragma once
+
+// The arguments of the functions that measure a combination over a range of draws: the delay family
+// and the statistics family read them alike.
+//
+// The statistics take their preconditions on trust, so every argument a script gives is checked
+// here first: a wrong sorte, wheel or range is the script's mistake and must reach its author as
+// error 5 with a message, never as a failed assertion.
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "ClsFunctionsGeodoScript.h"
+#include "stats/Ritardi.h"
+
+namespace lottolab::script {
+
+// The numbers played, on which wheels (table numbering, 12 for all), for how many hits.
+struct Giocata {
+  std::vector<int> ruote;
+  std::vector<int> numeri;
+  int sorte = 1;
+};
+
+// Where the optional arguments sit in a function's list; no place for the positions when the
+// function takes none.
+struct PostiFacoltativi {
+  size_t inizio;
+  size_t fine;
+  std::optional<size_t> posizioni;
+};
+
+// Everything a measure needs, checked.
+struct Misura {
+  const TabellaEstrazioni* tab = nullptr;
+  Giocata giocata;
+  int inizio = 1;
+  int fine = 1;
+  stats::Posizioni posizioni = stats::kTuttePosizioni;
+};
+
+// aRuote, aNumeri, Sorte as arguments 0, 1, 2, then the optional ones where `posti` says.
+vbs::Result<Misura> MisuraGruppo(const ClsFunctionsGeodoScript& lib, const vbs::CallArgs& args,
+                                 PostiFacoltativi posti);
+
+// Ruota and `quanti_numeri` single numbers (each brought into 1..90) from argument 0, played for as
+// many hits as there are numbers, then the optional ones where `posti` says.
+vbs::Result<Misura> MisuraSuRuota(const ClsFunctionsGeodoScript& lib, const vbs::CallArgs& args, int quanti_numeri,
+                                  PostiFacoltativi posti);
+
+// Inizio, Fine and aPosizioni right after the numbers of MisuraSuRuota.
+PostiFacoltativi PostiDopoINumeri(int quanti_numeri);
+
+}  // namespace lottolab::script
