@@ -150,17 +150,17 @@ Result<Variant> AmboRitardo(Libreria& lib, CallArgs& args) { return RitardoSuRuo
 
 const Libreria::Funzione kRitardi[] = {
     {"RitardoCombinazione", 4, 6, &RitardoCombinazione,
-     "aRuote, aNumeri, Sorte, Fine, [aPosizioni], [Inizio]: draws from Fine back to the last win of at least Sorte "
-     "(1..5) of aNumeri on one wheel of aRuote, Inizio..Fine (Long); aPosizioni(1..5) True for the positions that "
-     "count, all by default; Fine omitted = last draw, Inizio omitted = 1"},
+     "aRuote, aNumeri, Sorte, Fine, [aPosizioni], [Inizio]: le estrazioni da Fine indietro fino all'ultima vincita "
+     "di almeno Sorte (1..5) numeri di aNumeri su una ruota di aRuote, in Inizio..Fine (Long); aPosizioni(1..5) True "
+     "per le posizioni che contano, tutte se omesso; Fine omesso = ultima estrazione, Inizio omesso = 1"},
     {"EstrattoRitardo", 2, 5, &EstrattoRitardo,
-     "Ruota, Numero, [Inizio = 1], [Fine = last draw], [aPosizioni]: the delay of Numero on Ruota (TU_ for all) "
-     "at Fine (Long)"},
+     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: il ritardo di Numero su Ruota (TU_ per "
+     "tutte) a Fine (Long)"},
     {"RitardoEstratto", 2, 5, &EstrattoRitardo,
-     "Ruota, Numero, [Inizio = 1], [Fine = last draw], [aPosizioni]: the same as EstrattoRitardo (Long)"},
+     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: lo stesso di EstrattoRitardo (Long)"},
     {"AmboRitardo", 3, 6, &AmboRitardo,
-     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = last draw], [aPosizioni]: the delay of the ambo on Ruota "
-     "(TU_ for all) at Fine, both numbers on one wheel of one draw (Long)"},
+     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: il ritardo dell'ambo su Ruota "
+     "(TU_ per tutte) a Fine, con entrambi i numeri su una ruota della stessa estrazione (Long)"},
 };
 
 }  // namespace

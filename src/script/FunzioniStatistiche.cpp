@@ -176,88 +176,91 @@ std::optional<size_t> FineDelMassimo(const std::vector<int>& storici) {
 
 const Libreria::Funzione kStatistiche[] = {
     {"EstrattoFrequenza", 2, 5, &FiguraSuRuota<1, kFrequenza, kPercorso>,
-     "Ruota, Numero, [Inizio = 1], [Fine = last draw], [aPosizioni]: the draws of Inizio..Fine in which Numero "
-     "came out on Ruota, once for every wheel with TU_ (Long)"},
+     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: le estrazioni di Inizio..Fine in cui "
+     "Numero è uscito su Ruota, una volta per ogni ruota con TU_ (Long)"},
     {"EstrattoStorico", 2, 5, &FiguraSuRuota<1, kStorico, kPercorso>,
-     "Ruota, Numero, [Inizio = 1], [Fine = last draw], [aPosizioni]: the historical maximum of Numero on Ruota, "
-     "the longest run of Inizio..Fine without it, the current one included (Long)"},
+     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: il massimo storico di Numero su Ruota, "
+     "la serie più lunga di estrazioni di Inizio..Fine senza di esso, compresa quella in corso (Long)"},
     {"EstrattoIncrStorico", 2, 5, &FiguraSuRuota<1, kIncrStorico, kPercorso>,
-     "Ruota, Numero, [Inizio = 1], [Fine = last draw], [aPosizioni]: how far the delay at Fine goes beyond every "
-     "run that a win closed in Inizio..Fine, 0 when it does not (Long)"},
+     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: di quanto il ritardo a Fine supera ogni "
+     "serie che una vincita ha chiuso in Inizio..Fine, 0 se non le supera tutte (Long)"},
     {"AmboFrequenza", 3, 6, &FiguraSuRuota<2, kFrequenza, kPercorso>,
-     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = last draw], [aPosizioni]: the frequency of the ambo on Ruota "
-     "in Inizio..Fine, once for every wheel with TU_ (Long)"},
+     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: la frequenza dell'ambo su "
+     "Ruota in Inizio..Fine, una volta per ogni ruota con TU_ (Long)"},
     {"AmboStorico", 3, 6, &FiguraSuRuota<2, kStorico, kPercorso>,
-     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = last draw], [aPosizioni]: the historical maximum of the "
-     "ambo on Ruota in Inizio..Fine (Long)"},
+     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: il massimo storico dell'ambo "
+     "su Ruota in Inizio..Fine (Long)"},
     {"AmboIncrStorico", 3, 6, &FiguraSuRuota<2, kIncrStorico, kPercorso>,
-     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = last draw], [aPosizioni]: the increment of the ambo's "
-     "historical maximum at Fine (Long)"},
+     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: l'incremento del massimo "
+     "storico dell'ambo a Fine (Long)"},
     {"StatEstratto", 8, 8, &StatSuRuota<1, kPercorso>,
-     "Ruota, Numero, [Inizio = 1], [Fine = last draw], RetRit, RetRitMax, RetIncrRitMax, RetFreq: the delay, "
-     "historical maximum, its increment and the frequency of Numero on Ruota, in the four variables (Long)"},
+     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], RetRit, RetRitMax, RetIncrRitMax, RetFreq: il "
+     "ritardo, il massimo storico, il suo incremento e la frequenza di Numero su Ruota, nelle quattro variabili "
+     "(Long)"},
     {"StatAmbo", 9, 9, &StatSuRuota<2, kPercorso>,
-     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = last draw], RetRit, RetRitMax, RetIncrRitMax, RetFreq: "
-     "StatEstratto for the ambo"},
+     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], RetRit, RetRitMax, RetIncrRitMax, RetFreq: "
+     "StatEstratto per l'ambo"},
     {"SerieRitardo", 3, 6, &SerieRitardo<kPercorso>,
-     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = last draw], [aPosizioni]: the delay at Fine of the group "
-     "played as a whole for Sorte (1..5) on the wheels aRuote: as RitardoCombinazione (Long)"},
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: il ritardo a Fine del gruppo "
+     "giocato nel suo insieme per Sorte (1..5) sulle ruote aRuote: come RitardoCombinazione (Long)"},
     {"SerieFreq", 3, 6, &FiguraSerie<kFrequenza, kPercorso>,
-     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = last draw], [aPosizioni]: the (draw, wheel) pairs of "
-     "Inizio..Fine where at least Sorte of aNumeri came out on one wheel of aRuote (Long)"},
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: le coppie (estrazione, ruota) "
+     "di Inizio..Fine in cui almeno Sorte numeri di aNumeri sono usciti su una ruota di aRuote (Long)"},
     {"SerieStorico", 3, 6, &FiguraSerie<kStorico, kPercorso>,
-     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = last draw], [aPosizioni]: the historical maximum of the "
-     "group in Inizio..Fine, the current delay included (Long)"},
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: il massimo storico del gruppo "
+     "in Inizio..Fine, compreso il ritardo in corso (Long)"},
     {"SeriePrima", 3, 6, &EstrazioneDellaSerie<&stats::SerieFreq, &PrimaVincita>,
-     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = last draw], [aPosizioni]: the first draw of Inizio..Fine in "
-     "which the group won, 0 when it never did (Long)"},
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: la prima estrazione di "
+     "Inizio..Fine in cui il gruppo ha vinto, 0 se non ha mai vinto (Long)"},
     {"SerieUltima", 3, 6, &EstrazioneDellaSerie<&stats::SerieFreq, &UltimaVincita>,
-     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = last draw], [aPosizioni]: the last draw of Inizio..Fine in "
-     "which the group won, 0 when it never did (Long)"},
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: l'ultima estrazione di "
+     "Inizio..Fine in cui il gruppo ha vinto, 0 se non ha mai vinto (Long)"},
     {"SerieEstrazioneStorico", 3, 6, &EstrazioneDellaSerie<&stats::SerieStorico, &FineDelMassimo>,
-     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = last draw], [aPosizioni]: the draw of Inizio..Fine at which "
-     "the delay of the group first reached its historical maximum, the last draw of the first run that long; 0 "
-     "when the maximum is 0 (Long)"},
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: l'estrazione di Inizio..Fine "
+     "in cui il ritardo del gruppo ha raggiunto per la prima volta il suo massimo storico, l'ultima estrazione della "
+     "prima serie così lunga; 0 se il massimo è 0 (Long)"},
     {"EstrattoRitardoTurbo", 2, 5, &FiguraSuRuota<1, kRitardo, kTurbo>,
-     "Ruota, Numero, [Inizio = 1], [Fine = last draw], [aPosizioni]: EstrattoRitardo from the run's index of "
-     "the draws, built at the first Turbo call (Long)"},
+     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà EstrattoRitardo, dall'indice "
+     "delle estrazioni dell'esecuzione, costruito alla prima chiamata Turbo (Long)"},
     {"RitardoEstrattoTurbo", 2, 5, &FiguraSuRuota<1, kRitardo, kTurbo>,
-     "Ruota, Numero, [Inizio = 1], [Fine = last draw], [aPosizioni]: the same as EstrattoRitardoTurbo (Long)"},
+     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: lo stesso di EstrattoRitardoTurbo "
+     "(Long)"},
     {"EstrattoFrequenzaTurbo", 2, 5, &FiguraSuRuota<1, kFrequenza, kTurbo>,
-     "Ruota, Numero, [Inizio = 1], [Fine = last draw], [aPosizioni]: EstrattoFrequenza from the run's index "
-     "(Long)"},
+     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà EstrattoFrequenza, "
+     "dall'indice dell'esecuzione (Long)"},
     {"EstrattoStoricoTurbo", 2, 5, &FiguraSuRuota<1, kStorico, kTurbo>,
-     "Ruota, Numero, [Inizio = 1], [Fine = last draw], [aPosizioni]: EstrattoStorico from the run's index (Long)"},
+     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà EstrattoStorico, dall'indice "
+     "dell'esecuzione (Long)"},
     {"EstrattoIncrStoricoTurbo", 2, 5, &FiguraSuRuota<1, kIncrStorico, kTurbo>,
-     "Ruota, Numero, [Inizio = 1], [Fine = last draw], [aPosizioni]: EstrattoIncrStorico from the run's index "
-     "(Long)"},
+     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà EstrattoIncrStorico, "
+     "dall'indice dell'esecuzione (Long)"},
     {"AmboRitardoTurbo", 3, 6, &FiguraSuRuota<2, kRitardo, kTurbo>,
-     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = last draw], [aPosizioni]: AmboRitardo from the run's index "
-     "(Long)"},
+     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà AmboRitardo, "
+     "dall'indice dell'esecuzione (Long)"},
     {"AmboFrequenzaTurbo", 3, 6, &FiguraSuRuota<2, kFrequenza, kTurbo>,
-     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = last draw], [aPosizioni]: AmboFrequenza from the run's "
-     "index (Long)"},
+     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà AmboFrequenza, "
+     "dall'indice dell'esecuzione (Long)"},
     {"AmboStoricoTurbo", 3, 6, &FiguraSuRuota<2, kStorico, kTurbo>,
-     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = last draw], [aPosizioni]: AmboStorico from the run's index "
-     "(Long)"},
+     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà AmboStorico, "
+     "dall'indice dell'esecuzione (Long)"},
     {"AmboIncrStoricoTurbo", 3, 6, &FiguraSuRuota<2, kIncrStorico, kTurbo>,
-     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = last draw], [aPosizioni]: AmboIncrStorico from the run's "
-     "index (Long)"},
+     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà AmboIncrStorico, "
+     "dall'indice dell'esecuzione (Long)"},
     {"StatAmboTurbo", 9, 9, &StatSuRuota<2, kTurbo>,
-     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = last draw], RetRit, RetRitMax, RetIncrRitMax, RetFreq: "
-     "StatAmbo from the run's index"},
+     "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], RetRit, RetRitMax, RetIncrRitMax, RetFreq: "
+     "ciò che dà StatAmbo, dall'indice dell'esecuzione"},
     {"RitardoCombinazioneTurbo", 4, 6, &RitardoCombinazioneTurbo,
-     "aRuote, aNumeri, Sorte, Fine, [aPosizioni], [Inizio]: RitardoCombinazione from the run's draws held as sets "
-     "of numbers, built at the first call that needs them (Long)"},
+     "aRuote, aNumeri, Sorte, Fine, [aPosizioni], [Inizio]: ciò che dà RitardoCombinazione, dalle estrazioni "
+     "dell'esecuzione conservate come insiemi di numeri, costruiti alla prima chiamata che ne ha bisogno (Long)"},
     {"SerieRitardoTurbo", 3, 6, &SerieRitardo<kTurbo>,
-     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = last draw], [aPosizioni]: SerieRitardo from the run's sets "
-     "of numbers (Long)"},
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà SerieRitardo, dagli "
+     "insiemi di numeri dell'esecuzione (Long)"},
     {"SerieFreqTurbo", 3, 6, &FiguraSerie<kFrequenza, kTurbo>,
-     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = last draw], [aPosizioni]: SerieFreq from the run's sets of "
-     "numbers (Long)"},
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà SerieFreq, dagli "
+     "insiemi di numeri dell'esecuzione (Long)"},
     {"SerieStoricoTurbo", 3, 6, &FiguraSerie<kStorico, kTurbo>,
-     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = last draw], [aPosizioni]: SerieStorico from the run's sets "
-     "of numbers (Long)"},
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà SerieStorico, dagli "
+     "insiemi di numeri dell'esecuzione (Long)"},
 };
 
 }  // namespace
