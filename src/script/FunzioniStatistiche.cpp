@@ -31,20 +31,23 @@ constexpr auto kIncrStorico = &StatisticaNumero::incr_storico;
 constexpr auto kPercorso = Calcolo::kPercorso;
 constexpr auto kTurbo = Calcolo::kTurbo;
 
-// The run's tables, for the archive they were built from, each built at its first use. The archive
-// of a run does not change, but a table of another length is another state of the archive and gets
-// tables of its own.
-struct TabelleTurbo {
+// The run's tables, for the archive they were built from, each built at its first use: the columns
+// the plain functions walk, the index and the sets the Turbo forms read. The archive of a run does
+// not change, but a table of another length is another state of the archive and gets tables of its
+// own.
+struct TabelleEsecuzione {
   const TabellaEstrazioni* tab = nullptr;
   int estrazioni = 0;
+  std::optional<stats::ColonneRuote> colonne;
   std::optional<stats::IndiceVincite> indice;
   std::optional<stats::EstrazioniInBit> insiemi;
 };
 
-TabelleTurbo& Tabelle(Libreria& lib, const TabellaEstrazioni& tab) {
-  TabelleTurbo& tabelle = lib.Stato<TabelleTurbo>();
+TabelleEsecuzione& Tabelle(Libreria& lib, const TabellaEstrazioni& tab) {
+  TabelleEsecuzione& tabelle = lib.Stato<TabelleEsecuzione>();
   if (tabelle.tab != &tab || tabelle.estrazioni != tab.EstrazioniArchivio())
-    tabelle = TabelleTurbo{.tab = &tab, .estrazioni = tab.EstrazioniArchivio(), .indice = {}, .insiemi = {}};
+    tabelle = TabelleEsecuzione{
+        .tab = &tab, .estrazioni = tab.EstrazioniArchivio(), .colonne = {}, .indice = {}, .insiemi = {}};
   return tabelle;
 }
 
@@ -54,8 +57,10 @@ const Tabella& Costruita(std::optional<Tabella>& tabella, const TabellaEstrazion
   return *tabella;
 }
 
-StatisticaNumero Percorso(const Misura& m) {
-  return stats::StatisticaCombinazione(*m.tab, m.giocata.ruote, m.giocata.numeri, m.giocata.sorte, m.fine,
+// The plain forms walk the range, over the columns of the draws.
+StatisticaNumero Percorso(Libreria& lib, const Misura& m) {
+  const stats::ColonneRuote& colonne = Costruita(Tabelle(lib, *m.tab).colonne, *m.tab);
+  return stats::StatisticaCombinazione(colonne, m.giocata.ruote, m.giocata.numeri, m.giocata.sorte, m.fine,
                                        m.posizioni, m.inizio);
 }
 
@@ -71,7 +76,7 @@ int RitardoGruppo(Libreria& lib, const Misura& m, Calcolo calcolo) {
 
 StatisticaNumero StatisticaGruppo(Libreria& lib, const Misura& m, Calcolo calcolo) {
   const Giocata& g = m.giocata;
-  if (calcolo == Calcolo::kPercorso || !NegliInsiemi(m)) return Percorso(m);
+  if (calcolo == Calcolo::kPercorso || !NegliInsiemi(m)) return Percorso(lib, m);
   return Costruita(Tabelle(lib, *m.tab).insiemi, *m.tab).Statistica(g.ruote, g.numeri, g.sorte, m.inizio, m.fine);
 }
 

@@ -37,25 +37,24 @@ class Giocata {
       if (scelta[ruota]) m_basi[m_numero_ruote++] = (ruota - 1) * kNumeriPerRuota;
   }
 
-  // Played numbers among the flagged positions of the wheel whose five numbers start at `base`.
-  int Colpi(const Estrazione& estrazione, int base) const {
-    const uint8_t* numeri = &estrazione.numeri[base];
+  // Played numbers among the flagged positions of a wheel's five numbers.
+  int Colpi(const uint8_t* numeri) const {
     return m_giocato[0][numeri[0]] + m_giocato[1][numeri[1]] + m_giocato[2][numeri[2]] + m_giocato[3][numeri[3]] +
            m_giocato[4][numeri[4]];
   }
 
   // The delay walk: backwards from `fine`, wheel by wheel in table order; the first winning wheel
   // ends the walk before its draw is counted.
-  int Ritardo(const TabellaEstrazioni& tab, int inizio, int fine) const {
+  template <typename Fonte>
+  int Ritardo(const Fonte& fonte, int inizio, int fine) const {
     int contatore = 0;
     for (int id = fine; id >= inizio; --id) {
-      const Estrazione& estrazione = tab[id];
-      if (!estrazione.Presente()) continue;
+      if (!fonte.Presente(id)) continue;
       bool conta = false;
       for (int i = 0; i < m_numero_ruote; ++i) {
-        const int base = m_basi[i];
-        if (estrazione.numeri[base] != 0) conta = true;
-        if (Colpi(estrazione, base) >= m_sorte) return contatore;
+        const uint8_t* numeri = fonte.Numeri(id, m_basi[i]);
+        if (numeri[0] != 0) conta = true;
+        if (Colpi(numeri) >= m_sorte) return contatore;
       }
       if (conta) ++contatore;
     }
@@ -66,15 +65,15 @@ class Giocata {
 
   // The same test over every selected wheel, for the walks that count wins. The walks of one wheel,
   // the most frequent, know it at compile time and lose the loop.
-  template <bool kUnaRuota>
-  Esame Esamina(const Estrazione& estrazione) const {
+  template <bool kUnaRuota, typename Fonte>
+  Esame Esamina(const Fonte& fonte, int id) const {
     Esame esame;
-    if (!estrazione.Presente()) return esame;
+    if (!fonte.Presente(id)) return esame;
     const int numero_ruote = kUnaRuota ? 1 : m_numero_ruote;
     for (int i = 0; i < numero_ruote; ++i) {
-      const int base = m_basi[i];
-      if (estrazione.numeri[base] != 0) esame.conta = true;
-      if (Colpi(estrazione, base) >= m_sorte) ++esame.vincite;
+      const uint8_t* numeri = fonte.Numeri(id, m_basi[i]);
+      if (numeri[0] != 0) esame.conta = true;
+      if (Colpi(numeri) >= m_sorte) ++esame.vincite;
     }
     return esame;
   }
@@ -109,32 +108,47 @@ struct Andamento {
   int IncrStorico() const { return ritardo > massimo_chiuso ? ritardo - massimo_chiuso : 0; }
 };
 
-void ControllaIntervallo([[maybe_unused]] const TabellaEstrazioni& tab, [[maybe_unused]] int inizio,
-                         [[maybe_unused]] int fine) {
-  assert(inizio >= 1 && fine <= tab.EstrazioniArchivio());
+// The draws as the walks read them, record by record.
+class FonteTabella {
+ public:
+  explicit FonteTabella(const TabellaEstrazioni& tab) : m_tab(tab) {}
+  int Estrazioni() const { return m_tab.EstrazioniArchivio(); }
+  bool Presente(int id) const { return m_tab[id].Presente(); }
+  const uint8_t* Numeri(int id, int base) const { return &m_tab[id].numeri[base]; }
+
+ private:
+  const TabellaEstrazioni& m_tab;
+};
+
+template <typename Fonte>
+void ControllaIntervallo([[maybe_unused]] const Fonte& fonte, [[maybe_unused]] int inizio, [[maybe_unused]] int fine) {
+  assert(inizio >= 1 && fine <= fonte.Estrazioni());
 }
 
-template <bool kUnaRuota>
-Andamento Percorri(const TabellaEstrazioni& tab, const Giocata& giocata, int inizio, int fine) {
+template <bool kUnaRuota, typename Fonte>
+Andamento Percorri(const Fonte& fonte, const Giocata& giocata, int inizio, int fine) {
   Andamento andamento;
-  for (int id = inizio; id <= fine; ++id) andamento.Aggiungi(giocata.Esamina<kUnaRuota>(tab[id]));
+  for (int id = inizio; id <= fine; ++id) andamento.Aggiungi(giocata.Esamina<kUnaRuota>(fonte, id));
   return andamento;
 }
 
-Andamento Percorri(const TabellaEstrazioni& tab, const Giocata& giocata, int inizio, int fine) {
-  ControllaIntervallo(tab, inizio, fine);
-  return giocata.UnaRuota() ? Percorri<true>(tab, giocata, inizio, fine) : Percorri<false>(tab, giocata, inizio, fine);
+template <typename Fonte>
+Andamento Percorri(const Fonte& fonte, const Giocata& giocata, int inizio, int fine) {
+  ControllaIntervallo(fonte, inizio, fine);
+  return giocata.UnaRuota() ? Percorri<true>(fonte, giocata, inizio, fine)
+                            : Percorri<false>(fonte, giocata, inizio, fine);
 }
 
 template <typename Valore>
 std::vector<int> Serie(const TabellaEstrazioni& tab, const Giocata& giocata, int inizio, int fine, Valore valore) {
-  ControllaIntervallo(tab, inizio, fine);
+  const FonteTabella fonte(tab);
+  ControllaIntervallo(fonte, inizio, fine);
   std::vector<int> serie;
   if (fine < inizio) return serie;
   serie.reserve(static_cast<size_t>(fine - inizio + 1));
   Andamento andamento;
   for (int id = inizio; id <= fine; ++id) {
-    andamento.Aggiungi(giocata.Esamina<false>(tab[id]));
+    andamento.Aggiungi(giocata.Esamina<false>(fonte, id));
     serie.push_back(valore(andamento));
   }
   return serie;
@@ -147,33 +161,60 @@ int FinePredefinita(const TabellaEstrazioni& tab, int fine) { return fine == 0 ?
 
 int RitardoCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
                         int sorte, int fine, const Posizioni& posizioni, int inizio) {
-  ControllaIntervallo(tab, inizio, fine);
-  return Giocata(ruote, numeri, sorte, posizioni).Ritardo(tab, inizio, fine);
+  const FonteTabella fonte(tab);
+  ControllaIntervallo(fonte, inizio, fine);
+  return Giocata(ruote, numeri, sorte, posizioni).Ritardo(fonte, inizio, fine);
 }
 
 int FrequenzaCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
                           int sorte, int fine, const Posizioni& posizioni, int inizio) {
-  return Percorri(tab, Giocata(ruote, numeri, sorte, posizioni), inizio, fine).frequenza;
+  return Percorri(FonteTabella(tab), Giocata(ruote, numeri, sorte, posizioni), inizio, fine).frequenza;
 }
 
 int StoricoCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
                         int sorte, int fine, const Posizioni& posizioni, int inizio) {
-  return Percorri(tab, Giocata(ruote, numeri, sorte, posizioni), inizio, fine).storico;
+  return Percorri(FonteTabella(tab), Giocata(ruote, numeri, sorte, posizioni), inizio, fine).storico;
 }
 
 int IncrStoricoCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,
                             int sorte, int fine, const Posizioni& posizioni, int inizio) {
-  return Percorri(tab, Giocata(ruote, numeri, sorte, posizioni), inizio, fine).IncrStorico();
+  return Percorri(FonteTabella(tab), Giocata(ruote, numeri, sorte, posizioni), inizio, fine).IncrStorico();
 }
 
-StatisticaNumero StatisticaCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote,
-                                        std::span<const int> numeri, int sorte, int fine, const Posizioni& posizioni,
-                                        int inizio) {
-  const Andamento andamento = Percorri(tab, Giocata(ruote, numeri, sorte, posizioni), inizio, fine);
+namespace {
+
+StatisticaNumero Figure(const Andamento& andamento) {
   return {.ritardo = andamento.ritardo,
           .frequenza = andamento.frequenza,
           .storico = andamento.storico,
           .incr_storico = andamento.IncrStorico()};
+}
+
+}  // namespace
+
+StatisticaNumero StatisticaCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote,
+                                        std::span<const int> numeri, int sorte, int fine, const Posizioni& posizioni,
+                                        int inizio) {
+  return Figure(Percorri(FonteTabella(tab), Giocata(ruote, numeri, sorte, posizioni), inizio, fine));
+}
+
+ColonneRuote::ColonneRuote(const TabellaEstrazioni& tab) : m_estrazioni(tab.EstrazioniArchivio()) {
+  m_presente.reserve(static_cast<size_t>(m_estrazioni));
+  for (std::vector<uint8_t>& colonna : m_colonne) colonna.reserve(static_cast<size_t>(m_estrazioni) * kNumeriPerRuota);
+  for (const Estrazione& estrazione : tab.Tutte()) {
+    m_presente.push_back(estrazione.Presente());
+    for (int ruota = 0; ruota < kNumeroRuote; ++ruota) {
+      const auto inizio = estrazione.numeri.begin() + ruota * kNumeriPerRuota;
+      m_colonne[static_cast<size_t>(ruota)].insert(m_colonne[static_cast<size_t>(ruota)].end(), inizio,
+                                                   inizio + kNumeriPerRuota);
+    }
+  }
+}
+
+StatisticaNumero StatisticaCombinazione(const ColonneRuote& colonne, std::span<const int> ruote,
+                                        std::span<const int> numeri, int sorte, int fine, const Posizioni& posizioni,
+                                        int inizio) {
+  return Figure(Percorri(colonne, Giocata(ruote, numeri, sorte, posizioni), inizio, fine));
 }
 
 std::vector<int> SerieRitardo(const TabellaEstrazioni& tab, std::span<const int> ruote, std::span<const int> numeri,

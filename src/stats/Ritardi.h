@@ -16,6 +16,7 @@
 // one value per draw.
 
 #include <array>
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -51,6 +52,31 @@ int IncrStoricoCombinazione(const TabellaEstrazioni& tab, std::span<const int> r
 
 // The four figures above of the same range from one walk.
 StatisticaNumero StatisticaCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote,
+                                        std::span<const int> numeri, int sorte, int fine,
+                                        const Posizioni& posizioni = kTuttePosizioni, int inizio = 1);
+
+// The draws laid out wheel by wheel: for each wheel the five numbers of every draw side by side.
+// A walk over one wheel then reads 5 bytes a draw instead of a whole record, about a tenth of the
+// memory, which is what a script asking for hundreds of figures in a row spends its time on. It is
+// a copy: build it again when the table changes.
+class ColonneRuote {
+ public:
+  explicit ColonneRuote(const TabellaEstrazioni& tab);
+  int Estrazioni() const { return m_estrazioni; }
+  bool Presente(int id) const { return m_presente[static_cast<size_t>(id - 1)] != 0; }
+  // The five numbers of the wheel whose numbers start at `base` in a record, (ruota - 1) * 5.
+  const uint8_t* Numeri(int id, int base) const {
+    return &m_colonne[static_cast<size_t>(base / kNumeriPerRuota)][static_cast<size_t>(id - 1) * kNumeriPerRuota];
+  }
+
+ private:
+  int m_estrazioni;
+  std::vector<uint8_t> m_presente;
+  std::array<std::vector<uint8_t>, kNumeroRuote> m_colonne;
+};
+
+// StatisticaCombinazione over the columns: the same figures.
+StatisticaNumero StatisticaCombinazione(const ColonneRuote& colonne, std::span<const int> ruote,
                                         std::span<const int> numeri, int sorte, int fine,
                                         const Posizioni& posizioni = kTuttePosizioni, int inizio = 1);
 

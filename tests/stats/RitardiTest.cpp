@@ -192,6 +192,7 @@ TEST(IncrStoricoCombinazione, MisuraIlRitardoOltreLeCorseChiuse) {
 // awkward case: wheels missing, Nazionale starting late, a record without a draw.
 TEST(StatisticheDiCombinazione, CoincidonoConLaDefinizioneSuOgniFineDelTratto) {
   const TabellaEstrazioni tab = ArchivioCasuale(90, 12, 11);
+  const ColonneRuote colonne(tab);
   struct Caso {
     std::vector<int> ruote;
     std::vector<int> numeri;
@@ -237,6 +238,13 @@ TEST(StatisticheDiCombinazione, CoincidonoConLaDefinizioneSuOgniFineDelTratto) {
         EXPECT_EQ(IncrStoricoCombinazione(tab, caso.ruote, caso.numeri, caso.sorte, e, caso.posizioni, inizio),
                   std::max(ritardo - massimo_prima_della_vincita, 0))
             << "draw " << e;
+        // The walk over the columns gives the same four figures.
+        const StatisticaNumero su_colonne =
+            StatisticaCombinazione(colonne, caso.ruote, caso.numeri, caso.sorte, e, caso.posizioni, inizio);
+        EXPECT_EQ(su_colonne.ritardo, ritardo) << "draw " << e;
+        EXPECT_EQ(su_colonne.frequenza, frequenza) << "draw " << e;
+        EXPECT_EQ(su_colonne.storico, storico) << "draw " << e;
+        EXPECT_EQ(su_colonne.incr_storico, std::max(ritardo - massimo_prima_della_vincita, 0)) << "draw " << e;
       }
     }
   }
