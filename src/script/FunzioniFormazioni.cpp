@@ -12,6 +12,7 @@
 
 #include "ArgomentiLotto.h"
 #include "Famiglia.h"
+#include "TabelleEsecuzione.h"
 #include "stats/Numeri.h"
 #include "stats/Ritardi.h"
 #include "vbscript/Utf.h"
@@ -168,21 +169,18 @@ Result<Gioco> GiocoArgomenti(const TabellaEstrazioni& tab, const CallArgs& args,
   return gioco;
 }
 
-struct Statistica {
-  int ritardo = 0;
-  int storico = 0;
-  int incremento = 0;
-  int frequenza = 0;
-};
-
-Statistica StatisticaDi(const TabellaEstrazioni& tab, std::span<const int> numeri, const Gioco& gioco) {
-  const auto figura = [&](auto funzione) {
-    return funzione(tab, gioco.ruote, numeri, gioco.sorte, gioco.fine, stats::kTuttePosizioni, gioco.inizio);
-  };
-  return {figura(stats::RitardoCombinazione), figura(stats::StoricoCombinazione),
-          figura(stats::IncrStoricoCombinazione), figura(stats::FrequenzaCombinazione)};
+// The plain forms walk the range over the columns of the draws, the Turbo ones read the sets of
+// numbers of the run: the same four figures.
+template <bool kTurbo>
+stats::StatisticaNumero StatisticaDi(Libreria& lib, const TabellaEstrazioni& tab, std::span<const int> numeri,
+                                     const Gioco& gioco) {
+  if constexpr (kTurbo)
+    return InsiemiDellEsecuzione(lib, tab).Statistica(gioco.ruote, numeri, gioco.sorte, gioco.inizio, gioco.fine);
+  return stats::StatisticaCombinazione(ColonneDellEsecuzione(lib, tab), gioco.ruote, numeri, gioco.sorte, gioco.fine,
+                                       stats::kTuttePosizioni, gioco.inizio);
 }
 
+template <bool kTurbo>
 Result<Variant> StatisticaFormazione(Libreria& lib, CallArgs& args) {
   auto archivio = lib.Archivio();
   if (!archivio) return std::move(archivio).error();
@@ -190,10 +188,10 @@ Result<Variant> StatisticaFormazione(Libreria& lib, CallArgs& args) {
   if (!numeri) return std::move(numeri).error();
   auto gioco = GiocoArgomenti(**archivio, args, 1, 7);
   if (!gioco) return std::move(gioco).error();
-  const Statistica statistica = StatisticaDi(**archivio, *numeri, *gioco);
+  const stats::StatisticaNumero statistica = StatisticaDi<kTurbo>(lib, **archivio, *numeri, *gioco);
   args.Out(3) = Variant::Long(statistica.ritardo);
   args.Out(4) = Variant::Long(statistica.storico);
-  args.Out(5) = Variant::Long(statistica.incremento);
+  args.Out(5) = Variant::Long(statistica.incr_storico);
   args.Out(6) = Variant::Long(statistica.frequenza);
   return Variant();
 }
@@ -204,6 +202,7 @@ std::string NumeriInTesto(const std::vector<int>& numeri) {
   return testo;
 }
 
+template <bool kTurbo>
 Result<Variant> StatisticaGruppoFormazioni(Libreria& lib, CallArgs& args) {
   auto archivio = lib.Archivio();
   if (!archivio) return std::move(archivio).error();
@@ -214,8 +213,8 @@ Result<Variant> StatisticaGruppoFormazioni(Libreria& lib, CallArgs& args) {
   constexpr std::string_view kRiga = "{:>10} {:>8} {:>8} {:>8} {:>8}  {}\n";
   lib.Scrivi(fmt::format(kRiga, "Formazione", "Rit", "RitMax", "IncrMax", "Freq", "Numeri"), lib.colore_testo(), true);
   for (size_t i = 0; i < formazioni.size(); ++i) {
-    const Statistica s = StatisticaDi(**archivio, formazioni[i], *gioco);
-    lib.Scrivi(fmt::format(kRiga, i + 1, s.ritardo, s.storico, s.incremento, s.frequenza, NumeriInTesto(formazioni[i])),
+    const stats::StatisticaNumero s = StatisticaDi<kTurbo>(lib, **archivio, formazioni[i], *gioco);
+    lib.Scrivi(fmt::format(kRiga, i + 1, s.ritardo, s.storico, s.incr_storico, s.frequenza, NumeriInTesto(formazioni[i])),
                lib.colore_testo(), false);
   }
   return Variant();
@@ -240,13 +239,19 @@ const Libreria::Funzione kFormazioni[] = {
     {"GetClasseFormazione", 1, 1, &GetClasseFormazione,
      "IdFormazione: la sorte più alta che la formazione può vincere: il suo numero di elementi, al massimo CINQUINA_ "
      "(Integer)"},
-    {"StatisticaFormazione", 7, 9, &StatisticaFormazione,
+    {"StatisticaFormazione", 7, 9, &StatisticaFormazione<false>,
      "aNumeri, aRuote, Sorte, RetRit, RetRitMax, RetIncrRitMax, RetFreq, [Inizio = 1], [Fine = ultima estrazione]: "
      "imposta le quattro variabili al ritardo, al massimo storico, al suo incremento e alla frequenza di aNumeri "
      "giocati in blocco per Sorte su aRuote in Inizio..Fine, come li danno RitardoCombinazione e le funzioni affini"},
-    {"StatisticaGruppoFormazioni", 2, 4, &StatisticaGruppoFormazioni,
+    {"StatisticaFormazioneTurbo", 7, 9, &StatisticaFormazione<true>,
+     "aNumeri, aRuote, Sorte, RetRit, RetRitMax, RetIncrRitMax, RetFreq, [Inizio = 1], [Fine = ultima estrazione]: "
+     "ciò che dà StatisticaFormazione, dagli insiemi di numeri dell'esecuzione"},
+    {"StatisticaGruppoFormazioni", 2, 4, &StatisticaGruppoFormazioni<false>,
      "aRuote, Sorte, [Inizio = 1], [Fine = ultima estrazione]: scrive una tabella con una riga per ogni formazione "
      "del gruppo statistico: il suo indice, i quattro valori di StatisticaFormazione e i suoi numeri"},
+    {"StatisticaGruppoFormazioniTurbo", 2, 4, &StatisticaGruppoFormazioni<true>,
+     "aRuote, Sorte, [Inizio = 1], [Fine = ultima estrazione]: ciò che scrive StatisticaGruppoFormazioni, dagli "
+     "insiemi di numeri dell'esecuzione"},
 };
 
 }  // namespace

@@ -11,8 +11,7 @@
 
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
-#include "stats/EstrazioniInBit.h"
-#include "stats/IndiceVincite.h"
+#include "TabelleEsecuzione.h"
 
 namespace lottolab::script {
 
@@ -31,35 +30,9 @@ constexpr auto kIncrStorico = &StatisticaNumero::incr_storico;
 constexpr auto kPercorso = Calcolo::kPercorso;
 constexpr auto kTurbo = Calcolo::kTurbo;
 
-// The run's tables, for the archive they were built from, each built at its first use: the columns
-// the plain functions walk, the index and the sets the Turbo forms read. The archive of a run does
-// not change, but a table of another length is another state of the archive and gets tables of its
-// own.
-struct TabelleEsecuzione {
-  const TabellaEstrazioni* tab = nullptr;
-  int estrazioni = 0;
-  std::optional<stats::ColonneRuote> colonne;
-  std::optional<stats::IndiceVincite> indice;
-  std::optional<stats::EstrazioniInBit> insiemi;
-};
-
-TabelleEsecuzione& Tabelle(Libreria& lib, const TabellaEstrazioni& tab) {
-  TabelleEsecuzione& tabelle = lib.Stato<TabelleEsecuzione>();
-  if (tabelle.tab != &tab || tabelle.estrazioni != tab.EstrazioniArchivio())
-    tabelle = TabelleEsecuzione{
-        .tab = &tab, .estrazioni = tab.EstrazioniArchivio(), .colonne = {}, .indice = {}, .insiemi = {}};
-  return tabelle;
-}
-
-template <typename Tabella>
-const Tabella& Costruita(std::optional<Tabella>& tabella, const TabellaEstrazioni& tab) {
-  if (!tabella) tabella.emplace(tab);
-  return *tabella;
-}
-
 // The plain forms walk the range, over the columns of the draws.
 StatisticaNumero Percorso(Libreria& lib, const Misura& m) {
-  const stats::ColonneRuote& colonne = Costruita(Tabelle(lib, *m.tab).colonne, *m.tab);
+  const stats::ColonneRuote& colonne = ColonneDellEsecuzione(lib, *m.tab);
   return stats::StatisticaCombinazione(colonne, m.giocata.ruote, m.giocata.numeri, m.giocata.sorte, m.fine,
                                        m.posizioni, m.inizio);
 }
@@ -71,13 +44,13 @@ int RitardoGruppo(Libreria& lib, const Misura& m, Calcolo calcolo) {
   const Giocata& g = m.giocata;
   if (calcolo == Calcolo::kPercorso || !NegliInsiemi(m))
     return stats::RitardoCombinazione(*m.tab, g.ruote, g.numeri, g.sorte, m.fine, m.posizioni, m.inizio);
-  return Costruita(Tabelle(lib, *m.tab).insiemi, *m.tab).Ritardo(g.ruote, g.numeri, g.sorte, m.inizio, m.fine);
+  return InsiemiDellEsecuzione(lib, *m.tab).Ritardo(g.ruote, g.numeri, g.sorte, m.inizio, m.fine);
 }
 
 StatisticaNumero StatisticaGruppo(Libreria& lib, const Misura& m, Calcolo calcolo) {
   const Giocata& g = m.giocata;
   if (calcolo == Calcolo::kPercorso || !NegliInsiemi(m)) return Percorso(lib, m);
-  return Costruita(Tabelle(lib, *m.tab).insiemi, *m.tab).Statistica(g.ruote, g.numeri, g.sorte, m.inizio, m.fine);
+  return InsiemiDellEsecuzione(lib, *m.tab).Statistica(g.ruote, g.numeri, g.sorte, m.inizio, m.fine);
 }
 
 bool NellIndice(const Misura& m) {
@@ -88,7 +61,7 @@ bool NellIndice(const Misura& m) {
 
 StatisticaNumero Statistica(Libreria& lib, const Misura& m, Calcolo calcolo) {
   if (calcolo == Calcolo::kPercorso || !NellIndice(m)) return StatisticaGruppo(lib, m, calcolo);
-  const stats::IndiceVincite& indice = Costruita(Tabelle(lib, *m.tab).indice, *m.tab);
+  const stats::IndiceVincite& indice = IndiceDellEsecuzione(lib, *m.tab);
   const int ruota = m.giocata.ruote.front();
   const std::vector<int>& numeri = m.giocata.numeri;
   return numeri.size() == 1 ? indice.Estratto(ruota, numeri[0], m.inizio, m.fine)

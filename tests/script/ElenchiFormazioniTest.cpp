@@ -436,13 +436,15 @@ TEST_F(LibreriaStatisticaFormazioni, StatisticaFormazioneRiempieLeVariabiliDello
       for (auto [inizio, fine] : {std::pair{1, 90}, {20, 70}}) {
         std::string aruote = "Array(";
         for (size_t i = 0; i < ruote.size(); ++i) aruote += (i ? ", " : "") + std::to_string(RuotaScript(ruote[i]));
-        const std::string chiamata = "StatisticaFormazione " + ArrayScript(numeri) + ", " + aruote + "), " +
-                                     std::to_string(sorte) + ", rit, ritmax, incr, freq, " + std::to_string(inizio) +
-                                     ", " + std::to_string(fine);
-        Esegui(chiamata);
-        EXPECT_EQ(Testo("rit & \" \" & ritmax & \" \" & incr & \" \" & freq"),
-                  Figure(Giocata(m_tab, ruote, numeri, sorte), inizio, fine))
-            << chiamata;
+        for (std::string nome : {"StatisticaFormazione ", "StatisticaFormazioneTurbo "}) {
+          const std::string chiamata = nome + ArrayScript(numeri) + ", " + aruote + "), " + std::to_string(sorte) +
+                                       ", rit, ritmax, incr, freq, " + std::to_string(inizio) + ", " +
+                                       std::to_string(fine);
+          Esegui(chiamata);
+          EXPECT_EQ(Testo("rit & \" \" & ritmax & \" \" & incr & \" \" & freq"),
+                    Figure(Giocata(m_tab, ruote, numeri, sorte), inizio, fine))
+              << chiamata;
+        }
       }
     }
   }
