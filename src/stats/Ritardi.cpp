@@ -199,14 +199,14 @@ StatisticaNumero StatisticaCombinazione(const TabellaEstrazioni& tab, std::span<
 }
 
 ColonneRuote::ColonneRuote(const TabellaEstrazioni& tab) : m_estrazioni(tab.EstrazioniArchivio()) {
-  m_presente.reserve(static_cast<size_t>(m_estrazioni));
-  for (std::vector<uint8_t>& colonna : m_colonne) colonna.reserve(static_cast<size_t>(m_estrazioni) * kNumeriPerRuota);
-  for (const Estrazione& estrazione : tab.Tutte()) {
-    m_presente.push_back(estrazione.Presente());
+  for (std::vector<uint8_t>& colonna : m_colonne) colonna.assign(static_cast<size_t>(m_estrazioni) * kNumeriPerRuota, 0);
+  for (int id = 1; id <= m_estrazioni; ++id) {
+    const Estrazione& estrazione = tab[id];
+    if (!estrazione.Presente()) continue;
     for (int ruota = 0; ruota < kNumeroRuote; ++ruota) {
       const auto inizio = estrazione.numeri.begin() + ruota * kNumeriPerRuota;
-      m_colonne[static_cast<size_t>(ruota)].insert(m_colonne[static_cast<size_t>(ruota)].end(), inizio,
-                                                   inizio + kNumeriPerRuota);
+      std::copy(inizio, inizio + kNumeriPerRuota,
+                m_colonne[static_cast<size_t>(ruota)].begin() + static_cast<std::ptrdiff_t>(id - 1) * kNumeriPerRuota);
     }
   }
 }

@@ -63,7 +63,9 @@ class ColonneRuote {
  public:
   explicit ColonneRuote(const TabellaEstrazioni& tab);
   int Estrazioni() const { return m_estrazioni; }
-  bool Presente(int id) const { return m_presente[static_cast<size_t>(id - 1)] != 0; }
+  // A record that holds no draw is kept with no numbers on any wheel: it neither counts nor wins,
+  // exactly as when it is skipped, and the walks need no test for it.
+  static constexpr bool Presente(int) { return true; }
   // The five numbers of the wheel whose numbers start at `base` in a record, (ruota - 1) * 5.
   const uint8_t* Numeri(int id, int base) const {
     return &m_colonne[static_cast<size_t>(base / kNumeriPerRuota)][static_cast<size_t>(id - 1) * kNumeriPerRuota];
@@ -71,7 +73,6 @@ class ColonneRuote {
 
  private:
   int m_estrazioni;
-  std::vector<uint8_t> m_presente;
   std::array<std::vector<uint8_t>, kNumeroRuote> m_colonne;
 };
 

@@ -253,6 +253,25 @@ TEST(StatisticheDiCombinazione, CoincidonoConLaDefinizioneSuOgniFineDelTratto) {
   EXPECT_TRUE(SerieRitardo(tab, ruote, numeri, 1, 10, kTuttePosizioni, 11).empty());
 }
 
+TEST(ColonneRuote, UnRecordSenzaBariResterebbeFuoriAncheConAltreRuotePiene) {
+  TabellaEstrazioni tab = ArchivioCasuale(40, 12, 3);
+  // Without Bari a record holds no draw, by the archive's rule, even though its other wheels keep
+  // their numbers: the columns must not let those numbers count or win.
+  for (int p = 1; p <= kNumeriPerRuota; ++p) tab[10].ImpostaNumero(BA, p, 0);
+  const ColonneRuote colonne(tab);
+  for (const std::vector<int>& ruote : {std::vector<int>{CA}, std::vector<int>{12}}) {
+    for (int numero = 1; numero <= 12; ++numero) {
+      const std::array numeri{numero};
+      for (int fine : {9, 10, 11, 40}) {
+        const StatisticaNumero su_colonne = StatisticaCombinazione(colonne, ruote, numeri, 1, fine);
+        EXPECT_EQ(su_colonne.ritardo, RitardoCombinazione(tab, ruote, numeri, 1, fine)) << numero << " at " << fine;
+        EXPECT_EQ(su_colonne.frequenza, FrequenzaCombinazione(tab, ruote, numeri, 1, fine)) << numero << " at " << fine;
+        EXPECT_EQ(su_colonne.storico, StoricoCombinazione(tab, ruote, numeri, 1, fine)) << numero << " at " << fine;
+      }
+    }
+  }
+}
+
 TEST(RitardoCombinazioneDeathTest, GliArgomentiFuoriDominioSonoErroriDiProgramma) {
 #ifdef NDEBUG
   GTEST_SKIP() << "assertions are compiled out of this build";
