@@ -327,6 +327,8 @@ Result<Variant> GetColoreHtml(Libreria&, CallArgs& args) {
 
 Result<Variant> GetPathFileHtml(Libreria& lib, CallArgs&) { return Stringa(lib.html().Percorso().string()); }
 
+Result<Variant> GetTestoHtml(Libreria& lib, CallArgs&) { return Stringa(lib.html().Testo()); }
+
 const Libreria::Funzione kTesto[] = {
     {"ScriviEstrazione", 1, 2, &ScriviEstrazione,
      "IdEstr, [aRuote = TU_]: scrive la data dell'estrazione e, una riga per ciascuna, i numeri delle ruote a due "
@@ -357,6 +359,8 @@ const Libreria::Funzione kTesto[] = {
     {"GetColoreHtml", 1, 1, &GetColoreHtml, "Colore: il colore HTML \"#RRGGBB\" di un colore da Nero_ a Magenta_"},
     {"GetPathFileHtml", 0, 0, &GetPathFileHtml,
      "il percorso della pagina HTML dell'esecuzione, vuoto se non ne è stata aperta alcuna"},
+    {"GetTestoHtml", 0, 0, &GetTestoHtml,
+     "il testo HTML della pagina dell'esecuzione scritto fin qui, vuoto se non ne è stata aperta alcuna"},
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "OutputHtml.h"
 
 #include <fmt/format.h>
+#include <iterator>
 
 #include "InterfacciaScript.h"
 
@@ -38,6 +39,13 @@ void OutputHtml::Chiudi() {
   if (!Aperto()) return;
   m_file << "</pre>\n</body>\n</html>\n";
   m_file.close();
+}
+
+std::string OutputHtml::Testo() {
+  if (m_percorso.empty()) return {};
+  if (Aperto()) m_file.flush();
+  std::ifstream pagina(m_percorso, std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(pagina), std::istreambuf_iterator<char>());
 }
 
 std::string_view ColoreHtml(int16_t colore) {

@@ -22,6 +22,8 @@ class OutputHtml {
   // Markup written as it is (tables).
   void ScriviMarkup(std::string_view markup);
   void Chiudi();
+  // The page as written so far; empty when none was opened.
+  std::string Testo();
 
   bool Aperto() const { return m_file.is_open(); }
   const std::filesystem::path& Percorso() const { return m_percorso; }

@@ -333,6 +333,8 @@ TEST_F(LibreriaConPagina, FormatiDiNumeriETesti) {
   EXPECT_EQ(Testo("MeseNome(1) & \"|\" & MeseNome(12)"), "Gennaio|Dicembre");
   EXPECT_EQ(Testo("GetColoreHtml(Rosso_) & GetColoreHtml(Nero_)"), "#FF0000#000000");
   EXPECT_EQ(Testo("GetPathFileHtml"), (m_cartella / "output.htm").string());
+  Esegui("Scrivi \"a&b\"");
+  EXPECT_EQ(Testo("GetTestoHtml"), "<html>\n<body bgcolor =#FFFFFF>\n<pre>\na&amp;b\n") << "the page so far, unclosed";
 
   Errore5({{"FormatSpace", "x = FormatSpace(\"a\", -1)"},
            {"FormattaStringa", "x = FormattaStringa(5, \"\")"},
@@ -352,7 +354,7 @@ class LibreriaSenzaPagina : public Libreria {
 };
 
 TEST_F(LibreriaSenzaPagina, IlPercorsoEVuotoELeTabelleVannoSoloNelTesto) {
-  EXPECT_EQ(Testo("\"[\" & GetPathFileHtml & \"]\""), "[]");
+  EXPECT_EQ(Testo("\"[\" & GetPathFileHtml & GetTestoHtml & \"]\""), "[]");
   Esegui("InitTabella Array(\"A\") : CreaTabellaOrdinabile");
   EXPECT_EQ(m_ospite.testo, "A\n-\n");
   EXPECT_TRUE(m_ospite.avvisi.empty());
