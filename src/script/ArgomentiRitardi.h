@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "ClsFunctionsGeodoScript.h"
@@ -39,6 +40,14 @@ struct Misura {
   int fine = 1;
   stats::Posizioni posizioni = stats::kTuttePosizioni;
 };
+
+// Argument i as the wheels played: at least one, each 1..12 in the table's numbering.
+vbs::Result<std::vector<int>> RuoteGiocate(const vbs::CallArgs& args, size_t i);
+
+// Argument i as a draw of the table, `se_omesso` when it was omitted; error 5, naming the argument,
+// outside the archive.
+vbs::Result<int> EstrazioneArgomento(const TabellaEstrazioni& tab, const vbs::CallArgs& args, size_t i, int se_omesso,
+                                     std::string_view nome);
 
 // aRuote, aNumeri, Sorte as arguments 0, 1, 2, then the optional ones where `posti` says.
 vbs::Result<Misura> MisuraGruppo(const ClsFunctionsGeodoScript& lib, const vbs::CallArgs& args,

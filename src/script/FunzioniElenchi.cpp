@@ -13,6 +13,7 @@
 #include <optional>
 
 #include "ArgomentiLotto.h"
+#include "ArgomentiRitardi.h"
 #include "Famiglia.h"
 #include "stats/Numeri.h"
 #include "stats/Ritardi.h"
@@ -28,7 +29,6 @@ using namespace famiglia;
 
 enum class Calcolo { Semplice, Turbo };
 
-
 Result<int> RuotaArgomento(const CallArgs& args, size_t i, int ultima) {
   auto ruota = RuotaTabella(args, i);
   if (!ruota) return std::move(ruota).error();
@@ -38,17 +38,6 @@ Result<int> RuotaArgomento(const CallArgs& args, size_t i, int ultima) {
                                   : fmt::format("Ruota non valida: {} (una ruota da 1 a 10 o NZ_)", *ruota));
   }
   return *ruota;
-}
-
-Result<std::vector<int>> RuoteArgomentoValide(const CallArgs& args, size_t i) {
-  auto ruote = RuoteArgomento(args, i);
-  if (!ruote) return std::move(ruote).error();
-  if (ruote->empty()) return ArgomentoNonValido("Nessuna ruota indicata");
-  for (int ruota : *ruote) {
-    if (ruota < 1 || ruota > kTutteLeRuote)
-      return ArgomentoNonValido(fmt::format("Ruota non valida: {} (da 1 a 12, TU_ per tutte)", ruota));
-  }
-  return ruote;
 }
 
 Result<int> NumeroArgomento(const CallArgs& args, size_t i) {
@@ -73,25 +62,13 @@ struct Intervallo {
   int fine = 0;
 };
 
-Result<int> Estremo(const TabellaEstrazioni& tab, const CallArgs& args, size_t i, int se_omesso,
-                    std::string_view nome) {
-  if (!args.Has(i)) return se_omesso;
-  auto id_estr = args.Long(i);
-  if (!id_estr) return std::move(id_estr).error();
-  if (!tab.Contiene(*id_estr)) {
-    return ArgomentoNonValido(fmt::format("{} fuori dall'archivio: {} (le estrazioni vanno da 1 a {})", nome, *id_estr,
-                                          tab.EstrazioniArchivio()));
-  }
-  return *id_estr;
-}
-
 // The range of draws from the optional arguments at i_inizio (none when the function starts from the
 // first draw) and i_fine: the whole archive by default.
 Result<Intervallo> IntervalloArgomento(const TabellaEstrazioni& tab, const CallArgs& args,
                                        std::optional<size_t> i_inizio, size_t i_fine) {
-  auto inizio = i_inizio ? Estremo(tab, args, *i_inizio, 1, "Inizio") : Result<int>(1);
+  auto inizio = i_inizio ? EstrazioneArgomento(tab, args, *i_inizio, 1, "Inizio") : Result<int>(1);
   if (!inizio) return std::move(inizio).error();
-  auto fine = Estremo(tab, args, i_fine, tab.EstrazioniArchivio(), "Fine");
+  auto fine = EstrazioneArgomento(tab, args, i_fine, tab.EstrazioniArchivio(), "Fine");
   if (!fine) return std::move(fine).error();
   if (*inizio > *fine) return ArgomentoNonValido(fmt::format("Inizio ({}) dopo Fine ({})", *inizio, *fine));
   return Intervallo{*inizio, *fine};
@@ -229,7 +206,7 @@ Result<Variant> GetRitardoEstratti(Libreria& lib, CallArgs& args) {
   auto archivio = lib.Archivio();
   if (!archivio) return std::move(archivio).error();
   const TabellaEstrazioni& tab = **archivio;
-  auto id_estr = Estremo(tab, args, 0, 0, "IdEstr");
+  auto id_estr = EstrazioneArgomento(tab, args, 0, 0, "IdEstr");
   if (!id_estr) return std::move(id_estr).error();
   auto ruota = RuotaArgomento(args, 1, kNumeroRuote);
   if (!ruota) return std::move(ruota).error();
@@ -290,7 +267,7 @@ TabellaEstrazioni EstrazioniVincenti(const TabellaEstrazioni& tab, const GruppoR
 
 Result<GruppoRelativo> GruppoArgomenti(const TabellaEstrazioni& tab, const CallArgs& args) {
   GruppoRelativo gruppo;
-  auto ruote = RuoteArgomentoValide(args, 0);
+  auto ruote = RuoteGiocate(args, 0);
   if (!ruote) return std::move(ruote).error();
   gruppo.ruote = std::move(*ruote);
   auto numeri = NumeriArgomento(args, 1);

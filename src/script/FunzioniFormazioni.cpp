@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "ArgomentiLotto.h"
+#include "ArgomentiRitardi.h"
 #include "Famiglia.h"
 #include "TabelleEsecuzione.h"
 #include "stats/Numeri.h"
@@ -126,28 +127,6 @@ struct Gioco {
   int fine = 0;
 };
 
-Result<std::vector<int>> RuoteGiocate(const CallArgs& args, size_t i) {
-  auto ruote = RuoteArgomento(args, i);
-  if (!ruote) return std::move(ruote).error();
-  if (ruote->empty()) return ArgomentoNonValido("Nessuna ruota indicata");
-  for (int ruota : *ruote) {
-    if (ruota < 1 || ruota > kTutteLeRuote)
-      return ArgomentoNonValido(fmt::format("Ruota non valida: {} (da 1 a 12, TU_ per tutte)", ruota));
-  }
-  return ruote;
-}
-
-Result<int> Estremo(const TabellaEstrazioni& tab, const CallArgs& args, size_t i, int se_omesso,
-                    std::string_view nome) {
-  auto id_estr = args.Long(i, se_omesso);
-  if (!id_estr) return std::move(id_estr).error();
-  if (!tab.Contiene(*id_estr)) {
-    return ArgomentoNonValido(fmt::format("{} fuori dall'archivio: {} (le estrazioni vanno da 1 a {})", nome, *id_estr,
-                                          tab.EstrazioniArchivio()));
-  }
-  return *id_estr;
-}
-
 // The wheels at i, the sorte after them and the range at i_inizio, i_inizio + 1.
 Result<Gioco> GiocoArgomenti(const TabellaEstrazioni& tab, const CallArgs& args, size_t i, size_t i_inizio) {
   Gioco gioco;
@@ -159,9 +138,9 @@ Result<Gioco> GiocoArgomenti(const TabellaEstrazioni& tab, const CallArgs& args,
   if (*sorte < 1 || *sorte > kNumeriPerRuota)
     return ArgomentoNonValido(fmt::format("Sorte non valida: {} (da 1 a 5)", *sorte));
   gioco.sorte = *sorte;
-  auto inizio = Estremo(tab, args, i_inizio, 1, "Inizio");
+  auto inizio = EstrazioneArgomento(tab, args, i_inizio, 1, "Inizio");
   if (!inizio) return std::move(inizio).error();
-  auto fine = Estremo(tab, args, i_inizio + 1, tab.EstrazioniArchivio(), "Fine");
+  auto fine = EstrazioneArgomento(tab, args, i_inizio + 1, tab.EstrazioniArchivio(), "Fine");
   if (!fine) return std::move(fine).error();
   if (*inizio > *fine) return ArgomentoNonValido(fmt::format("Inizio ({}) dopo Fine ({})", *inizio, *fine));
   gioco.inizio = *inizio;

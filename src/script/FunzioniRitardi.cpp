@@ -12,11 +12,7 @@
 
 namespace lottolab::script {
 
-namespace {
-
-using namespace famiglia;
-
-Result<std::vector<int>> RuoteGiocate(const CallArgs& args, size_t i) {
+vbs::Result<std::vector<int>> RuoteGiocate(const vbs::CallArgs& args, size_t i) {
   auto ruote = RuoteArgomento(args, i);
   if (!ruote) return std::move(ruote).error();
   if (ruote->empty()) return ArgomentoNonValido("Nessuna ruota indicata");
@@ -26,6 +22,21 @@ Result<std::vector<int>> RuoteGiocate(const CallArgs& args, size_t i) {
   }
   return ruote;
 }
+
+vbs::Result<int> EstrazioneArgomento(const TabellaEstrazioni& tab, const vbs::CallArgs& args, size_t i, int se_omesso,
+                                     std::string_view nome) {
+  auto id_estr = args.Long(i, se_omesso);
+  if (!id_estr) return std::move(id_estr).error();
+  if (!tab.Contiene(*id_estr)) {
+    return ArgomentoNonValido(fmt::format("{} fuori dall'archivio: {} (le estrazioni vanno da 1 a {})", nome,
+                                          *id_estr, tab.EstrazioniArchivio()));
+  }
+  return *id_estr;
+}
+
+namespace {
+
+using namespace famiglia;
 
 Result<std::vector<int>> NumeriGiocati(const CallArgs& args, size_t i) {
   auto numeri = NumeriArgomento(args, i);
@@ -40,17 +51,6 @@ Result<int> Sorte(const CallArgs& args, size_t i) {
   if (*sorte < 1 || *sorte > kNumeriPerRuota)
     return ArgomentoNonValido(fmt::format("Sorte non valida: {} (da 1 a 5)", *sorte));
   return *sorte;
-}
-
-Result<int> Estremo(const TabellaEstrazioni& tab, const CallArgs& args, size_t i, int se_omesso,
-                    std::string_view nome) {
-  auto id_estr = args.Long(i, se_omesso);
-  if (!id_estr) return std::move(id_estr).error();
-  if (!tab.Contiene(*id_estr)) {
-    return ArgomentoNonValido(fmt::format("{} fuori dall'archivio: {} (le estrazioni vanno da 1 a {})", nome,
-                                          *id_estr, tab.EstrazioniArchivio()));
-  }
-  return *id_estr;
 }
 
 // The flags are read at indices 1..5, whatever the array's lower bound, as scripts fill them.
@@ -78,10 +78,10 @@ Result<Misura> Completa(const Libreria& lib, const CallArgs& args, Giocata gioca
   Misura misura;
   misura.tab = *archivio;
   misura.giocata = std::move(giocata);
-  auto inizio = Estremo(*misura.tab, args, posti.inizio, 1, "Inizio");
+  auto inizio = EstrazioneArgomento(*misura.tab, args, posti.inizio, 1, "Inizio");
   if (!inizio) return std::move(inizio).error();
   misura.inizio = *inizio;
-  auto fine = Estremo(*misura.tab, args, posti.fine, misura.tab->EstrazioniArchivio(), "Fine");
+  auto fine = EstrazioneArgomento(*misura.tab, args, posti.fine, misura.tab->EstrazioniArchivio(), "Fine");
   if (!fine) return std::move(fine).error();
   misura.fine = *fine;
   auto posizioni = PosizioniGiocate(args, posti.posizioni);
