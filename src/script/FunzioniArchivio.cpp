@@ -1,5 +1,7 @@
 // Reading the Lotto draw archive: the numbers, dates and indices of each draw.
 
+#include <vector>
+
 #include "ArgomentiLotto.h"
 #include "Famiglia.h"
 #include "archive/DateEstrazione.h"
@@ -110,6 +112,86 @@ Result<Variant> DataEstrToIdEstr(Libreria& lib, CallArgs& args) {
   return Variant::Long(trovata ? id_estr : 0);
 }
 
+// Argument i as one wheel of the table (1..11); all the wheels together (TU_) is no single wheel.
+Result<int> RuotaSingola(const CallArgs& args, size_t i) {
+  auto ruota = RuotaTabella(args, i);
+  if (!ruota) return std::move(ruota).error();
+  if (*ruota < 1 || *ruota > kNumeroRuote)
+    return ArgomentoNonValido("Serve una ruota sola: da BA_ a VE_ o NZ_");
+  return *ruota;
+}
+
+// The draw of argument 0 and the single wheel of argument 1.
+struct RuotaDiEstrazione {
+  const Estrazione* estrazione;
+  int ruota;
+};
+
+Result<RuotaDiEstrazione> RuotaDiEstrazioneArgomenti(const Libreria& lib, const CallArgs& args) {
+  auto estrazione = EstrazioneArgomento(lib, args, 0);
+  if (!estrazione) return std::move(estrazione).error();
+  auto ruota = RuotaSingola(args, 1);
+  if (!ruota) return std::move(ruota).error();
+  return RuotaDiEstrazione{*estrazione, *ruota};
+}
+
+// The position 1..5 of the number on the wheel, 0 when it was not drawn there.
+int PosizioneSuRuota(const Estrazione& estrazione, int ruota, int numero) {
+  for (int p = 1; p <= kNumeriPerRuota; ++p)
+    if (estrazione.Numero(ruota, p) == numero) return p;
+  return 0;
+}
+
+Result<Variant> Posizione(Libreria& lib, CallArgs& args) {
+  auto punto = RuotaDiEstrazioneArgomenti(lib, args);
+  if (!punto) return std::move(punto).error();
+  auto numero = args.Long(2);
+  if (!numero) return std::move(numero).error();
+  return Variant::Integer(static_cast<int16_t>(PosizioneSuRuota(*punto->estrazione, punto->ruota, *numero)));
+}
+
+Result<Variant> IsNumeroPresenteInEstrazione(Libreria& lib, CallArgs& args) {
+  auto estrazione = EstrazioneArgomento(lib, args, 0);
+  if (!estrazione) return std::move(estrazione).error();
+  auto ruota = RuotaTabella(args, 1);
+  if (!ruota) return std::move(ruota).error();
+  auto numero = args.Long(2);
+  if (!numero) return std::move(numero).error();
+  if (*ruota == kTutteLeRuote) {
+    for (int r = 1; r <= kNumeroRuote; ++r)
+      if (PosizioneSuRuota(**estrazione, r, *numero) != 0) return Variant::Boolean(true);
+    return Variant::Boolean(false);
+  }
+  if (*ruota < 1 || *ruota > kNumeroRuote) return ArgomentoNonValido("Ruota non valida: da BA_ a VE_, TU_ o NZ_");
+  return Variant::Boolean(PosizioneSuRuota(**estrazione, *ruota, *numero) != 0);
+}
+
+Result<Variant> SommaEstratti(Libreria& lib, CallArgs& args) {
+  auto punto = RuotaDiEstrazioneArgomenti(lib, args);
+  if (!punto) return std::move(punto).error();
+  int32_t somma = 0;
+  for (int p = 1; p <= kNumeriPerRuota; ++p) somma += punto->estrazione->Numero(punto->ruota, p);
+  return Variant::Long(somma);
+}
+
+Result<Variant> GetArrayNumeriRuota(Libreria& lib, CallArgs& args) {
+  auto punto = RuotaDiEstrazioneArgomenti(lib, args);
+  if (!punto) return std::move(punto).error();
+  if (!punto->estrazione->RuotaEstratta(punto->ruota)) return Variant::Boolean(false);
+  std::vector<int> numeri;
+  for (int p = 1; p <= kNumeriPerRuota; ++p) numeri.push_back(punto->estrazione->Numero(punto->ruota, p));
+  args.Out(2) = ArrayDaUno(numeri);
+  return Variant::Boolean(true);
+}
+
+// Whether a whole number argument lies in da..a; anything that is not a number is simply not valid.
+template <int kDa, int kA>
+Result<Variant> InteroValido(Libreria&, CallArgs& args) {
+  auto valore = args.Double(0);
+  if (!valore) return Variant::Boolean(false);
+  return Variant::Boolean(*valore == static_cast<int>(*valore) && *valore >= kDa && *valore <= kA);
+}
+
 // A question about the archive, so no archive loaded is simply a "no".
 Result<Variant> isIdEstrValido(Libreria& lib, CallArgs& args) {
   auto id_estr = args.Long(0);
@@ -139,6 +221,22 @@ const Libreria::Funzione kArchivio[] = {
     {"DataEstrToIdEstr", 1, 1, &DataEstrToIdEstr,
      "Data: l'IdEstr dell'estrazione di quella data \"GG/MM/AAAA\" (Long), 0 se non ce n'è alcuna"},
     {"isIdEstrValido", 1, 1, &isIdEstrValido, "IdEstr: True se l'archivio contiene un'estrazione con quell'indice"},
+    {"Posizione", 3, 3, &Posizione,
+     "IdEstr, Ruota, Numero: la posizione 1..5 del numero sulla ruota in quell'estrazione, 0 se non è uscito "
+     "(Integer)"},
+    {"IsNumeroPresenteInEstrazione", 3, 3, &IsNumeroPresenteInEstrazione,
+     "IdEstr, Ruota, Numero: True se il numero è uscito sulla ruota in quell'estrazione (con TU_ su una ruota "
+     "qualsiasi)"},
+    {"SommaEstratti", 2, 2, &SommaEstratti,
+     "IdEstr, Ruota: la somma dei cinque numeri della ruota in quell'estrazione, 0 se non fu estratta (Long)"},
+    {"GetArrayNumeriRuota", 3, 3, &GetArrayNumeriRuota,
+     "IdEstr, Ruota, aNumeri: riempie aNumeri(1..5) con i numeri della ruota; True se la ruota fu estratta, "
+     "altrimenti False lasciando aNumeri invariato"},
+    {"isNumeroValidoLotto", 1, 1, &InteroValido<1, 90>, "Numero: True se è un numero intero da 1 a 90"},
+    {"isRuotaValidaLotto", 1, 1, &InteroValido<1, 12>,
+     "Ruota: True se è una ruota degli script: da BA_ (1) a VE_ (10), TU_ (11) o NZ_ (12)"},
+    {"isSorteValidaLotto", 1, 1, &InteroValido<1, 10>,
+     "Sorte: True se è una sorte del Lotto: da AMBATA_ (1) a CINQUINA_ (5) o da EDET1_ (6) a EDET5_ (10)"},
 };
 
 }  // namespace

@@ -135,6 +135,36 @@ TEST_F(LibreriaArchivio, GetEstrazioneCompletaRiempieLaVariabileDelloScript) {
   EXPECT_TRUE(m_ospite.avvisi.empty());
 }
 
+TEST_F(LibreriaArchivio, UnaRuotaDiUnEstrazioneNumeroPerNumero) {
+  EXPECT_EQ(Testo("Posizione(2, BA_, 10) & Posizione(2, NZ_, 82) & Posizione(2, BA_, 13)"), "350");
+  EXPECT_EQ(Testo("IsNumeroPresenteInEstrazione(2, CA_, 15) & IsNumeroPresenteInEstrazione(2, CA_, 8) & "
+                  "IsNumeroPresenteInEstrazione(2, TU_, 8) & IsNumeroPresenteInEstrazione(2, TU_, 90)"),
+            "VeroFalsoVeroFalso");
+  EXPECT_EQ(Testo("SommaEstratti(2, BA_) & \" \" & SommaEstratti(2, NZ_)"), "50 400");
+  Esegui("Dim a, esito\nesito = GetArrayNumeriRuota(2, VE_, a)");
+  EXPECT_EQ(Testo("esito & \" \" & LBound(a) & \"..\" & UBound(a) & \" \" & a(1) & \" \" & a(5)"), "Vero 1..5 71 75");
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+
+  EXPECT_TRUE(Vuoto("Posizione(2, TU_, 8)"));
+  EXPECT_EQ(UnicoAvviso().titolo, "ClsFunctionsGeodoScript.Posizione") << "all the wheels are no single wheel";
+  EXPECT_TRUE(Vuoto("SommaEstratti(9, BA_)"));
+  EXPECT_EQ(UnicoAvviso().testo, "9- Indice non incluso nell'intervallo");
+}
+
+TEST_F(Libreria, LeVerificheDiNumeriRuoteESortiNonSbaglianoMai) {
+  Avvia(TabellaEstrazioni());
+  EXPECT_EQ(Testo("isNumeroValidoLotto(1) & isNumeroValidoLotto(90) & isNumeroValidoLotto(\"45\")"), "VeroVeroVero");
+  EXPECT_EQ(Testo("isNumeroValidoLotto(0) & isNumeroValidoLotto(91) & isNumeroValidoLotto(2.5) & "
+                  "isNumeroValidoLotto(\"x\")"),
+            "FalsoFalsoFalsoFalso");
+  EXPECT_EQ(Testo("isRuotaValidaLotto(BA_) & isRuotaValidaLotto(TU_) & isRuotaValidaLotto(NZ_) & isRuotaValidaLotto(13)"),
+            "VeroVeroVeroFalso");
+  EXPECT_EQ(Testo("isSorteValidaLotto(AMBATA_) & isSorteValidaLotto(EDET5_) & isSorteValidaLotto(0) & "
+                  "isSorteValidaLotto(11)"),
+            "VeroVeroFalsoFalso");
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+}
+
 TEST_F(Libreria, SenzaArchivioNessunIdEstrEValido) {
   Avvia(TabellaEstrazioni());
   EXPECT_EQ(Testo("isIdEstrValido(1)"), "Falso");
