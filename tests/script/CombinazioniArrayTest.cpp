@@ -43,9 +43,7 @@ class LibreriaCombinazioni : public Libreria {
   // The call fails with error 5, shown under the function's name, and gives no value.
   void ErroreArgomento(std::string_view chiamata, std::string_view funzione) {
     EXPECT_TRUE(Vuoto(chiamata)) << chiamata;
-    const Avviso avviso = UnicoAvviso();
-    EXPECT_EQ(avviso.titolo, "ClsFunctionsGeodoScript." + std::string(funzione)) << chiamata;
-    EXPECT_TRUE(avviso.testo.starts_with("5- ")) << avviso.testo << " " << chiamata;
+    AvvisoErrore5(funzione, "", chiamata);
   }
 
   void EseguiSenzaAvvisi(std::string_view codice) {

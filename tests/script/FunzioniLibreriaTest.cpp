@@ -310,10 +310,7 @@ TEST_F(LibreriaRitardi, GliArgomentiSbagliatiSonoErrore5ConUnaSpiegazione) {
   };
   for (const auto& caso : kCasi) {
     EXPECT_TRUE(Vuoto(caso.chiamata)) << caso.chiamata;
-    const Avviso avviso = UnicoAvviso();
-    EXPECT_EQ(avviso.titolo, "ClsFunctionsGeodoScript." + std::string(caso.funzione)) << caso.chiamata;
-    EXPECT_TRUE(avviso.testo.starts_with("5- ")) << avviso.testo << caso.chiamata;
-    EXPECT_NE(avviso.testo.find(caso.spiegazione), std::string::npos) << avviso.testo << caso.chiamata;
+    AvvisoErrore5(caso.funzione, caso.spiegazione, caso.chiamata);
   }
 }
 

@@ -63,6 +63,15 @@ class Libreria : public ::testing::Test {
     return avviso;
   }
 
+  // The one message shown since the last call is error 5 from `funzione`, its reason naming
+  // `spiegazione`; `dove` says which call, in failure messages.
+  void AvvisoErrore5(std::string_view funzione, std::string_view spiegazione, std::string_view dove) {
+    const Avviso avviso = UnicoAvviso();
+    EXPECT_EQ(avviso.titolo, "ClsFunctionsGeodoScript." + std::string(funzione)) << dove;
+    EXPECT_TRUE(avviso.testo.starts_with("5- ")) << avviso.testo << " <- " << dove;
+    EXPECT_NE(avviso.testo.find(spiegazione), std::string::npos) << avviso.testo << " <- " << dove;
+  }
+
   TabellaEstrazioni m_tab;
   OspiteDiProva m_ospite;
   vbs::ScriptControl m_engine;

@@ -52,9 +52,7 @@ class LibreriaConPagina : public Libreria {
   void Errore5(std::initializer_list<std::pair<std::string_view, std::string_view>> chiamate) {
     for (const auto& [funzione, codice] : chiamate) {
       Esegui(codice);
-      const Avviso avviso = UnicoAvviso();
-      EXPECT_EQ(avviso.titolo, "ClsFunctionsGeodoScript." + std::string(funzione)) << codice;
-      EXPECT_TRUE(avviso.testo.starts_with("5- ")) << avviso.testo << " per " << codice;
+      AvvisoErrore5(funzione, "", codice);
     }
   }
 
