@@ -39,6 +39,25 @@ std::optional<std::vector<int>> NumeriDellaRisposta(std::string_view riga) {
   }
 }
 
+// "1 0,5 0 0 0" or "1; 0.5; 0": amounts separated by blanks or ";", with a decimal point or comma;
+// nothing when anything else is there.
+std::optional<std::vector<double>> ImportiDellaRisposta(std::string_view riga) {
+  std::vector<double> importi;
+  std::string campo;
+  std::string testo{riga};
+  std::replace(testo.begin(), testo.end(), ';', ' ');
+  std::replace(testo.begin(), testo.end(), ',', '.');
+  std::istringstream in(testo);
+  while (in >> campo) {
+    double importo = 0;
+    auto [fine, errore] = std::from_chars(campo.data(), campo.data() + campo.size(), importo);
+    if (errore != std::errc() || fine != campo.data() + campo.size()) return std::nullopt;
+    importi.push_back(importo);
+  }
+  if (importi.empty()) return std::nullopt;
+  return importi;
+}
+
 // A script run from a terminal: its text output on stdout, everything meant for a window on stderr.
 // The script's dialogs are answered by the lines of the answers file, in order: numbers, positions
 // of items counted from 1, or a path; an empty line cancels. Once the lines are over, and for a line
@@ -68,6 +87,14 @@ class OspiteTerminale final : public script::InterfacciaScript {
     if (riga && riga->empty()) return std::nullopt;
     auto numeri = riga ? NumeriDiRisposta(*riga) : std::nullopt;
     return numeri ? numeri : InterfacciaScript::ScegliNumeri(titolo, quanti, massimo, proposti);
+  }
+  std::optional<std::vector<double>> ScegliImporti(const std::string& titolo, const std::vector<std::string>& voci,
+                                                   const std::vector<double>& proposti) override {
+    auto riga = ProssimaRisposta(titolo);
+    if (riga && riga->empty()) return std::nullopt;
+    auto importi = riga ? ImportiDellaRisposta(*riga) : std::nullopt;
+    if (riga && !importi) m_err << fmt::format("risposta non valida, vale la scelta predefinita: {}\n", *riga);
+    return importi ? importi : InterfacciaScript::ScegliImporti(titolo, voci, proposti);
   }
   std::optional<std::string> ScegliPercorso(const std::string& titolo, const std::string& proposto,
                                             bool cartella) override {

@@ -1,7 +1,7 @@
 #pragma once
 
-// The arguments of the functions that measure a combination over a range of draws: the delay family
-// and the statistics family read them alike.
+// The arguments of the functions that measure numbers and combinations over a range of draws: the
+// delay, statistics, list and relative-delay families read them alike, with the same messages.
 //
 // The statistics take their preconditions on trust, so every argument a script gives is checked
 // here first: a wrong sorte, wheel or range is the script's mistake and must reach its author as
@@ -41,15 +41,40 @@ struct Misura {
   stats::Posizioni posizioni = stats::kTuttePosizioni;
 };
 
+// A range of draws of the table, inizio <= fine.
+struct Intervallo {
+  int inizio = 1;
+  int fine = 0;
+};
+
 // Argument i as the wheels played: at least one, each 1..12 in the table's numbering.
 vbs::Result<std::vector<int>> RuoteGiocate(const vbs::CallArgs& args, size_t i);
+
+// Argument i as one wheel in the table's numbering, 1..ultima: kNumeroRuote where only a single
+// wheel makes sense, kTutteLeRuote where all the wheels together do too.
+vbs::Result<int> RuotaArgomento(const vbs::CallArgs& args, size_t i, int ultima);
+
+// Argument i as one number, brought into 1..90.
+vbs::Result<int> NumeroArgomento(const vbs::CallArgs& args, size_t i);
+
+// Argument i as a whole number in da..a; the message names it `nome`.
+vbs::Result<int> InteroTra(const vbs::CallArgs& args, size_t i, int da, int a, std::string_view nome);
+
+// Argument i as a sorte, 1..5.
+vbs::Result<int> SorteArgomento(const vbs::CallArgs& args, size_t i);
 
 // Argument i as a draw of the table, `se_omesso` when it was omitted; error 5, naming the argument,
 // outside the archive.
 vbs::Result<int> EstrazioneArgomento(const TabellaEstrazioni& tab, const vbs::CallArgs& args, size_t i, int se_omesso,
                                      std::string_view nome);
 
-// aRuote, aNumeri, Sorte as arguments 0, 1, 2, then the optional ones where `posti` says.
+// The range of draws from the optional arguments at i_inizio (none when the function always starts
+// from the first draw) and i_fine, the whole archive by default; error 5 when Inizio comes after Fine.
+vbs::Result<Intervallo> IntervalloArgomento(const TabellaEstrazioni& tab, const vbs::CallArgs& args,
+                                            std::optional<size_t> i_inizio, size_t i_fine);
+
+// aRuote, aNumeri, Sorte as arguments 0, 1, 2, then the optional ones where `posti` says. A range
+// with Inizio after Fine is accepted here and measures no draw.
 vbs::Result<Misura> MisuraGruppo(const ClsFunctionsGeodoScript& lib, const vbs::CallArgs& args,
                                  PostiFacoltativi posti);
 

@@ -30,8 +30,9 @@ const Tabella& TabellaCompleta() {
     Tabella t;
     for (auto famiglia : {FunzioniCostanti(), FunzioniEsecuzione(), FunzioniOutput(), FunzioniArchivio(),
                           FunzioniAritmetica(), FunzioniRitardi(), FunzioniStatistiche(), FunzioniElenchi(),
+                          FunzioniRitardiRelativi(), FunzioniLunghette(),
                           FunzioniFormazioni(), FunzioniTabelle(), FunzioniTesto(), FunzioniCombinazioni(),
-                          FunzioniArray(), FunzioniFile(), FunzioniDialoghi(), FunzioniEstrazioniAttive()})
+                          FunzioniArray(), FunzioniFile(), FunzioniDialoghi(), FunzioniEstrazioniAttive(), FunzioniCollezioni()})
       t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =

@@ -130,6 +130,8 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniAritmetica();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniRitardi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniStatistiche();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniElenchi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniRitardiRelativi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniLunghette();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniFormazioni();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniTabelle();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniTesto();
@@ -138,5 +140,6 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniArray();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniFile();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniDialoghi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEstrazioniAttive();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniCollezioni();
 
 }  // namespace lottolab::script

@@ -1,6 +1,6 @@
 // Arrays and small utilities for scripts: groups of numbers as lists, as text and as the 90 truth
-// values of a "presence" array, sorting, and the helpers that scripts used to write for
-// themselves (Iif, Scambia, MidX...).
+// values of a "presence" array, the highest, lowest and repeated numbers of a list or of a wheel in
+// a draw, sorting, and the helpers that scripts used to write for themselves (Iif, Scambia, MidX...).
 //
 // Lists are read as the other families read them: a single value is a list of one, and the Empty
 // elements that scripts leave in their arrays (element 0, declared and never filled) are no values.
@@ -14,6 +14,7 @@
 #include <limits>
 
 #include "ArgomentiLotto.h"
+#include "ArgomentiRitardi.h"
 #include "Famiglia.h"
 #include "stats/Numeri.h"
 #include "vbscript/Interpreter.h"
@@ -271,6 +272,82 @@ Result<Variant> Estremo(Libreria&, CallArgs& args) {
                         : *std::min_element(valori->begin(), valori->end()));
 }
 
+// Where Estremo's value is, counted as the values are read; the first of equal ones.
+template <bool Massimo>
+Result<Variant> PosizioneEstremo(Libreria&, CallArgs& args) {
+  auto valori = ValoriArgomento(args, 0);
+  if (!valori) return std::move(valori).error();
+  if (valori->empty()) return Variant::Long(0);
+  const auto estremo = Massimo ? std::max_element(valori->begin(), valori->end())
+                               : std::min_element(valori->begin(), valori->end());
+  return Variant::Long(static_cast<int32_t>(estremo - valori->begin()) + 1);
+}
+
+Result<Variant> NumeriRipetutiRilevatiV(Libreria&, CallArgs& args) {
+  auto primi = ValoriArgomento(args, 0);
+  if (!primi) return std::move(primi).error();
+  auto secondi = ValoriArgomento(args, 1);
+  if (!secondi) return std::move(secondi).error();
+  std::vector<double> comuni;
+  for (double valore : SenzaRipetuti(*primi))
+    if (Contiene(*secondi, valore)) comuni.push_back(valore);
+  args.Out(2) = ArrayDiNumeri(comuni);
+  return Variant::Long(static_cast<int32_t>(comuni.size()));
+}
+
+// ---- A wheel of a draw ----
+
+struct RuotaDiEstrazione {
+  const TabellaEstrazioni* tab;
+  int id_estr;
+  int ruota;  // in the table's numbering
+};
+
+// IdEstr and Ruota as arguments 0 and 1; all the wheels together (TU_) is no single wheel.
+Result<RuotaDiEstrazione> RuotaDiEstrazioneArgomenti(const Libreria& lib, const CallArgs& args) {
+  auto archivio = lib.Archivio();
+  if (!archivio) return std::move(archivio).error();
+  auto id_estr = EstrazioneArgomento(**archivio, args, 0, 0, "IdEstr");
+  if (!id_estr) return std::move(id_estr).error();
+  auto ruota = RuotaArgomento(args, 1, kNumeroRuote);
+  if (!ruota) return std::move(ruota).error();
+  return RuotaDiEstrazione{*archivio, *id_estr, *ruota};
+}
+
+// The five numbers in the order drawn; none when the wheel was not drawn.
+std::vector<int> NumeriDellaRuota(const Estrazione& estrazione, int ruota) {
+  std::vector<int> numeri;
+  if (!estrazione.RuotaEstratta(ruota)) return numeri;
+  for (int p = 1; p <= kNumeriPerRuota; ++p) numeri.push_back(estrazione.Numero(ruota, p));
+  return numeri;
+}
+
+template <bool Massimo>
+Result<Variant> EstremoEstratto(Libreria& lib, CallArgs& args) {
+  auto punto = RuotaDiEstrazioneArgomenti(lib, args);
+  if (!punto) return std::move(punto).error();
+  const std::vector<int> numeri = NumeriDellaRuota((*punto->tab)[punto->id_estr], punto->ruota);
+  if (numeri.empty()) return Variant::Integer(0);
+  return Variant::Integer(static_cast<int16_t>(Massimo ? std::ranges::max(numeri) : std::ranges::min(numeri)));
+}
+
+// The draw compared with is the last earlier one in which the wheel was drawn, so Nazionale's years
+// without it, and records holding no draw, are passed over.
+Result<Variant> NumeriRipetutiRilevatiE(Libreria& lib, CallArgs& args) {
+  auto punto = RuotaDiEstrazioneArgomenti(lib, args);
+  if (!punto) return std::move(punto).error();
+  const TabellaEstrazioni& tab = *punto->tab;
+  const std::vector<int> numeri = NumeriDellaRuota(tab[punto->id_estr], punto->ruota);
+  std::vector<int> precedenti;
+  for (int id = punto->id_estr - 1; !numeri.empty() && precedenti.empty() && id >= 1; --id)
+    precedenti = NumeriDellaRuota(tab[id], punto->ruota);
+  std::vector<int> ripetuti;
+  std::ranges::copy_if(numeri, std::back_inserter(ripetuti),
+                       [&](int numero) { return std::ranges::find(precedenti, numero) != precedenti.end(); });
+  args.Out(2) = ArrayDaUno(ripetuti);
+  return Variant::Long(static_cast<int32_t>(ripetuti.size()));
+}
+
 // ---- Sorting ----
 
 // The language's order: numbers by value before any text, texts by code unit.
@@ -409,12 +486,32 @@ const Libreria::Funzione kArray[] = {
     {"Ripetizioni", 2, 2, &Ripetizioni, "aNumeri, Numero: quante volte Numero compare tra i numeri"},
     {"Differenza", 3, 3, &Differenza,
      "aA, aB, aRet: riempie aRet con i numeri di aA che non sono in aB, nell'ordine di aA, e restituisce quanti sono"},
+    {"NumeriRipetutiRilevatiV", 3, 3, &NumeriRipetutiRilevatiV,
+     "aNumeri1, aNumeri2, aRet: riempie aRet con i numeri presenti in entrambe le liste, nell'ordine di aNumeri1 e "
+     "ciascuno una volta, come array con indice da 1, e restituisce quanti sono"},
     {"Massimo", 1, 1, &Estremo<true>, "aNumeri: il più grande dei numeri"},
     {"Minimo", 1, 1, &Estremo<false>, "aNumeri: il più piccolo dei numeri"},
+    {"MassimoV", 1, 1, &PosizioneEstremo<true>,
+     "aNumeri: la posizione, da 1, del più grande dei numeri (il primo se sono più d'uno), contando solo gli "
+     "elementi non Empty; 0 se non ci sono numeri"},
+    {"MinimoV", 1, 1, &PosizioneEstremo<false>,
+     "aNumeri: la posizione, da 1, del più piccolo dei numeri (il primo se sono più d'uno), contando solo gli "
+     "elementi non Empty; 0 se non ci sono numeri"},
+    {"MassimoE", 2, 2, &EstremoEstratto<true>,
+     "IdEstr, Ruota: il più grande dei numeri estratti sulla ruota in quell'estrazione (Integer), 0 se la ruota "
+     "non fu estratta"},
+    {"MinimoE", 2, 2, &EstremoEstratto<false>,
+     "IdEstr, Ruota: il più piccolo dei numeri estratti sulla ruota in quell'estrazione (Integer), 0 se la ruota "
+     "non fu estratta"},
+    {"NumeriRipetutiRilevatiE", 3, 3, &NumeriRipetutiRilevatiE,
+     "IdEstr, Ruota, aRet: riempie aRet, con indice da 1 e nell'ordine di estrazione, con i numeri della ruota in "
+     "quell'estrazione che erano usciti sulla stessa ruota anche nell'ultima estrazione precedente in cui fu "
+     "estratta, e restituisce quanti sono; 0 se la ruota non fu estratta"},
     {"OrdinaMatrice", 1, 3, &OrdinaMatrice,
      "aMatrice, [Ordine = 1], [Colonna = 1]: ordina sul posto un vettore, o le righe di una matrice secondo la "
      "colonna Colonna; Ordine 1 crescente, -1 decrescente; i numeri prima dei testi; le righe con chiave Empty "
      "restano al loro posto"},
+    {"OrdinaMatriceTurbo", 1, 3, &OrdinaMatrice, "aMatrice, [Ordine = 1], [Colonna = 1]: come OrdinaMatrice"},
     {"SplitByChar", 3, 3, &SplitByChar,
      "Testo, Carattere, aRet: riempie aRet con i pezzi del testo tra i separatori (quelli vuoti inclusi), come array "
      "con indice da 1, e restituisce quanti sono; 0 per un testo vuoto"},

@@ -1,5 +1,6 @@
 // Combinatorics for scripts: counting, developing every combination or disposition of a group of
-// numbers, the theoretical probabilities of the sorti, and random numbers.
+// numbers, the ambi of a group and the ambi a draw gives on two wheels at once, the theoretical
+// probabilities of the sorti, and random numbers.
 //
 // A development can be walked one group at a time (Init..., then Get... in a loop), which needs no
 // memory whatever its size, or produced whole as a matrix, which is refused beyond a size that
@@ -16,6 +17,7 @@
 #include <ranges>
 
 #include "ArgomentiLotto.h"
+#include "ArgomentiRitardi.h"
 #include "Famiglia.h"
 #include "stats/Combinazioni.h"
 #include "stats/Numeri.h"
@@ -157,6 +159,13 @@ Result<Variant> GetCombSviluppate(Libreria& lib, CallArgs&) {
   return Conteggio((*sviluppo)->motore->Sviluppati());
 }
 
+Result<Variant> GetNumPerSviluppo(Libreria& lib, CallArgs& args) {
+  auto sviluppo = SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib);
+  if (!sviluppo) return std::move(sviluppo).error();
+  args.Out(0) = ArrayDaUno((*sviluppo)->elementi);
+  return Variant::Long(static_cast<int32_t>((*sviluppo)->elementi.size()));
+}
+
 Result<Variant> GetPercCombSviluppate(Libreria& lib, CallArgs&) {
   auto sviluppo = SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib);
   if (!sviluppo) return std::move(sviluppo).error();
@@ -228,6 +237,86 @@ Result<Variant> AmbiScelti(Libreria&, CallArgs& args) {
 
 bool DistanzaUguale(int a, int b, double distanza) { return stats::Distanza(a, b) == distanza; }
 bool SommaUguale(int a, int b, double somma) { return stats::Fuori90(a + b) == stats::Fuori90(somma); }
+bool Qualsiasi(int, int, double) { return true; }
+
+// ---- Equal ambi of a draw ----
+
+constexpr int kNazionaleScript = 12;  // NZ_ in the script's numbering
+
+int RuotaScript(int ruota) { return ruota == NZ ? kNazionaleScript : ruota; }
+
+struct AmboUguale {
+  int numero1;  // the smaller
+  int numero2;
+  int ruota_a;  // the earlier wheel, in the table's numbering
+  int ruota_b;
+  friend auto operator<=>(const AmboUguale&, const AmboUguale&) = default;
+};
+
+bool Uscito(const Estrazione& estrazione, int ruota, int numero) {
+  for (int p = 1; p <= kNumeriPerRuota; ++p)
+    if (estrazione.Numero(ruota, p) == numero) return true;
+  return false;
+}
+
+// Every ambo of the draw that came out on two wheels, once for each such pair of wheels, sorted by
+// numbers and then wheels; with `isotopi`, only an ambo whose two numbers hold the same positions on
+// both wheels. Nazionale counts as any other wheel when it was drawn. The table's wheel order is the
+// script's, so the order holds in either numbering.
+std::vector<AmboUguale> AmbiUguali(const Estrazione& estrazione, bool isotopi) {
+  std::vector<AmboUguale> ambi;
+  for (int a = 1; a <= kNumeroRuote; ++a) {
+    for (int b = a + 1; b <= kNumeroRuote; ++b) {
+      if (!estrazione.RuotaEstratta(a) || !estrazione.RuotaEstratta(b)) continue;
+      for (int i = 1; i <= kNumeriPerRuota; ++i) {
+        for (int j = i + 1; j <= kNumeriPerRuota; ++j) {
+          const int x = estrazione.Numero(a, i);
+          const int y = estrazione.Numero(a, j);
+          const bool uguale = isotopi ? estrazione.Numero(b, i) == x && estrazione.Numero(b, j) == y
+                                      : Uscito(estrazione, b, x) && Uscito(estrazione, b, y);
+          if (uguale) ambi.push_back({std::min(x, y), std::max(x, y), a, b});
+        }
+      }
+    }
+  }
+  std::ranges::sort(ambi);
+  return ambi;
+}
+
+// The matrix (row, 1..4) of Numero1, Numero2, RuotaA, RuotaB, 1-based, of Long values, wheels in the
+// script's numbering.
+Result<Variant> MatriceDiAmbiUguali(std::span<const AmboUguale> ambi) {
+  const auto quanti = static_cast<int32_t>(ambi.size());
+  const vbs::ArrayBound limiti[] = {{1, quanti}, {1, 4}};
+  auto matrice = vbs::SafeArray::Create(limiti);
+  if (!matrice) return std::move(matrice).error();
+  auto celle = (*matrice)->elements();
+  for (size_t k = 0; k < ambi.size(); ++k) {
+    const AmboUguale& ambo = ambi[k];
+    const int colonne[] = {ambo.numero1, ambo.numero2, RuotaScript(ambo.ruota_a), RuotaScript(ambo.ruota_b)};
+    for (size_t c = 0; c < std::size(colonne); ++c) celle[k + c * ambi.size()] = Variant::Long(colonne[c]);
+  }
+  return Variant::Array(std::move(*matrice));
+}
+
+// IdEstr, then the value of the test when there is one, then aRet; the equal ambi that satisfy the
+// test go to aRet and their count is returned.
+template <bool Isotopi, bool (*Scelto)(int, int, double) = &Qualsiasi>
+Result<Variant> AmbiUgualiScelti(Libreria& lib, CallArgs& args) {
+  auto archivio = lib.Archivio();
+  if (!archivio) return std::move(archivio).error();
+  auto id_estr = EstrazioneArgomento(**archivio, args, 0, 0, "IdEstr");
+  if (!id_estr) return std::move(id_estr).error();
+  constexpr bool kConValore = Scelto != &Qualsiasi;
+  auto valore = kConValore ? args.Double(1) : Result<double>(0.0);
+  if (!valore) return std::move(valore).error();
+  std::vector<AmboUguale> ambi = AmbiUguali((**archivio)[*id_estr], Isotopi);
+  std::erase_if(ambi, [&](const AmboUguale& ambo) { return !Scelto(ambo.numero1, ambo.numero2, *valore); });
+  auto matrice = MatriceDiAmbiUguali(ambi);
+  if (!matrice) return std::move(matrice).error();
+  args.Out(kConValore ? 2 : 1) = std::move(*matrice);
+  return Variant::Long(static_cast<int32_t>(ambi.size()));
+}
 
 // ---- Theoretical probabilities ----
 
@@ -386,6 +475,9 @@ const Libreria::Funzione kCombinazioni[] = {
      "aRet: mette in aRet la combinazione successiva dello sviluppo come array con indice da 1 e restituisce True; "
      "False, lasciando aRet invariato, quando tutte le combinazioni sono già state date"},
     {"GetCombSviluppate", 0, 0, &GetCombSviluppate, "il numero di combinazioni dello sviluppo date finora"},
+    {"GetNumPerSviluppo", 1, 1, &GetNumPerSviluppo,
+     "aRet: riempie aRet con i numeri dello sviluppo di InitSviluppoIntegrale, nell'ordine in cui furono dati, "
+     "come array con indice da 1, e restituisce quanti sono"},
     {"GetPercCombSviluppate", 0, 0, &GetPercCombSviluppate,
      "la percentuale, 0..100, delle combinazioni dello sviluppo date finora (Double)"},
     {"SviluppoIntegrale", 3, 3, &SviluppoCompleto<SviluppoCombinazioni>,
@@ -408,6 +500,26 @@ const Libreria::Funzione kCombinazioni[] = {
     {"GetAmbiSommaX", 3, 3, &AmbiScelti<&SommaUguale>,
      "aNumeri, Somma, aRet: riempie aRet con gli ambi dei numeri (riportati in 1..90) la cui somma, riportata in "
      "1..90, è uguale a Somma riportata in 1..90, come matrice aRet(ambo, 1..2), e restituisce quanti sono"},
+    {"GetAmbiUguali", 2, 2, &AmbiUgualiScelti<false>,
+     "IdEstr, aRet: riempie aRet con gli ambi usciti in quell'estrazione su due ruote diverse, Nazionale compresa "
+     "se estratta, come matrice aRet(riga, 1..4) = Numero1, Numero2, RuotaA, RuotaB (Numero1 < Numero2, RuotaA < "
+     "RuotaB, NZ_ = 12), una riga per ogni coppia di ruote con lo stesso ambo, in ordine di numeri e poi di ruote; "
+     "restituisce quante sono le righe"},
+    {"GetAmbiUgualiDistanzaX", 3, 3, &AmbiUgualiScelti<false, &DistanzaUguale>,
+     "IdEstr, Distanza, aRet: come GetAmbiUguali, solo gli ambi i cui numeri hanno distanza Distanza sul cerchio "
+     "dei 90"},
+    {"GetAmbiUgualiSommaX", 3, 3, &AmbiUgualiScelti<false, &SommaUguale>,
+     "IdEstr, Somma, aRet: come GetAmbiUguali, solo gli ambi la cui somma, riportata in 1..90, è uguale a Somma "
+     "riportata in 1..90"},
+    {"GetAmbiUgualiIsotopi", 2, 2, &AmbiUgualiScelti<true>,
+     "IdEstr, aRet: come GetAmbiUguali, solo gli ambi isotopi, usciti nelle stesse due posizioni su entrambe le "
+     "ruote"},
+    {"GetAmbiUgualiIsotopiDistanzaX", 3, 3, &AmbiUgualiScelti<true, &DistanzaUguale>,
+     "IdEstr, Distanza, aRet: come GetAmbiUgualiIsotopi, solo gli ambi i cui numeri hanno distanza Distanza sul "
+     "cerchio dei 90"},
+    {"GetAmbiUgualiIsotopiSommaX", 3, 3, &AmbiUgualiScelti<true, &SommaUguale>,
+     "IdEstr, Somma, aRet: come GetAmbiUgualiIsotopi, solo gli ambi la cui somma, riportata in 1..90, è uguale a "
+     "Somma riportata in 1..90"},
     {"Prob", 2, 2, &Prob,
      "Sorte, QuantitaNumeri: la probabilità (Double) che un'estrazione su una ruota vinca la sorte (da 1 estratto a "
      "5 cinquina) giocando QuantitaNumeri numeri, cioè che almeno Sorte di essi siano estratti"},

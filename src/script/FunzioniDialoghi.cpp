@@ -194,6 +194,44 @@ Result<Variant> ScegliRange(Libreria& lib, CallArgs& args) {
   return Variant::Boolean(true);
 }
 
+constexpr double kPostaMassima = 1e6;
+
+// The stakes proposed are those the array holds, sorte by sorte; a stake not given proposes 1 for
+// the estratto and the ambo and 0 for the others.
+Result<std::vector<double>> PosteProposte(const CallArgs& args) {
+  std::vector<double> poste = {1, 1, 0, 0, 0};
+  const Variant& valore = args[0];
+  if (!valore.is_array()) return poste;
+  const vbs::SafeArray& array = *valore.as_array();
+  if (array.DimensionCount() != 1) return ArgomentoNonValido("Le poste vanno date in un array a una dimensione");
+  const int32_t inizio = array.bounds()[0].lower;
+  for (int sorte = 1; sorte <= kNumeriPerRuota; ++sorte) {
+    const int32_t indice = sorte - inizio;
+    if (indice < 0 || static_cast<size_t>(indice) >= array.size() || array.elements()[indice].is_empty()) continue;
+    auto posta = array.elements()[indice].to_double(args.locale());
+    if (!posta) return std::move(posta).error();
+    poste[sorte - 1] = *posta;
+  }
+  return poste;
+}
+
+Result<Variant> ScegliPoste(Libreria& lib, CallArgs& args) {
+  auto proposte = PosteProposte(args);
+  if (!proposte) return std::move(proposte).error();
+  auto titolo = TitoloArgomento(args, 1, u"Scegli le poste");
+  if (!titolo) return std::move(titolo).error();
+  auto poste = lib.ospite().ScegliImporti(*titolo, {"Estratto", "Ambo", "Terno", "Quaterna", "Cinquina"}, *proposte);
+  if (!poste) return Variant::Boolean(false);
+  const bool valide = poste->size() == kNumeriPerRuota &&
+                      std::all_of(poste->begin(), poste->end(), [](double p) { return p >= 0 && p <= kPostaMassima; }) &&
+                      std::any_of(poste->begin(), poste->end(), [](double p) { return p > 0; });
+  if (!valide) return RispostaNonValida(*titolo);
+  std::vector<Variant> elementi;
+  for (double posta : *poste) elementi.push_back(Variant::Double(posta));
+  args.Out(0) = ArrayDaUno(std::move(elementi));
+  return Variant::Boolean(true);
+}
+
 const Libreria::Funzione kDialoghi[] = {
     {"ScegliNumeri", 0, 2, &ScegliNumeri,
      "[Titolo], [Quanti = 90]: chiede fino a Quanti numeri da 1 a 90; un array (1 To n) dei numeri scelti, (1 To 0) "
@@ -214,6 +252,9 @@ const Libreria::Funzione kDialoghi[] = {
      "[Titolo], [Iniziale = la cartella di base]: chiede una cartella; il suo percorso, \"\" se annullato"},
     {"ScegliFile", 0, 2, &ScegliPercorso<false>,
      "[Titolo], [Iniziale = \"\"]: chiede un file; il suo percorso, \"\" se annullato"},
+    {"ScegliPoste", 1, 2, &ScegliPoste,
+     "aPoste, [Titolo]: chiede la posta in euro di ciascuna sorte, da estratto a cinquina, proponendo quelle di "
+     "aPoste (se vuoto: 1 all'estratto e all'ambo); True con aPoste(1 To 5) impostato (Double), False se annullato"},
     {"ScegliRange", 2, 3, &ScegliRange,
      "Inizio, Fine, [Titolo]: chiede la prima e l'ultima estrazione di un intervallo, proponendo quello indicato da "
      "Inizio e Fine (l'intero archivio se non ne indicano alcuno); True con Inizio e Fine impostati, False se "

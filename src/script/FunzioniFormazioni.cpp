@@ -148,13 +148,13 @@ Result<Gioco> GiocoArgomenti(const TabellaEstrazioni& tab, const CallArgs& args,
   return gioco;
 }
 
-// The plain forms walk the range over the columns of the draws, the Turbo ones read the sets of
-// numbers of the run: the same four figures.
+// The plain forms walk the range over the columns of the draws, the Turbo ones read the run's index
+// of winning draws: the same four figures.
 template <bool kTurbo>
 stats::StatisticaNumero StatisticaDi(Libreria& lib, const TabellaEstrazioni& tab, std::span<const int> numeri,
                                      const Gioco& gioco) {
   if constexpr (kTurbo)
-    return InsiemiDellEsecuzione(lib, tab).Statistica(gioco.ruote, numeri, gioco.sorte, gioco.inizio, gioco.fine);
+    return IndiceDellEsecuzione(lib, tab).Gruppo(gioco.ruote, numeri, gioco.sorte, gioco.inizio, gioco.fine);
   return stats::StatisticaCombinazione(ColonneDellEsecuzione(lib, tab), gioco.ruote, numeri, gioco.sorte, gioco.fine,
                                        stats::kTuttePosizioni, gioco.inizio);
 }
@@ -224,13 +224,13 @@ const Libreria::Funzione kFormazioni[] = {
      "giocati in blocco per Sorte su aRuote in Inizio..Fine, come li danno RitardoCombinazione e le funzioni affini"},
     {"StatisticaFormazioneTurbo", 7, 9, &StatisticaFormazione<true>,
      "aNumeri, aRuote, Sorte, RetRit, RetRitMax, RetIncrRitMax, RetFreq, [Inizio = 1], [Fine = ultima estrazione]: "
-     "ciò che dà StatisticaFormazione, dagli insiemi di numeri dell'esecuzione"},
+     "ciò che dà StatisticaFormazione, dall'indice delle vincite dell'esecuzione"},
     {"StatisticaGruppoFormazioni", 2, 4, &StatisticaGruppoFormazioni<false>,
      "aRuote, Sorte, [Inizio = 1], [Fine = ultima estrazione]: scrive una tabella con una riga per ogni formazione "
      "del gruppo statistico: il suo indice, i quattro valori di StatisticaFormazione e i suoi numeri"},
     {"StatisticaGruppoFormazioniTurbo", 2, 4, &StatisticaGruppoFormazioni<true>,
-     "aRuote, Sorte, [Inizio = 1], [Fine = ultima estrazione]: ciò che scrive StatisticaGruppoFormazioni, dagli "
-     "insiemi di numeri dell'esecuzione"},
+     "aRuote, Sorte, [Inizio = 1], [Fine = ultima estrazione]: ciò che scrive StatisticaGruppoFormazioni, "
+     "dall'indice delle vincite dell'esecuzione"},
 };
 
 }  // namespace

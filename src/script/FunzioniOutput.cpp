@@ -9,6 +9,11 @@ namespace {
 
 using namespace famiglia;
 
+// What Scrivi and ScriviConColori do at the end of a text when the script does not say.
+struct StatoOutput {
+  bool a_capo = true;
+};
+
 // The text of an argument as the script would print it (numbers in the engine's locale); an omitted
 // argument is empty.
 Result<std::string> Testo(const CallArgs& args, size_t i) {
@@ -23,7 +28,7 @@ Result<Variant> ScriviTesto(Libreria& lib, CallArgs& args, size_t i_testo, size_
   if (!testo) return std::move(testo).error();
   auto grassetto = args.Boolean(i_grassetto, false);
   if (!grassetto) return std::move(grassetto).error();
-  auto a_capo = args.Boolean(i_a_capo, true);
+  auto a_capo = args.Boolean(i_a_capo, lib.Stato<StatoOutput>().a_capo);
   if (!a_capo) return std::move(a_capo).error();
   if (*a_capo) *testo += '\n';
   lib.Scrivi(std::move(*testo), colore, *grassetto);
@@ -51,6 +56,13 @@ Result<Variant> ColoreTesto(Libreria& lib, CallArgs& args) {
   return Variant();
 }
 
+Result<Variant> SetComportamentoACapo(Libreria& lib, CallArgs& args) {
+  auto a_capo = args.Boolean(0);
+  if (!a_capo) return std::move(a_capo).error();
+  lib.Stato<StatoOutput>().a_capo = *a_capo;
+  return Variant();
+}
+
 Result<Variant> Messaggio(Libreria& lib, CallArgs& args) {
   auto testo = Testo(args, 0);
   if (!testo) return std::move(testo).error();
@@ -60,10 +72,13 @@ Result<Variant> Messaggio(Libreria& lib, CallArgs& args) {
 
 const Libreria::Funzione kOutput[] = {
     {"Scrivi", 0, 6, &Scrivi,
-     "[Testo], [Grassetto], [ACapo = True], [ColoreSfondo], [ColoreTesto], [Dimensione]: scrive una riga di output"},
+     "[Testo], [Grassetto], [ACapo = True, vedi SetComportamentoACapo], [ColoreSfondo], [ColoreTesto], [Dimensione]: scrive una riga di output"},
     {"ScriviConColori", 2, 4, &ScriviConColori,
      "Testo, ColoreTesto, [Grassetto], [ACapo = True]: scrive con un colore"},
     {"ColoreTesto", 1, 1, &ColoreTesto, "Colore: il colore del testo scritto da Scrivi da qui in poi"},
+    {"SetComportamentoACapo", 1, 1, &SetComportamentoACapo,
+     "ACapo: se Scrivi e ScriviConColori vanno a capo dopo il testo quando il loro argomento ACapo è omesso "
+     "(all'inizio di ogni esecuzione True); False scrive i testi seguenti sulla stessa riga"},
     {"Messaggio", 1, 1, &Messaggio, "Testo: mostra un breve avviso nella barra di stato"},
 };
 

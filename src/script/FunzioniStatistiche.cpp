@@ -1,10 +1,9 @@
 // Frequencies, historical maxima and their increments, the figures of a group of numbers played as a
-// whole, and the Turbo forms that answer from tables of the draws built once per run.
+// whole, and the Turbo forms that answer from the index of the run's wins, built at the first call.
 //
-// A Turbo form gives what its plain form gives, figure for figure. One number or one ambo on one
-// wheel is read from the index of its wins; any other combination on every position from the draws
-// held as sets of numbers; a combination on some positions only, which neither table keeps, takes the
-// plain walk. So a script can use the Turbo names everywhere and never get a different figure.
+// A Turbo form gives what its plain form gives, figure for figure: the index answers any group on
+// every position, and a group measured on some positions only, which the index does not keep, takes
+// the plain walk. So a script can use the Turbo names everywhere and never get a different figure.
 
 #include <algorithm>
 #include <optional>
@@ -37,35 +36,21 @@ StatisticaNumero Percorso(Libreria& lib, const Misura& m) {
                                        m.posizioni, m.inizio);
 }
 
-// The sets of numbers hold every position: a group measured on some positions only takes the walk.
-bool NegliInsiemi(const Misura& m) { return m.posizioni == stats::kTuttePosizioni; }
+// The index keeps every position: a group measured on some positions only takes the walk.
+bool NellIndice(const Misura& m) { return m.posizioni == stats::kTuttePosizioni; }
 
+// The delay walks back from Fine only as far as the last win, where the other figures walk the range.
 int RitardoGruppo(Libreria& lib, const Misura& m, Calcolo calcolo) {
   const Giocata& g = m.giocata;
-  if (calcolo == Calcolo::kPercorso || !NegliInsiemi(m))
+  if (calcolo == Calcolo::kPercorso || !NellIndice(m))
     return stats::RitardoCombinazione(*m.tab, g.ruote, g.numeri, g.sorte, m.fine, m.posizioni, m.inizio);
-  return InsiemiDellEsecuzione(lib, *m.tab).Ritardo(g.ruote, g.numeri, g.sorte, m.inizio, m.fine);
+  return IndiceDellEsecuzione(lib, *m.tab).RitardoGruppo(g.ruote, g.numeri, g.sorte, m.inizio, m.fine);
 }
 
 StatisticaNumero StatisticaGruppo(Libreria& lib, const Misura& m, Calcolo calcolo) {
   const Giocata& g = m.giocata;
-  if (calcolo == Calcolo::kPercorso || !NegliInsiemi(m)) return Percorso(lib, m);
-  return InsiemiDellEsecuzione(lib, *m.tab).Statistica(g.ruote, g.numeri, g.sorte, m.inizio, m.fine);
-}
-
-bool NellIndice(const Misura& m) {
-  const std::vector<int>& numeri = m.giocata.numeri;
-  return m.giocata.ruote.size() == 1 && m.posizioni == stats::kTuttePosizioni &&
-         (numeri.size() == 1 || (numeri.size() == 2 && numeri[0] != numeri[1]));
-}
-
-StatisticaNumero Statistica(Libreria& lib, const Misura& m, Calcolo calcolo) {
-  if (calcolo == Calcolo::kPercorso || !NellIndice(m)) return StatisticaGruppo(lib, m, calcolo);
-  const stats::IndiceVincite& indice = IndiceDellEsecuzione(lib, *m.tab);
-  const int ruota = m.giocata.ruote.front();
-  const std::vector<int>& numeri = m.giocata.numeri;
-  return numeri.size() == 1 ? indice.Estratto(ruota, numeri[0], m.inizio, m.fine)
-                            : indice.Ambo(ruota, numeri[0], numeri[1], m.inizio, m.fine);
+  if (calcolo == Calcolo::kPercorso || !NellIndice(m)) return Percorso(lib, m);
+  return IndiceDellEsecuzione(lib, *m.tab).Gruppo(g.ruote, g.numeri, g.sorte, m.inizio, m.fine);
 }
 
 // Ruota and kNumeri numbers, [Inizio], [Fine], [aPosizioni]: one figure.
@@ -73,9 +58,16 @@ template <int kNumeri, Figura kFigura, Calcolo kCalcolo>
 Result<Variant> FiguraSuRuota(Libreria& lib, CallArgs& args) {
   auto misura = MisuraSuRuota(lib, args, kNumeri, PostiDopoINumeri(kNumeri));
   if (!misura) return std::move(misura).error();
-  // Outside the index a delay is found walking back from Fine only as far as the last win.
-  if (kFigura == kRitardo && !NellIndice(*misura)) return Variant::Long(RitardoGruppo(lib, *misura, kCalcolo));
-  return Variant::Long(Statistica(lib, *misura, kCalcolo).*kFigura);
+  if (kFigura == kRitardo) return Variant::Long(RitardoGruppo(lib, *misura, kCalcolo));
+  return Variant::Long(StatisticaGruppo(lib, *misura, kCalcolo).*kFigura);
+}
+
+// The four figures into the variables RetRit, RetRitMax, RetIncrRitMax, RetFreq from argument i on.
+void RestituisciFigure(CallArgs& args, size_t i, const StatisticaNumero& dati) {
+  args.Out(i) = Variant::Long(dati.ritardo);
+  args.Out(i + 1) = Variant::Long(dati.storico);
+  args.Out(i + 2) = Variant::Long(dati.incr_storico);
+  args.Out(i + 3) = Variant::Long(dati.frequenza);
 }
 
 // Ruota and kNumeri numbers, [Inizio], [Fine], then the four variables that receive the figures.
@@ -84,11 +76,15 @@ Result<Variant> StatSuRuota(Libreria& lib, CallArgs& args) {
   constexpr size_t kInizio = kNumeri + 1;
   auto misura = MisuraSuRuota(lib, args, kNumeri, {.inizio = kInizio, .fine = kInizio + 1, .posizioni = {}});
   if (!misura) return std::move(misura).error();
-  const StatisticaNumero dati = Statistica(lib, *misura, kCalcolo);
-  args.Out(kInizio + 2) = Variant::Long(dati.ritardo);
-  args.Out(kInizio + 3) = Variant::Long(dati.storico);
-  args.Out(kInizio + 4) = Variant::Long(dati.incr_storico);
-  args.Out(kInizio + 5) = Variant::Long(dati.frequenza);
+  RestituisciFigure(args, kInizio + 2, StatisticaGruppo(lib, *misura, kCalcolo));
+  return Variant();
+}
+
+// aRuote, aNumeri, Sorte, [Inizio], [Fine], then the four variables that receive the figures.
+Result<Variant> StatFrzTurbo(Libreria& lib, CallArgs& args) {
+  auto misura = MisuraGruppo(lib, args, {.inizio = 3, .fine = 4, .posizioni = {}});
+  if (!misura) return std::move(misura).error();
+  RestituisciFigure(args, 5, StatisticaGruppo(lib, *misura, Calcolo::kTurbo));
   return Variant();
 }
 
@@ -102,7 +98,6 @@ Result<Variant> FiguraSerie(Libreria& lib, CallArgs& args) {
   return Variant::Long(StatisticaGruppo(lib, *misura, kCalcolo).*kFigura);
 }
 
-// The delay walks back from Fine only as far as the last win, where the other figures walk the range.
 template <Calcolo kCalcolo>
 Result<Variant> SerieRitardo(Libreria& lib, CallArgs& args) {
   auto misura = MisuraGruppo(lib, args, kPostiSerie);
@@ -227,18 +222,23 @@ const Libreria::Funzione kStatistiche[] = {
     {"StatAmboTurbo", 9, 9, &StatSuRuota<2, kTurbo>,
      "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], RetRit, RetRitMax, RetIncrRitMax, RetFreq: "
      "ciò che dà StatAmbo, dall'indice dell'esecuzione"},
+    {"StatFrzTurbo", 9, 9, &StatFrzTurbo,
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], RetRit, RetRitMax, RetIncrRitMax, RetFreq: "
+     "il ritardo, il massimo storico, il suo incremento e la frequenza di aNumeri giocati in blocco per Sorte (1..5) "
+     "su aRuote in Inizio..Fine, nelle quattro variabili: ciò che dà StatisticaFormazione, dall'indice "
+     "dell'esecuzione"},
     {"RitardoCombinazioneTurbo", 4, 6, &RitardoCombinazioneTurbo,
-     "aRuote, aNumeri, Sorte, Fine, [aPosizioni], [Inizio]: ciò che dà RitardoCombinazione, dalle estrazioni "
-     "dell'esecuzione conservate come insiemi di numeri, costruiti alla prima chiamata che ne ha bisogno (Long)"},
+     "aRuote, aNumeri, Sorte, Fine, [aPosizioni], [Inizio]: ciò che dà RitardoCombinazione, dall'indice "
+     "dell'esecuzione (Long)"},
     {"SerieRitardoTurbo", 3, 6, &SerieRitardo<kTurbo>,
-     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà SerieRitardo, dagli "
-     "insiemi di numeri dell'esecuzione (Long)"},
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà SerieRitardo, "
+     "dall'indice dell'esecuzione (Long)"},
     {"SerieFreqTurbo", 3, 6, &FiguraSerie<kFrequenza, kTurbo>,
-     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà SerieFreq, dagli "
-     "insiemi di numeri dell'esecuzione (Long)"},
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà SerieFreq, "
+     "dall'indice dell'esecuzione (Long)"},
     {"SerieStoricoTurbo", 3, 6, &FiguraSerie<kStorico, kTurbo>,
-     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà SerieStorico, dagli "
-     "insiemi di numeri dell'esecuzione (Long)"},
+     "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà SerieStorico, "
+     "dall'indice dell'esecuzione (Long)"},
 };
 
 }  // namespace

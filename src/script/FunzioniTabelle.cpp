@@ -8,8 +8,12 @@
 #include <fmt/format.h>
 #include <optional>
 
+#include "ArgomentiLotto.h"
+#include "ArgomentiRitardi.h"
 #include "Famiglia.h"
 #include "TabellaOutput.h"
+#include "stats/Numeri.h"
+#include "stats/Ritardi.h"
 #include "vbscript/SafeArray.h"
 #include "vbscript/Utf.h"
 
@@ -198,6 +202,41 @@ Result<Variant> GetTabella(Libreria& lib, CallArgs&) {
   return Variant::String(vbs::Utf8ToUtf16((*tabella)->Html(false)));
 }
 
+// The pyramid of a draw's numbers on one wheel: the five numbers as drawn, then each row the sums,
+// brought into 1..90, of neighbours in the row above, down to one number. Each cell shows the
+// number and its delay on the wheel at that draw, as students of the pyramid read it.
+Result<Variant> CreaPiramideRitardi(Libreria& lib, CallArgs& args) {
+  auto archivio = lib.Archivio();
+  if (!archivio) return std::move(archivio).error();
+  const TabellaEstrazioni& tab = **archivio;
+  auto id_estr = EstrazioneArgomento(tab, args, 0, tab.EstrazioniArchivio(), "IdEstr");
+  if (!id_estr) return std::move(id_estr).error();
+  auto ruota = RuotaTabella(args, 1);
+  if (!ruota) return std::move(ruota).error();
+  if (*ruota < 1 || *ruota > kNumeroRuote) return ArgomentoNonValido("Ruota deve essere una sola ruota, BA_ .. NZ_");
+  const Estrazione& estrazione = tab[*id_estr];
+  if (!estrazione.RuotaEstratta(*ruota))
+    return ArgomentoNonValido(fmt::format("La ruota {} non è stata estratta nell'estrazione {}", NomeRuota(*ruota), *id_estr));
+
+  std::vector<int> riga;
+  for (int posizione = 1; posizione <= kNumeriPerRuota; ++posizione) riga.push_back(estrazione.Numero(*ruota, posizione));
+  RigaTabella titoli;
+  for (int colonna = 1; colonna <= kNumeriPerRuota; ++colonna) titoli.celle.push_back({fmt::format("{}", colonna), {}});
+  TabellaOutput tabella(std::move(titoli), 1);
+  while (!riga.empty()) {
+    RigaTabella celle;
+    celle.allineamento = Allineamento::Centro;
+    for (int numero : riga)
+      celle.celle.push_back({fmt::format("{:02} ({})", numero, stats::EstrattoRitardo(tab, *ruota, numero, 1, *id_estr)), {}});
+    tabella.AggiungiRiga(std::move(celle));
+    for (size_t i = 0; i + 1 < riga.size(); ++i) riga[i] = stats::Fuori90(riga[i] + riga[i + 1]);
+    riga.pop_back();
+  }
+  ScriviNellaPagina(lib, tabella, false);
+  for (const TrattoTesto& tratto : tabella.Testo()) lib.ospite().Scrivi(tratto);
+  return Variant();
+}
+
 const Libreria::Funzione kTabelle[] = {
     {"InitTabella", 1, 6, &InitTabella<kPrima>,
      "aTitoli, [ColoreSfondoTitoli], [Allineamento = \"centro\"], [Bordo = 1], [Larghezza], [ColoreTestoTitoli]: "
@@ -216,6 +255,10 @@ const Libreria::Funzione kTabelle[] = {
     {"CreaTabellaOrdinabile", 0, 0, &CreaTabella<kPrima, true>,
      "scrive la tabella come CreaTabella; nella pagina un clic su un titolo ordina le righe secondo quella colonna"},
     {"GetTabella", 0, 0, &GetTabella<kPrima>, "l'HTML della tabella (String)"},
+    {"CreaPiramideRitardi", 2, 2, &CreaPiramideRitardi,
+     "IdEstr, Ruota: scrive come tabella la piramide dei numeri della ruota nell'estrazione: i cinque estratti in "
+     "ordine di estrazione, poi in ogni riga le somme (riportate in 1..90) dei numeri vicini della riga sopra, fino "
+     "a un numero; ogni cella dà il numero e, tra parentesi, il suo ritardo sulla ruota a quell'estrazione"},
     {"InitTabellaX", 1, 6, &InitTabella<kSeconda>,
      "aTitoli, [ColoreSfondoTitoli], [Allineamento], [Bordo], [Larghezza], [ColoreTestoTitoli]: InitTabella per una "
      "seconda tabella, costruita separatamente dalla prima"},

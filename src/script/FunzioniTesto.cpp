@@ -188,20 +188,58 @@ Result<Variant> StringaEstratti(Libreria& lib, CallArgs& args) {
   return Stringa(NumeriRuota(**estrazione, *ruota, *separatore));
 }
 
-Result<Variant> StringaNumeri(Libreria&, CallArgs& args) {
-  auto valori = ValoriArgomento(args, 0);
-  if (!valori) return std::move(valori).error();
-  auto separatore = TestoArgomento(args, 1, u".");
+// The values as whole numbers joined by the Separatore of argument i, each of at least two digits
+// unless the DueCifre of argument i + 1 is False.
+Result<Variant> NumeriUniti(std::span<const double> valori, const CallArgs& args, size_t i) {
+  auto separatore = TestoArgomento(args, i, u".");
   if (!separatore) return std::move(separatore).error();
-  auto due_cifre = args.Boolean(2, true);
+  auto due_cifre = args.Boolean(i + 1, true);
   if (!due_cifre) return std::move(due_cifre).error();
   std::vector<std::string> numeri;
-  for (double valore : *valori) {
+  for (double valore : valori) {
     auto numero = Intero(valore);
     if (!numero) return std::move(numero).error();
     numeri.push_back(*due_cifre ? DueCifre(*numero) : std::to_string(*numero));
   }
   return Stringa(fmt::format("{}", fmt::join(numeri, *separatore)));
+}
+
+Result<Variant> StringaNumeri(Libreria&, CallArgs& args) {
+  auto valori = ValoriArgomento(args, 0);
+  if (!valori) return std::move(valori).error();
+  return NumeriUniti(*valori, args, 1);
+}
+
+// The cells of row Riga (argument 1) of a two-dimensional matrix, in column order; the Empty ones,
+// such as the column 0 that scripts leave unused, hold no number.
+Result<std::vector<double>> RigaDellaMatrice(const CallArgs& args) {
+  auto valore = args.Value(0);
+  if (!valore) return std::move(valore).error();
+  if (!valore->is_array() || valore->as_array()->DimensionCount() != 2)
+    return ArgomentoNonValido("Serve una matrice a due dimensioni");
+  const vbs::SafeArray& matrice = *valore->as_array();
+  auto riga = args.Long(1);
+  if (!riga) return std::move(riga).error();
+  const vbs::ArrayBound righe = matrice.bounds()[0];
+  if (*riga < righe.lower || *riga > righe.upper)
+    return ArgomentoNonValido(
+        fmt::format("Riga {} fuori dai limiti della matrice ({} .. {})", *riga, righe.lower, righe.upper));
+  std::vector<double> numeri;
+  // The first index varies fastest in storage.
+  for (int64_t colonna = 0; colonna < matrice.bounds()[1].count(); ++colonna) {
+    const Variant& cella = matrice.elements()[static_cast<size_t>(*riga - righe.lower + colonna * righe.count())];
+    if (cella.is_empty()) continue;
+    auto numero = cella.to_double(args.locale());
+    if (!numero) return std::move(numero).error();
+    numeri.push_back(*numero);
+  }
+  return numeri;
+}
+
+Result<Variant> StringaNumeriDaMatrice(Libreria&, CallArgs& args) {
+  auto numeri = RigaDellaMatrice(args);
+  if (!numeri) return std::move(numeri).error();
+  return NumeriUniti(*numeri, args, 2);
 }
 
 Result<Variant> StringaRuote(Libreria&, CallArgs& args) {
@@ -342,6 +380,9 @@ const Libreria::Funzione kTesto[] = {
     {"StringaNumeri", 1, 3, &StringaNumeri,
      "aNumeri, [Separatore = \".\"], [DueCifre = True]: i numeri uniti, a due cifre a meno che DueCifre sia False "
      "(\"03.45\")"},
+    {"StringaNumeriDaMatrice", 2, 4, &StringaNumeriDaMatrice,
+     "aMatrice, Riga, [Separatore = \".\"], [DueCifre = True]: i numeri della riga Riga di una matrice a due "
+     "dimensioni uniti come li unisce StringaNumeri, saltando le celle Empty; errore per una riga fuori dai limiti"},
     {"StringaRuote", 1, 2, &StringaRuote,
      "aRuote, [Separatore = \".\"]: le sigle di due lettere delle ruote unite (\"BA.CA\"), \"TT\" per TU_"},
     {"FormatSpace", 2, 3, &FormatSpace,

@@ -55,6 +55,12 @@ class InterfacciaScript {
                                                        int /*massimo*/, const std::vector<int>& proposti) {
     return proposti;
   }
+  // An amount for each of `voci` (the stakes of a bet, one per sorte); the default is `proposti`.
+  virtual std::optional<std::vector<double>> ScegliImporti(const std::string& /*titolo*/,
+                                                           const std::vector<std::string>& /*voci*/,
+                                                           const std::vector<double>& proposti) {
+    return proposti;
+  }
   // A file, or a folder when `cartella`; the default is `proposto`.
   virtual std::optional<std::string> ScegliPercorso(const std::string& /*titolo*/, const std::string& proposto,
                                                     bool /*cartella*/) {

@@ -11,14 +11,13 @@ struct TabelleEsecuzione {
   int estrazioni = 0;
   std::optional<stats::ColonneRuote> colonne;
   std::optional<stats::IndiceVincite> indice;
-  std::optional<stats::EstrazioniInBit> insiemi;
 };
 
 TabelleEsecuzione& Tabelle(ClsFunctionsGeodoScript& lib, const TabellaEstrazioni& tab) {
   TabelleEsecuzione& tabelle = lib.Stato<TabelleEsecuzione>();
   if (tabelle.tab != &tab || tabelle.estrazioni != tab.EstrazioniArchivio())
     tabelle = TabelleEsecuzione{
-        .tab = &tab, .estrazioni = tab.EstrazioniArchivio(), .colonne = {}, .indice = {}, .insiemi = {}};
+        .tab = &tab, .estrazioni = tab.EstrazioniArchivio(), .colonne = {}, .indice = {}};
   return tabelle;
 }
 
@@ -36,10 +35,6 @@ const stats::ColonneRuote& ColonneDellEsecuzione(ClsFunctionsGeodoScript& lib, c
 
 const stats::IndiceVincite& IndiceDellEsecuzione(ClsFunctionsGeodoScript& lib, const TabellaEstrazioni& tab) {
   return Costruita(Tabelle(lib, tab).indice, tab);
-}
-
-const stats::EstrazioniInBit& InsiemiDellEsecuzione(ClsFunctionsGeodoScript& lib, const TabellaEstrazioni& tab) {
-  return Costruita(Tabelle(lib, tab).insiemi, tab);
 }
 
 }  // namespace lottolab::script

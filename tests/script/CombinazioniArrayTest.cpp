@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "LibreriaDiProva.h"
+#include "stats/ArchiviDiProva.h"
 
 namespace lottolab::script {
 namespace {
@@ -36,9 +37,11 @@ constexpr const char* kStampa =
 class LibreriaCombinazioni : public Libreria {
  protected:
   void SetUp() override {
-    Avvia(TabellaEstrazioni());
+    Avvia(Estrazioni());
     Esegui(kStampa);
   }
+
+  virtual TabellaEstrazioni Estrazioni() const { return TabellaEstrazioni(); }
 
   // The call fails with error 5, shown under the function's name, and gives no value.
   void ErroreArgomento(std::string_view chiamata, std::string_view funzione) {
@@ -99,6 +102,7 @@ TEST_F(LibreriaCombinazioni, SviluppoIntegraleUnaCombinazioneAllaVolta) {
   EXPECT_EQ(Testo("meta"), "20");
   EXPECT_EQ(Testo("GetCombSviluppate() & \" \" & GetPercCombSviluppate()"), "35 100");
   EXPECT_EQ(Testo("fine & \" \" & c"), "Falso intatto") << "a finished development leaves the variable alone";
+  EXPECT_EQ(Testo("GetNumPerSviluppo(c) & \" \" & Gruppo(c) & LBound(c)"), "7 3-14-15-26-55-61-90;1");
 
   EseguiSenzaAvvisi("Dim m, quante\nquante = SviluppoIntegrale(n, 3, m)\n");
   EXPECT_EQ(Testo("quante"), "35");
@@ -133,6 +137,8 @@ TEST_F(LibreriaCombinazioni, SviluppoDellePermutazioni) {
 TEST_F(LibreriaCombinazioni, SviluppiImpossibiliOTroppoGrandiSonoRifiutati) {
   Esegui("Dim c, m, tutti(90), i\nFor i = 1 To 90 : tutti(i) = i : Next\n");
   ErroreArgomento("GetCombSviluppo(c)", "GetCombSviluppo");
+  EXPECT_TRUE(Vuoto("GetNumPerSviluppo(c)"));
+  AvvisoErrore5("GetNumPerSviluppo", "sviluppo avviato", "GetNumPerSviluppo before InitSviluppoIntegrale");
   ErroreArgomento("GetCombSviluppate()", "GetCombSviluppate");
   ErroreArgomento("GetCombPermutazioni(c)", "GetCombPermutazioni");
   ErroreArgomento("InitSviluppoIntegrale(Array(1, 2), 3)", "InitSviluppoIntegrale");
@@ -270,6 +276,93 @@ TEST_F(LibreriaCombinazioni, ConteggiDentroUnaLista) {
   ErroreArgomento("Massimo(Array())", "Massimo");
 }
 
+TEST_F(LibreriaCombinazioni, PosizioneDelMassimoEDelMinimoENumeriComuni) {
+  EXPECT_EQ(Testo("MassimoV(Array(5, 9, 2, 9, 2)) & MinimoV(Array(5, 9, 2, 9, 2))"), "23") << "the first of equals";
+  // Elements 0 and 2 are Empty: the values read are 7, 1, 7.
+  Esegui("Dim v(4), r\nv(1) = 7 : v(3) = 1 : v(4) = 7\n");
+  EXPECT_EQ(Testo("MassimoV(v) & MinimoV(v)"), "12") << "positions among the values, not array indices";
+  EXPECT_EQ(Testo("MassimoV(Array()) & MinimoV(Array()) & MinimoV(-4)"), "001");
+
+  EXPECT_EQ(Testo("NumeriRipetutiRilevatiV(Array(5, 3, 9, 3, 7), Array(7, 3, 1, 3), r) & \" \" & Join(r, \" \")"),
+            "2 3 7");
+  EXPECT_EQ(Testo("NumeriRipetutiRilevatiV(v, Array(1, 2), r) & \" \" & Join(r, \" \") & LBound(r)"), "1 11");
+  EXPECT_EQ(Testo("NumeriRipetutiRilevatiV(Array(1, 2), Array(3), r) & UBound(r)"), "00");
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+}
+
+// Three draws. Nazionale is drawn from draw 3; Cagliari is not drawn in draw 2. Draw 3 writes every
+// wheel: 7 and 30 are at positions 1-2 on Bari and Firenze and at 2-1 on Cagliari, 15 and 16 at 3-4
+// on Firenze and Nazionale; no other two wheels share two numbers.
+class LibreriaTreEstrazioni : public LibreriaCombinazioni {
+ protected:
+  TabellaEstrazioni Estrazioni() const override {
+    return test::Archivio()
+        .NazionaleDa(3)
+        .Estrazione({{BA, {10, 20, 30, 40, 50}}, {CA, {1, 2, 3, 4, 5}}})
+        .Estrazione({{BA, {20, 11, 50, 10, 60}}, {CA, {0, 0, 0, 0, 0}}})
+        .Estrazione({{BA, {7, 30, 61, 12, 44}},
+                     {CA, {30, 7, 1, 4, 90}},
+                     {FI, {7, 30, 15, 16, 17}},
+                     {GE, {21, 22, 23, 24, 25}},
+                     {MI, {26, 27, 28, 29, 31}},
+                     {NA, {32, 33, 34, 35, 36}},
+                     {PA, {37, 38, 39, 40, 41}},
+                     {RO, {42, 43, 45, 46, 47}},
+                     {TO, {48, 49, 51, 52, 53}},
+                     {VE, {54, 55, 56, 57, 58}},
+                     {NZ, {59, 60, 15, 16, 8}}})
+        .Tabella();
+  }
+};
+
+TEST_F(LibreriaTreEstrazioni, MassimoEMinimoDiUnaRuota) {
+  EXPECT_EQ(Testo("MassimoE(1, BA_) & \" \" & MinimoE(1, BA_) & \" \" & MassimoE(2, BA_) & \" \" & MinimoE(2, BA_)"),
+            "50 10 60 10");
+  EXPECT_EQ(Testo("MassimoE(3, 12) & \" \" & MinimoE(3, NZ_)"), "60 8") << "12 is NZ_ in scripts";
+  EXPECT_EQ(Testo("MassimoE(2, CA_) & MinimoE(2, CA_) & MassimoE(2, NZ_)"), "000") << "wheels not drawn";
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+  ErroreArgomento("MassimoE(3, 11)", "MassimoE");
+  ErroreArgomento("MinimoE(1, 13)", "MinimoE");
+  ErroreArgomento("MassimoE(4, BA_)", "MassimoE");
+  ErroreArgomento("MinimoE(0, BA_)", "MinimoE");
+}
+
+TEST_F(LibreriaTreEstrazioni, NumeriRipetutiDallUltimaEstrazioneDellaRuota) {
+  Esegui("Dim r\n");
+  EXPECT_EQ(Testo("NumeriRipetutiRilevatiE(2, BA_, r) & \" \" & Join(r, \" \") & LBound(r)"), "3 20 50 101");
+  EXPECT_EQ(Testo("NumeriRipetutiRilevatiE(3, CA_, r) & \" \" & Join(r, \" \")"), "2 1 4")
+      << "draw 2, where Cagliari was not drawn, is passed over";
+  EXPECT_EQ(Testo("NumeriRipetutiRilevatiE(3, BA_, r) & UBound(r)"), "00");
+  EXPECT_EQ(Testo("NumeriRipetutiRilevatiE(2, CA_, r) & NumeriRipetutiRilevatiE(1, BA_, r) & "
+                  "NumeriRipetutiRilevatiE(3, 12, r)"),
+            "000")
+      << "a wheel not drawn, and the first draw of a wheel, have no repeats";
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+  ErroreArgomento("NumeriRipetutiRilevatiE(3, TU_, r)", "NumeriRipetutiRilevatiE");
+  ErroreArgomento("NumeriRipetutiRilevatiE(4, BA_, r)", "NumeriRipetutiRilevatiE");
+}
+
+TEST_F(LibreriaTreEstrazioni, AmbiUgualiSuDueRuote) {
+  Esegui("Dim m\n");
+  EXPECT_EQ(Testo("GetAmbiUguali(3, m) & \" \" & Righe(m)"), "4 7-30-1-2;7-30-1-3;7-30-2-3;15-16-3-12;");
+  EXPECT_EQ(Testo("GetAmbiUgualiIsotopi(3, m) & \" \" & Righe(m)"), "2 7-30-1-3;15-16-3-12;");
+  EXPECT_EQ(Testo("GetAmbiUgualiDistanzaX(3, 23, m) & \" \" & Righe(m)"), "3 7-30-1-2;7-30-1-3;7-30-2-3;");
+  EXPECT_EQ(Testo("GetAmbiUgualiIsotopiDistanzaX(3, 1, m) & \" \" & Righe(m)"), "1 15-16-3-12;");
+  EXPECT_EQ(Testo("GetAmbiUgualiSommaX(3, 121, m) & \" \" & Righe(m)"), "1 15-16-3-12;") << "121 is 31 in 1..90";
+  EXPECT_EQ(Testo("GetAmbiUgualiIsotopiSommaX(3, 37, m) & \" \" & Righe(m)"), "1 7-30-1-3;");
+  EXPECT_EQ(Testo("GetAmbiUgualiSommaX(3, 50, m) & \" \" & UBound(m, 1) & \" \" & UBound(m, 2)"), "0 0 4");
+
+  // Draw 2: the eight wheels Firenze..Venezia hold the same five numbers, 10 ambi on each of their 28
+  // pairs; Cagliari and Nazionale, not drawn, share nothing.
+  EXPECT_EQ(Testo("GetAmbiUguali(2, m) & \" \" & GetAmbiUgualiIsotopi(2, m)"), "280 280");
+  EXPECT_EQ(Testo("m(1, 1) & \"-\" & m(1, 2) & \"-\" & m(1, 3) & \"-\" & m(1, 4) & \" \" & "
+                  "m(280, 1) & \"-\" & m(280, 2) & \"-\" & m(280, 3) & \"-\" & m(280, 4)"),
+            "81-82-3-4 84-85-9-10");
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+  ErroreArgomento("GetAmbiUguali(4, m)", "GetAmbiUguali");
+  ErroreArgomento("GetAmbiUgualiSommaX(0, 5, m)", "GetAmbiUgualiSommaX");
+}
+
 TEST_F(LibreriaCombinazioni, OrdinaMatriceSulPosto) {
   Esegui("Dim v(5)\nv(1) = 5 : v(2) = 3 : v(3) = 9 : v(4) = 1 : v(5) = 7\nOrdinaMatrice v\n");
   EXPECT_EQ(Testo("IsEmpty(v(0)) & \" \" & Join(v, \" \")"), "Vero  1 3 5 7 9") << "element 0 stays where it is";
@@ -285,6 +378,8 @@ TEST_F(LibreriaCombinazioni, OrdinaMatriceSulPosto) {
   EXPECT_EQ(Testo("Righe(m)"), "1-a;1-z;2-b;3-c;") << "whole rows move, equal keys keep their order";
   Esegui("OrdinaMatrice m, -1, 2\n");
   EXPECT_EQ(Testo("Righe(m)"), "1-z;3-c;2-b;1-a;");
+  Esegui("OrdinaMatriceTurbo m\n");
+  EXPECT_EQ(Testo("Righe(m)"), "1-z;1-a;2-b;3-c;") << "OrdinaMatriceTurbo sorts as OrdinaMatrice, stably";
   EXPECT_TRUE(m_ospite.avvisi.empty());
 
   ErroreArgomento("OrdinaMatrice(m, 0)", "OrdinaMatrice");

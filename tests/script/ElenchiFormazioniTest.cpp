@@ -5,6 +5,8 @@
 #include <numeric>
 #include <sstream>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "LibreriaDiProva.h"
@@ -233,6 +235,105 @@ TEST_F(LibreriaElenchi, RitPosContaSoloUnaPosizione) {
   EXPECT_TRUE(m_ospite.avvisi.empty());
 }
 
+TEST_F(Libreria, LAmboPosizionaleVinceSoloConOgniNumeroNellaSuaPosizione) {
+  Avvia(Archivio()
+            .Estrazione({{BA, {10, 20, 1, 2, 3}}})
+            .Estrazione({{BA, {20, 10, 1, 2, 3}}})
+            .Estrazione({{BA, {10, 5, 20, 1, 2}}})
+            .Estrazione({{CA, {10, 20, 1, 2, 3}}})
+            .Vuota()
+            .Estrazione({{BA, {10, 6, 7, 8, 9}}, {CA, {1, 20, 2, 3, 4}}})
+            .Estrazione()
+            .Tabella());
+  EXPECT_EQ(Testo("AmboPosRit(BA_, 10, 1, 20, 2)"), "5") << "won in draw 1 only; record 5 holds no draw";
+  EXPECT_EQ(Testo("AmboPosRit(BA_, 20, 2, 10, 1)"), "5") << "the pairs in either order";
+  EXPECT_EQ(Testo("AmboPosRit(BA_, 20, 1, 10, 2)"), "4");
+  EXPECT_EQ(Testo("AmboPosRit(BA_, 10, 1, 20, 3)"), "3");
+  EXPECT_EQ(Testo("AmboPosRit(CA_, 10, 1, 20, 2)"), "2");
+  EXPECT_EQ(Testo("AmboPosRit(TU_, 10, 1, 20, 2)"), "2") << "draw 6 has the two numbers on two wheels";
+  EXPECT_EQ(Testo("AmboPosRit(BA_, 10, 1, 20, 2, 2)"), "5") << "never won in 2..7";
+  EXPECT_EQ(Testo("AmboPosRit(BA_, 10, 1, 20, 2, 1, 3)"), "2");
+  EXPECT_EQ(Testo("AmboPosRit(BA_, 100, 1, 20, 2, 1, 1)"), "0") << "100 is 10 on the circle";
+  EXPECT_EQ(Testo("TypeName(AmboPosRit(BA_, 10, 1, 20, 2))"), "Long");
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+}
+
+TEST_F(Libreria, RitPosCronoDaIRitardiChiusiDaOgniUscitaEPoiQuelloInCorso) {
+  Avvia(Archivio()
+            .Estrazione()
+            .Estrazione({{BA, {7, 1, 2, 3, 4}}})
+            .Estrazione({{BA, {1, 7, 2, 3, 4}}})
+            .Estrazione()
+            .Estrazione({{BA, {7, 1, 2, 3, 4}}, {CA, {7, 1, 2, 3, 4}}})
+            .Estrazione()
+            .Estrazione()
+            .Tabella());
+  Esegui(kFunzioneElenco);
+  Esegui("Dim r");
+  EXPECT_EQ(Testo("RitPosCrono(BA_, 7, 1, r) & \" \" & Elenco(r)"), "3 1:1,2,2") << "7 second in draw 3 is no outing";
+  EXPECT_EQ(Testo("RitPosCrono(TU_, 7, 1, r) & \" \" & Elenco(r)"), "3 1:1,2,2") << "one outing for draw 5";
+  EXPECT_EQ(Testo("RitPosCrono(BA_, 7, 1, r, 3, 6) & \" \" & Elenco(r)"), "2 1:2,1");
+  EXPECT_EQ(Testo("RitPosCrono(BA_, 7, 2, r) & \" \" & Elenco(r)"), "2 1:2,4");
+  EXPECT_EQ(Testo("RitPosCrono(BA_, 8, 2, r) & \" \" & Elenco(r)"), "1 1:7") << "never out";
+  EXPECT_EQ(Testo("TypeName(RitPosCrono(BA_, 7, 1, r)) & TypeName(r(1))"), "LongLong");
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+}
+
+// Each delay of the chronology is the delay of the draw before its outing, its last one RitPos's, and
+// with every outing counted the runs and the outings cover the counted draws of the range exactly.
+TEST_F(LibreriaElenchi, LaCronologiaDiRitPosCopreLeEstrazioniContate) {
+  Esegui("Function Somma(a)\n  Dim i, s\n  For i = 1 To UBound(a)\n    s = s + a(i) + 1\n  Next\n"
+         "  Somma = s\nEnd Function\n");
+  for (int ruota : {int{BA}, int{NZ}, kTutteLeRuote}) {
+    for (int numero : {3, 17, 30}) {
+      for (int posizione : {1, 4}) {
+        for (auto [inizio, fine] : {std::pair{1, 80}, {20, 60}}) {
+          const Giocata giocata(m_tab, {ruota}, {numero}, 1, posizione);
+          std::vector<int> attesi;
+          int contate = 0;
+          for (int id = inizio; id <= fine; ++id) {
+            if (giocata.Conta(m_tab[id])) ++contate;
+            if (giocata.Vincite(m_tab[id]) > 0) attesi.push_back(id > inizio ? giocata.Ritardo(inizio, id - 1) : 0);
+          }
+          attesi.push_back(giocata.Ritardo(inizio, fine));
+          const std::string argomenti = std::to_string(RuotaScript(ruota)) + ", " + std::to_string(numero) + ", " +
+                                        std::to_string(posizione) + ", r, " + std::to_string(inizio) + ", " +
+                                        std::to_string(fine);
+          EXPECT_EQ(Testo("RitPosCrono(" + argomenti + ")"), std::to_string(attesi.size())) << argomenti;
+          EXPECT_EQ(Testo("Elenco(r)"), Elenco(attesi)) << argomenti;
+          EXPECT_EQ(Testo("Somma(r) - 1"), std::to_string(contate)) << argomenti;
+        }
+      }
+    }
+  }
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+}
+
+// The synchronous delay by its definition: the draws back to the latest in which at least `livello`
+// wheels win at once.
+TEST_F(LibreriaElenchi, IlRitardoSincronoVuoleLivelloRuoteVincentiNellaStessaEstrazione) {
+  const std::vector<int> numeri{2, 9, 14, 21, 26, 30};
+  for (auto [ruote, sorte] : {std::pair{std::vector<int>{BA, CA, NZ}, 1},
+                              {std::vector<int>{kTutteLeRuote}, 1},
+                              {std::vector<int>{kTutteLeRuote}, 2}}) {
+    const Giocata giocata(m_tab, ruote, numeri, sorte);
+    std::string aruote = "Array(";
+    for (size_t i = 0; i < ruote.size(); ++i) aruote += (i ? ", " : "") + std::to_string(RuotaScript(ruote[i]));
+    for (int livello = 1; livello <= 3; ++livello) {
+      for (auto [inizio, fine] : {std::pair{1, 80}, {10, 50}}) {
+        int ritardo = 0;
+        for (int id = fine; id >= inizio && giocata.Vincite(m_tab[id]) < livello; --id)
+          if (giocata.Conta(m_tab[id])) ++ritardo;
+        const std::string chiamata = "RitSincDiLiv(" + aruote + "), " + ArrayScript(numeri) + ", " +
+                                     std::to_string(sorte) + ", " + std::to_string(livello) + ", " +
+                                     std::to_string(inizio) + ", " + std::to_string(fine) + ")";
+        EXPECT_EQ(Testo(chiamata), std::to_string(ritardo)) << chiamata;
+      }
+    }
+  }
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+}
+
 TEST_F(LibreriaElenchi, GetRitardoEstrattiDaIRitardiPrimaDellEstrazione) {
   for (int ruota : {int{BA}, int{FI}, int{NZ}}) {
     for (int id : {2, 7, 45, 80}) {
@@ -317,6 +418,81 @@ TEST_F(Libreria, IRitardiRelativiDiUnaTabellaScrittaAMano) {
   EXPECT_TRUE(m_ospite.avvisi.empty());
 }
 
+// The rows of a lunghette matrix as "numbers:delay", separated by spaces.
+constexpr std::string_view kFunzioneRighe =
+    "Function Righe(m, n)\n"
+    "  Dim i, j, s\n"
+    "  For i = 1 To n\n"
+    "    If i > 1 Then s = s & \" \"\n"
+    "    For j = 1 To UBound(m, 2) - 1\n"
+    "      If j > 1 Then s = s & \"-\"\n"
+    "      s = s & m(i, j)\n"
+    "    Next\n"
+    "    s = s & \":\" & m(i, UBound(m, 2))\n"
+    "  Next\n"
+    "  Righe = s\n"
+    "End Function\n";
+
+TEST_F(Libreria, LeLunghettePiuRitardateInOrdineDiRitardoEPoiDiNumeri) {
+  // The ambi of 1..4 on Bari: 1-2, 1-3 and 2-3 win in draw 1, 1-4 in draw 2, 2-3 again in draw 4.
+  Avvia(Archivio()
+            .Estrazione({{BA, {1, 2, 3, 80, 81}}})
+            .Estrazione({{BA, {4, 70, 71, 1, 72}}, {CA, {2, 4, 3, 70, 71}}})
+            .Estrazione()
+            .Estrazione({{BA, {70, 3, 71, 72, 2}}})
+            .Estrazione()
+            .Tabella());
+  Esegui(kFunzioneRighe);
+  Esegui("Dim r, n");
+  EXPECT_EQ(Testo("GetLunghettePiuRitardate(Array(4, 3, 2, 1, 3), 2, BA_, AMBO_, 10, r)"), "6")
+      << "3 given twice counts once";
+  EXPECT_EQ(Testo("Righe(r, 6)"), "2-4:5 3-4:5 1-2:4 1-3:4 1-4:3 2-3:1");
+  EXPECT_EQ(Testo("LBound(r, 1) & LBound(r, 2) & UBound(r, 1) & UBound(r, 2) & TypeName(r(1, 3))"), "1163Long");
+  EXPECT_EQ(Testo("GetLunghettePiuRitardate(Array(1, 2, 3, 4), 2, BA_, AMBO_, 3, r, 4)"), "3");
+  EXPECT_EQ(Testo("Righe(r, 3)"), "2-4:4 3-4:4 1-2:3");
+  EXPECT_EQ(Testo("UBound(r, 1)"), "3");
+  EXPECT_EQ(Testo("GetLunghettePiuRitardate(Array(1, 2, 3, 4), 2, Array(BA_, CA_), AMBO_, 2, r)"), "2");
+  EXPECT_EQ(Testo("Righe(r, 2)"), "1-2:4 1-3:4") << "2-4 and 3-4 won on Cagliari in draw 2";
+  EXPECT_EQ(Testo("GetLunghettePiuRitardate(Array(1, 2, 3, 4), 3, BA_, AMBATA_, 4, r)"), "4");
+  EXPECT_EQ(Testo("Righe(r, 4)"), "1-2-3:1 1-2-4:1 1-3-4:1 2-3-4:1") << "every terno has 2 or 3, out in draw 4";
+  EXPECT_EQ(Testo("TypeName(GetLunghettePiuRitardate(1, 1, BA_, AMBATA_, 1, r))"), "Long");
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+}
+
+// Every lunghetta measured apart, then sorted by the rule, against the one walk of the library.
+TEST_F(LibreriaElenchi, LeLunghetteSonoQuelleDeiRitardiMisuratiUnaPerUna) {
+  Esegui(kFunzioneRighe);
+  const std::vector<int> numeri{2, 5, 9, 14, 21, 26, 30, 45};
+  for (auto [ruote, classe, sorte] : {std::tuple{std::vector<int>{BA}, 3, 2},
+                                      {std::vector<int>{CA, NZ}, 4, 2},
+                                      {std::vector<int>{kTutteLeRuote}, 3, 3},
+                                      {std::vector<int>{FI}, 2, 1}}) {
+    for (int fine : {80, 45}) {
+      std::vector<std::pair<int, std::vector<int>>> attese;
+      for (const std::vector<int>& lunghetta : Combinazioni(numeri, classe))
+        attese.emplace_back(Giocata(m_tab, ruote, lunghetta, sorte).Ritardo(1, fine), lunghetta);
+      std::sort(attese.begin(), attese.end(), [](const auto& a, const auto& b) {
+        return a.first != b.first ? a.first > b.first : a.second < b.second;
+      });
+      std::string righe;
+      for (size_t i = 0; i < 12; ++i) {
+        righe += (i ? " " : "");
+        for (size_t j = 0; j < attese[i].second.size(); ++j)
+          righe += (j ? "-" : "") + std::to_string(attese[i].second[j]);
+        righe += ":" + std::to_string(attese[i].first);
+      }
+      std::string aruote = "Array(";
+      for (size_t i = 0; i < ruote.size(); ++i) aruote += (i ? ", " : "") + std::to_string(RuotaScript(ruote[i]));
+      const std::string chiamata = "GetLunghettePiuRitardate(" + ArrayScript(numeri) + ", " + std::to_string(classe) +
+                                   ", " + aruote + "), " + std::to_string(sorte) + ", 12, r, " + std::to_string(fine) +
+                                   ")";
+      EXPECT_EQ(Testo(chiamata), "12") << chiamata;
+      EXPECT_EQ(Testo("Righe(r, 12)"), righe) << chiamata;
+    }
+  }
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+}
+
 class LibreriaErrori : public Libreria {
  protected:
   void SetUp() override {
@@ -341,6 +517,34 @@ TEST_F(LibreriaErrori, GliArgomentiSbagliatiDegliElenchiSonoErrore5) {
         "GetRitardoEstratti 0, 1, r", "GetRitardoEstratti 31, 1, r", "GetRitardoEstratti 3, TU_, r"}) {
     AttendiErrore5(chiamata);
   }
+}
+
+TEST_F(LibreriaErrori, GliArgomentiSbagliatiDeiRitardiPosizionaliSonoErrore5) {
+  for (std::string chiamata :
+       {"AmboPosRit 13, 1, 1, 2, 2", "AmboPosRit 1, 1, 0, 2, 2", "AmboPosRit 1, 1, 1, 2, 6", "AmboPosRit 1, 1, 1, 2, 1",
+        "AmboPosRit 1, 1, 1, 91, 2", "AmboPosRit 1, 1, 1, 2, 2, 20, 10", "AmboPosRit 1, 1, 1, 2, 2, 1, 31",
+        "RitPosCrono 0, 5, 1, r", "RitPosCrono 1, 5, 6, r", "RitPosCrono 1, 5, 1, r, 25, 24"}) {
+    AttendiErrore5(chiamata);
+  }
+}
+
+TEST_F(LibreriaErrori, LeLunghetteRifiutanoSviluppiTroppoGrandiESortiOltreLaClasse) {
+  std::string novanta = "Array(1";
+  for (int n = 2; n <= kMassimoNumero; ++n) novanta += ", " + std::to_string(n);
+  novanta += ")";
+  const std::string chiamate[] = {
+      "GetLunghettePiuRitardate " + novanta + ", 4, BA_, AMBO_, 10, r",
+      "GetLunghettePiuRitardate Array(1, 2, 3), 2, BA_, TERNO_, 10, r",
+      "GetLunghettePiuRitardate Array(1, 2, 3), 0, BA_, AMBATA_, 10, r",
+      "GetLunghettePiuRitardate Array(1, 2, 3), 4, BA_, AMBATA_, 10, r",
+      "GetLunghettePiuRitardate Array(), 1, BA_, AMBATA_, 10, r",
+      "GetLunghettePiuRitardate Array(1, 2, 3), 2, 13, AMBO_, 10, r",
+      "GetLunghettePiuRitardate Array(1, 2, 3), 2, BA_, AMBO_, 0, r",
+      "GetLunghettePiuRitardate Array(1, 2, 3), 2, BA_, AMBO_, 1, r, 31"};
+  for (const std::string& chiamata : chiamate) AttendiErrore5(chiamata);
+  EXPECT_EQ(Testo("GetLunghettePiuRitardate(" + novanta + ", 3, BA_, AMBO_, 1, r)"), "1")
+      << "117,480 terni are allowed";
+  EXPECT_EQ(Testo("UBound(r, 2)"), "4");
 }
 
 TEST_F(LibreriaErrori, IRitardiRelativiVoglionoUnGruppoEUnaSuaCombinazione) {

@@ -279,6 +279,7 @@ TEST_F(LibreriaFile, WithoutAnAnswerEachDialogTakesItsDefault) {
   EXPECT_EQ(Testo("ScegliRange(inizio, fine) & \" \" & inizio & \"-\" & fine"), "Vero 1-7");
   Esegui("inizio = 2 : fine = 5\n");
   EXPECT_EQ(Testo("ScegliRange(inizio, fine) & \" \" & inizio & \"-\" & fine"), "Vero 2-5");
+  EXPECT_EQ(Testo("ScegliPoste(a) & \" \" & Join(a, \";\")"), "Vero 1;1;0;0;0");
   EXPECT_TRUE(m_ospite.avvisi.empty());
 }
 
@@ -316,7 +317,19 @@ class OspiteCheRisponde final : public InterfacciaScript {
     return cartella ? "/una/cartella" : "/un/file.txt";
   }
 
+  std::optional<std::vector<double>> ScegliImporti(const std::string& titolo, const std::vector<std::string>& voci,
+                                                   const std::vector<double>& proposti) override {
+    titoli.push_back(titolo);
+    voci_mostrate = voci;
+    importi_proposti = proposti;
+    auto risposta = importi.front();
+    importi.pop_front();
+    return risposta;
+  }
+
   std::deque<std::optional<std::vector<int>>> risposte;
+  std::deque<std::optional<std::vector<double>>> importi;
+  std::vector<double> importi_proposti;
   std::vector<std::string> titoli;
   std::vector<std::string> voci_mostrate;
   bool scelta_multipla = false;
@@ -432,6 +445,24 @@ TEST_F(Dialoghi, NumbersAndRangesAreCheckedAgainstTheirLimits) {
   EXPECT_EQ(m_ospite.avvisi[0].testo, "5- Risposta non valida al dialogo \"Scegli i numeri\"");
   EXPECT_EQ(m_ospite.avvisi[2].testo, "5- Risposta non valida al dialogo \"Uno solo\"");
   EXPECT_EQ(Testo("inizio & \"-\" & fine"), "2-6");
+}
+
+TEST_F(Dialoghi, StakesAreProposedFromTheArrayAndChecked) {
+  Esegui("ReDim a(5)\na(2) = 0.5 : a(3) = \"2\"\n");
+  m_risponde.importi.push_back(std::vector<double>{0, 1.5, 0, 0, 2});
+  EXPECT_EQ(Testo("ScegliPoste(a, \"Poste\") & \" \" & LBound(a) & \" \" & Join(a, \";\")"), "Vero 1 0;1,5;0;0;2");
+  EXPECT_EQ(m_risponde.importi_proposti, (std::vector<double>{1, 0.5, 2, 0, 0})) << "element 0 is not a sorte";
+  EXPECT_EQ(m_risponde.voci_mostrate.front(), "Estratto");
+  EXPECT_EQ(Testo("TypeName(a(2))"), "Double");
+
+  m_risponde.importi.push_back(std::nullopt);
+  EXPECT_EQ(Testo("ScegliPoste(a)"), "Falso");
+  EXPECT_EQ(Testo("a(2)"), "1,5") << "a cancelled dialog leaves the stakes alone";
+  m_risponde.importi.push_back(std::vector<double>{0, 0, 0, 0, 0});
+  EXPECT_TRUE(Vuoto("ScegliPoste(a)")) << "a bet needs a stake";
+  m_risponde.importi.push_back(std::vector<double>{1, -1, 0, 0, 0});
+  EXPECT_TRUE(Vuoto("ScegliPoste(a)"));
+  EXPECT_EQ(m_ospite.avvisi.size(), 2u);
 }
 
 TEST_F(Dialoghi, PathsAreAskedFromWhatIsProposed) {

@@ -285,6 +285,28 @@ TEST_F(LibreriaRitardi, UnAmboSuDueRuoteDellaStessaEstrazioneNonVince) {
   EXPECT_TRUE(m_ospite.avvisi.empty());
 }
 
+TEST_F(LibreriaRitardi, IlRitardoSincronoAspettaLaVincitaSuLivelloRuoteInsieme) {
+  Avvia(Archivio()
+            .Estrazione({{BA, {10, 20, 1, 2, 3}}, {CA, {10, 20, 1, 2, 3}}})
+            .Estrazione({{BA, {10, 20, 1, 2, 3}}})
+            .Estrazione()
+            .Estrazione({{CA, {10, 20, 4, 5, 6}}, {FI, {10, 5, 6, 7, 8}}})
+            .Estrazione()
+            .Tabella());
+  Esegui("Dim tre\ntre = Array(BA_, CA_, FI_)");
+  EXPECT_EQ(Testo("RitSincDiLiv(tre, Array(10, 20), AMBO_, 1)"), "1");
+  EXPECT_EQ(Testo("RitardoCombinazione(tre, Array(10, 20), AMBO_, 5)"), "1") << "level 1 is the plain delay";
+  EXPECT_EQ(Testo("RitSincDiLiv(tre, Array(10, 20), AMBO_, 2)"), "4") << "Firenze has one number only in draw 4";
+  EXPECT_EQ(Testo("RitSincDiLiv(tre, Array(10, 20), AMBATA_, 2)"), "1");
+  EXPECT_EQ(Testo("RitSincDiLiv(tre, Array(10, 20), AMBO_, 3)"), "5");
+  EXPECT_EQ(Testo("RitSincDiLiv(tre, Array(10, 20), AMBO_, 2, 1, 1)"), "0");
+  EXPECT_EQ(Testo("RitSincDiLiv(tre, Array(10, 20), AMBO_, 2, 2)"), "4") << "never in 2..5";
+  EXPECT_EQ(Testo("RitSincDiLiv(TU_, Array(10, 20), AMBO_, 2)"), "4");
+  EXPECT_EQ(Testo("RitSincDiLiv(TU_, Array(10, 20), AMBO_, 11)"), "5");
+  EXPECT_EQ(Testo("TypeName(RitSincDiLiv(tre, Array(10, 20), AMBO_, 1))"), "Long");
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+}
+
 TEST_F(LibreriaRitardi, GliArgomentiSbagliatiSonoErrore5ConUnaSpiegazione) {
   Avvia(Archivio().Estrazione().Estrazione().Estrazione().Tabella());
   Esegui("Dim vuoto()\nDim corto(2)");
@@ -307,6 +329,12 @@ TEST_F(LibreriaRitardi, GliArgomentiSbagliatiSonoErrore5ConUnaSpiegazione) {
       {"EstrattoRitardo(BA_, 7, , , True)", "EstrattoRitardo", "posizioni"},
       {"EstrattoRitardo(BA_, 7, , , corto)", "EstrattoRitardo", "posizioni"},
       {"AmboRitardo(BA_, 7, 8, 1, 4)", "AmboRitardo", "Fine"},
+      {"RitSincDiLiv(Array(BA_, CA_), Array(1, 2), AMBO_, 3)", "RitSincDiLiv", "Livello"},
+      {"RitSincDiLiv(Array(BA_, BA_), Array(1, 2), AMBO_, 2)", "RitSincDiLiv", "Livello"},
+      {"RitSincDiLiv(TU_, Array(1, 2), AMBO_, 12)", "RitSincDiLiv", "Livello"},
+      {"RitSincDiLiv(BA_, Array(1, 2), AMBO_, 0)", "RitSincDiLiv", "Livello"},
+      {"RitSincDiLiv(BA_, Array(1, 2), 6, 1)", "RitSincDiLiv", "Sorte"},
+      {"RitSincDiLiv(BA_, Array(1, 2), AMBO_, 1, 1, 4)", "RitSincDiLiv", "Fine"},
   };
   for (const auto& caso : kCasi) {
     EXPECT_TRUE(Vuoto(caso.chiamata)) << caso.chiamata;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -162,6 +163,39 @@ TEST_F(LibreriaStatistiche, LeFigureDiUnNumeroSuUnaPiccolaTabella) {
   EXPECT_TRUE(m_ospite.avvisi.empty());
 }
 
+// Delay, historical maximum, its increment and frequency, counted by hand.
+TEST_F(LibreriaStatistiche, StatFrzTurboSuUnaPiccolaTabella) {
+  Avvia(Archivio()
+            .NazionaleDa(3)
+            .Estrazione({{BA, {1, 2, 3, 40, 41}}, {CA, {1, 2, 50, 51, 52}}})
+            .Estrazione()
+            .Estrazione({{BA, {1, 60, 61, 62, 63}}})
+            .Estrazione({{CA, {2, 3, 70, 71, 72}}})
+            .Estrazione()
+            .Estrazione()
+            .Tabella());
+  const struct {
+    std::string_view giocata;
+    std::string_view figure;
+    std::string_view perche;
+  } kCasi[] = {
+      {"Array(BA_, CA_), Array(1, 2, 3), AMBO_, , ", "2 2 0 3", "Bari and Cagliari in draw 1, Cagliari in draw 4"},
+      {"Array(BA_, CA_), Array(1, 2, 3), AMBATA_, , ", "2 2 1 4", "the runs closed were 1 and 0"},
+      {"Array(BA_, CA_), Array(1, 2, 3), AMBO_, , 4", "0 2 0 3", "up to draw 4"},
+      {"BA_, Array(1, 2), AMBATA_, , ", "3 3 2 2", "either number, not the ambo"},
+      {"TU_, Array(1, 2), AMBO_, , ", "5 5 5 2", "no run closed before draw 1"},
+      {"NZ_, Array(81, 2), AMBO_, 2, 6", "4 4 4 0", "Nazionale drawn from draw 3"},
+  };
+  Esegui("Dim rit, massimo, incr, freq");
+  for (const auto& caso : kCasi) {
+    Esegui("StatFrzTurbo " + std::string(caso.giocata) + ", rit, massimo, incr, freq");
+    EXPECT_EQ(Testo("rit & \" \" & massimo & \" \" & incr & \" \" & freq"), caso.figure)
+        << caso.giocata << ": " << caso.perche;
+  }
+  EXPECT_EQ(Testo("TypeName(freq)"), "Long");
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+}
+
 // Every number of a random table with frequent wins, on every wheel, at a few ranges: the plain and
 // the Turbo forms against the figures from their definitions. The positions send the Turbo forms to
 // the walk, which must give the same figures.
@@ -252,13 +286,19 @@ TEST_F(LibreriaStatistiche, LeSerieMisuranoIlGruppoComeUnTutto) {
             SCOPED_TRACE(argomenti + " in " + std::to_string(i.inizio) + ".." + std::to_string(i.fine) +
                          (tutte ? "" : " on positions 1 and 5"));
             const std::string ritardo = std::to_string(atteso.Ritardo(i.inizio, i.fine));
+            const std::string frequenza = std::to_string(atteso.Frequenza(i.inizio, i.fine));
+            const std::string storico = std::to_string(atteso.Storico(i.inizio, i.fine));
             for (std::string_view turbo : {"", "Turbo"}) {
               const std::string suffisso(turbo);
               EXPECT_EQ(Testo(Chiamata("SerieRitardo" + suffisso, argomenti, i, posizioni)), ritardo);
-              EXPECT_EQ(Testo(Chiamata("SerieFreq" + suffisso, argomenti, i, posizioni)),
-                        std::to_string(atteso.Frequenza(i.inizio, i.fine)));
-              EXPECT_EQ(Testo(Chiamata("SerieStorico" + suffisso, argomenti, i, posizioni)),
-                        std::to_string(atteso.Storico(i.inizio, i.fine)));
+              EXPECT_EQ(Testo(Chiamata("SerieFreq" + suffisso, argomenti, i, posizioni)), frequenza);
+              EXPECT_EQ(Testo(Chiamata("SerieStorico" + suffisso, argomenti, i, posizioni)), storico);
+            }
+            if (tutte) {
+              Esegui("Call " + Chiamata("StatFrzTurbo", argomenti, i, ", r, m, n, f"));
+              EXPECT_EQ(Testo("r & \" \" & m & \" \" & n & \" \" & f"),
+                        ritardo + " " + storico + " " + std::to_string(atteso.IncrStorico(i.inizio, i.fine)) + " " +
+                            frequenza);
             }
             EXPECT_EQ(Testo("RitardoCombinazioneTurbo(" + argomenti + ", " + std::to_string(i.fine) +
                             (tutte ? ", , " : ", p, ") + std::to_string(i.inizio) + ")"),
@@ -296,6 +336,8 @@ TEST_F(LibreriaStatistiche, GliArgomentiSbagliatiSonoErrore5ConUnaSpiegazione) {
       {"SerieEstrazioneStorico(BA_, 7, 1, 1, 9)", "SerieEstrazioneStorico", "Fine"},
       {"StatEstratto(BA_, 7, 4, , a, b, c, d)", "StatEstratto", "Inizio"},
       {"StatAmboTurbo(0, 1, 2, , , a, b, c, d)", "StatAmboTurbo", "Ruota"},
+      {"StatFrzTurbo(BA_, 7, 6, , , a, b, c, d)", "StatFrzTurbo", "Sorte"},
+      {"StatFrzTurbo(BA_, 7, 1, 1, 9, a, b, c, d)", "StatFrzTurbo", "Fine"},
   };
   for (const auto& caso : kCasi) {
     EXPECT_TRUE(Vuoto(caso.chiamata)) << caso.chiamata;
@@ -332,6 +374,43 @@ End Function
   EXPECT_EQ(Testo("Differenze(1, " + std::to_string(ultima) + ")"), "0");
   EXPECT_EQ(Testo("Differenze(1, " + std::to_string(ultima - 1000) + ")"), "0");
   EXPECT_EQ(Testo("Differenze(2000, 5000)"), "0");
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+}
+
+// Random formations of one to six numbers, for every sorte they can win, on groups of wheels, at
+// ranges of the real archive: StatFrzTurbo against the walk of StatisticaFormazione.
+TEST_F(LibreriaStatistiche, SullArchivioRealeStatFrzTurboDaLeFigureDelPercorso) {
+  LOTTOLAB_RICHIEDI_DATI_REALI();
+  Avvia(test::ArchivioReale());
+  Esegui(R"(
+Function Diverse(ruote, numeri, sorte, inizio, fine)
+  Dim r1, m1, i1, f1, r2, m2, i2, f2
+  StatFrzTurbo ruote, numeri, sorte, inizio, fine, r1, m1, i1, f1
+  StatisticaFormazione numeri, ruote, sorte, r2, m2, i2, f2, inizio, fine
+  Diverse = r1 <> r2 Or m1 <> m2 Or i1 <> i2 Or f1 <> f2
+End Function
+)");
+  const int ultima = m_tab.EstrazioniArchivio();
+  const std::string_view kRuote[] = {"BA_", "NZ_", "TU_", "Array(CA_, FI_, NZ_)",
+                                     "Array(BA_, CA_, FI_, GE_, MI_, NA_, PA_, RO_, TO_, VE_, NZ_)"};
+  std::mt19937 generatore(29);
+  std::vector<int> urna(kMassimoNumero);
+  for (int n = 1; n <= kMassimoNumero; ++n) urna[static_cast<size_t>(n - 1)] = n;
+  for (int quanti = 1; quanti <= 6; ++quanti) {
+    for (int sorte = 1; sorte <= std::min(quanti, kNumeriPerRuota); ++sorte) {
+      for (std::string_view ruote : kRuote) {
+        for (int prova = 0; prova < 3; ++prova) {
+          std::shuffle(urna.begin(), urna.end(), generatore);
+          const int inizio = prova == 0 ? 1 : std::uniform_int_distribution<int>(1, ultima)(generatore);
+          const int fine = prova == 0 ? ultima : std::uniform_int_distribution<int>(inizio, ultima)(generatore);
+          const std::string chiamata = "Diverse(" + std::string(ruote) + ", " +
+                                       Lista({urna.begin(), urna.begin() + quanti}) + ", " + std::to_string(sorte) +
+                                       ", " + std::to_string(inizio) + ", " + std::to_string(fine) + ")";
+          EXPECT_EQ(Testo(chiamata), "Falso") << chiamata;
+        }
+      }
+    }
+  }
   EXPECT_TRUE(m_ospite.avvisi.empty());
 }
 

@@ -285,6 +285,11 @@ TEST_F(LibreriaConPagina, StringheDiNumeriERuote) {
   EXPECT_EQ(Testo("StringaNumeri(a)"), "01.02");
   EXPECT_EQ(Testo("\"[\" & StringaNumeri(Array()) & \"]\""), "[]");
 
+  Esegui("Dim m(2, 3) : m(1, 1) = 3 : m(1, 2) = 45 : m(1, 3) = 90 : m(2, 1) = 7 : m(2, 3) = 2.5");
+  EXPECT_EQ(Testo("StringaNumeriDaMatrice(m, 1)"), "03.45.90");
+  EXPECT_EQ(Testo("StringaNumeriDaMatrice(m, 2, \"-\", False)"), "7-3") << "Empty cells skipped, 2.5 rounded";
+  EXPECT_EQ(Testo("\"[\" & StringaNumeriDaMatrice(m, 0) & \"]\""), "[]");
+
   EXPECT_EQ(Testo("StringaRuote(Array(BA_, CA_))"), "BA.CA");
   EXPECT_EQ(Testo("StringaRuote(Array(NZ_, TU_), \"/\")"), "NZ/TT");
   EXPECT_EQ(Testo("StringaRuote(RO_)"), "RO");
@@ -293,7 +298,11 @@ TEST_F(LibreriaConPagina, StringheDiNumeriERuote) {
            {"StringaEstratti", "x = StringaEstratti(3, BA_)"},
            {"StringaEstratti", "x = StringaEstratti(1, 0)"},
            {"StringaRuote", "x = StringaRuote(Array(1, 13))"},
-           {"StringaRuote", "x = StringaRuote(0)"}});
+           {"StringaRuote", "x = StringaRuote(0)"},
+           {"StringaNumeriDaMatrice", "x = StringaNumeriDaMatrice(m, -1)"},
+           {"StringaNumeriDaMatrice", "x = StringaNumeriDaMatrice(Array(1, 2), 1)"}});
+  Esegui("x = StringaNumeriDaMatrice(m, 3)");
+  AvvisoErrore5("StringaNumeriDaMatrice", "Riga 3 fuori dai limiti della matrice (0 .. 2)", "row 3");
   EXPECT_TRUE(Vuoto("StringaNumeri(1E+20)"));
   EXPECT_TRUE(UnicoAvviso().testo.starts_with("6- "));
 }
