@@ -1,38 +1,19 @@
 #pragma once
 
-// What the script benchmarks share: the real draws, read through the import code a user runs, and
-// a run of a script with a fresh engine and library object, as every run of a user's script has.
+// What the script benchmarks share: the real draws and a run of a script with a fresh engine and
+// library object, as every run of a user's script has.
 
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
 
-#include "archive/ImportaRisultati.h"
+#include "ArchivioReale.h"
 #include "script/EsecuzioneScript.h"
 
 namespace lottolab::script {
 
-// The real draws, read on first use; null, with the benchmark skipped and the reason given, when absent.
-inline const TabellaEstrazioni* ArchivioReale(benchmark::State& state) {
-  static std::optional<TabellaEstrazioni> tabella;
-  static std::string errore;
-  if (!tabella && errore.empty()) {
-    const std::filesystem::path risultati = std::filesystem::path(LOTTOLAB_SHARED_DIR) / "data" / "lotto.txt";
-    auto lette = LeggiNuoveEstrazioniDaFile(TabellaEstrazioni(), risultati);
-    if (lette)
-      tabella.emplace(std::move(lette).Valore());
-    else
-      errore = "real draws not available at " + risultati.string() + ": nothing to measure";
-  }
-  if (!tabella) {
-    state.SkipWithError(errore.c_str());
-    return nullptr;
-  }
-  return &*tabella;
-}
+using bench::ArchivioReale;
 
 // Runs the script once per iteration over the archive; what the last run wrote.
 inline std::string EseguiOgniIterazione(benchmark::State& state, const TabellaEstrazioni& tab,

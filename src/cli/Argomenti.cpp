@@ -105,4 +105,22 @@ Esito<int> LeggiRiferimentoEstrazione(const TabellaEstrazioni& tabella, const st
   return indice;
 }
 
+Esito<Intervallo> LeggiIntervallo(const TabellaEstrazioni& tabella, const Argomenti& argomenti) {
+  Intervallo intervallo{1, tabella.EstrazioniArchivio()};
+  if (auto it = argomenti.opzioni.find("inizio"); it != argomenti.opzioni.end()) {
+    auto inizio = LeggiRiferimentoEstrazione(tabella, it->second);
+    if (!inizio) return inizio.Errore();
+    intervallo.inizio = *inizio;
+  }
+  if (auto it = argomenti.opzioni.find("fine"); it != argomenti.opzioni.end()) {
+    auto fine = LeggiRiferimentoEstrazione(tabella, it->second);
+    if (!fine) return fine.Errore();
+    intervallo.fine = *fine;
+  }
+  if (intervallo.inizio > intervallo.fine)
+    return AvvisoEsclamativo(fmt::format("intervallo vuoto: l'inizio ({}) viene dopo la fine ({})", intervallo.inizio,
+                                         intervallo.fine));
+  return intervallo;
+}
+
 }  // namespace lottolab::cli

@@ -32,4 +32,11 @@ Esito<stats::Posizioni> LeggiPosizioni(const std::string& testo);
 // A draw index of the table, or a date naming the last draw on or before it.
 Esito<int> LeggiRiferimentoEstrazione(const TabellaEstrazioni& tabella, const std::string& testo);
 
+// The range of draws that --inizio and --fine name; the whole archive by default.
+struct Intervallo {
+  int inizio = 1;
+  int fine = 0;
+};
+Esito<Intervallo> LeggiIntervallo(const TabellaEstrazioni& tabella, const Argomenti& argomenti);
+
 }  // namespace lottolab::cli

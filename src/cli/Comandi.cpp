@@ -21,7 +21,9 @@ constexpr std::string_view kUso =
     "  vbs [--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]   esegue un programma VBScript\n"
     "  esegui SCRIPT.ls [--timeout MINUTI] [--html FILE] [--risposte FILE]   esegue uno script sull'archivio\n"
     "  nuovo-script FILE.ls      scrive lo schema di uno script nuovo\n"
-    "  funzioni [--html FILE]    elenca le funzioni degli script (o ne scrive la pagina di riferimento)\n";
+    "  struttura FILE            mostra vertici, linee e condizioni di un file di struttura\n"
+    "  funzioni [--html FILE]    elenca le funzioni degli script (o ne scrive la pagina di riferimento)\n"
+    "  cerca-figura FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]   cerca una figura nell'archivio\n";
 
 }  // namespace
 
@@ -59,7 +61,9 @@ int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err
   if (comando == "vbs") return ComandoVbs(contesto, parole, err);
   if (comando == "esegui") return ComandoEsegui(contesto, parole, err);
   if (comando == "nuovo-script") return ComandoNuovoScript(contesto, parole);
+  if (comando == "struttura") return ComandoStruttura(contesto, parole);
   if (comando == "funzioni") return ComandoFunzioni(contesto, parole, err);
+  if (comando == "cerca-figura") return ComandoCercaFigura(contesto, parole);
   return contesto.Fallisci(AvvisoEsclamativo(fmt::format("comando sconosciuto: {} (lottolab --help per l'elenco)", comando)));
 }
 

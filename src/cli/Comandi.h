@@ -30,6 +30,12 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err);
 int ComandoFunzioni(Contesto& contesto, const Parole& parole, std::ostream& err);
 // Writes the template of a new script; an existing file is left alone.
 int ComandoNuovoScript(Contesto& contesto, const Parole& parole);
+// Prints the vertices, lines and conditions of a structure file; needs no archive.
+int ComandoStruttura(Contesto& contesto, const Parole& parole);
+
+// Searches the archive for a user figure saved in a structure file; lists each figure found and,
+// with --colpi, what its play did next.
+int ComandoCercaFigura(Contesto& contesto, const Parole& parole);
 
 // The whole command line: global options, then a command and its words.
 int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err);

@@ -10,40 +10,6 @@
 
 namespace lottolab::cli {
 
-namespace {
-
-// The range of draws that --inizio and --fine name; the whole archive by default.
-struct Intervallo {
-  int inizio = 1;
-  int fine = 0;
-};
-
-Esito<Intervallo> LeggiIntervallo(const TabellaEstrazioni& tabella, const Argomenti& argomenti) {
-  Intervallo intervallo{1, tabella.EstrazioniArchivio()};
-  if (auto it = argomenti.opzioni.find("inizio"); it != argomenti.opzioni.end()) {
-    auto inizio = LeggiRiferimentoEstrazione(tabella, it->second);
-    if (!inizio) return inizio.Errore();
-    intervallo.inizio = *inizio;
-  }
-  if (auto it = argomenti.opzioni.find("fine"); it != argomenti.opzioni.end()) {
-    auto fine = LeggiRiferimentoEstrazione(tabella, it->second);
-    if (!fine) return fine.Errore();
-    intervallo.fine = *fine;
-  }
-  if (intervallo.inizio > intervallo.fine)
-    return AvvisoEsclamativo(fmt::format("intervallo vuoto: l'inizio ({}) viene dopo la fine ({})", intervallo.inizio,
-                                         intervallo.fine));
-  return intervallo;
-}
-
-Esito<TabellaEstrazioni> TabellaNonVuota(const Contesto& contesto) {
-  auto tabella = contesto.CaricaTabella();
-  if (tabella && tabella->Vuota()) return AvvisoEsclamativo("l'archivio non contiene estrazioni");
-  return tabella;
-}
-
-}  // namespace
-
 int ComandoStatistica(Contesto& contesto, const Parole& parole, Statistica statistica) {
   auto argomenti = SeparaArgomenti(parole, {"ruote", "sorte", "posizioni", "inizio", "fine"});
   if (!argomenti) return contesto.Fallisci(argomenti.Errore());
@@ -75,7 +41,7 @@ int ComandoStatistica(Contesto& contesto, const Parole& parole, Statistica stati
                                                  : Esito<stats::Posizioni>(stats::kTuttePosizioni);
   if (!posizioni) return contesto.Fallisci(posizioni.Errore());
 
-  auto tabella = TabellaNonVuota(contesto);
+  auto tabella = contesto.CaricaTabellaNonVuota();
   if (!tabella) return contesto.Fallisci(tabella.Errore());
   auto intervallo = LeggiIntervallo(*tabella, *argomenti);
   if (!intervallo) return contesto.Fallisci(intervallo.Errore());
@@ -103,7 +69,7 @@ int ComandoTabellone(Contesto& contesto, const Parole& parole) {
     for (int ruota = 1; ruota <= kNumeroRuote; ++ruota) ruote.push_back(ruota);
   }
 
-  auto tabella = TabellaNonVuota(contesto);
+  auto tabella = contesto.CaricaTabellaNonVuota();
   if (!tabella) return contesto.Fallisci(tabella.Errore());
   auto intervallo = LeggiIntervallo(*tabella, *argomenti);
   if (!intervallo) return contesto.Fallisci(intervallo.Errore());

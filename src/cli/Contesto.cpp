@@ -25,4 +25,10 @@ int Contesto::Fallisci(const Avviso& avviso) {
 
 Esito<TabellaEstrazioni> Contesto::CaricaTabella() const { return ClsEstrazioni(archivio).CaricaEstrazioni(); }
 
+Esito<TabellaEstrazioni> Contesto::CaricaTabellaNonVuota() const {
+  auto tabella = CaricaTabella();
+  if (tabella && tabella->Vuota()) return AvvisoEsclamativo("l'archivio non contiene estrazioni");
+  return tabella;
+}
+
 }  // namespace lottolab::cli

@@ -38,6 +38,8 @@ struct Contesto {
   int Fallisci(const Avviso& avviso);
   // The whole archive; a missing file is a failure.
   Esito<TabellaEstrazioni> CaricaTabella() const;
+  // The same, refused when it holds no draw.
+  Esito<TabellaEstrazioni> CaricaTabellaNonVuota() const;
 };
 
 }  // namespace lottolab::cli

@@ -1,0 +1,389 @@
+#include "CondizioneCompilatore.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
+#include <string>
+
+#include "CondizioneLessico.h"
+
+namespace lottolab::figures {
+
+namespace {
+
+// How a function takes its arguments.
+enum class Argomenti {
+  Valori,    // each argument's value, then the function's instruction
+  Sommati,   // the arguments added one by one, then the function's instruction
+  Vertice,   // one vertex reference, read by the function's instruction itself
+};
+
+constexpr int kSenzaLimite = -1;
+
+struct Funzione {
+  std::string_view nome;
+  int minimo;
+  int massimo;
+  Argomenti argomenti;
+  Codice codice;
+  int64_t argomento = 0;
+};
+
+constexpr int64_t Argomento(FunzioneNumero funzione) {
+  return static_cast<int64_t>(funzione);
+}
+
+constexpr std::array kFunzioni = {
+    Funzione{"Cadenza", 1, 1, Argomenti::Valori, Codice::Numero, Argomento(FunzioneNumero::Cadenza)},
+    Funzione{"Decina", 1, 1, Argomenti::Valori, Codice::Numero, Argomento(FunzioneNumero::Decina)},
+    Funzione{"DecinaCabalistica", 1, 1, Argomenti::Valori, Codice::Numero,
+             Argomento(FunzioneNumero::DecinaCabalistica)},
+    Funzione{"Figura", 1, 1, Argomenti::Valori, Codice::Numero, Argomento(FunzioneNumero::Figura)},
+    Funzione{"Diametrale", 1, 1, Argomenti::Valori, Codice::Numero, Argomento(FunzioneNumero::Diametrale)},
+    Funzione{"DiffCiclometrica", 2, 2, Argomenti::Valori, Codice::DiffCiclometrica},
+    Funzione{"SommaCiclometrica", 2, kSenzaLimite, Argomenti::Sommati, Codice::Numero,
+             Argomento(FunzioneNumero::Fuori90)},
+    Funzione{"SommaCiclometricaGlob", 0, 0, Argomenti::Valori, Codice::SommaCiclometricaGlob},
+    Funzione{"Vertibili", 2, 2, Argomenti::Valori, Codice::Vertibili},
+    Funzione{"PosizioneVertice", 1, 1, Argomenti::Vertice, Codice::PosizioneVertice},
+    Funzione{"PuntiSu", 1, 1, Argomenti::Valori, Codice::PuntiSu},
+    Funzione{"RuotaUnica", 0, 0, Argomenti::Valori, Codice::RuotaUnica},
+    Funzione{"ContaPresenze", 1, 1, Argomenti::Valori, Codice::ContaPresenze},
+    Funzione{"ContaChiusure", 1, 1, Argomenti::Valori, Codice::ContaChiusure},
+    Funzione{"QuantitaCadenze", 0, 0, Argomenti::Valori, Codice::QuantitaCadenze},
+    Funzione{"QuantitaFigure", 0, 0, Argomenti::Valori, Codice::QuantitaFigure},
+};
+
+// Parentheses, Not and unary minus nest the parser's calls; a limit keeps absurd texts from
+// exhausting the thread's stack.
+constexpr size_t kAnnidamentoMassimo = 100;
+
+constexpr std::string_view kValoreAtteso = "un numero, un vertice o una funzione";
+
+char Minuscola(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool UgualiSenzaMaiuscole(std::string_view a, std::string_view b) {
+  return std::ranges::equal(a, b, [](char x, char y) { return Minuscola(x) == Minuscola(y); });
+}
+
+std::string_view Ripulito(std::string_view testo) {
+  const auto inizio = testo.find_first_not_of(" \t");
+  if (inizio == std::string_view::npos) return {};
+  return testo.substr(inizio, testo.find_last_not_of(" \t") - inizio + 1);
+}
+
+// The value of a text of digits only; nullopt for anything else or a value beyond 64 bits.
+std::optional<int64_t> Intero(std::string_view testo) {
+  if (testo.empty() || !std::ranges::all_of(testo, [](char c) { return c >= '0' && c <= '9'; })) return std::nullopt;
+  int64_t valore = 0;
+  const auto esito = std::from_chars(testo.data(), testo.data() + testo.size(), valore);
+  if (esito.ec != std::errc{}) return std::nullopt;
+  return valore;
+}
+
+std::optional<Codice> CodiceConfronto(TipoSimbolo tipo) {
+  switch (tipo) {
+    case TipoSimbolo::Uguale: return Codice::Uguale;
+    case TipoSimbolo::Diverso: return Codice::Diverso;
+    case TipoSimbolo::Minore: return Codice::Minore;
+    case TipoSimbolo::Maggiore: return Codice::Maggiore;
+    case TipoSimbolo::MinoreUguale: return Codice::MinoreUguale;
+    case TipoSimbolo::MaggioreUguale: return Codice::MaggioreUguale;
+    default: return std::nullopt;
+  }
+}
+
+// How many values an instruction leaves on the stack beyond those it takes.
+int Effetto(Codice codice) {
+  switch (codice) {
+    case Codice::Costante:
+    case Codice::NumeroVertice:
+    case Codice::PosizioneVertice:
+    case Codice::SommaCiclometricaGlob:
+    case Codice::RuotaUnica:
+    case Codice::QuantitaCadenze:
+    case Codice::QuantitaFigure:
+      return 1;
+    case Codice::Opposto:
+    case Codice::Non:
+    case Codice::Numero:
+    case Codice::PuntiSu:
+    case Codice::ContaPresenze:
+    case Codice::ContaChiusure:
+      return 0;
+    case Codice::Somma:
+    case Codice::Differenza:
+    case Codice::Prodotto:
+    case Codice::Uguale:
+    case Codice::Diverso:
+    case Codice::Minore:
+    case Codice::Maggiore:
+    case Codice::MinoreUguale:
+    case Codice::MaggioreUguale:
+    case Codice::E:
+    case Codice::O:
+    case Codice::DiffCiclometrica:
+    case Codice::Vertibili:
+      return -1;
+  }
+  return 0;
+}
+
+std::string ArgomentiSbagliati(const Funzione& funzione) {
+  if (funzione.massimo == kSenzaLimite)
+    return fmt::format("Errore di sintassi: {} vuole almeno {} argomenti", funzione.nome, funzione.minimo);
+  if (funzione.massimo == 0) return fmt::format("Errore di sintassi: {} non vuole argomenti", funzione.nome);
+  if (funzione.massimo == 1) return fmt::format("Errore di sintassi: {} vuole un argomento", funzione.nome);
+  return fmt::format("Errore di sintassi: {} vuole {} argomenti", funzione.nome, funzione.massimo);
+}
+
+// Thrown from anywhere in the descent, caught once at its top.
+struct Rifiuto {
+  std::string messaggio;
+  size_t posizione;  // byte offset in the text
+};
+
+class Compilatore {
+ public:
+  Compilatore(std::string_view testo, std::span<const ClsVertice> vertici)
+      : m_testo(testo), m_lessico(testo), m_vertici(vertici) {
+    Avanza();
+  }
+
+  ProgrammaCondizione Compila() && {
+    Or();
+    if (m_simbolo.tipo != TipoSimbolo::Fine) Atteso("un operatore o la fine del testo");
+    return {std::string(m_testo), std::move(m_istruzioni), &TabelleNumeri::Uniche(), m_vertici_letti};
+  }
+
+ private:
+  void Or() {
+    const Annidamento annidamento(*this);
+    And();
+    while (ParolaChiave("Or")) {
+      Avanza();
+      And();
+      Emetti(Codice::O);
+    }
+  }
+
+  void And() {
+    Non();
+    while (ParolaChiave("And")) {
+      Avanza();
+      Non();
+      Emetti(Codice::E);
+    }
+  }
+
+  void Non() {
+    if (!ParolaChiave("Not")) return Confronto();
+    const Annidamento annidamento(*this);
+    Avanza();
+    Non();
+    Emetti(Codice::Non);
+  }
+
+  void Confronto() {
+    Somma();
+    const std::optional<Codice> codice = CodiceConfronto(m_simbolo.tipo);
+    if (!codice) return;
+    Avanza();
+    Somma();
+    Emetti(*codice);
+    if (CodiceConfronto(m_simbolo.tipo)) Atteso("And o Or tra due confronti");
+  }
+
+  void Somma() {
+    Prodotto();
+    while (m_simbolo.tipo == TipoSimbolo::Piu || m_simbolo.tipo == TipoSimbolo::Meno) {
+      const Codice codice = Avanza().tipo == TipoSimbolo::Piu ? Codice::Somma : Codice::Differenza;
+      Prodotto();
+      Emetti(codice);
+    }
+  }
+
+  void Prodotto() {
+    Unario();
+    while (m_simbolo.tipo == TipoSimbolo::Per) {
+      Avanza();
+      Unario();
+      Emetti(Codice::Prodotto);
+    }
+  }
+
+  void Unario() {
+    if (m_simbolo.tipo != TipoSimbolo::Meno) return Primario();
+    const Annidamento annidamento(*this);
+    Avanza();
+    Unario();
+    Emetti(Codice::Opposto);
+  }
+
+  void Primario() {
+    switch (m_simbolo.tipo) {
+      case TipoSimbolo::Numero: {
+        const std::optional<int64_t> valore = Intero(m_simbolo.testo);
+        if (!valore) Rifiuta(fmt::format("Errore di sintassi: il numero {} è troppo grande", m_simbolo.testo));
+        Avanza();
+        return Emetti(Codice::Costante, *valore);
+      }
+      case TipoSimbolo::Vertice:
+      case TipoSimbolo::VerticeAperto:
+        return Emetti(Codice::NumeroVertice, Vertice());
+      case TipoSimbolo::ParentesiAperta:
+        Avanza();
+        Or();
+        return Chiudi();
+      case TipoSimbolo::Nome:
+        if (ParolaChiave("Or") || ParolaChiave("And") || ParolaChiave("Not")) Atteso(kValoreAtteso);
+        return Chiamata();
+      default:
+        Atteso(kValoreAtteso);
+    }
+  }
+
+  void Chiamata() {
+    const auto funzione = std::ranges::find_if(
+        kFunzioni, [&](const Funzione& f) { return UgualiSenzaMaiuscole(f.nome, m_simbolo.testo); });
+    if (funzione == kFunzioni.end())
+      Rifiuta(fmt::format("Errore di sintassi: la funzione {} non esiste", m_simbolo.testo));
+    Avanza();
+    if (m_simbolo.tipo != TipoSimbolo::ParentesiAperta) {
+      if (funzione->minimo > 0) Atteso(fmt::format("'(' dopo {}", funzione->nome));
+      return Emetti(funzione->codice, funzione->argomento);
+    }
+    Avanza();
+    int argomenti = 0;
+    if (m_simbolo.tipo != TipoSimbolo::ParentesiChiusa) {
+      for (size_t inizio = m_simbolo.inizio;; inizio = Avanza().inizio) {
+        if (argomenti == funzione->massimo) Rifiuta(ArgomentiSbagliati(*funzione), inizio);
+        Argomento(*funzione, argomenti++);
+        if (m_simbolo.tipo != TipoSimbolo::Virgola) break;
+      }
+    }
+    if (m_simbolo.tipo != TipoSimbolo::ParentesiChiusa)
+      Atteso(argomenti == funzione->massimo ? "')'" : "',' o ')'");
+    if (argomenti < funzione->minimo) Rifiuta(ArgomentiSbagliati(*funzione));
+    Avanza();
+    if (funzione->argomenti != Argomenti::Vertice) Emetti(funzione->codice, funzione->argomento);
+  }
+
+  void Argomento(const Funzione& funzione, int indice) {
+    switch (funzione.argomenti) {
+      case Argomenti::Valori:
+        return Or();
+      case Argomenti::Sommati:
+        Or();
+        if (indice > 0) Emetti(Codice::Somma);
+        return;
+      case Argomenti::Vertice:
+        if (m_simbolo.tipo != TipoSimbolo::Vertice && m_simbolo.tipo != TipoSimbolo::VerticeAperto)
+          Atteso("un vertice tra parentesi quadre");
+        return Emetti(funzione.codice, Vertice());
+    }
+  }
+
+  void Chiudi() {
+    if (m_simbolo.tipo != TipoSimbolo::ParentesiChiusa) Atteso("')'");
+    Avanza();
+  }
+
+  // The place, among the vertices with an Index, of the vertex the current symbol names: the
+  // first whose caption matches, else the one whose Index is the number written.
+  int64_t Vertice() {
+    if (m_simbolo.tipo == TipoSimbolo::VerticeAperto)
+      Rifiuta("Errore di sintassi: atteso ']' ma il testo è finito", m_testo.size());
+    const std::string_view nome = Ripulito(m_simbolo.testo.substr(1, m_simbolo.testo.size() - 2));
+    if (nome.empty()) Rifiuta("Errore di sintassi: manca il nome del vertice tra [ e ]");
+    const std::optional<int64_t> indice = Intero(nome);
+    std::optional<size_t> per_indice;
+    size_t posto = 0;
+    for (const ClsVertice& vertice : m_vertici) {
+      if (vertice.Index == 0) continue;
+      if (UgualiSenzaMaiuscole(Ripulito(vertice.Caption), nome)) return Letto(posto);
+      if (!per_indice && indice == vertice.Index) per_indice = posto;
+      ++posto;
+    }
+    if (!per_indice) Rifiuta(fmt::format("Errore di sintassi: il vertice [{}] non esiste", nome));
+    return Letto(*per_indice);
+  }
+
+  int64_t Letto(size_t posto) {
+    Avanza();
+    m_vertici_letti = std::max(m_vertici_letti, posto + 1);
+    return static_cast<int64_t>(posto);
+  }
+
+  void Emetti(Codice codice, int64_t argomento = 0) {
+    m_profondita += Effetto(codice);
+    if (m_profondita > static_cast<int>(kProfonditaPila))
+      Rifiuta("Errore di sintassi: espressione troppo complessa", m_ultimo);
+    m_istruzioni.push_back({codice, argomento});
+  }
+
+  // The symbol read so far, moving on to the next.
+  Simbolo Avanza() {
+    const Simbolo letto = m_simbolo;
+    m_ultimo = letto.inizio;
+    m_simbolo = m_lessico.Leggi();
+    return letto;
+  }
+
+  bool ParolaChiave(std::string_view parola) const {
+    return m_simbolo.tipo == TipoSimbolo::Nome && UgualiSenzaMaiuscole(m_simbolo.testo, parola);
+  }
+
+  [[noreturn]] void Atteso(std::string_view cosa) const {
+    if (m_simbolo.tipo == TipoSimbolo::Fine) Rifiuta(fmt::format("Errore di sintassi: atteso {} ma il testo è finito", cosa));
+    Rifiuta(fmt::format("Errore di sintassi: atteso {} ma trovato '{}'", cosa, m_simbolo.testo));
+  }
+
+  [[noreturn]] void Rifiuta(std::string messaggio) const { Rifiuta(std::move(messaggio), m_simbolo.inizio); }
+
+  [[noreturn]] static void Rifiuta(std::string messaggio, size_t posizione) {
+    throw Rifiuto{std::move(messaggio), posizione};
+  }
+
+  class Annidamento {
+   public:
+    explicit Annidamento(Compilatore& compilatore) : m_compilatore(compilatore) {
+      if (++m_compilatore.m_annidamento > kAnnidamentoMassimo)
+        Rifiuta("Errore di sintassi: espressione troppo annidata", m_compilatore.m_simbolo.inizio);
+    }
+    ~Annidamento() { --m_compilatore.m_annidamento; }
+    Annidamento(const Annidamento&) = delete;
+    Annidamento& operator=(const Annidamento&) = delete;
+
+   private:
+    Compilatore& m_compilatore;
+  };
+
+  std::string_view m_testo;
+  Lessico m_lessico;
+  std::span<const ClsVertice> m_vertici;
+  Simbolo m_simbolo;
+  size_t m_ultimo = 0;  // where the symbol before m_simbolo starts
+  std::vector<Istruzione> m_istruzioni;
+  int m_profondita = 0;  // values on the stack after the instructions emitted so far
+  size_t m_annidamento = 0;
+  size_t m_vertici_letti = 0;
+};
+
+}  // namespace
+
+std::variant<ProgrammaCondizione, ErroreSintassi> CompilaCondizione(std::string_view testo,
+                                                                    std::span<const ClsVertice> vertici) {
+  try {
+    return Compilatore(testo, vertici).Compila();
+  } catch (Rifiuto& rifiuto) {
+    return ErroreSintassi{std::move(rifiuto.messaggio), Colonna(testo, rifiuto.posizione)};
+  }
+}
+
+}  // namespace lottolab::figures

@@ -1,0 +1,257 @@
+#include "FileStrutture.h"
+
+#include <fmt/format.h>
+
+#include <fstream>
+#include <iterator>
+#include <span>
+#include <vector>
+
+#include "vbscript/Utf.h"
+
+namespace lottolab::figures {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kMarcatoreVertici = "OFFSET_STRUCT";
+constexpr std::string_view kMarcatoreLinee = "OFFSET_LINEE";
+constexpr std::string_view kMarcatoreCondizioni = "OFFSET_COND";
+constexpr std::string_view kFineSezione = "FINE";
+
+void Scrivi16(std::string& byte, int16_t valore) {
+  auto v = static_cast<uint16_t>(valore);
+  byte += static_cast<char>(v & 0xFF);
+  byte += static_cast<char>(v >> 8);
+}
+
+void Scrivi32(std::string& byte, int32_t valore) {
+  auto v = static_cast<uint32_t>(valore);
+  for (int i = 0; i < 4; ++i) byte += static_cast<char>((v >> (8 * i)) & 0xFF);
+}
+
+void ScriviBooleano(std::string& byte, bool valore) { Scrivi16(byte, valore ? -1 : 0); }
+
+// Cutting after the conversion counts characters: each one is a single byte in Windows-1252.
+void ScriviTesto(std::string& byte, std::string_view utf8, size_t larghezza) {
+  std::string testo = vbs::Utf16ToWindows1252(vbs::Utf8ToUtf16(utf8));
+  testo.resize(larghezza, ' ');
+  byte += testo;
+}
+
+void ScriviVertice(std::string& byte, const ClsVertice& v) {
+  Scrivi16(byte, v.Index);
+  Scrivi32(byte, v.IdEstrazione);
+  ScriviBooleano(byte, v.FulcroOrizz);
+  ScriviBooleano(byte, v.FulcroVert);
+  Scrivi16(byte, v.Riga);
+  Scrivi16(byte, v.Colonna);
+  Scrivi16(byte, v.Riservato1);
+  Scrivi16(byte, v.Riservato2);
+  Scrivi16(byte, v.VersoVert);
+  Scrivi16(byte, v.VersoOrizz);
+  ScriviTesto(byte, v.Caption, kCaratteriCaption);
+  ScriviBooleano(byte, v.UsaPerChiusura);
+}
+
+std::string Codifica(const Struttura& struttura, std::span<const std::string_view> condizioni) {
+  std::string byte(kMarcatoreVertici);
+  for (const ClsVertice& vertice : struttura.vertici)
+    if (vertice.Index != 0) ScriviVertice(byte, vertice);
+  byte += kFineSezione;
+
+  byte += kMarcatoreLinee;
+  for (const ClsLinea& linea : struttura.linee) {
+    Scrivi16(byte, linea.Numero);
+    Scrivi16(byte, linea.Inizio);
+    Scrivi16(byte, linea.Fine);
+  }
+  byte += kFineSezione;
+
+  byte += kMarcatoreCondizioni;
+  for (std::string_view condizione : condizioni) ScriviTesto(byte, condizione, kByteCondizione);
+  byte += kFineSezione;
+  return byte;
+}
+
+// Reads fields from a position on; bytes past the end of the file read as zeros.
+class Lettore {
+ public:
+  Lettore(std::string_view byte, size_t posizione) : m_byte(byte), m_posizione(posizione) {}
+
+  int16_t Leggi16() { return static_cast<int16_t>(LeggiSenzaSegno(2)); }
+  int32_t Leggi32() { return static_cast<int32_t>(LeggiSenzaSegno(4)); }
+  bool LeggiBooleano() { return Leggi16() != 0; }
+
+  std::string LeggiTesto(size_t larghezza) {
+    std::string testo;
+    for (size_t i = 0; i < larghezza; ++i) testo += static_cast<char>(Byte());
+    size_t primo = testo.find_first_not_of(' ');
+    testo = primo == std::string::npos ? std::string() : testo.substr(primo, testo.find_last_not_of(' ') - primo + 1);
+    return vbs::Utf16ToUtf8(vbs::Windows1252ToUtf16(testo));
+  }
+
+ private:
+  unsigned char Byte() {
+    unsigned char b = m_posizione < m_byte.size() ? static_cast<unsigned char>(m_byte[m_posizione]) : 0;
+    ++m_posizione;
+    return b;
+  }
+
+  uint32_t LeggiSenzaSegno(int byte) {
+    uint32_t valore = 0;
+    for (int i = 0; i < byte; ++i) valore |= static_cast<uint32_t>(Byte()) << (8 * i);
+    return valore;
+  }
+
+  std::string_view m_byte;
+  size_t m_posizione;
+};
+
+ClsVertice LeggiVertice(Lettore& lettore) {
+  ClsVertice v;
+  v.Index = lettore.Leggi16();
+  v.IdEstrazione = lettore.Leggi32();
+  v.FulcroOrizz = lettore.LeggiBooleano();
+  v.FulcroVert = lettore.LeggiBooleano();
+  v.Riga = lettore.Leggi16();
+  v.Colonna = lettore.Leggi16();
+  v.Riservato1 = lettore.Leggi16();
+  v.Riservato2 = lettore.Leggi16();
+  v.VersoVert = lettore.Leggi16();
+  v.VersoOrizz = lettore.Leggi16();
+  v.Caption = lettore.LeggiTesto(kCaratteriCaption);
+  v.UsaPerChiusura = lettore.LeggiBooleano();
+  return v;
+}
+
+ClsLinea LeggiLinea(Lettore& lettore) {
+  ClsLinea linea;
+  linea.Numero = lettore.Leggi16();
+  linea.Inizio = lettore.Leggi16();
+  linea.Fine = lettore.Leggi16();
+  return linea;
+}
+
+size_t TrovaFineSezione(std::string_view byte, size_t da) {
+  auto maiuscola = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
+  for (size_t i = da; i + kFineSezione.size() <= byte.size(); ++i) {
+    size_t k = 0;
+    while (k < kFineSezione.size() && maiuscola(byte[i + k]) == kFineSezione[k]) ++k;
+    if (k == kFineSezione.size()) return i;
+  }
+  return std::string_view::npos;
+}
+
+// Halves go to the even count, as the conversion the files were always read with did.
+size_t ArrotondaAlPari(size_t lunghezza, size_t lunghezzaRecord) {
+  size_t quoziente = lunghezza / lunghezzaRecord;
+  size_t doppioResto = 2 * (lunghezza % lunghezzaRecord);
+  if (doppioResto > lunghezzaRecord || (doppioResto == lunghezzaRecord && quoziente % 2 == 1)) ++quoziente;
+  return quoziente;
+}
+
+struct Sezione {
+  size_t inizio = 0;
+  size_t record = 0;
+};
+
+// No marker ends with the start of "FINE", so searching from behind the marker finds what a search
+// from the marker would. Without a "FINE" the section holds nothing.
+std::optional<Sezione> TrovaSezione(std::string_view byte, std::string_view marcatore, size_t lunghezzaRecord) {
+  size_t marcatoreTrovato = byte.find(marcatore);
+  if (marcatoreTrovato == std::string_view::npos) return std::nullopt;
+  Sezione sezione{marcatoreTrovato + marcatore.size(), 0};
+  size_t fine = TrovaFineSezione(byte, sezione.inizio);
+  if (fine != std::string_view::npos) sezione.record = ArrotondaAlPari(fine - sezione.inizio, lunghezzaRecord);
+  return sezione;
+}
+
+template <typename Record, typename Leggi>
+std::vector<Record> LeggiSezione(std::string_view byte, const Sezione& sezione, Leggi leggi) {
+  Lettore lettore(byte, sezione.inizio);
+  std::vector<Record> record;
+  for (size_t i = 0; i < sezione.record; ++i) record.push_back(leggi(lettore));
+  return record;
+}
+
+Avviso FileNonValido(const fs::path& file) {
+  // Critical: the user named this file as a structure, so its failing to be one is not bad input.
+  return Avviso{TipoAvviso::Critico, "", fmt::format("File {} non valido", file.string())};
+}
+
+Avviso ErroreSalvataggio(const fs::path& file, std::string_view motivo) {
+  // 75 is the number of a path/file access error, as users know it from their scripts.
+  return AvvisoCritico("SalvaStruttura", 75,
+                       fmt::format("Impossibile salvare la struttura nel file {}: {}", file.string(), motivo));
+}
+
+// Through a temporary file beside the target, so that a failed save leaves the old structure whole.
+Esito<Fatto> ScriviFile(const fs::path& file, const std::string& byte) {
+  fs::path temporaneo = file;
+  temporaneo += ".tmp";
+  std::error_code ec;
+  {
+    std::ofstream out(temporaneo, std::ios::binary | std::ios::trunc);
+    out.write(byte.data(), static_cast<std::streamsize>(byte.size()));
+    out.close();
+    if (!out) {
+      fs::remove(temporaneo, ec);
+      return ErroreSalvataggio(file, "scrittura non riuscita");
+    }
+  }
+  fs::rename(temporaneo, file, ec);
+  if (ec) {
+    std::string motivo = ec.message();
+    fs::remove(temporaneo, ec);
+    return ErroreSalvataggio(file, motivo);
+  }
+  return Fatto{};
+}
+
+}  // namespace
+
+std::string CodificaStruttura(const Struttura& struttura) {
+  std::vector<std::string_view> condizioni(struttura.condizioni.begin(), struttura.condizioni.end());
+  return Codifica(struttura, condizioni);
+}
+
+std::string CodificaStrutturaConCondizione(const Struttura& struttura, std::string_view condizione) {
+  return Codifica(struttura, std::span(&condizione, 1));
+}
+
+std::optional<Struttura> DecodificaStruttura(std::string_view byte) {
+  auto vertici = TrovaSezione(byte, kMarcatoreVertici, kByteVertice);
+  auto linee = TrovaSezione(byte, kMarcatoreLinee, kByteLinea);
+  auto condizioni = TrovaSezione(byte, kMarcatoreCondizioni, kByteCondizione);
+  if (!vertici || !linee || !condizioni) return std::nullopt;
+
+  Struttura struttura;
+  struttura.vertici = LeggiSezione<ClsVertice>(byte, *vertici, LeggiVertice);
+  struttura.linee = LeggiSezione<ClsLinea>(byte, *linee, LeggiLinea);
+  struttura.condizioni = LeggiSezione<std::string>(
+      byte, *condizioni, [](Lettore& lettore) { return lettore.LeggiTesto(kByteCondizione); });
+  return struttura;
+}
+
+Esito<Fatto> SalvaStruttura(const fs::path& file, const Struttura& struttura) {
+  return ScriviFile(file, CodificaStruttura(struttura));
+}
+
+Esito<Fatto> SalvaStrutturaConCondizione(const fs::path& file, const Struttura& struttura,
+                                         std::string_view condizione) {
+  return ScriviFile(file, CodificaStrutturaConCondizione(struttura, condizione));
+}
+
+Esito<Struttura> CaricaStruttura(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  if (!in) return FileNonValido(file);
+  std::string byte{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  if (in.bad()) return FileNonValido(file);
+  auto struttura = DecodificaStruttura(byte);
+  if (!struttura) return FileNonValido(file);
+  return std::move(*struttura);
+}
+
+}  // namespace lottolab::figures
