@@ -1,47 +1,29 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
 #include "DatiReali.h"
-#include "TempDir.h"
-#include "cli/Comandi.h"
+#include "LottolabDiProva.h"
 
 namespace lottolab::cli {
 namespace {
 
-using test::CartellaTemporanea;
-
-struct Uscita {
-  int codice;
-  std::string out;
-  std::string err;
-};
-
-// Runs the command line in-process against an archive of the test's own folder, which is also the
-// base folder, so no user's configuration is read.
-class RigaDiComando : public ::testing::Test {
+// The command line against an archive in the test's own base folder.
+class RigaDiComando : public LottolabDiProva {
  protected:
-  void SetUp() override { setenv("LOTTOLAB_HOME", m_cartella.Percorso().c_str(), 1); }
-  void TearDown() override { unsetenv("LOTTOLAB_HOME"); }
-
   Uscita Esegui(std::vector<std::string> parole) {
     parole.insert(parole.begin(), {"--archivio", Archivio()});
-    std::ostringstream out, err;
-    int codice = EseguiLottolab(parole, out, err);
-    return {codice, out.str(), err.str()};
+    return Lottolab(parole);
   }
 
-  std::string Archivio() const { return (m_cartella / "BaseDati.dat").string(); }
+  std::string Archivio() const { return (m_base / "BaseDati.dat").string(); }
 
   std::string ScriviRisultati(const std::string& nome, const std::string& testo) {
-    auto file = m_cartella / nome;
+    auto file = m_base / nome;
     std::ofstream(file) << testo;
     return file.string();
   }
-
-  CartellaTemporanea m_cartella;
 };
 
 // Three draws: Venezia gives 7 in the second; the Nazionale wheel appears in the third.

@@ -3,31 +3,14 @@
 #include <fstream>
 #include <sstream>
 
-#include "TempDir.h"
-#include "cli/Comandi.h"
+#include "LottolabDiProva.h"
 
 namespace lottolab::cli {
 namespace {
 
 namespace fs = std::filesystem;
-using test::CartellaTemporanea;
-
-struct Uscita {
-  int codice;
-  std::string out;
-  std::string err;
-};
-
-class ComandoEseguiTest : public ::testing::Test {
+class ComandoEseguiTest : public LottolabDiProva {
  protected:
-  void SetUp() override { setenv("LOTTOLAB_HOME", m_base.Percorso().c_str(), 1); }
-  void TearDown() override { unsetenv("LOTTOLAB_HOME"); }
-
-  Uscita Lottolab(const std::vector<std::string>& parole) {
-    std::ostringstream out, err;
-    int codice = EseguiLottolab(parole, out, err);
-    return {codice, out.str(), err.str()};
-  }
 
   std::string Leggi(const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
@@ -36,7 +19,6 @@ class ComandoEseguiTest : public ::testing::Test {
     return testo.str();
   }
 
-  CartellaTemporanea m_base;
 };
 
 TEST_F(ComandoEseguiTest, ANewScriptFromTheTemplateRunsAndAnExistingFileIsKept) {

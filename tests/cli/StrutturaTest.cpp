@@ -1,38 +1,16 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
-#include "TempDir.h"
-#include "cli/Comandi.h"
+#include "LottolabDiProva.h"
 #include "figures/FileStrutture.h"
 
 namespace lottolab::cli {
 namespace {
 
-using test::CartellaTemporanea;
-
-struct Uscita {
-  int codice;
-  std::string out;
-  std::string err;
-};
-
 // No archive exists in the base folder: showing a structure must not need one.
-class ComandoStrutturaTest : public ::testing::Test {
- protected:
-  void SetUp() override { setenv("LOTTOLAB_HOME", m_base.Percorso().c_str(), 1); }
-  void TearDown() override { unsetenv("LOTTOLAB_HOME"); }
-
-  Uscita Lottolab(const std::vector<std::string>& parole) {
-    std::ostringstream out, err;
-    int codice = EseguiLottolab(parole, out, err);
-    return {codice, out.str(), err.str()};
-  }
-
-  CartellaTemporanea m_base;
-};
+class ComandoStrutturaTest : public LottolabDiProva {};
 
 TEST_F(ComandoStrutturaTest, PrintsEveryVertexLineAndCondition) {
   const std::string file = (m_base / "figura.dat").string();

@@ -3,39 +3,24 @@
 #include <fstream>
 #include <sstream>
 
-#include "TempDir.h"
-#include "cli/Comandi.h"
+#include "LottolabDiProva.h"
 
 namespace lottolab::cli {
 namespace {
 
-using test::CartellaTemporanea;
-
-struct Uscita {
-  int codice;
-  std::string out;
-  std::string err;
-};
-
-class ComandoVbsTest : public ::testing::Test {
+class ComandoVbsTest : public LottolabDiProva {
  protected:
-  void SetUp() override { setenv("LOTTOLAB_HOME", m_cartella.Percorso().c_str(), 1); }
-  void TearDown() override { unsetenv("LOTTOLAB_HOME"); }
 
   std::string Script(const std::string& nome, const std::string& byte) {
-    auto file = m_cartella / nome;
+    auto file = m_base / nome;
     std::ofstream(file, std::ios::binary) << byte;
     return file.string();
   }
 
   Uscita Esegui(std::vector<std::string> parole) {
     parole.insert(parole.begin(), "vbs");
-    std::ostringstream out, err;
-    int codice = EseguiLottolab(parole, out, err);
-    return {codice, out.str(), err.str()};
+    return Lottolab(parole);
   }
-
-  CartellaTemporanea m_cartella;
 };
 
 TEST_F(ComandoVbsTest, LeggeUtf8EWindows1252) {
@@ -74,7 +59,7 @@ TEST_F(ComandoVbsTest, ArgomentiUscitaEdErrori) {
   EXPECT_EQ(Esegui({messaggio}).out, "Continuo?\n6\n") << "the terminal takes the first button";
 
   EXPECT_EQ(Esegui({"--locale", "fr-FR", errore}).codice, 2);
-  EXPECT_EQ(Esegui({(m_cartella / "manca.vbs").string()}).codice, 2);
+  EXPECT_EQ(Esegui({(m_base / "manca.vbs").string()}).codice, 2);
 }
 
 }  // namespace
