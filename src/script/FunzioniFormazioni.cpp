@@ -133,18 +133,13 @@ Result<Gioco> GiocoArgomenti(const TabellaEstrazioni& tab, const CallArgs& args,
   auto ruote = RuoteGiocate(args, i);
   if (!ruote) return std::move(ruote).error();
   gioco.ruote = std::move(*ruote);
-  auto sorte = args.Long(i + 1);
+  auto sorte = SorteArgomento(args, i + 1);
   if (!sorte) return std::move(sorte).error();
-  if (*sorte < 1 || *sorte > kNumeriPerRuota)
-    return ArgomentoNonValido(fmt::format("Sorte non valida: {} (da 1 a 5)", *sorte));
   gioco.sorte = *sorte;
-  auto inizio = EstrazioneArgomento(tab, args, i_inizio, 1, "Inizio");
-  if (!inizio) return std::move(inizio).error();
-  auto fine = EstrazioneArgomento(tab, args, i_inizio + 1, tab.EstrazioniArchivio(), "Fine");
-  if (!fine) return std::move(fine).error();
-  if (*inizio > *fine) return ArgomentoNonValido(fmt::format("Inizio ({}) dopo Fine ({})", *inizio, *fine));
-  gioco.inizio = *inizio;
-  gioco.fine = *fine;
+  auto intervallo = IntervalloArgomento(tab, args, i_inizio, i_inizio + 1);
+  if (!intervallo) return std::move(intervallo).error();
+  gioco.inizio = intervallo->inizio;
+  gioco.fine = intervallo->fine;
   return gioco;
 }
 
