@@ -6,6 +6,7 @@ packages=(
   cmake ninja-build g++ pkg-config
   libfmt-dev libzip-dev libcurl4-openssl-dev
   libgtest-dev libbenchmark-dev liblua5.4-dev
+  qt6-base-dev qt6-charts-dev libqscintilla2-qt6-dev
 )
 
 missing=()

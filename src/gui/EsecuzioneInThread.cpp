@@ -1,0 +1,53 @@
+#include "EsecuzioneInThread.h"
+
+namespace lottolab::gui {
+
+namespace {
+
+constexpr int kAttesaFineMs = 50;
+
+}  // namespace
+
+EsecuzioneInThread::EsecuzioneInThread(DialoghiScript& dialoghi, QObject* parent)
+    : QObject(parent), m_ospite(dialoghi), m_esecutore(m_ospite, &m_ospite) {}
+
+EsecuzioneInThread::~EsecuzioneInThread() {
+  if (!m_thread) return;
+  // The worker may be about to ask a dialog or not yet inside the engine: both are asked again
+  // until it ends.
+  do {
+    m_ospite.Congeda();
+    m_esecutore.Stop();
+    m_esecutore.InterrompiSubito();
+  } while (!m_thread->wait(QDeadlineTimer(kAttesaFineMs)));
+}
+
+bool EsecuzioneInThread::Avvia(const QString& testo, script::OpzioniEsecuzione opzioni,
+                               std::shared_ptr<const TabellaEstrazioni> archivio) {
+  if (m_thread) {
+    m_ospite.Mostra(AvvisoEsclamativo(std::string(kAttendereTermine)));
+    return false;
+  }
+  m_archivio = std::move(archivio);
+  m_testo = testo.toStdU16String();
+  m_opzioni = std::move(opzioni);
+  m_opzioni.libreria.archivio = m_archivio && !m_archivio->Vuota() ? m_archivio.get() : nullptr;
+  m_thread.reset(QThread::create([this] { m_esito = m_esecutore.Esegui(m_testo, m_opzioni); }));
+  // Queued behind the output the worker handed over, so the window has it all by then.
+  connect(m_thread.get(), &QThread::finished, this, &EsecuzioneInThread::Conclusa, Qt::QueuedConnection);
+  m_thread->start();
+  return true;
+}
+
+void EsecuzioneInThread::Stop() { m_esecutore.Stop(); }
+
+void EsecuzioneInThread::InterrompiSubito() { m_esecutore.InterrompiSubito(); }
+
+void EsecuzioneInThread::Conclusa() {
+  m_thread->wait();
+  m_thread.reset();
+  m_archivio.reset();
+  emit Terminata();
+}
+
+}  // namespace lottolab::gui

@@ -1,0 +1,363 @@
+#include "F_EditorStrutture.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QGraphicsView>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QSplitter>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include <filesystem>
+
+#include "F_InsCondizione.h"
+#include "F_StatStrutture.h"
+#include "GrigliaScena.h"
+#include "figures/FileStrutture.h"
+
+namespace lottolab::gui {
+
+namespace {
+
+constexpr const char* kTitolo = "Struttura";
+
+std::filesystem::path Percorso(const QString& file) { return std::filesystem::path(file.toStdU16String()); }
+
+QString Testo(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+void RiempiVersi(QComboBox* verso) {
+  verso->addItem("come disegnata", kVersoDisegnato);
+  verso->addItem("rovesciata", kVersoRovesciato);
+  verso->addItem("entrambi i versi", kVersoEntrambi);
+}
+
+// 0 in a file means the shape as drawn, as 1 does.
+void MostraVerso(QComboBox* verso, int16_t valore) {
+  const QSignalBlocker blocco(verso);
+  verso->setCurrentIndex(std::max(0, verso->findData(valore)));
+}
+
+}  // namespace
+
+F_EditorStrutture::F_EditorStrutture(ContestoGui& contesto, QWidget* parent)
+    : QWidget(parent),
+      m_contesto(contesto),
+      m_scena(new GrigliaScena(this)),
+      m_vista(new QGraphicsView(m_scena)),
+      m_estrazione(new QSpinBox),
+      m_data(new QLabel),
+      m_unisci(new QAction("Unisci", this)),
+      m_elimina(new QAction("Elimina vertice", this)),
+      m_vertice(new QGroupBox("Vertice")),
+      m_caption(new QLineEdit),
+      m_fulcro_orizz(new QCheckBox("Fulcro orizzontale")),
+      m_fulcro_vert(new QCheckBox("Fulcro verticale")),
+      m_verso_vert(new QComboBox),
+      m_verso_orizz(new QComboBox),
+      m_chiusura(new QCheckBox("Usa per la chiusura")),
+      m_condizioni(new QListWidget) {
+  auto* barra = new QToolBar;
+  barra->addAction("Nuova", this, &F_EditorStrutture::Nuova);
+  barra->addAction("Apri...", this, &F_EditorStrutture::ScegliEApri);
+  barra->addAction("Salva", this, &F_EditorStrutture::Salva);
+  barra->addAction("Salva con nome...", this, &F_EditorStrutture::SalvaConNome);
+  barra->addSeparator();
+  m_unisci->setToolTip("Unisce con una linea i due vertici selezionati (Ctrl+clic per selezionarne due)");
+  m_elimina->setShortcut(QKeySequence::Delete);
+  m_elimina->setShortcutContext(Qt::WidgetShortcut);
+  barra->addAction(m_unisci);
+  barra->addAction(m_elimina);
+  m_vista->addAction(m_elimina);
+  barra->addSeparator();
+  barra->addWidget(new QLabel("Fino all'estrazione "));
+  barra->addWidget(m_estrazione);
+  barra->addWidget(m_data);
+  barra->addSeparator();
+  barra->addAction("Cerca nell'archivio...", this, &F_EditorStrutture::CercaNellArchivio);
+
+  m_vista->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  m_vista->setDragMode(QGraphicsView::NoDrag);
+  auto* pannelli = new QWidget;
+  auto* colonna = new QVBoxLayout(pannelli);
+  colonna->setContentsMargins(0, 0, 0, 0);
+  colonna->addWidget(CreaPannelloVertice());
+  colonna->addWidget(CreaPannelloCondizioni(), 1);
+  auto* divisore = new QSplitter;
+  divisore->addWidget(m_vista);
+  divisore->addWidget(pannelli);
+  divisore->setStretchFactor(0, 1);
+
+  auto* aiuto = new QLabel("Clic su una cella: nuovo vertice. Clic su un vertice: lo seleziona; Ctrl+clic: "
+                           "ne aggiunge un altro alla selezione. Anello rosso: fulcro; arancio: vertice usato per "
+                           "la chiusura.");
+  aiuto->setStyleSheet("color: gray");
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(barra);
+  layout->addWidget(divisore, 1);
+  layout->addWidget(aiuto);
+
+  connect(m_scena, &GrigliaScena::CellaCliccata, this, &F_EditorStrutture::PiazzaVertice);
+  connect(m_scena, &QGraphicsScene::selectionChanged, this, &F_EditorStrutture::AggiornaPannello);
+  connect(m_unisci, &QAction::triggered, this, &F_EditorStrutture::UnisciSelezionati);
+  connect(m_elimina, &QAction::triggered, this, &F_EditorStrutture::EliminaSelezionati);
+  connect(m_estrazione, &QSpinBox::valueChanged, this, [this](int id) {
+    m_modello.MostraFinoA(id);
+    Aggiorna();
+  });
+  connect(&m_contesto, &ContestoGui::ArchivioCambiato, this, &F_EditorStrutture::AggiornaArchivio);
+
+  m_modello.Nuova(Estrazioni());
+  AggiornaArchivio();
+  resize(1100, 520);
+}
+
+// The scene, a child, clears its selection while it is destroyed: by then the panel it would refresh
+// is gone.
+F_EditorStrutture::~F_EditorStrutture() { disconnect(m_scena, nullptr, this, nullptr); }
+
+QWidget* F_EditorStrutture::CreaPannelloVertice() {
+  m_caption->setMaxLength(static_cast<int>(figures::kCaratteriCaption));
+  RiempiVersi(m_verso_vert);
+  RiempiVersi(m_verso_orizz);
+  auto* elimina = new QPushButton("Elimina vertice");
+  auto* campi = new QFormLayout(m_vertice);
+  campi->addRow("Etichetta", m_caption);
+  campi->addRow(m_fulcro_orizz);
+  campi->addRow(m_fulcro_vert);
+  campi->addRow("Verso verticale", m_verso_vert);
+  campi->addRow("Verso orizzontale", m_verso_orizz);
+  campi->addRow(m_chiusura);
+  campi->addRow(elimina);
+
+  connect(m_caption, &QLineEdit::textEdited, this, [this](const QString& testo) {
+    m_modello.ImpostaCaption(VerticeScelto(), testo.toStdString());
+    Aggiorna();
+  });
+  connect(m_fulcro_orizz, &QCheckBox::toggled, this, [this](bool fulcro) {
+    m_modello.ImpostaFulcroOrizz(VerticeScelto(), fulcro);
+    Aggiorna();
+  });
+  connect(m_fulcro_vert, &QCheckBox::toggled, this, [this](bool fulcro) {
+    m_modello.ImpostaFulcroVert(VerticeScelto(), fulcro);
+    Aggiorna();
+  });
+  connect(m_verso_vert, &QComboBox::currentIndexChanged, this, [this] {
+    m_modello.ImpostaVersoVert(VerticeScelto(), static_cast<int16_t>(m_verso_vert->currentData().toInt()));
+    Aggiorna();
+  });
+  connect(m_verso_orizz, &QComboBox::currentIndexChanged, this, [this] {
+    m_modello.ImpostaVersoOrizz(VerticeScelto(), static_cast<int16_t>(m_verso_orizz->currentData().toInt()));
+    Aggiorna();
+  });
+  connect(m_chiusura, &QCheckBox::toggled, this, [this](bool chiusura) {
+    m_modello.ImpostaChiusura(VerticeScelto(), chiusura);
+    Aggiorna();
+  });
+  connect(elimina, &QPushButton::clicked, this, &F_EditorStrutture::EliminaSelezionati);
+  return m_vertice;
+}
+
+QWidget* F_EditorStrutture::CreaPannelloCondizioni() {
+  auto* aggiungi = new QPushButton("Aggiungi...");
+  auto* modifica = new QPushButton("Modifica...");
+  auto* rimuovi = new QPushButton("Rimuovi");
+  auto* pulsanti = new QHBoxLayout;
+  pulsanti->addWidget(aggiungi);
+  pulsanti->addWidget(modifica);
+  pulsanti->addWidget(rimuovi);
+  auto* gruppo = new QGroupBox("Condizioni");
+  auto* layout = new QVBoxLayout(gruppo);
+  layout->addWidget(m_condizioni, 1);
+  layout->addLayout(pulsanti);
+
+  connect(aggiungi, &QPushButton::clicked, this, [this] {
+    F_InsCondizione dialogo(m_modello.Vertici(), {}, this);
+    if (dialogo.exec() != QDialog::Accepted) return;
+    m_modello.AggiungiCondizione(dialogo.Testo().toStdString());
+    Aggiorna();
+    m_condizioni->setCurrentRow(m_condizioni->count() - 1);
+  });
+  connect(modifica, &QPushButton::clicked, this, &F_EditorStrutture::ModificaCondizione);
+  connect(m_condizioni, &QListWidget::itemDoubleClicked, this, &F_EditorStrutture::ModificaCondizione);
+  connect(rimuovi, &QPushButton::clicked, this, [this] {
+    if (m_condizioni->currentRow() < 0) return;
+    m_modello.RimuoviCondizione(static_cast<size_t>(m_condizioni->currentRow()));
+    Aggiorna();
+  });
+  return gruppo;
+}
+
+int F_EditorStrutture::Estrazioni() const { return m_contesto.Archivio()->EstrazioniArchivio(); }
+
+void F_EditorStrutture::Apri(const QString& file) {
+  auto aperta = m_modello.Apri(Percorso(file), Estrazioni());
+  Aggiorna();
+  if (!aperta) QMessageBox::warning(this, kTitolo, Testo(aperta.Errore().testo));
+}
+
+void F_EditorStrutture::closeEvent(QCloseEvent* evento) {
+  if (ProseguoSeModificata())
+    evento->accept();
+  else
+    evento->ignore();
+}
+
+bool F_EditorStrutture::ProseguoSeModificata() {
+  return !m_modello.Modificata() ||
+         QMessageBox::question(this, kTitolo, "Modifiche non salvate. Proseguo ? ") == QMessageBox::Yes;
+}
+
+QString F_EditorStrutture::ScegliFile(bool salvataggio) {
+  const std::filesystem::path cartella =
+      m_modello.File().empty() ? m_contesto.Configurazione().base : m_modello.File().parent_path();
+  QFileDialog dialogo(this, salvataggio ? "Salva la struttura" : "Apri una struttura",
+                      QString::fromStdU16String(cartella.u16string()));
+  dialogo.setNameFilter("Struttura utente (*.dat)");
+  dialogo.setDefaultSuffix("dat");
+  dialogo.setAcceptMode(salvataggio ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialogo.setFileMode(salvataggio ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return {};
+  return dialogo.selectedFiles().front();
+}
+
+void F_EditorStrutture::Nuova() {
+  if (!ProseguoSeModificata()) return;
+  m_modello.Nuova(Estrazioni());
+  Aggiorna();
+}
+
+void F_EditorStrutture::ScegliEApri() {
+  if (!ProseguoSeModificata()) return;
+  const QString file = ScegliFile(false);
+  if (!file.isEmpty()) Apri(file);
+}
+
+bool F_EditorStrutture::Salva() {
+  if (m_modello.File().empty()) return SalvaConNome();
+  auto salvata = m_modello.Salva(m_modello.File());
+  Aggiorna();
+  if (!salvata) QMessageBox::warning(this, kTitolo, Testo(salvata.Errore().testo));
+  return salvata.Riuscito();
+}
+
+bool F_EditorStrutture::SalvaConNome() {
+  const QString file = ScegliFile(true);
+  if (file.isEmpty()) return false;
+  auto salvata = m_modello.Salva(Percorso(file));
+  Aggiorna();
+  if (!salvata) QMessageBox::warning(this, kTitolo, Testo(salvata.Errore().testo));
+  return salvata.Riuscito();
+}
+
+void F_EditorStrutture::Aggiorna() {
+  {
+    // Drawing the grid anew clears and restores the selection: the panel is refreshed once, after.
+    const QSignalBlocker blocco_scena(m_scena);
+    m_scena->Mostra(*m_contesto.Archivio(), m_modello);
+  }
+  {
+    const QSignalBlocker blocco_estrazione(m_estrazione);
+    m_estrazione->setValue(m_modello.Griglia().ultima_estrazione);
+  }
+  m_data->setText(
+      "  " + Testo(m_contesto.Archivio()->DataEstrazione(m_modello.Griglia().ultima_estrazione).ValoreOppure("")) + "  ");
+
+  const int scelta = m_condizioni->currentRow();
+  m_condizioni->clear();
+  for (const std::string& condizione : m_modello.Condizioni()) m_condizioni->addItem(Testo(condizione));
+  m_condizioni->setCurrentRow(std::min(scelta, m_condizioni->count() - 1));
+
+  const QString nome = m_modello.File().empty() ? "nuova" : QString::fromStdU16String(m_modello.File().filename().u16string());
+  setWindowTitle(QString("Struttura: %1[*]").arg(nome));
+  setWindowModified(m_modello.Modificata());
+  AggiornaPannello();
+}
+
+void F_EditorStrutture::AggiornaPannello() {
+  const std::vector<int16_t> selezionati = m_scena->VerticiSelezionati();
+  m_unisci->setEnabled(selezionati.size() == 2);
+  m_elimina->setEnabled(!selezionati.empty());
+  const figures::ClsVertice* vertice = m_modello.Vertice(VerticeScelto());
+  m_vertice->setEnabled(vertice != nullptr);
+  m_vertice->setTitle(vertice ? QString("Vertice %1").arg(vertice->Index) : "Vertice");
+  const figures::ClsVertice vuoto;
+  const figures::ClsVertice& mostrato = vertice ? *vertice : vuoto;
+  const QString caption = Testo(mostrato.Caption);
+  if (m_caption->text() != caption) m_caption->setText(caption);
+  for (auto [scelta, valore] : {std::pair{m_fulcro_orizz, mostrato.FulcroOrizz}, std::pair{m_fulcro_vert, mostrato.FulcroVert},
+                                std::pair{m_chiusura, mostrato.UsaPerChiusura}}) {
+    const QSignalBlocker blocco(scelta);
+    scelta->setChecked(valore);
+  }
+  MostraVerso(m_verso_vert, mostrato.VersoVert);
+  MostraVerso(m_verso_orizz, mostrato.VersoOrizz);
+}
+
+void F_EditorStrutture::AggiornaArchivio() {
+  const int estrazioni = Estrazioni();
+  const bool in_fondo = m_modello.Griglia().ultima_estrazione >= m_estrazione->maximum();
+  {
+    const QSignalBlocker blocco(m_estrazione);
+    m_estrazione->setRange(std::min(1, estrazioni), estrazioni);
+  }
+  // A grid on the archive's last draw follows the archive as it grows.
+  if (in_fondo || m_modello.Griglia().ultima_estrazione > estrazioni) m_modello.MostraFinoA(estrazioni);
+  Aggiorna();
+}
+
+int16_t F_EditorStrutture::VerticeScelto() const {
+  const std::vector<int16_t> selezionati = m_scena->VerticiSelezionati();
+  return selezionati.size() == 1 ? selezionati.front() : int16_t{0};
+}
+
+void F_EditorStrutture::PiazzaVertice(int riga, int colonna) {
+  const int16_t index = m_modello.AggiungiVertice(riga, colonna);
+  if (index == 0) return;
+  Aggiorna();
+  m_scena->Seleziona(index);
+}
+
+void F_EditorStrutture::UnisciSelezionati() {
+  const std::vector<int16_t> selezionati = m_scena->VerticiSelezionati();
+  if (selezionati.size() != 2) return;
+  if (!m_modello.Unisci(selezionati[0], selezionati[1])) {
+    QMessageBox::information(this, kTitolo, "I due vertici sono già uniti.");
+    return;
+  }
+  Aggiorna();
+}
+
+void F_EditorStrutture::EliminaSelezionati() {
+  for (int16_t index : m_scena->VerticiSelezionati()) m_modello.RimuoviVertice(index);
+  Aggiorna();
+}
+
+void F_EditorStrutture::ModificaCondizione() {
+  const int posto = m_condizioni->currentRow();
+  if (posto < 0) return;
+  F_InsCondizione dialogo(m_modello.Vertici(), m_condizioni->item(posto)->text(), this);
+  if (dialogo.exec() != QDialog::Accepted) return;
+  m_modello.ModificaCondizione(static_cast<size_t>(posto), dialogo.Testo().toStdString());
+  Aggiorna();
+}
+
+void F_EditorStrutture::CercaNellArchivio() {
+  if (!m_ricerca) m_ricerca = new F_StatStrutture(m_contesto, [this] { return m_modello.Struttura(); }, this);
+  m_ricerca->show();
+  m_ricerca->raise();
+  m_ricerca->activateWindow();
+}
+
+}  // namespace lottolab::gui

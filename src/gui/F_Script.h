@@ -1,0 +1,92 @@
+#pragma once
+
+// The script window: the editor of a script file, its run on a worker thread with the time-out,
+// the stop and the immediate interruption, and the run's text output and HTML page in their tabs.
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+#include "ContestoGui.h"
+#include "ScriptDialoghi.h"
+#include "script/InterfacciaScript.h"
+
+class QAction;
+class QComboBox;
+class QLabel;
+class QProgressBar;
+class QTabWidget;
+class QTextBrowser;
+class QTextEdit;
+class QVBoxLayout;
+
+namespace lottolab::gui {
+
+class EditorScript;
+class EsecuzioneInThread;
+
+class F_Script : public QWidget {
+  Q_OBJECT
+
+ public:
+  // Without `dialoghi` the window shows real dialogs. Opens on a new script.
+  explicit F_Script(ContestoGui& contesto, std::unique_ptr<DialoghiScript> dialoghi = nullptr,
+                    QWidget* parent = nullptr);
+  ~F_Script() override;
+
+  // Reads `file` into the editor, once the user agrees to drop unsaved changes.
+  bool ApriFile(const QString& file);
+  bool InEsecuzione() const;
+
+  EditorScript* Editor() const { return m_editor; }
+  QTextEdit* Output() const { return m_output; }
+  QTextBrowser* PaginaHtml() const { return m_html; }
+  QLabel* Attesa() const { return m_attesa; }
+  QProgressBar* Avanzamento() const { return m_avanzamento; }
+  QComboBox* Timeout() const { return m_timeout; }
+  const QString& File() const { return m_file; }
+
+ public slots:
+  void Nuovo();
+  void Apri();
+  bool Salva();
+  bool SalvaConNome();
+  void Esegui();
+  // Asks, then sets the stop the script sees through ScriptInterrotto.
+  void Ferma();
+  void InterrompiSubito();
+
+ signals:
+  void EsecuzioneTerminata();
+
+ protected:
+  void closeEvent(QCloseEvent* evento) override;
+
+ private:
+  void CreaComandi(QVBoxLayout* layout);
+  bool ProseguoSenzaSalvare();
+  bool CaricaFile(const QString& file);
+  bool ScriviFile(const QString& file);
+  void AggiungiOutput(const std::vector<script::TrattoTesto>& tratti);
+  void Terminata();
+  void AggiornaTitolo();
+
+  ContestoGui& m_contesto;
+  std::unique_ptr<DialoghiScript> m_dialoghi;
+  std::unique_ptr<EsecuzioneInThread> m_esecuzione;
+  QString m_file;
+
+  EditorScript* m_editor = nullptr;
+  QTextEdit* m_output = nullptr;
+  QTextBrowser* m_html = nullptr;
+  QTabWidget* m_schede = nullptr;
+  QComboBox* m_timeout = nullptr;
+  QProgressBar* m_avanzamento = nullptr;
+  QLabel* m_attesa = nullptr;
+  QLabel* m_stato = nullptr;
+  QAction* m_stop = nullptr;
+  QAction* m_interrompi = nullptr;
+};
+
+}  // namespace lottolab::gui

@@ -1,0 +1,26 @@
+#pragma once
+
+// The delay of one number on one wheel after every draw from the first to a chosen one: a saw-tooth
+// whose teeth are the number's absences, so that the current delay can be read against the earlier
+// ones.
+
+#include <QChartView>
+#include <QLineSeries>
+
+#include "archive/TabellaEstrazioni.h"
+
+namespace lottolab::gui {
+
+class GraficoRitardi : public QChartView {
+ public:
+  // `fine` must be a draw of `tab`; the chart keeps no reference to the table.
+  GraficoRitardi(const TabellaEstrazioni& tab, int ruota, int numero, int fine, QWidget* parent = nullptr);
+
+  // One point per draw 1..fine: the draw index and the delay after it.
+  const QLineSeries& Serie() const { return *m_serie; }
+
+ private:
+  QLineSeries* m_serie;
+};
+
+}  // namespace lottolab::gui

@@ -1,0 +1,123 @@
+#include "OspiteGui.h"
+
+#include <QCoreApplication>
+#include <QThread>
+
+#include "vbscript/Utf.h"
+
+// g++ 12 at -O2 takes the empty std::optional answers copied below for possibly uninitialised (a
+// false positive of that release once SulThreadDellaFinestra is inlined); nothing here reads an
+// uninitialised value.
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+
+namespace lottolab::gui {
+
+namespace {
+
+constexpr int kPulsanteAnnulla = 2;
+
+QString Testo(std::u16string_view testo) {
+  return QString::fromUtf16(testo.data(), static_cast<qsizetype>(testo.size()));
+}
+
+}  // namespace
+
+OspiteGui::OspiteGui(DialoghiScript& dialoghi, QObject* parent) : QObject(parent), m_dialoghi(dialoghi) {}
+
+template <typename Risposta, typename Chiedi>
+Risposta OspiteGui::SulThreadDellaFinestra(Chiedi chiedi, const Risposta& annullato) {
+  if (m_congedato) return annullato;
+  if (QThread::currentThread() == thread()) return chiedi();
+  // A dropped request leaves the answer as it was: cancelled.
+  Risposta risposta = annullato;
+  QMetaObject::invokeMethod(
+      this, [&] { if (!m_congedato) risposta = chiedi(); }, Qt::BlockingQueuedConnection);
+  return risposta;
+}
+
+void OspiteGui::Congeda() {
+  m_congedato = true;
+  QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
+}
+
+void OspiteGui::Scrivi(const script::TrattoTesto& tratto) {
+  bool primo = false;
+  {
+    std::lock_guard blocco(m_mutex);
+    primo = m_tratti.empty();
+    m_tratti.push_back(tratto);
+  }
+  if (primo) QMetaObject::invokeMethod(this, &OspiteGui::ConsegnaTesto, Qt::QueuedConnection);
+}
+
+void OspiteGui::ConsegnaTesto() {
+  std::vector<script::TrattoTesto> tratti;
+  {
+    std::lock_guard blocco(m_mutex);
+    tratti.swap(m_tratti);
+  }
+  if (!tratti.empty()) emit TestoScritto(tratti);
+}
+
+void OspiteGui::Avanzamento(double percentuale) {
+  m_percentuale = percentuale;
+  if (!m_avanzamento_in_attesa.exchange(true))
+    QMetaObject::invokeMethod(this, &OspiteGui::ConsegnaAvanzamento, Qt::QueuedConnection);
+}
+
+void OspiteGui::ConsegnaAvanzamento() {
+  m_avanzamento_in_attesa = false;
+  emit AvanzamentoCambiato(m_percentuale);
+}
+
+void OspiteGui::Messaggio(const std::string& testo) { emit MessaggioRicevuto(QString::fromStdString(testo)); }
+
+void OspiteGui::Mostra(const Avviso& avviso) {
+  SulThreadDellaFinestra([&] {
+    m_dialoghi.Avvisa(avviso);
+    return true;
+  }, false);
+}
+
+std::optional<std::vector<int>> OspiteGui::ScegliVoci(const std::string& titolo, const std::vector<std::string>& voci,
+                                                      bool multipla) {
+  return SulThreadDellaFinestra([&] { return m_dialoghi.ScegliVoci(titolo, voci, multipla); },
+                                std::optional<std::vector<int>>());
+}
+
+std::optional<std::vector<int>> OspiteGui::ScegliNumeri(const std::string& titolo, int quanti, int massimo,
+                                                        const std::vector<int>& proposti) {
+  return SulThreadDellaFinestra([&] { return m_dialoghi.ScegliNumeri(titolo, quanti, massimo, proposti); },
+                                std::optional<std::vector<int>>());
+}
+
+std::optional<std::vector<double>> OspiteGui::ScegliImporti(const std::string& titolo,
+                                                            const std::vector<std::string>& voci,
+                                                            const std::vector<double>& proposti) {
+  return SulThreadDellaFinestra([&] { return m_dialoghi.ScegliImporti(titolo, voci, proposti); },
+                                std::optional<std::vector<double>>());
+}
+
+std::optional<std::string> OspiteGui::ScegliPercorso(const std::string& titolo, const std::string& proposto,
+                                                     bool cartella) {
+  return SulThreadDellaFinestra([&] { return m_dialoghi.ScegliPercorso(titolo, proposto, cartella); },
+                                std::optional<std::string>());
+}
+
+int OspiteGui::MessageBox(std::u16string_view prompt, int buttons, std::u16string_view title) {
+  return SulThreadDellaFinestra([&] { return m_dialoghi.MessageBox(Testo(prompt), buttons, Testo(title)); },
+                                kPulsanteAnnulla);
+}
+
+std::optional<std::u16string> OspiteGui::InputBox(std::u16string_view prompt, std::u16string_view title,
+                                                  std::u16string_view default_text) {
+  return SulThreadDellaFinestra(
+      [&]() -> std::optional<std::u16string> {
+        auto risposta = m_dialoghi.InputBox(Testo(prompt), Testo(title), Testo(default_text));
+        if (!risposta) return std::nullopt;
+        return risposta->toStdU16String();
+      },
+      std::optional<std::u16string>());
+}
+
+}  // namespace lottolab::gui

@@ -1,0 +1,75 @@
+#pragma once
+
+// The host of a script run from the window. The script runs on a worker thread and reaches the
+// window only through here: its text and progress travel as queued notices, gathered so that a
+// script writing thousands of lines does not flood the window, while its dialogs are shown on the
+// window's thread with the worker waiting for the answer.
+
+#include <QObject>
+
+#include <atomic>
+#include <mutex>
+#include <vector>
+
+#include "ScriptDialoghi.h"
+#include "script/InterfacciaScript.h"
+
+// The engine's header names a member "slots", which Qt keeps as a macro.
+#pragma push_macro("slots")
+#undef slots
+#include "vbscript/Interpreter.h"
+#pragma pop_macro("slots")
+
+namespace lottolab::gui {
+
+class OspiteGui final : public QObject, public script::InterfacciaScript, public vbs::UiHandler {
+  Q_OBJECT
+
+ public:
+  // Lives on the window's thread, as `dialoghi` does.
+  explicit OspiteGui(DialoghiScript& dialoghi, QObject* parent = nullptr);
+
+  void Scrivi(const script::TrattoTesto& tratto) override;
+  void Mostra(const Avviso& avviso) override;
+  void Messaggio(const std::string& testo) override;
+  void Avanzamento(double percentuale) override;
+  std::optional<std::vector<int>> ScegliVoci(const std::string& titolo, const std::vector<std::string>& voci,
+                                             bool multipla) override;
+  std::optional<std::vector<int>> ScegliNumeri(const std::string& titolo, int quanti, int massimo,
+                                               const std::vector<int>& proposti) override;
+  std::optional<std::vector<double>> ScegliImporti(const std::string& titolo, const std::vector<std::string>& voci,
+                                                   const std::vector<double>& proposti) override;
+  std::optional<std::string> ScegliPercorso(const std::string& titolo, const std::string& proposto,
+                                            bool cartella) override;
+
+  int MessageBox(std::u16string_view prompt, int buttons, std::u16string_view title) override;
+  std::optional<std::u16string> InputBox(std::u16string_view prompt, std::u16string_view title,
+                                         std::u16string_view default_text) override;
+
+  // From the window's thread, when the window goes while a script runs: the dialog the worker waits
+  // for is dropped and the ones it asks later are cancelled without showing, so the worker never
+  // waits for a window that is no longer there.
+  void Congeda();
+
+ signals:
+  // On the window's thread, in the order the script wrote them.
+  void TestoScritto(const std::vector<lottolab::script::TrattoTesto>& tratti);
+  void MessaggioRicevuto(const QString& testo);
+  void AvanzamentoCambiato(double percentuale);
+
+ private:
+  // Runs `chiedi` on the window's thread and gives its answer; `annullato` once dismissed.
+  template <typename Risposta, typename Chiedi>
+  Risposta SulThreadDellaFinestra(Chiedi chiedi, const Risposta& annullato);
+  void ConsegnaTesto();
+  void ConsegnaAvanzamento();
+
+  DialoghiScript& m_dialoghi;
+  std::atomic<bool> m_congedato{false};
+  std::mutex m_mutex;
+  std::vector<script::TrattoTesto> m_tratti;  // written, not yet handed to the window
+  std::atomic<double> m_percentuale{0};
+  std::atomic<bool> m_avanzamento_in_attesa{false};
+};
+
+}  // namespace lottolab::gui

@@ -1,0 +1,343 @@
+#include <QGraphicsLineItem>
+#include <QGraphicsView>
+#include <QtTest>
+
+#include <algorithm>
+#include <atomic>
+#include <cmath>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "TempDir.h"
+#include "gui/ContestoGui.h"
+#include "gui/Finestre.h"
+#include "gui/QvVertice.h"
+#include "gui/F_InsCondizione.h"
+#include "gui/StruttureCondizioni.h"
+#include "gui/StruttureModello.h"
+#include "gui/StruttureRicerca.h"
+#include "stats/ArchiviDiProva.h"
+
+namespace lottolab::gui {
+
+namespace {
+
+std::vector<int16_t> Index(const StruttureModello& modello) {
+  std::vector<int16_t> index;
+  for (const figures::ClsVertice& vertice : modello.Vertici()) index.push_back(vertice.Index);
+  return index;
+}
+
+figures::ClsVertice Vertice(int16_t index, const char* caption) {
+  figures::ClsVertice vertice;
+  vertice.Index = index;
+  vertice.Caption = caption;
+  return vertice;
+}
+
+// 7 comes out on Bari at draws 1 and 6 (position 1) and 3 and 4 (position 5), and on Cagliari
+// (position 1) at draw 2; every other cell holds 81..85.
+TabellaEstrazioni SeiEstrazioni() {
+  return test::Archivio()
+      .Estrazione({{BA, {7, 1, 2, 3, 4}}})
+      .Estrazione({{BA, {1, 2, 3, 4, 5}}, {CA, {7, 1, 2, 3, 4}}})
+      .Estrazione({{BA, {8, 9, 10, 11, 7}}})
+      .Estrazione({{BA, {1, 2, 3, 4, 7}}})
+      .Estrazione({{BA, {1, 2, 3, 4, 5}}})
+      .Estrazione({{BA, {7, 2, 3, 4, 5}}})
+      .Tabella();
+}
+
+// A on a cell holding 7, B on the next column of the same draw; A's number is the play.
+RichiestaRicerca SetteEVicino() {
+  RichiestaRicerca richiesta;
+  StruttureModello modello;
+  modello.Nuova(6);
+  modello.AggiungiVertice(12, 1);
+  modello.AggiungiVertice(12, 2);
+  modello.ImpostaChiusura(1, true);
+  modello.AggiungiCondizione("[A] = 7");
+  richiesta.struttura = modello.Struttura();
+  richiesta.colpi = 2;
+  return richiesta;
+}
+
+std::vector<int> Estrazioni(const RisultatoRicerca& risultato) {
+  std::vector<int> estrazioni;
+  for (const figures::FiguraTrovata& trovata : risultato.trovate) estrazioni.push_back(trovata.estrazione);
+  return estrazioni;
+}
+
+}  // namespace
+
+class EditorStruttureTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void ClickedCellsBecomeVerticesOnTheirRowsDraws() {
+    StruttureModello modello;
+    modello.Nuova(100);
+    QCOMPARE(modello.AggiungiVertice(12, 1), int16_t{1});
+    QCOMPARE(modello.AggiungiVertice(3, 55), int16_t{2});
+    const figures::ClsVertice& ultimo = modello.Vertici().back();
+    QCOMPARE(ultimo.Riga, int16_t{3});
+    QCOMPARE(ultimo.Colonna, int16_t{55});
+    QCOMPARE(ultimo.IdEstrazione, 91);  // nine rows above the last, which shows draw 100
+    QCOMPARE(ultimo.Caption, std::string("B"));
+    QCOMPARE(modello.Vertici().front().IdEstrazione, 100);
+    QVERIFY(modello.Modificata());
+
+    QCOMPARE(modello.AggiungiVertice(12, 1), int16_t{0});  // taken
+    QCOMPARE(modello.AggiungiVertice(13, 1), int16_t{0});  // below the grid
+    QCOMPARE(modello.AggiungiVertice(0, 1), int16_t{0});
+    QCOMPARE(modello.AggiungiVertice(5, 56), int16_t{0});
+    QCOMPARE(modello.AggiungiVertice(5, 0), int16_t{0});
+
+    modello.RimuoviVertice(1);
+    modello.MostraFinoA(50);
+    QCOMPARE(modello.AggiungiVertice(1, 6), int16_t{1});  // the freed Index and caption come back
+    QCOMPARE(modello.Vertici().back().Caption, std::string("A"));
+    QCOMPARE(modello.Vertici().back().IdEstrazione, 39);
+    QCOMPARE(modello.Vertice(2)->IdEstrazione, 91);  // placed on draw 91, it stays so
+    QCOMPARE(modello.AggiungiVertice(2, 6), int16_t{3});
+    QCOMPARE(modello.Vertici().back().Caption, std::string("C"));
+  }
+
+  void TheEditorShowsTheStructureOfTheFileItOpens() {
+    test::CartellaTemporanea cartella;
+    StruttureModello modello;
+    modello.Nuova(0);
+    for (int colonna = 1; colonna <= 3; ++colonna) modello.AggiungiVertice(colonna + 4, colonna * 2);
+    modello.Unisci(1, 2);
+    modello.Unisci(2, 3);
+    const auto file = cartella / "tre.dat";
+    QVERIFY(modello.Salva(file).Riuscito());
+
+    ContestoGui contesto(app::Configurazione{cartella.Percorso(), {}});
+    std::unique_ptr<QWidget> editor(NuovoEditorStrutture(contesto, QString::fromStdString(file.string())));
+    QVERIFY(editor->windowTitle().contains("tre.dat"));
+    const QList<QGraphicsItem*> elementi = editor->findChild<QGraphicsView*>()->scene()->items();
+    QCOMPARE(std::count_if(elementi.begin(), elementi.end(), [](QGraphicsItem* e) { return dynamic_cast<QvVertice*>(e); }), 3);
+    QCOMPARE(std::count_if(elementi.begin(), elementi.end(),
+                           [](QGraphicsItem* e) { return dynamic_cast<QGraphicsLineItem*>(e); }),
+             2);
+  }
+
+  void EachPivotBelongsToOneVertex() {
+    StruttureModello modello;
+    modello.Nuova(20);
+    for (int colonna = 1; colonna <= 3; ++colonna) modello.AggiungiVertice(5, colonna);
+    auto orizz = [&] {
+      std::vector<int16_t> fulcri;
+      for (const figures::ClsVertice& vertice : modello.Vertici())
+        if (vertice.FulcroOrizz) fulcri.push_back(vertice.Index);
+      return fulcri;
+    };
+    modello.ImpostaFulcroOrizz(1, true);
+    modello.ImpostaFulcroVert(3, true);
+    modello.ImpostaFulcroOrizz(2, true);
+    QCOMPARE(orizz(), std::vector<int16_t>{2});
+    QVERIFY(modello.Vertice(3)->FulcroVert);
+    modello.ImpostaFulcroVert(1, true);
+    QVERIFY(!modello.Vertice(3)->FulcroVert);
+    QVERIFY(modello.Vertice(2)->FulcroOrizz);  // the other kind is left alone
+    modello.ImpostaFulcroOrizz(2, false);
+    QVERIFY(orizz().empty());
+  }
+
+  void LinesJoinVerticesByIndexAndGoWithThem() {
+    StruttureModello modello;
+    modello.Nuova(20);
+    for (int colonna = 1; colonna <= 3; ++colonna) modello.AggiungiVertice(colonna + 2, colonna);
+    QVERIFY(modello.Unisci(1, 3));
+    QVERIFY(!modello.Unisci(3, 1));
+    QVERIFY(!modello.Unisci(2, 2));
+    QVERIFY(!modello.Unisci(1, 9));
+    QVERIFY(modello.Unisci(2, 3));
+    QVERIFY(modello.Unisci(1, 2));
+    QCOMPARE(modello.Linee(), (std::vector<figures::ClsLinea>{{1, 1, 3}, {2, 2, 3}, {3, 1, 2}}));
+    modello.RimuoviVertice(1);
+    QCOMPARE(Index(modello), (std::vector<int16_t>{2, 3}));
+    QCOMPARE(modello.Linee(), (std::vector<figures::ClsLinea>{{1, 2, 3}}));
+  }
+
+  void ASavedStructureLoadsBackTheSame() {
+    test::CartellaTemporanea cartella;
+    StruttureModello modello;
+    modello.Nuova(300);
+    modello.AggiungiVertice(4, 2);
+    modello.AggiungiVertice(7, 13);
+    modello.AggiungiVertice(12, 55);
+    modello.ImpostaCaption(1, "ABCDEFG");
+    modello.ImpostaCaption(2, "Perù12");
+    modello.ImpostaFulcroVert(2, true);
+    modello.ImpostaFulcroOrizz(3, true);
+    modello.ImpostaVersoVert(2, kVersoEntrambi);
+    modello.ImpostaVersoOrizz(3, kVersoRovesciato);
+    modello.ImpostaChiusura(1, true);
+    modello.Unisci(1, 2);
+    modello.Unisci(3, 2);
+    modello.AggiungiCondizione("[ABCDE] = [Perù1]");
+    modello.AggiungiCondizione("Cadenza([ABCDE]) = Cadenza([C]) Or [C] = 90");
+    QCOMPARE(modello.Vertice(1)->Caption, std::string("ABCDE"));
+    QCOMPARE(modello.Vertice(2)->Caption, std::string("Perù1"));
+
+    const auto file = cartella / "figura.dat";
+    QVERIFY(modello.Salva(file).Riuscito());
+    QVERIFY(!modello.Modificata());
+
+    StruttureModello riletto;
+    riletto.Nuova(300);
+    QVERIFY(riletto.Apri(file, 300).Riuscito());
+    QVERIFY(riletto.Struttura() == modello.Struttura());
+    QCOMPARE(riletto.File(), file);
+    QVERIFY(!riletto.Modificata());
+    for (const figures::ClsVertice& vertice : riletto.Vertici())
+      QCOMPARE(riletto.Griglia().EstrazioneDellaRiga(vertice.Riga), vertice.IdEstrazione);
+  }
+
+  void ABadFileLeavesTheEditorEmpty() {
+    test::CartellaTemporanea cartella;
+    const auto file = cartella / "rotto.dat";
+    std::ofstream(file) << "non una struttura";
+    StruttureModello modello;
+    modello.Nuova(10);
+    modello.AggiungiVertice(2, 2);
+    modello.AggiungiCondizione("[A] = 1");
+    auto aperto = modello.Apri(file, 10);
+    QVERIFY(!aperto.Riuscito());
+    QCOMPARE(aperto.Errore().testo, "File " + file.string() + " non valido");
+    QVERIFY(modello.Vertici().empty());
+    QVERIFY(modello.Condizioni().empty());
+    QVERIFY(modello.File().empty());
+    QVERIFY(!modello.Modificata());
+  }
+
+  void TheDialogsFormsGiveTextsThatCompile() {
+    const std::vector<figures::ClsVertice> vertici{Vertice(1, "A"), Vertice(2, "B"), Vertice(3, "")};
+    for (const FormaCondizione& forma : FormeCondizione()) {
+      for (bool negata : {false, true}) {
+        const std::string testo = ComponiCondizione(forma, "[A]", "[3]", 12, negata);
+        const auto errore = VerificaCondizione(testo, vertici);
+        QVERIFY2(!errore, (testo + ": " + (errore ? errore->messaggio : "")).c_str());
+      }
+    }
+    QCOMPARE(ComponiCondizione(FormeCondizione()[1], "[A]", "[B]", 0, false), std::string("[A] + 1 = [B]"));
+    const auto diff = std::find_if(FormeCondizione().begin(), FormeCondizione().end(),
+                                   [](const FormaCondizione& forma) { return forma.modello.starts_with("DiffCiclometrica"); });
+    QCOMPARE(ComponiCondizione(*diff, "[B]", "[A]", 45, true), std::string("Not DiffCiclometrica([B], [A]) = 45"));
+
+    QCOMPARE(AccodaCondizione("  ", "Or", "[A] = 3"), std::string("[A] = 3"));
+    const std::string unite = AccodaCondizione("[A] = [B] ", "Or", "[A] - 1 = [B]");
+    QCOMPARE(unite, std::string("[A] = [B] Or [A] - 1 = [B]"));
+    QVERIFY(!VerificaCondizione(unite, vertici));
+  }
+
+  void VerticesAreNamedByCaptionWhenTheCaptionCanNameThem() {
+    const std::vector<figures::ClsVertice> vertici{Vertice(1, "A"), Vertice(2, "a"), Vertice(3, ""), Vertice(4, "x]"),
+                                                   Vertice(5, " C ")};
+    QCOMPARE(RiferimentoVertice(vertici[0], vertici), std::string("[A]"));
+    QCOMPARE(RiferimentoVertice(vertici[1], vertici), std::string("[2]"));  // [a] would name A
+    QCOMPARE(RiferimentoVertice(vertici[2], vertici), std::string("[3]"));
+    QCOMPARE(RiferimentoVertice(vertici[3], vertici), std::string("[4]"));
+    QCOMPARE(RiferimentoVertice(vertici[4], vertici), std::string("[C]"));
+  }
+
+  void ABadTextIsRefusedSayingWhere() {
+    const std::vector<figures::ClsVertice> vertici{Vertice(1, "A"), Vertice(2, "B")};
+    auto errore = VerificaCondizione("[A] = [Q]", vertici);
+    QVERIFY(errore);
+    QVERIFY(errore->messaggio.starts_with("Errore di sintassi"));
+    QCOMPARE(errore->colonna, size_t{7});
+    errore = VerificaCondizione("Cadenza([A]) = = 3", vertici);
+    QVERIFY(errore);
+    QCOMPARE(errore->colonna, size_t{16});
+
+    F_InsCondizione dialogo(vertici, "  [A] = [B]  ");
+    dialogo.accept();
+    QCOMPARE(dialogo.result(), int(QDialog::Accepted));
+    QCOMPARE(dialogo.Testo(), QString("[A] = [B]"));
+  }
+
+  void TheSearchFindsTheFiguresCountedByHand() {
+    const TabellaEstrazioni tab = SeiEstrazioni();
+    const std::atomic<bool> mai = false;
+    RichiestaRicerca richiesta = SetteEVicino();
+
+    // On every wheel B may fall on the next wheel's first column: draws 2 (Cagliari), 3 and 4 too.
+    auto tutte = CercaStruttura(tab, richiesta, {}, mai);
+    QVERIFY(tutte.Riuscito());
+    QCOMPARE(Estrazioni(*tutte), (std::vector<int>{1, 2, 3, 4, 6}));
+    QCOMPARE(DescriviFigura(tab, tutte->trovate[1]).ruote, std::string("CA"));
+    QCOMPARE(DescriviFigura(tab, tutte->trovate[1]).numeri, std::string("07 01"));
+    QCOMPARE(DescriviFigura(tab, tutte->trovate[2]).ruote, std::string("BA,CA"));
+    QCOMPARE(DescriviFigura(tab, tutte->trovate[2]).numeri, std::string("07 81"));
+
+    richiesta.ruote = {BA};
+    auto bari = CercaStruttura(tab, richiesta, {}, mai);
+    QVERIFY(bari.Riuscito());
+    QCOMPARE(Estrazioni(*bari), (std::vector<int>{1, 6}));
+    QVERIFY(!bari->interrotta);
+    QVERIFY(bari->statistica);
+    // Draw 1's 7 comes back on Bari at draw 3, the second colpo; nothing follows draw 6.
+    QCOMPARE(bari->statistica->per_sorte[1], 1);
+    QCOMPARE(bari->statistica->in_corso, 1);
+    QCOMPARE(bari->statistica->negativi, 0);
+    QCOMPARE(bari->statistica->ritardo, 0);
+    QCOMPARE(bari->statistica->ritardo_massimo, 4);
+
+    richiesta.fine = 5;
+    auto fino_a_cinque = CercaStruttura(tab, richiesta, {}, mai);
+    QVERIFY(fino_a_cinque.Riuscito());
+    QCOMPARE(Estrazioni(*fino_a_cinque), std::vector<int>{1});
+    QCOMPARE(fino_a_cinque->statistica->ritardo, 4);
+  }
+
+  void AStopAskedDuringTheSearchEndsIt() {
+    const TabellaEstrazioni tab = SeiEstrazioni();
+    std::atomic<bool> ferma = false;
+    std::vector<double> quote;
+    auto risultato = CercaStruttura(tab, SetteEVicino(), [&](double quota) {
+      quote.push_back(quota);
+      ferma = true;
+    }, ferma);
+    QVERIFY(risultato.Riuscito());
+    QVERIFY(risultato->interrotta);
+    QVERIFY(risultato->trovate.empty());  // stopped before the first draw
+    QVERIFY(!risultato->statistica);
+    QCOMPARE(quote, std::vector<double>{0.0});  // the end of a search cut short is not shown as done
+
+    // On a longer archive, stopped at the second notice: what the share of the draws searched by then
+    // gave is kept.
+    const TabellaEstrazioni lunga = test::ArchivioCasuale(1000, 20, 7);
+    RichiestaRicerca tre;
+    tre.struttura = {{Vertice(1, "A")}, {}, {"[A] = 3"}};
+    ferma = false;
+    auto tutte = CercaStruttura(lunga, tre, {}, ferma);
+    int avvisi = 0;
+    double cercate = 0;
+    auto prime = CercaStruttura(lunga, tre, [&](double quota) {
+      cercate = quota * lunga.EstrazioniArchivio();
+      ferma = ++avvisi == 2;
+    }, ferma);
+    QVERIFY(tutte.Riuscito() && prime.Riuscito());
+    QVERIFY(prime->interrotta);
+    std::vector<int> attese = Estrazioni(*tutte);
+    std::erase_if(attese, [&](int estrazione) { return estrazione > std::lround(cercate); });
+    QVERIFY(!attese.empty() && attese.size() < tutte->trovate.size());
+    QCOMPARE(Estrazioni(*prime), attese);
+
+    auto errata = SetteEVicino();
+    errata.struttura.condizioni.push_back("[A] = = 1");
+    auto rifiutata = CercaStruttura(tab, errata, {}, ferma);
+    QVERIFY(!rifiutata.Riuscito());
+    QVERIFY(rifiutata.Errore().testo.starts_with("Errore di sintassi"));
+  }
+};
+
+}  // namespace lottolab::gui
+
+QTEST_MAIN(lottolab::gui::EditorStruttureTest)
+#include "EditorStruttureTest.moc"

@@ -1,0 +1,195 @@
+#include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <cstdlib>
+#include <fstream>
+#include <memory>
+
+#include "TempDir.h"
+#include "app/Percorsi.h"
+#include "archive/ClsEstrazioni.h"
+#include "archive/ImportaRisultati.h"
+#include "gui/DialogoImpostazioni.h"
+#include "gui/FinestraPrincipale.h"
+#include "gui/Impostazioni.h"
+#include "gui/ScriptRecenti.h"
+
+namespace lottolab::gui {
+namespace {
+
+using test::CartellaTemporanea;
+
+// Two draws, then a third that a later update brings.
+constexpr const char* kDueEstrazioni =
+    "2005/04/30\tBA\t1\t2\t3\t4\t5\n"
+    "2005/05/03\tBA\t21\t22\t23\t24\t25\n";
+constexpr const char* kTerzaEstrazione = "2005/05/04\tBA\t31\t32\t33\t34\t35\n";
+
+class FinestraPrincipaleTest : public QObject {
+  Q_OBJECT
+
+ private:
+  std::unique_ptr<CartellaTemporanea> m_cartella;
+
+  std::filesystem::path Scrivi(const std::string& nome, const std::string& testo) {
+    auto file = *m_cartella / nome;
+    std::ofstream(file) << testo;
+    return file;
+  }
+
+  // Appends the draws of `risultati` to the archive file `nome` of the base folder.
+  void Importa(const std::string& nome, const std::string& risultati) {
+    ClsEstrazioni archivio(*m_cartella / nome);
+    auto aggiunte = ImportaRisultati(archivio, Scrivi("risultati.txt", risultati));
+    QVERIFY2(aggiunte.Riuscito(), aggiunte.Riuscito() ? "" : aggiunte.Errore().testo.c_str());
+  }
+
+  std::unique_ptr<ContestoGui> Contesto() {
+    auto configurazione = app::CaricaConfigurazione(m_cartella->Percorso());
+    if (!configurazione) qFatal("%s", configurazione.Errore().testo.c_str());
+    return std::make_unique<ContestoGui>(std::move(configurazione).Valore());
+  }
+
+  app::FileIni IniSalvato() {
+    auto ini = app::FileIni::Carica(app::FileConfigurazione(m_cartella->Percorso()));
+    if (!ini) qFatal("%s", ini.Errore().testo.c_str());
+    return std::move(ini).Valore();
+  }
+
+ private slots:
+  void init() {
+    m_cartella = std::make_unique<CartellaTemporanea>();
+    setenv("LOTTOLAB_HOME", m_cartella->Percorso().c_str(), 1);
+  }
+  void cleanup() {
+    unsetenv("LOTTOLAB_HOME");
+    m_cartella.reset();
+  }
+
+  void TitoloEStatoDellArchivio() {
+    Scrivi("lottolab.ini", "[GENERALE]\nsFileBd=dati/Estrazioni.dat\n");
+    std::filesystem::create_directories(*m_cartella / "dati");
+    Importa("dati/Estrazioni.dat", kDueEstrazioni);
+    auto contesto = Contesto();
+
+    FinestraPrincipale finestra(*contesto);
+    auto* stato = finestra.findChild<QLabel*>("statoArchivio");
+    QVERIFY(stato);
+    QCOMPARE(finestra.windowTitle(), QString("lottolab - Estrazioni.dat"));
+    // Nothing loaded yet: the status bar says how to fill the archive.
+    QVERIFY(stato->text().contains("Aggiorna archivio"));
+
+    QVERIFY(contesto->RicaricaArchivio().Riuscito());
+    QCOMPARE(stato->text(), QString("Archivio: 2 estrazioni, l'ultima del 03/05/2005"));
+
+    Importa("dati/Estrazioni.dat", std::string(kDueEstrazioni) + kTerzaEstrazione);
+    QVERIFY(contesto->RicaricaArchivio().Riuscito());
+    QCOMPARE(stato->text(), QString("Archivio: 3 estrazioni, l'ultima del 04/05/2005"));
+  }
+
+  void LeFinestreSiApronoNellArea() {
+    Importa("BaseDati.dat", kDueEstrazioni);
+    auto contesto = Contesto();
+    QVERIFY(contesto->RicaricaArchivio().Riuscito());
+    FinestraPrincipale finestra(*contesto);
+    finestra.resize(1000, 700);
+
+    for (const char* azione : {"azioneEstrazioni", "azioneTabellone", "azioneNuovoScript", "azioneEditorStrutture"})
+      finestra.findChild<QAction*>(azione)->trigger();
+    const QList<QMdiSubWindow*> aperte = finestra.AreaFinestre()->subWindowList();
+    QCOMPARE(aperte.size(), 4);
+
+    aperte.first()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    // A closed window is gone, not hidden.
+    QCOMPARE(finestra.AreaFinestre()->subWindowList().size(), 3);
+  }
+
+  void ScriptRecentiNellIni() {
+    app::FileIni ini;
+    for (int i = 1; i <= 10; ++i) AggiungiScriptRecente(ini, "s" + std::to_string(i) + ".ls");
+    QCOMPARE(LeggiScriptRecenti(ini),
+             (std::vector<std::string>{"s10.ls", "s9.ls", "s8.ls", "s7.ls", "s6.ls", "s5.ls", "s4.ls", "s3.ls"}));
+
+    AggiungiScriptRecente(ini, "s5.ls");
+    QCOMPARE(LeggiScriptRecenti(ini),
+             (std::vector<std::string>{"s5.ls", "s10.ls", "s9.ls", "s8.ls", "s7.ls", "s6.ls", "s4.ls", "s3.ls"}));
+
+    // A hand-edited list with a hole and a repeat is closed up, in the file too.
+    app::FileIni a_mano = app::FileIni::DaTesto("[SCRIPT_RECENTI]\nFile1=a.ls\nFile3=b.ls\nFile5=a.ls\n");
+    QCOMPARE(LeggiScriptRecenti(a_mano), (std::vector<std::string>{"a.ls", "b.ls"}));
+    AggiungiScriptRecente(a_mano, "b.ls");
+    QCOMPARE(LeggiScriptRecenti(a_mano), (std::vector<std::string>{"b.ls", "a.ls"}));
+    QVERIFY(a_mano.Leggi("SCRIPT_RECENTI", "File5", "").empty());
+  }
+
+  void UnoScriptApertoEntraNellIni() {
+    const auto script = Scrivi("prova.ls", "Sub Main\nEnd Sub\n");
+    Scrivi("lottolab.ini", "; scritto a mano\n[SCRIPT_RECENTI]\nFile1=/altrove/vecchio.ls\n");
+    auto contesto = Contesto();
+    FinestraPrincipale finestra(*contesto);
+
+    finestra.ApriScript(QString::fromStdString(script.string()));
+    QCOMPARE(finestra.AreaFinestre()->subWindowList().size(), 1);
+    const app::FileIni salvato = IniSalvato();
+    QCOMPARE(LeggiScriptRecenti(salvato), (std::vector<std::string>{script.string(), "/altrove/vecchio.ls"}));
+    QVERIFY(salvato.Testo().find("; scritto a mano") != std::string::npos);
+    QCOMPARE(LeggiScriptRecenti(contesto->Configurazione().ini), LeggiScriptRecenti(salvato));
+  }
+
+  void LeImpostazioniSalvateRicaricanoLArchivio() {
+    Scrivi("lottolab.ini", "[GENERALE]\nsIndirizzoRisultati=file:///risultati.zip\nsColoreSfondoHtml=#102030\n");
+    Importa("BaseDati.dat", kDueEstrazioni);
+    Importa("Altro.dat", std::string(kDueEstrazioni) + kTerzaEstrazione);
+    auto contesto = Contesto();
+    QVERIFY(contesto->RicaricaArchivio().Riuscito());
+    QSignalSpy cambiato(contesto.get(), &ContestoGui::ArchivioCambiato);
+
+    DialogoImpostazioni dialogo(*contesto);
+    auto* archivio = dialogo.findChild<QLineEdit*>("archivio");
+    auto* cartella = dialogo.findChild<QLineEdit*>("cartellaScript");
+    QVERIFY(archivio && cartella);
+    QCOMPARE(archivio->text(), QString("BaseDati.dat"));
+    QCOMPARE(cartella->text(), QString("Script"));
+    archivio->setText("Altro.dat");
+    cartella->setText("MieiScript");
+    dialogo.findChild<QCheckBox*>("mantieniPaginaHtml")->setChecked(true);
+    dialogo.accept();
+
+    QCOMPARE(dialogo.result(), int(QDialog::Accepted));
+    const app::FileIni salvato = IniSalvato();
+    QCOMPARE(salvato.Leggi("GENERALE", "sFileBd", ""), std::string("Altro.dat"));
+    QCOMPARE(salvato.Leggi("GENERALE", "sCartellaScript", ""), std::string("MieiScript"));
+    QCOMPARE(salvato.Leggi("GENERALE", "sColoreSfondoHtml", ""), std::string("#102030"));
+    QCOMPARE(salvato.Leggi("GENERALE", "bMantieniPaginaHtml", ""), std::string("1"));
+    QCOMPARE(salvato.Leggi("GENERALE", "sIndirizzoRisultati", ""), std::string("file:///risultati.zip"));
+
+    QCOMPARE(cambiato.count(), 1);
+    QCOMPARE(contesto->Archivio()->EstrazioniArchivio(), 3);
+    QCOMPARE(CartellaScript(contesto->Configurazione()), *m_cartella / "MieiScript");
+  }
+
+  void UnaConfigurazioneNonScrivibileNonCambiaNulla() {
+    const auto file = Scrivi("un-file", "");
+    ContestoGui contesto(app::Configurazione{file / "base", app::FileIni::DaTesto("[GENERALE]\nsFileBd=A.dat\n")});
+    app::FileIni nuovo = contesto.Configurazione().ini;
+    nuovo.Scrivi("GENERALE", "sFileBd", "B.dat");
+
+    auto salvato = SalvaConfigurazione(contesto, nuovo);
+    QVERIFY(!salvato.Riuscito());
+    QVERIFY(!salvato.Errore().testo.empty());
+    QCOMPARE(contesto.Configurazione().ArchivioLotto().filename().string(), std::string("A.dat"));
+  }
+};
+
+}  // namespace
+}  // namespace lottolab::gui
+
+QTEST_MAIN(lottolab::gui::FinestraPrincipaleTest)
+#include "FinestraPrincipaleTest.moc"
