@@ -149,7 +149,11 @@ void FinestraPrincipale::ApriStrutturaScelta() {
   const QString file =
       QFileDialog::getOpenFileName(this, QStringLiteral("Apri struttura"), Percorso(m_contesto.Configurazione().base),
                                    QStringLiteral("Struttura utente (*.dat)"));
-  if (!file.isEmpty()) AggiungiFinestra(NuovoEditorStrutture(m_contesto, file), Icona(kIconaStrutture));
+  if (!file.isEmpty()) ApriStruttura(file);
+}
+
+void FinestraPrincipale::ApriStruttura(const QString& file) {
+  AggiungiFinestra(NuovoEditorStrutture(m_contesto, file), Icona(kIconaStrutture));
 }
 
 void FinestraPrincipale::ApriImpostazioni() {

@@ -24,6 +24,8 @@ class FinestraPrincipale : public QMainWindow {
 
   // Opens the script in a new script window and puts it first among the recent scripts.
   void ApriScript(const QString& file);
+  // Opens the structure in a new structure editor.
+  void ApriStruttura(const QString& file);
 
  private:
   void CreaMenu();

@@ -43,6 +43,14 @@ int main(int argc, char** argv) {
   finestra.resize(finestra.screen()->availableGeometry().size() * 9 / 10);
   finestra.showMaximized();
 
+  // Files named on the command line (a double click in a file manager) open as the menus open them.
+  for (const QString& file : QApplication::arguments().mid(1)) {
+    if (file.endsWith(QStringLiteral(".dat"), Qt::CaseInsensitive))
+      finestra.ApriStruttura(file);
+    else
+      finestra.ApriScript(file);
+  }
+
   // Without an archive the desktop still opens: the way to fill it is one menu away.
   if (!caricato)
     QTimer::singleShot(0, &finestra, [&finestra, &contesto, &caricato] {
