@@ -15,6 +15,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <fmt/format.h>
+
 #include <cmath>
 #include <filesystem>
 
@@ -190,6 +192,7 @@ void F_Script::Esegui() {
   opzioni.libreria = ImpostazioniLibreriaDa(configurazione);
   opzioni.timeout_ms = script::TimeoutDaVoce(m_timeout->currentIndex(), m_timeout->currentText().toStdString());
   if (!m_file.isEmpty()) opzioni.nome_script = QFileInfo(m_file).fileName().toStdString();
+  m_nome_codice = opzioni.nome_script;
   std::error_code ignorato;
   std::filesystem::create_directories(opzioni.libreria.cartella_output, ignorato);
 
@@ -224,8 +227,14 @@ void F_Script::Terminata() {
   if (esito.stato == script::EsitoEsecuzione::Stato::ErroreScript && esito.errore) {
     const script::ErroreScript& errore = *esito.errore;
     AggiungiOutput({script::TrattoTesto{script::RapportoErrore(errore), script::kRosso, true}});
-    m_schede->setCurrentWidget(m_editor);
-    m_editor->VaiA(static_cast<int>(errore.riga), static_cast<int>(errore.colonna));
+    if (errore.codice == m_nome_codice) {
+      m_schede->setCurrentWidget(m_editor);
+      m_editor->VaiA(static_cast<int>(errore.riga), static_cast<int>(errore.colonna));
+    } else {
+      AggiungiOutput({script::TrattoTesto{
+          fmt::format("L'errore è nel file di inclusione {}, alla linea {}.\n", errore.codice, errore.riga),
+          script::kRosso, false}});
+    }
     m_dialoghi->Avvisa(Avviso{TipoAvviso::Critico, "EseguiScript", errore.descrizione});
   }
   emit EsecuzioneTerminata();

@@ -76,6 +76,8 @@ class F_Script : public QWidget {
   std::unique_ptr<DialoghiScript> m_dialoghi;
   std::unique_ptr<EsecuzioneInThread> m_esecuzione;
   QString m_file;
+  // The name the running script's own code has in its errors: an error elsewhere is in an include.
+  std::string m_nome_codice;
 
   EditorScript* m_editor = nullptr;
   QTextEdit* m_output = nullptr;

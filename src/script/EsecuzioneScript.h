@@ -44,6 +44,9 @@ struct ErroreScript {
   uint32_t riga = 0;
   uint32_t colonna = 0;
   std::string sorgente;
+  // The code the line and column belong to: the script's own name (OpzioniEsecuzione::nome_script)
+  // or the file name of an included file, so that a window moves the caret only in its own text.
+  std::string codice;
 };
 
 // The lines the output receives: "Errore script !", number - description, "Linea   : ",

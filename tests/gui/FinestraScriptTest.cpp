@@ -282,6 +282,14 @@ class FinestraScriptTest : public QObject {
     QCOMPARE(m_dialoghi->avvisi[0].tipo, TipoAvviso::Critico);
     QCOMPARE(m_dialoghi->avvisi[0].titolo, std::string("EseguiScript"));
     QCOMPARE(m_dialoghi->avvisi[0].testo, std::string("Variabile non definita"));
+
+    // An error inside the included file leaves the caret alone: its line is the other file's.
+    std::ofstream(m_base->Percorso() / "Script/Funzioni/Lib.ls") << "Function Due\nDue = 2 / 0\nEnd Function\n";
+    m_finestra->Editor()->setCursorPosition(0, 0);
+    Esegui("Option Explicit\nincludi Lib.ls\nSub Main\nScrivi Due()\nEnd Sub");
+    m_finestra->Editor()->getCursorPosition(&riga, &colonna);
+    QCOMPARE(riga, 0);
+    QVERIFY(m_finestra->Output()->toPlainText().endsWith("L'errore è nel file di inclusione Lib.ls, alla linea 2.\n"));
   }
 
   void UnNuovoScriptPartDalModelloELeModificheSiConfermano() {

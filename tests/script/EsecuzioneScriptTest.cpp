@@ -153,6 +153,14 @@ TEST_F(EsecuzioneScript, ErrorsGiveTheLineOfTheUsersFileAndThePageIsStillClosed)
             "Errore di run-time di VBScript\n");
   EXPECT_EQ(m_ospite.Testo(), "2\n");
   EXPECT_TRUE(Leggi(esito.pagina_html).ends_with("</html>\n"));
+  EXPECT_EQ(esito.errore->codice, "script");
+
+  Scrivi(m_base / "Script/Funzioni/Lib.ls", "Function Due\nDue = 2\nDue = Due / 0\nEnd Function\n");
+  auto nellInclusione = Esegui("includi Lib.ls\nSub Main\nScrivi Due()\nEnd Sub");
+  ASSERT_EQ(nellInclusione.stato, EsitoEsecuzione::Stato::ErroreScript);
+  EXPECT_EQ(nellInclusione.errore->numero, 11);
+  EXPECT_EQ(nellInclusione.errore->riga, 3u);
+  EXPECT_EQ(nellInclusione.errore->codice, "Lib.ls") << "the line is the included file's";
 }
 
 TEST_F(EsecuzioneScript, AScriptWithoutMainFailsAtTheCallOfMain) {
