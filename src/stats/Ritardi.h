@@ -70,10 +70,15 @@ class ColonneRuote {
   const uint8_t* Numeri(int id, int base) const {
     return &m_colonne[static_cast<size_t>(base / kNumeriPerRuota)][static_cast<size_t>(id - 1) * kNumeriPerRuota];
   }
+  // A wheel's (1..11) whole column: the five numbers of draw 1, then of draw 2, ...
+  const uint8_t* Colonna(int ruota) const { return m_colonne[static_cast<size_t>(ruota - 1)].data(); }
+  // The draws 1..id (id from 0) in which the wheel was drawn.
+  int Contate(int ruota, int id) const { return m_contate[static_cast<size_t>(ruota - 1)][static_cast<size_t>(id)]; }
 
  private:
   int m_estrazioni;
   std::array<std::vector<uint8_t>, kNumeroRuote> m_colonne;
+  std::array<std::vector<int>, kNumeroRuote> m_contate;
 };
 
 // StatisticaCombinazione over the columns: the same figures.

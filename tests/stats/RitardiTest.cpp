@@ -200,7 +200,8 @@ TEST(StatisticheDiCombinazione, CoincidonoConLaDefinizioneSuOgniFineDelTratto) {
     Posizioni posizioni;
   };
   const std::vector<Caso> casi{
-      {{BA}, {3}, 1, kTuttePosizioni},    {{NZ}, {3, 4}, 1, kTuttePosizioni},
+      {{BA}, {3}, 1, kTuttePosizioni},    {{CA}, {5}, 1, kTuttePosizioni},
+      {{NZ}, {7}, 1, kTuttePosizioni},    {{NZ}, {3, 4}, 1, kTuttePosizioni},
       {{12}, {1, 2}, 2, kTuttePosizioni}, {{CA, NZ}, {1, 2, 3}, 2, kTuttePosizioni},
       {{FI}, {5, 6, 7, 8}, 2, kPrimeDue}, {{12}, {1, 2, 3, 4, 5}, 3, kTuttePosizioni},
       {{GE, 12}, {9}, 1, kSoloPrima},     {{12}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, 5, kTuttePosizioni},
@@ -258,6 +259,9 @@ TEST(ColonneRuote, UnRecordSenzaBariResterebbeFuoriAncheConAltreRuotePiene) {
   // Without Bari a record holds no draw, by the archive's rule, even though its other wheels keep
   // their numbers: the columns must not let those numbers count or win.
   for (int p = 1; p <= kNumeriPerRuota; ++p) tab[10].ImpostaNumero(BA, p, 0);
+  // A damaged record that repeats a number on a wheel wins once there, as the walk counts it.
+  tab[20].ImpostaNumero(CA, 1, 4);
+  tab[20].ImpostaNumero(CA, 2, 4);
   const ColonneRuote colonne(tab);
   for (const std::vector<int>& ruote : {std::vector<int>{CA}, std::vector<int>{12}}) {
     for (int numero = 1; numero <= 12; ++numero) {
