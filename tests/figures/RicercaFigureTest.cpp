@@ -5,21 +5,14 @@
 #include "figures/Piazzamento.h"
 #include "figures/RicercaFigure.h"
 #include "figures/StatisticaStrutture.h"
-#include "stats/ArchiviDiProva.h"
+#include "FigureDiProva.h"
 
 namespace lottolab::figures {
 namespace {
 
-using test::Archivio;
-
-ClsVertice Vertice(int16_t index, const char* caption, int16_t riga, int16_t colonna) {
-  ClsVertice vertice;
-  vertice.Index = index;
-  vertice.Caption = caption;
-  vertice.Riga = riga;
-  vertice.Colonna = colonna;
-  return vertice;
-}
+using lottolab::test::Archivio;
+using test::SeiEstrazioni;
+using test::Vertice;
 
 // A going down one row and right one column to B, both numbers equal.
 Struttura Diagonale() {
@@ -138,17 +131,8 @@ TEST(RicercaFigure, TheStopAnswerEndsTheSearchWithWhatWasFound) {
   EXPECT_TRUE(trovate->empty());
 }
 
-// 7 comes out on Bari at draws 1, 3, 4 and 6 (in position 5 at draws 3 and 4), and on Cagliari at
-// draw 2.
 TEST(StatisticaStrutture, EachFigurePlaysItsClosureNumbersOnItsWheelsForTheColpi) {
-  const TabellaEstrazioni tab = Archivio()
-                                    .Estrazione({{BA, {7, 1, 2, 3, 4}}})
-                                    .Estrazione({{BA, {1, 2, 3, 4, 5}}, {CA, {7, 1, 2, 3, 4}}})
-                                    .Estrazione({{BA, {8, 9, 10, 11, 7}}})
-                                    .Estrazione({{BA, {1, 2, 3, 4, 7}}})
-                                    .Estrazione({{BA, {1, 2, 3, 4, 5}}})
-                                    .Estrazione({{BA, {7, 2, 3, 4, 5}}})
-                                    .Tabella();
+  const TabellaEstrazioni tab = SeiEstrazioni();
   // One vertex holding 7 (the play), another on the same draw one column on (not played).
   Struttura struttura{{Vertice(1, "A", 0, 1), Vertice(2, "B", 0, 2)}, {}, {"[A] = 7"}};
   struttura.vertici[0].UsaPerChiusura = true;
@@ -181,7 +165,7 @@ TEST(StatisticaStrutture, EachFigurePlaysItsClosureNumbersOnItsWheelsForTheColpi
 // A square of four cells, two conditions: counted again here cell by cell.
 TEST(RicercaFigure, OnTheRealArchiveTheSearchFindsWhatAPlainWalkFinds) {
   LOTTOLAB_RICHIEDI_DATI_REALI();
-  const TabellaEstrazioni& tab = test::ArchivioReale();
+  const TabellaEstrazioni& tab = lottolab::test::ArchivioReale();
   const Struttura quadrato{
       {Vertice(1, "A", 0, 1), Vertice(2, "B", 0, 2), Vertice(3, "C", 1, 1), Vertice(4, "D", 1, 2)},
       {{1, 1, 2}, {2, 2, 4}, {3, 4, 3}, {4, 3, 1}},

@@ -18,7 +18,7 @@
 #include "gui/StruttureCondizioni.h"
 #include "gui/StruttureModello.h"
 #include "gui/StruttureRicerca.h"
-#include "stats/ArchiviDiProva.h"
+#include "figures/FigureDiProva.h"
 
 namespace lottolab::gui {
 
@@ -30,25 +30,8 @@ std::vector<int16_t> Index(const StruttureModello& modello) {
   return index;
 }
 
-figures::ClsVertice Vertice(int16_t index, const char* caption) {
-  figures::ClsVertice vertice;
-  vertice.Index = index;
-  vertice.Caption = caption;
-  return vertice;
-}
-
-// 7 comes out on Bari at draws 1 and 6 (position 1) and 3 and 4 (position 5), and on Cagliari
-// (position 1) at draw 2; every other cell holds 81..85.
-TabellaEstrazioni SeiEstrazioni() {
-  return test::Archivio()
-      .Estrazione({{BA, {7, 1, 2, 3, 4}}})
-      .Estrazione({{BA, {1, 2, 3, 4, 5}}, {CA, {7, 1, 2, 3, 4}}})
-      .Estrazione({{BA, {8, 9, 10, 11, 7}}})
-      .Estrazione({{BA, {1, 2, 3, 4, 7}}})
-      .Estrazione({{BA, {1, 2, 3, 4, 5}}})
-      .Estrazione({{BA, {7, 2, 3, 4, 5}}})
-      .Tabella();
-}
+using figures::test::SeiEstrazioni;
+using figures::test::Vertice;
 
 // A on a cell holding 7, B on the next column of the same draw; A's number is the play.
 RichiestaRicerca SetteEVicino() {
