@@ -2,6 +2,7 @@
 
 // A fresh folder for one test, removed with everything in it when the test ends.
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -29,6 +30,14 @@ class CartellaTemporanea {
 
  private:
   std::filesystem::path m_percorso;
+};
+
+// A fresh folder that is also the program's base folder while it lives, so that no user's
+// configuration is read and whatever the code under test saves there goes with it.
+class BaseTemporanea : public CartellaTemporanea {
+ public:
+  BaseTemporanea() { setenv("LOTTOLAB_HOME", Percorso().c_str(), 1); }
+  ~BaseTemporanea() { unsetenv("LOTTOLAB_HOME"); }
 };
 
 inline std::vector<unsigned char> LeggiByte(const std::filesystem::path& file) {

@@ -5,6 +5,7 @@
 
 #include "DatiReali.h"
 #include "LottolabDiProva.h"
+#include "RisultatiDiProva.h"
 
 namespace lottolab::cli {
 namespace {
@@ -26,16 +27,7 @@ class RigaDiComando : public LottolabDiProva {
   }
 };
 
-// Three draws: Venezia gives 7 in the second; the Nazionale wheel appears in the third.
-constexpr const char* kRisultati =
-    "2005/04/30\tBA\t1\t2\t3\t4\t5\n"
-    "2005/04/30\tVE\t10\t11\t12\t13\t14\n"
-    "2005/05/03\tBA\t21\t22\t23\t24\t25\n"
-    "2005/05/03\tVE\t6\t7\t8\t9\t15\n"
-    "2005/05/04\tBA\t31\t32\t33\t34\t35\n"
-    "2005/05/04\tRM\t41\t42\t43\t44\t45\n"
-    "2005/05/04\tRN\t51\t52\t53\t54\t7\n"
-    "2005/05/04\tVE\t61\t62\t63\t64\t65\n";
+using test::kRisultati;
 
 TEST_F(RigaDiComando, ImportaInfoEdEstrazione) {
   auto file = ScriviRisultati("risultati.txt", kRisultati);

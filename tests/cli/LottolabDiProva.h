@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -23,16 +22,13 @@ struct Uscita {
 
 class LottolabDiProva : public ::testing::Test {
  protected:
-  void SetUp() override { setenv("LOTTOLAB_HOME", m_base.Percorso().c_str(), 1); }
-  void TearDown() override { unsetenv("LOTTOLAB_HOME"); }
-
   Uscita Lottolab(const std::vector<std::string>& parole) {
     std::ostringstream out, err;
     int codice = EseguiLottolab(parole, out, err);
     return {codice, out.str(), err.str()};
   }
 
-  test::CartellaTemporanea m_base;
+  test::BaseTemporanea m_base;
 };
 
 }  // namespace lottolab::cli

@@ -4,10 +4,10 @@
 #include <QTableView>
 #include <QTest>
 
-#include <cstdlib>
 #include <fstream>
 #include <memory>
 
+#include "RisultatiDiProva.h"
 #include "TempDir.h"
 #include "app/Percorsi.h"
 #include "archive/ClsEstrazioni.h"
@@ -19,19 +19,9 @@
 namespace lottolab::gui {
 namespace {
 
-using test::CartellaTemporanea;
+using test::BaseTemporanea;
 
-// Three draws in the operator's layout. Rome is written "RM" and Nazionale "RN"; Nazionale and Rome
-// are drawn only in the third, so the first two show those wheels empty.
-constexpr const char* kRisultati =
-    "2005/04/30\tBA\t1\t2\t3\t4\t5\n"
-    "2005/04/30\tVE\t10\t11\t12\t13\t14\n"
-    "2005/05/03\tBA\t21\t22\t23\t24\t25\n"
-    "2005/05/03\tVE\t6\t7\t8\t9\t15\n"
-    "2005/05/04\tBA\t31\t32\t33\t34\t35\n"
-    "2005/05/04\tRM\t41\t42\t43\t44\t45\n"
-    "2005/05/04\tRN\t51\t52\t53\t54\t7\n"
-    "2005/05/04\tVE\t61\t62\t63\t64\t65\n";
+using test::kRisultati;
 
 // A fourth draw, later than the three above.
 constexpr const char* kRisultatiSeguenti = "2005/05/07\tBA\t90\t89\t88\t87\t86\n";
@@ -48,7 +38,7 @@ class FinestraArchivioTest : public QObject {
   Q_OBJECT
 
  private:
-  std::unique_ptr<CartellaTemporanea> m_cartella;
+  std::unique_ptr<BaseTemporanea> m_cartella;
 
   std::filesystem::path Scrivi(const std::string& nome, const std::string& testo) {
     auto file = *m_cartella / nome;
@@ -61,14 +51,8 @@ class FinestraArchivioTest : public QObject {
   }
 
  private slots:
-  void init() {
-    m_cartella = std::make_unique<CartellaTemporanea>();
-    setenv("LOTTOLAB_HOME", m_cartella->Percorso().c_str(), 1);
-  }
-  void cleanup() {
-    unsetenv("LOTTOLAB_HOME");
-    m_cartella.reset();
-  }
+  void init() { m_cartella = std::make_unique<BaseTemporanea>(); }
+  void cleanup() { m_cartella.reset(); }
 
   void ModelloMostraLeEstrazioni() {
     ModelloEstrazioni modello(TabellaDi(kRisultati));

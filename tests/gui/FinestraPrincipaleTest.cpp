@@ -7,7 +7,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <cstdlib>
 #include <fstream>
 #include <memory>
 
@@ -23,7 +22,7 @@
 namespace lottolab::gui {
 namespace {
 
-using test::CartellaTemporanea;
+using test::BaseTemporanea;
 
 // Two draws, then a third that a later update brings.
 constexpr const char* kDueEstrazioni =
@@ -35,7 +34,7 @@ class FinestraPrincipaleTest : public QObject {
   Q_OBJECT
 
  private:
-  std::unique_ptr<CartellaTemporanea> m_cartella;
+  std::unique_ptr<BaseTemporanea> m_cartella;
 
   std::filesystem::path Scrivi(const std::string& nome, const std::string& testo) {
     auto file = *m_cartella / nome;
@@ -63,14 +62,8 @@ class FinestraPrincipaleTest : public QObject {
   }
 
  private slots:
-  void init() {
-    m_cartella = std::make_unique<CartellaTemporanea>();
-    setenv("LOTTOLAB_HOME", m_cartella->Percorso().c_str(), 1);
-  }
-  void cleanup() {
-    unsetenv("LOTTOLAB_HOME");
-    m_cartella.reset();
-  }
+  void init() { m_cartella = std::make_unique<BaseTemporanea>(); }
+  void cleanup() { m_cartella.reset(); }
 
   void TitoloEStatoDellArchivio() {
     Scrivi("lottolab.ini", "[GENERALE]\nsFileBd=dati/Estrazioni.dat\n");

@@ -30,16 +30,6 @@ void Scrivi(const fs::path& file, std::string_view testo) {
   std::ofstream(file, std::ios::binary) << testo;
 }
 
-// Every wheel holds (wheel * 7 + position) so that any wheel read by mistake shows.
-Estrazione Datata(int id, GruppoData data) {
-  Estrazione estrazione;
-  estrazione.id_estr = id;
-  estrazione.data = data;
-  for (int ruota = 1; ruota <= kNumeroRuote; ++ruota)
-    for (int p = 1; p <= kNumeriPerRuota; ++p) estrazione.ImpostaNumero(ruota, p, ruota * 7 + p);
-  return estrazione;
-}
-
 // Tuesdays and Thursdays across a year's end, a Saturday, and February.
 TabellaEstrazioni TabellaDatata() {
   return TabellaEstrazioni({

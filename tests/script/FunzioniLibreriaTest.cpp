@@ -12,16 +12,6 @@ namespace {
 
 using test::Archivio;
 
-// Every wheel holds (wheel * 7 + position) so that any wheel read by mistake shows.
-Estrazione Datata(int id, GruppoData data) {
-  Estrazione estrazione;
-  estrazione.id_estr = id;
-  estrazione.data = data;
-  for (int ruota = 1; ruota <= kNumeroRuote; ++ruota)
-    for (int p = 1; p <= kNumeriPerRuota; ++p) estrazione.ImpostaNumero(ruota, p, ruota * 7 + p);
-  return estrazione;
-}
-
 // Dates chosen to cross a year, to repeat a month in two years and to leave gaps between draws.
 TabellaEstrazioni TabellaDatata() {
   return TabellaEstrazioni({

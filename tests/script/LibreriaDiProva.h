@@ -15,6 +15,17 @@
 
 namespace lottolab::script {
 
+// A draw of the given date in which every wheel holds (wheel * 7 + position), so that any wheel
+// read by mistake shows.
+inline Estrazione Datata(int id, GruppoData data) {
+  Estrazione estrazione;
+  estrazione.id_estr = id;
+  estrazione.data = data;
+  for (int ruota = 1; ruota <= kNumeroRuote; ++ruota)
+    for (int p = 1; p <= kNumeriPerRuota; ++p) estrazione.ImpostaNumero(ruota, p, ruota * 7 + p);
+  return estrazione;
+}
+
 // Keeps everything the library hands to its host.
 class OspiteDiProva final : public InterfacciaScript {
  public:
