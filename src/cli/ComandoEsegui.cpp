@@ -8,8 +8,10 @@
 #include <sstream>
 
 #include "Comandi.h"
+#include "app/Percorsi.h"
 #include "archive/ClsEstrazioni.h"
 #include "script/EsecuzioneScript.h"
+#include "script/LetturaFile.h"
 #include "vbscript/Interpreter.h"
 #include "vbscript/Utf.h"
 
@@ -20,7 +22,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kUsoEsegui =
-    "uso: lottolab esegui SCRIPT.ls [--timeout MINUTI] [--html FILE] [--risposte FILE]";
+    "uso: lottolab esegui SCRIPT.ls [--protetto] [--timeout MINUTI] [--html FILE] [--risposte FILE]";
 
 // "3", "1.4.7", "2, 5": whole numbers separated by "." or ","; nothing when anything else is there.
 std::optional<std::vector<int>> NumeriDellaRisposta(std::string_view riga) {
@@ -124,9 +126,10 @@ class OspiteTerminale final : public script::InterfacciaScript {
   std::deque<std::string> m_risposte;
 };
 
-std::optional<std::deque<std::string>> RigheDelFile(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) return std::nullopt;
+Esito<std::deque<std::string>> RigheDelFile(const fs::path& file) {
+  auto contenuto = script::LeggiFileRegolare(file, script::kLimiteFileScript);
+  if (!contenuto) return contenuto.Errore();
+  std::istringstream in(std::move(contenuto).Valore());
   std::deque<std::string> righe;
   for (std::string riga; std::getline(in, riga);) {
     if (righe.empty() && riga.starts_with("\xEF\xBB\xBF")) riga.erase(0, 3);
@@ -172,9 +175,12 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
   std::optional<fs::path> pagina;
   std::deque<std::string> risposte;
   int32_t timeout_ms = -1;
+  script::Modalita modalita = script::Modalita::Normale;
   for (size_t i = 0; i < parole.size(); ++i) {
     const std::string& parola = parole[i];
-    if (parola == "--timeout" || parola == "--html" || parola == "--risposte") {
+    if (parola == "--protetto") {
+      modalita = script::Modalita::Protetta;
+    } else if (parola == "--timeout" || parola == "--html" || parola == "--risposte") {
       if (i + 1 == parole.size())
         return contesto.Fallisci(AvvisoEsclamativo(fmt::format("manca il valore dell'opzione {}", parola)));
       const std::string& valore = parole[++i];
@@ -185,13 +191,17 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
       if (parola == "--risposte") {
         auto righe = RigheDelFile(valore);
         if (!righe)
-          return contesto.Fallisci(AvvisoEsclamativo(fmt::format("impossibile leggere il file delle risposte {}", valore)));
-        risposte = std::move(*righe);
+          return contesto.Fallisci(
+              AvvisoEsclamativo(fmt::format("file delle risposte non letto: {}", righe.Errore().testo)));
+        risposte = std::move(righe).Valore();
         continue;
       }
       auto minuti = Minuti(valore);
       if (!minuti)
         return contesto.Fallisci(AvvisoEsclamativo(fmt::format("--timeout vuole i minuti (0 = Infinito): {}", valore)));
+      if (*minuti > script::kMinutiTimeoutMassimi)
+        return contesto.Fallisci(AvvisoEsclamativo(fmt::format(
+            "--timeout al massimo {} minuti (circa 24 giorni; 0 = Infinito): {}", script::kMinutiTimeoutMassimi, valore)));
       timeout_ms = *minuti == 0 ? -1 : std::max(1, static_cast<int32_t>(*minuti * 60000));
     } else if (!script_file && !parola.starts_with("--")) {
       script_file = parola;
@@ -200,10 +210,8 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
     }
   }
   if (!script_file) return contesto.Fallisci(AvvisoEsclamativo(std::string(kUsoEsegui)));
-  std::ifstream in(*script_file, std::ios::binary);
-  if (!in) return contesto.Fallisci(AvvisoEsclamativo(fmt::format("impossibile leggere il file {}", script_file->string())));
-  std::stringstream contenuto;
-  contenuto << in.rdbuf();
+  auto contenuto = script::LeggiFileRegolare(*script_file, script::kLimiteFileScript);
+  if (!contenuto) return contesto.Fallisci(contenuto.Errore());
 
   std::optional<TabellaEstrazioni> archivio;
   if (fs::exists(contesto.archivio)) {
@@ -217,6 +225,10 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
   opzioni.libreria.cartella_base = contesto.configurazione.base;
   opzioni.libreria.cartella_dati_app = contesto.configurazione.base;
   opzioni.libreria.cartella_output = pagina ? pagina->parent_path() : contesto.configurazione.base / "scriptOutput";
+  opzioni.libreria.modalita = modalita;
+  opzioni.libreria.sola_lettura = {contesto.archivio, contesto.configurazione.ArchivioLotto(),
+                                   contesto.configurazione.ArchivioModificabile(),
+                                   app::FileConfigurazione(contesto.configurazione.base)};
   if (pagina) opzioni.nome_file_html = pagina->filename().string();
   opzioni.timeout_ms = timeout_ms;
   opzioni.nome_script = script_file->filename().string();
@@ -226,7 +238,7 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
   OspiteTerminale ospite(contesto.out, contesto.segnalatore, err, std::move(risposte));
   UiSenzaRisposte ui(err);
   script::EsecutoreScript esecutore(ospite, &ui);
-  const auto esito = esecutore.Esegui(vbs::DecodeScriptFile(contenuto.str()), opzioni);
+  const auto esito = esecutore.Esegui(vbs::DecodeScriptFile(*contenuto), opzioni);
   contesto.out.flush();
   switch (esito.stato) {
     case script::EsitoEsecuzione::Stato::Completato:

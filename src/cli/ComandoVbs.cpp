@@ -1,12 +1,11 @@
 #include <filesystem>
 #include <fmt/format.h>
 #include <fmt/ostream.h>
-#include <fstream>
 #include <iostream>
-#include <sstream>
 
 #include "Comandi.h"
 #include "WScript.h"
+#include "script/LetturaFile.h"
 #include "vbscript/ScriptControl.h"
 #include "vbscript/Utf.h"
 
@@ -59,10 +58,8 @@ int ComandoVbs(Contesto& contesto, const Parole& parole, std::ostream& err) {
   if (i == parole.size())
     return contesto.Fallisci(AvvisoEsclamativo("uso: lottolab vbs [--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]"));
   fs::path file = parole[i];
-  std::ifstream in(file, std::ios::binary);
-  if (!in) return contesto.Fallisci(AvvisoEsclamativo(fmt::format("impossibile leggere il file {}", file.string())));
-  std::stringstream contenuto;
-  contenuto << in.rdbuf();
+  auto contenuto = script::LeggiFileRegolare(file, script::kLimiteFileScript);
+  if (!contenuto) return contesto.Fallisci(contenuto.Errore());
 
   vbs::ScriptControl motore;
   UiTerminale ui(contesto.out);
@@ -75,7 +72,7 @@ int ComandoVbs(Contesto& contesto, const Parole& parole, std::ostream& err) {
                                                                 parole.end()),
                                        contesto.out, err);
   (void)motore.AddObject("WScript", wscript, false);
-  auto esito = motore.AddCode(vbs::DecodeScriptFile(contenuto.str()), file.string());
+  auto esito = motore.AddCode(vbs::DecodeScriptFile(*contenuto), file.string());
   if (auto codice = wscript->CodiceUscita()) return *codice;
   if (!esito) {
     const vbs::ScriptErrorInfo& errore = motore.Error();

@@ -5,6 +5,9 @@ namespace lottolab::gui {
 namespace {
 
 constexpr int kAttesaFineMs = 50;
+// The engine stops deep recursion by the stack it finds: a large one lets scripts recurse as deep
+// as its own limit of calls allows. Only the pages used are ever taken from memory.
+constexpr uint kStackScript = 512u << 20;
 
 }  // namespace
 
@@ -32,8 +35,10 @@ bool EsecuzioneInThread::Avvia(const QString& testo, script::OpzioniEsecuzione o
   m_testo = testo.toStdU16String();
   m_opzioni = std::move(opzioni);
   m_opzioni.libreria.archivio = m_archivio && !m_archivio->Vuota() ? m_archivio.get() : nullptr;
+  m_ospite.Azzera();
   m_thread.reset(QThread::create([this] { m_esito = m_esecutore.Esegui(m_testo, m_opzioni); }));
-  // Queued behind the output the worker handed over, so the window has it all by then.
+  m_thread->setStackSize(kStackScript);
+  // The text still gathered is handed over when this arrives, before Terminata.
   connect(m_thread.get(), &QThread::finished, this, &EsecuzioneInThread::Conclusa, Qt::QueuedConnection);
   m_thread->start();
   return true;
@@ -45,6 +50,7 @@ void EsecuzioneInThread::InterrompiSubito() { m_esecutore.InterrompiSubito(); }
 
 void EsecuzioneInThread::Conclusa() {
   m_thread->wait();
+  m_ospite.ConsegnaInSospeso();
   m_thread.reset();
   m_archivio.reset();
   emit Terminata();

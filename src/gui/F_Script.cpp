@@ -25,12 +25,17 @@
 #include "Impostazioni.h"
 #include "ScriptConfigurazione.h"
 #include "ScriptDialoghiQt.h"
+#include "ScriptModalita.h"
+#include "script/LetturaFile.h"
 #include "script/OutputHtml.h"
 #include "vbscript/Utf.h"
 
 namespace lottolab::gui {
 
 namespace {
+
+// A page larger than this takes the browser seconds to lay out: the tab links to it instead.
+constexpr uintmax_t kMassimoPaginaMostrata = uintmax_t{4} << 20;
 
 QString Modello() {
   return QString::fromUtf8(script::kModelloScript.data(), static_cast<qsizetype>(script::kModelloScript.size()));
@@ -114,6 +119,14 @@ void F_Script::CreaComandi(QVBoxLayout* layout) {
   m_timeout = new QComboBox(comandi);
   for (const std::string& voce : script::VociTimeout()) m_timeout->addItem(QString::fromStdString(voce));
   comandi->addWidget(m_timeout);
+  m_protetto = comandi->addAction(QStringLiteral("Protetto"));
+  m_protetto->setCheckable(true);
+  m_protetto->setToolTip(QStringLiteral(
+      "Modalità protetta: lo script legge solo nella cartella di lottolab, scrive solo in scriptOutput, "
+      "non tocca lottolab.ini né gli archivi e non apre altri programmi"));
+  connect(m_protetto, &QAction::triggered, this, [this](bool attivo) {
+    ImpostaModalita(attivo ? script::Modalita::Protetta : script::Modalita::Normale);
+  });
   comandi->addSeparator();
   comando(QStringLiteral("Esegui"), QKeySequence(Qt::Key_F5), &F_Script::Esegui);
   m_stop = comandi->addAction(QStringLiteral("Stop"), this, &F_Script::Ferma);
@@ -127,7 +140,32 @@ bool F_Script::InEsecuzione() const { return m_esecuzione->InEsecuzione(); }
 
 void F_Script::AggiornaTitolo() {
   const QString nome = m_file.isEmpty() ? QStringLiteral("nuovo script") : QFileInfo(m_file).fileName();
-  setWindowTitle(QStringLiteral("Script - %1[*]").arg(nome));
+  const QString modo = m_modalita == script::Modalita::Protetta ? QStringLiteral(" (protetto)") : QString();
+  setWindowTitle(QStringLiteral("Script - %1%2[*]").arg(nome, modo));
+}
+
+void F_Script::MostraModalita(script::Modalita modalita) {
+  m_modalita = modalita;
+  m_protetto->setChecked(modalita == script::Modalita::Protetta);
+  AggiornaTitolo();
+}
+
+void F_Script::ImpostaModalita(script::Modalita modalita) {
+  MostraModalita(modalita);
+  if (m_impronta.empty()) return;
+  auto ricordata = RicordaModalita(m_contesto.Configurazione().base, m_impronta, modalita);
+  if (!ricordata) m_dialoghi->Avvisa(ricordata.Errore());
+}
+
+script::Modalita F_Script::ModalitaDelFile(const QString& file, const QByteArray& contenuto) {
+  m_impronta.clear();
+  if (NellaCartella(file.toStdString(), CartellaScript(m_contesto.Configurazione()))) return script::Modalita::Normale;
+  m_impronta = ImprontaScript(contenuto);
+  if (auto ricordata = ModalitaRicordata(m_contesto.Configurazione().base, m_impronta)) return *ricordata;
+  const script::Modalita scelta = m_dialoghi->SceltaModalita(file);
+  auto ricordata = RicordaModalita(m_contesto.Configurazione().base, m_impronta, scelta);
+  if (!ricordata) m_dialoghi->Avvisa(ricordata.Errore());
+  return scelta;
 }
 
 bool F_Script::ProseguoSenzaSalvare() {
@@ -138,7 +176,8 @@ void F_Script::Nuovo() {
   if (!ProseguoSenzaSalvare()) return;
   m_editor->ImpostaTesto(Modello());
   m_file.clear();
-  AggiornaTitolo();
+  m_impronta.clear();
+  MostraModalita(script::Modalita::Normale);
 }
 
 void F_Script::Apri() {
@@ -150,16 +189,18 @@ void F_Script::Apri() {
 bool F_Script::ApriFile(const QString& file) { return ProseguoSenzaSalvare() && CaricaFile(file); }
 
 bool F_Script::CaricaFile(const QString& file) {
-  QFile in(file);
-  if (!in.open(QIODevice::ReadOnly)) {
-    m_dialoghi->Avvisa(AvvisoEsclamativo("Impossibile leggere il file " + file.toStdString()));
+  auto letto = script::LeggiFileRegolare(file.toStdString(), script::kLimiteFileScript);
+  if (!letto) {
+    m_dialoghi->Avvisa(letto.Errore());
     return false;
   }
-  const QByteArray byte = in.readAll();
-  const std::u16string testo = vbs::DecodeScriptFile(std::string_view(byte.constData(), static_cast<size_t>(byte.size())));
+  const std::string& byte = *letto;
+  const std::u16string testo = vbs::DecodeScriptFile(byte);
+  const script::Modalita modalita =
+      ModalitaDelFile(file, QByteArray::fromRawData(byte.data(), static_cast<qsizetype>(byte.size())));
   m_editor->ImpostaTesto(QString::fromStdU16String(testo));
   m_file = file;
-  AggiornaTitolo();
+  MostraModalita(modalita);
   return true;
 }
 
@@ -191,6 +232,7 @@ void F_Script::Esegui() {
   script::OpzioniEsecuzione opzioni;
   opzioni.libreria = ImpostazioniLibreriaDa(configurazione);
   opzioni.timeout_ms = script::TimeoutDaVoce(m_timeout->currentIndex(), m_timeout->currentText().toStdString());
+  opzioni.libreria.modalita = m_modalita;
   if (!m_file.isEmpty()) opzioni.nome_script = QFileInfo(m_file).fileName().toStdString();
   m_nome_codice = opzioni.nome_script;
   std::error_code ignorato;
@@ -220,10 +262,7 @@ void F_Script::Terminata() {
   m_stop->setEnabled(false);
   m_interrompi->setEnabled(false);
   const script::EsitoEsecuzione& esito = m_esecuzione->Esito();
-  if (!esito.pagina_html.empty() && std::filesystem::exists(esito.pagina_html)) {
-    m_html->setSource(QUrl::fromLocalFile(QString::fromStdString(esito.pagina_html.string())));
-    m_html->reload();
-  }
+  if (!esito.pagina_html.empty()) MostraPagina(esito.pagina_html);
   if (esito.stato == script::EsitoEsecuzione::Stato::ErroreScript && esito.errore) {
     const script::ErroreScript& errore = *esito.errore;
     AggiungiOutput({script::TrattoTesto{script::RapportoErrore(errore), script::kRosso, true}});
@@ -238,6 +277,22 @@ void F_Script::Terminata() {
     m_dialoghi->Avvisa(Avviso{TipoAvviso::Critico, "EseguiScript", errore.descrizione});
   }
   emit EsecuzioneTerminata();
+}
+
+void F_Script::MostraPagina(const std::filesystem::path& pagina) {
+  std::error_code ec;
+  const uintmax_t dimensione = std::filesystem::file_size(pagina, ec);
+  if (ec) return;
+  const QUrl indirizzo = QUrl::fromLocalFile(QString::fromStdString(pagina.string()));
+  if (dimensione > kMassimoPaginaMostrata) {
+    m_html->setHtml(QStringLiteral("<p>La pagina HTML di questa esecuzione è di %1 MB, troppo grande per mostrarla "
+                                   "qui.</p><p><a href=\"%2\">%3</a></p>")
+                        .arg(dimensione >> 20)
+                        .arg(indirizzo.toString(), QString::fromStdString(pagina.string()).toHtmlEscaped()));
+    return;
+  }
+  m_html->setSource(indirizzo);
+  m_html->reload();
 }
 
 void F_Script::Ferma() {

@@ -2,14 +2,19 @@
 
 // The script window: the editor of a script file, its run on a worker thread with the time-out,
 // the stop and the immediate interruption, and the run's text output and HTML page in their tabs.
+// A script opened from outside the user's scripts folder runs in the mode the user chose for it
+// (ScriptModalita.h); the "Protetto" button shows and changes the mode of the script in the editor.
 
 #include <QWidget>
 
+#include <filesystem>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "ContestoGui.h"
 #include "ScriptDialoghi.h"
+#include "script/AccessoFile.h"
 #include "script/InterfacciaScript.h"
 
 class QAction;
@@ -46,6 +51,7 @@ class F_Script : public QWidget {
   QProgressBar* Avanzamento() const { return m_avanzamento; }
   QComboBox* Timeout() const { return m_timeout; }
   const QString& File() const { return m_file; }
+  script::Modalita Modalita() const { return m_modalita; }
 
  public slots:
   void Nuovo();
@@ -56,6 +62,9 @@ class F_Script : public QWidget {
   // Asks, then sets the stop the script sees through ScriptInterrotto.
   void Ferma();
   void InterrompiSubito();
+  // The mode the next run uses; remembered for the opened file's content when it came from outside
+  // the scripts folder.
+  void ImpostaModalita(script::Modalita modalita);
 
  signals:
   void EsecuzioneTerminata();
@@ -71,11 +80,17 @@ class F_Script : public QWidget {
   void AggiungiOutput(const std::vector<script::TrattoTesto>& tratti);
   void Terminata();
   void AggiornaTitolo();
+  void MostraModalita(script::Modalita modalita);
+  // The mode for a file just read: normal in the scripts folder, else the remembered or asked one.
+  script::Modalita ModalitaDelFile(const QString& file, const QByteArray& contenuto);
+  void MostraPagina(const std::filesystem::path& pagina);
 
   ContestoGui& m_contesto;
   std::unique_ptr<DialoghiScript> m_dialoghi;
   std::unique_ptr<EsecuzioneInThread> m_esecuzione;
   QString m_file;
+  script::Modalita m_modalita = script::Modalita::Normale;
+  std::string m_impronta;  // of the opened file when it came from outside the scripts folder
   // The name the running script's own code has in its errors: an error elsewhere is in an include.
   std::string m_nome_codice;
 
@@ -89,6 +104,7 @@ class F_Script : public QWidget {
   QLabel* m_stato = nullptr;
   QAction* m_stop = nullptr;
   QAction* m_interrompi = nullptr;
+  QAction* m_protetto = nullptr;
 };
 
 }  // namespace lottolab::gui

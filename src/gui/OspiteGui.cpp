@@ -2,6 +2,10 @@
 
 #include <QCoreApplication>
 #include <QThread>
+#include <QTimer>
+
+#include <algorithm>
+#include <fmt/format.h>
 
 #include "vbscript/Utf.h"
 
@@ -40,14 +44,40 @@ void OspiteGui::Congeda() {
   QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
 }
 
+void OspiteGui::Accoda(script::TrattoTesto tratto) {
+  if (!m_tratti.empty() && m_tratti.back().colore == tratto.colore && m_tratti.back().grassetto == tratto.grassetto)
+    m_tratti.back().testo += tratto.testo;
+  else
+    m_tratti.push_back(std::move(tratto));
+}
+
 void OspiteGui::Scrivi(const script::TrattoTesto& tratto) {
-  bool primo = false;
+  bool chiedi = false;
   {
     std::lock_guard blocco(m_mutex);
-    primo = m_tratti.empty();
-    m_tratti.push_back(tratto);
+    if (m_troncato) return;
+    m_righe += std::count(tratto.testo.begin(), tratto.testo.end(), '\n');
+    m_caratteri += static_cast<int64_t>(tratto.testo.size());
+    if (m_righe > kMassimoRighe || m_caratteri > kMassimoCaratteri) {
+      m_troncato = true;
+      Accoda(script::TrattoTesto{
+          fmt::format("\nOutput troncato: superate {} righe o {} MB di testo, il resto non viene mostrato.\n",
+                      kMassimoRighe, kMassimoCaratteri >> 20),
+          script::kRosso, true});
+    } else {
+      Accoda(tratto);
+    }
+    chiedi = !std::exchange(m_consegna_chiesta, true);
   }
-  if (primo) QMetaObject::invokeMethod(this, &OspiteGui::ConsegnaTesto, Qt::QueuedConnection);
+  if (chiedi) QMetaObject::invokeMethod(this, &OspiteGui::ProgrammaConsegna, Qt::QueuedConnection);
+}
+
+void OspiteGui::ProgrammaConsegna() {
+  const qint64 trascorsi = m_ultima_consegna.isValid() ? m_ultima_consegna.elapsed() : kIntervalloConsegnaMs;
+  if (trascorsi >= kIntervalloConsegnaMs)
+    ConsegnaTesto();
+  else
+    QTimer::singleShot(static_cast<int>(kIntervalloConsegnaMs - trascorsi), this, &OspiteGui::ConsegnaTesto);
 }
 
 void OspiteGui::ConsegnaTesto() {
@@ -55,8 +85,20 @@ void OspiteGui::ConsegnaTesto() {
   {
     std::lock_guard blocco(m_mutex);
     tratti.swap(m_tratti);
+    m_consegna_chiesta = false;
   }
+  m_ultima_consegna.start();
   if (!tratti.empty()) emit TestoScritto(tratti);
+}
+
+void OspiteGui::ConsegnaInSospeso() { ConsegnaTesto(); }
+
+void OspiteGui::Azzera() {
+  std::lock_guard blocco(m_mutex);
+  m_tratti.clear();
+  m_righe = 0;
+  m_caratteri = 0;
+  m_troncato = false;
 }
 
 void OspiteGui::Avanzamento(double percentuale) {

@@ -1,11 +1,18 @@
 #pragma once
 
 // The host of a script run from the window. The script runs on a worker thread and reaches the
-// window only through here: its text and progress travel as queued notices, gathered so that a
-// script writing thousands of lines does not flood the window, while its dialogs are shown on the
-// window's thread with the worker waiting for the answer.
+// window only through here: its text and progress travel as queued notices, while its dialogs are
+// shown on the window's thread with the worker waiting for the answer.
+//
+// A script may write lines in a loop as fast as it can. The window must stay responsive, so the
+// worker gathers the text (runs of one style joined into one piece) and the window takes it at most
+// every kIntervalloConsegnaMs; and a run's text stops at kMassimoRighe lines or kMassimoCaratteri
+// characters, where one line says so, so that neither the window nor the gathered text grows
+// without end.
 
 #include <QObject>
+
+#include <QElapsedTimer>
 
 #include <atomic>
 #include <mutex>
@@ -21,6 +28,10 @@
 #pragma pop_macro("slots")
 
 namespace lottolab::gui {
+
+inline constexpr int kIntervalloConsegnaMs = 80;
+inline constexpr int64_t kMassimoRighe = 100000;
+inline constexpr int64_t kMassimoCaratteri = int64_t{16} << 20;
 
 class OspiteGui final : public QObject, public script::InterfacciaScript, public vbs::UiHandler {
   Q_OBJECT
@@ -50,6 +61,11 @@ class OspiteGui final : public QObject, public script::InterfacciaScript, public
   // for is dropped and the ones it asks later are cancelled without showing, so the worker never
   // waits for a window that is no longer there.
   void Congeda();
+  // From the window's thread: a new run's text starts from nothing.
+  void Azzera();
+  // From the window's thread: hands over at once what the worker wrote and the window has not yet
+  // taken, once the run is over.
+  void ConsegnaInSospeso();
 
  signals:
   // On the window's thread, in the order the script wrote them.
@@ -61,13 +77,21 @@ class OspiteGui final : public QObject, public script::InterfacciaScript, public
   // Runs `chiedi` on the window's thread and gives its answer; `annullato` once dismissed.
   template <typename Risposta, typename Chiedi>
   Risposta SulThreadDellaFinestra(Chiedi chiedi, const Risposta& annullato);
+  void ProgrammaConsegna();
   void ConsegnaTesto();
   void ConsegnaAvanzamento();
+  // Adds `tratto` to what waits, joined to the last piece when of the same style; under m_mutex.
+  void Accoda(script::TrattoTesto tratto);
 
   DialoghiScript& m_dialoghi;
   std::atomic<bool> m_congedato{false};
   std::mutex m_mutex;
   std::vector<script::TrattoTesto> m_tratti;  // written, not yet handed to the window
+  bool m_consegna_chiesta = false;            // a delivery is on its way to the window's thread
+  int64_t m_righe = 0;                        // of this run, handed over or waiting
+  int64_t m_caratteri = 0;
+  bool m_troncato = false;
+  QElapsedTimer m_ultima_consegna;             // on the window's thread
   std::atomic<double> m_percentuale{0};
   std::atomic<bool> m_avanzamento_in_attesa{false};
 };

@@ -1,6 +1,7 @@
 #include "ScriptConfigurazione.h"
 
 #include "Impostazioni.h"
+#include "app/Percorsi.h"
 
 namespace lottolab::gui {
 
@@ -9,6 +10,8 @@ script::ImpostazioniLibreria ImpostazioniLibreriaDa(const app::Configurazione& c
   impostazioni.cartella_base = configurazione.base;
   impostazioni.cartella_dati_app = configurazione.base;
   impostazioni.cartella_output = configurazione.base / "scriptOutput";
+  impostazioni.sola_lettura = {configurazione.ArchivioLotto(), configurazione.ArchivioModificabile(),
+                               app::FileConfigurazione(configurazione.base)};
   const std::string colore = LeggiImpostazioni(configurazione.ini).colore_sfondo_html;
   if (!colore.empty()) impostazioni.colore_sfondo_html = colore;
   return impostazioni;

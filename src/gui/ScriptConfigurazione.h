@@ -8,8 +8,9 @@
 
 namespace lottolab::gui {
 
-// The library's folders under the base folder (pages in scriptOutput/) and the page's background
-// from sColoreSfondoHtml when set. The archive is left to the run.
+// The library's folders under the base folder (pages in scriptOutput/), the files no script may
+// change (the archives, lottolab.ini) and the page's background from sColoreSfondoHtml when set.
+// The archive and the mode are left to the run.
 script::ImpostazioniLibreria ImpostazioniLibreriaDa(const app::Configurazione& configurazione);
 
 // Key bMantieniPaginaHtml: the page of the previous run stays in view while the next one runs.

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "archive/Avviso.h"
+#include "script/AccessoFile.h"
 
 namespace lottolab::gui {
 
@@ -23,6 +24,9 @@ class DialoghiScript {
   // The script file to open or to save to; empty when the user cancels.
   virtual QString FileDaAprire(const QString& cartella) = 0;
   virtual QString FileDaSalvare(const QString& proposto) = 0;
+  // The mode for a script opened from outside the user's scripts folder; closing the question
+  // chooses the protected mode.
+  virtual script::Modalita SceltaModalita(const QString& file) = 0;
 
   // The engine's MsgBox: the button pressed, as MsgBox's result codes.
   virtual int MessageBox(const QString& testo, int pulsanti, const QString& titolo) = 0;

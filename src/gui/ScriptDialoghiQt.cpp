@@ -89,6 +89,25 @@ QString DialoghiQt::FileDaSalvare(const QString& proposto) {
   return QFileDialog::getSaveFileName(m_finestra, QStringLiteral("Salva script"), proposto, kFiltroScript);
 }
 
+script::Modalita DialoghiQt::SceltaModalita(const QString& file) {
+  QMessageBox box(QMessageBox::Warning, QStringLiteral("Script da un'altra cartella"),
+                  QStringLiteral("Lo script\n%1\nnon è nella tua cartella degli script.\n\n"
+                                 "Uno script preso da altri può leggere, cambiare o cancellare i tuoi file. In "
+                                 "modalità protetta legge solo nella cartella di lottolab, scrive solo in "
+                                 "scriptOutput, non tocca lottolab.ini né gli archivi e non apre altri programmi.\n\n"
+                                 "Come vuoi eseguirlo? La scelta vale per questo contenuto del file e si può "
+                                 "cambiare con \"Protetto\" nella barra dello script.")
+                      .arg(file),
+                  QMessageBox::NoButton, m_finestra);
+  QPushButton* protetta = box.addButton(QStringLiteral("Modalità protetta"), QMessageBox::AcceptRole);
+  box.addButton(QStringLiteral("Mi fido: modalità normale"), QMessageBox::RejectRole);
+  box.setDefaultButton(protetta);
+  box.setEscapeButton(protetta);
+  box.exec();
+  return box.clickedButton() == protetta || !box.clickedButton() ? script::Modalita::Protetta
+                                                                   : script::Modalita::Normale;
+}
+
 int DialoghiQt::MessageBox(const QString& testo, int pulsanti, const QString& titolo) {
   QMessageBox box(IconaMsgBox(pulsanti & 0x70), titolo.isEmpty() ? kTitolo : titolo, testo,
                   PulsantiMsgBox(pulsanti & 0x7), m_finestra);

@@ -16,6 +16,7 @@ class DialoghiQt final : public DialoghiScript {
   void Avvisa(const Avviso& avviso) override;
   QString FileDaAprire(const QString& cartella) override;
   QString FileDaSalvare(const QString& proposto) override;
+  script::Modalita SceltaModalita(const QString& file) override;
   int MessageBox(const QString& testo, int pulsanti, const QString& titolo) override;
   std::optional<QString> InputBox(const QString& testo, const QString& titolo, const QString& proposto) override;
   std::optional<std::vector<int>> ScegliVoci(const std::string& titolo, const std::vector<std::string>& voci,

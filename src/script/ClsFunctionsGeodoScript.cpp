@@ -14,6 +14,9 @@ namespace {
 
 using Funzione = ClsFunctionsGeodoScript::Funzione;
 
+// What a refusal of the file rules raises; the script must not go on as if the file were written.
+constexpr int32_t kErrorePermesso = 70;
+
 std::string Minuscolo(std::string_view nome) {
   std::string piegato(nome);
   for (char& c : piegato) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
@@ -48,7 +51,15 @@ const Tabella& TabellaCompleta() {
 
 ClsFunctionsGeodoScript::ClsFunctionsGeodoScript(InterfacciaScript& ospite, const vbs::Locale& locale,
                                                  ImpostazioniLibreria impostazioni)
-    : m_ospite(ospite), m_locale(locale), m_impostazioni(std::move(impostazioni)) {}
+    : m_ospite(ospite), m_locale(locale), m_impostazioni(std::move(impostazioni)) {
+  RegoleAccesso regole;
+  regole.modalita = m_impostazioni.modalita;
+  regole.cartella_base = m_impostazioni.cartella_base;
+  regole.cartelle_scrivibili = {m_impostazioni.cartella_output};
+  if (!m_impostazioni.cartella_base.empty()) regole.cartelle_scrivibili.push_back(m_impostazioni.cartella_base / "scriptOutput");
+  regole.sola_lettura = m_impostazioni.sola_lettura;
+  m_accesso = std::make_shared<AccessoFile>(std::move(regole));
+}
 
 ClsFunctionsGeodoScript::~ClsFunctionsGeodoScript() { m_html.Chiudi(); }
 
@@ -70,7 +81,8 @@ vbs::Result<vbs::Variant> ClsFunctionsGeodoScript::Invoke(vbs::DispId member, vb
   if (args.size() < funzione.min_args || args.size() > funzione.max_args) return vbs::MakeError(vbs::err::kWrongArgs);
   vbs::CallArgs call(args, m_locale);
   auto risultato = funzione.chiamata(*this, call);
-  if (risultato || risultato.error().number == vbs::err::kAborted) return risultato;
+  if (risultato || risultato.error().number == vbs::err::kAborted || risultato.error().number == kErrorePermesso)
+    return risultato;
   const vbs::ScriptError& errore = risultato.error();
   std::string descrizione = errore.description.empty()
                                 ? vbs::Utf16ToUtf8(vbs::ErrorText(errore.number, m_locale.language))
@@ -78,6 +90,12 @@ vbs::Result<vbs::Variant> ClsFunctionsGeodoScript::Invoke(vbs::DispId member, vb
   m_ospite.Mostra(AvvisoCritico("ClsFunctionsGeodoScript." + std::string(funzione.nome), errore.number,
                                 std::move(descrizione)));
   return vbs::Variant();
+}
+
+vbs::Status ClsFunctionsGeodoScript::ControllaInterruzione() const {
+  if (m_motore && m_motore->InterruptDue()) [[unlikely]]
+    return m_motore->InterruptError();
+  return vbs::Ok();
 }
 
 vbs::Result<const TabellaEstrazioni*> ClsFunctionsGeodoScript::Archivio() const {

@@ -11,7 +11,8 @@
 //
 // The text after the name describes the arguments and the result; the reference page and the
 // editor's call tips are generated from it. Every function's failure is caught here, shown titled
-// "ClsFunctionsGeodoScript." and the function's name, and the script goes on.
+// "ClsFunctionsGeodoScript." and the function's name, and the script goes on; only a refusal of the
+// run's file rules (AccessoFile.h, error 70) and an interruption stop it, as script errors.
 
 #include <atomic>
 #include <filesystem>
@@ -23,10 +24,15 @@
 #include <unordered_map>
 #include <vector>
 
+#include "AccessoFile.h"
 #include "InterfacciaScript.h"
 #include "OutputHtml.h"
 #include "archive/TabellaEstrazioni.h"
 #include "vbscript/HostObject.h"
+
+namespace vbs {
+class Interpreter;
+}
 
 namespace lottolab::script {
 
@@ -36,6 +42,8 @@ struct ImpostazioniLibreria {
   std::filesystem::path cartella_output;       // where the run's HTML pages go: scriptOutput/ of the base
   std::filesystem::path cartella_dati_app;     // what GetDirectoryAppData gives
   std::string colore_sfondo_html = "#FFFFFF";
+  Modalita modalita = Modalita::Normale;
+  std::vector<std::filesystem::path> sola_lettura;  // lottolab.ini and the archives
 };
 
 // One record of ImpostaInterruzioni.
@@ -72,11 +80,23 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
   void SetFlagSalvaPrevisioniInCorso(bool attivo) { m_salva_previsioni = attivo; }
   // From any thread: what the stop button does. The script sees it through ScriptInterrotto.
   void StopProcess() { m_stop.store(true, std::memory_order_relaxed); }
+  // The engine the library runs in, whose interruption long loops of the library watch.
+  void SetMotore(vbs::Interpreter* motore) { m_motore = motore; }
 
   // ---- The run's state, for the families ----
   InterfacciaScript& ospite() { return m_ospite; }
   const vbs::Locale& locale() const { return m_locale; }
   const ImpostazioniLibreria& impostazioni() const { return m_impostazioni; }
+  // What the run's scripts may do with files; the host gives the same rules to the engine.
+  const std::shared_ptr<const AccessoFile>& accesso() const { return m_accesso; }
+  // Asks the run's rules; a refusal is the error the function returns.
+  [[nodiscard]] vbs::Status Consenti(vbs::FileAccess accesso, const std::filesystem::path& percorso,
+                                     std::string_view funzione) const {
+    return m_accesso->Check(accesso, percorso, funzione);
+  }
+  // Error kAborted once the user interrupted the run or its time-out passed; loops of the library
+  // that may run long ask it every few thousand steps, so that "Interrompi subito" ends them too.
+  [[nodiscard]] vbs::Status ControllaInterruzione() const;
   // The archive; error 5 with a clear description when none is loaded.
   vbs::Result<const TabellaEstrazioni*> Archivio() const;
 
@@ -110,6 +130,8 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
   InterfacciaScript& m_ospite;
   const vbs::Locale& m_locale;
   ImpostazioniLibreria m_impostazioni;
+  std::shared_ptr<const AccessoFile> m_accesso;
+  vbs::Interpreter* m_motore = nullptr;
   std::atomic<bool> m_stop{false};
   std::vector<Interruzione> m_interruzioni;
   std::vector<bool> m_estrazioni_attive;

@@ -1,5 +1,6 @@
 #include "EsecuzioneScript.h"
 
+#include <algorithm>
 #include <ctime>
 #include <fmt/format.h>
 
@@ -35,12 +36,12 @@ std::vector<std::string> VociTimeout() {
 
 int32_t TimeoutDaVoce(int indice, std::string_view testo) {
   if (indice == 0) return -1;
-  int32_t minuti = 0;
+  int64_t minuti = 0;
   for (char c : testo.substr(0, testo.find(' '))) {
     if (c < '0' || c > '9') return -1;
-    minuti = minuti * 10 + (c - '0');
+    minuti = std::min<int64_t>(minuti * 10 + (c - '0'), kMinutiTimeoutMassimi);
   }
-  return minuti * 60000;
+  return static_cast<int32_t>(minuti * 60000);
 }
 
 std::string NomeFileHtmlOutput(std::chrono::system_clock::time_point quando) {
@@ -79,6 +80,7 @@ EsitoEsecuzione EsecutoreScript::Esegui(std::u16string_view testo, const Opzioni
   }
   vbs::ScriptControl motore;
   auto libreria = vbs::MakeRef<ClsFunctionsGeodoScript>(m_ospite, motore.interpreter().locale(), opzioni.libreria);
+  libreria->SetMotore(&motore.interpreter());
   {
     std::lock_guard blocco(m_corrente);
     m_motore = &motore;
@@ -105,6 +107,7 @@ EsitoEsecuzione EsecutoreScript::EseguiNelMotore(vbs::ScriptControl& motore, Cls
   (void)motore.SetLanguage("vbscript");
   motore.SetAllowUI(true);
   motore.SetUiHandler(m_ui);
+  motore.interpreter().SetFileAccessPolicy(libreria.accesso());
   (void)motore.AddObject("ClsFunctionsGeodoScript", vbs::Ref<vbs::Object>(&libreria), true);
   if (opzioni.finestra) (void)motore.AddObject("F_Script", opzioni.finestra, true);
   motore.SetTimeout(opzioni.timeout_ms);
@@ -120,7 +123,7 @@ EsitoEsecuzione EsecutoreScript::EseguiNelMotore(vbs::ScriptControl& motore, Cls
   esegui(u"InitScript");
 
   const CartelleScript cartelle{opzioni.libreria.cartella_base, opzioni.libreria.cartella_dati_app};
-  auto espanso = GestioneIncludiFile(testo, cartelle);
+  auto espanso = GestioneIncludiFile(testo, cartelle, libreria.accesso().get());
   if (!espanso) {
     m_ospite.Mostra(espanso.Errore());
     esito.stato = EsitoEsecuzione::Stato::InclusioneNonRiuscita;

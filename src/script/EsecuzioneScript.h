@@ -32,6 +32,9 @@ inline constexpr std::string_view kModelloScript = "Option Explicit\n\nSub Main\
 
 // The entries of the time-out box: "Infinito", then "1 minuti" to "10 minuti".
 std::vector<std::string> VociTimeout();
+// The longest time-out, in whole minutes, that the engine's milliseconds can hold (about 24 days).
+inline constexpr int32_t kMinutiTimeoutMassimi = INT32_MAX / 60000;
+
 // The time-out in milliseconds of entry `indice` of the box: -1 (none) for the first.
 int32_t TimeoutDaVoce(int indice, std::string_view testo);
 

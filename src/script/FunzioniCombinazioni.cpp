@@ -34,6 +34,8 @@ using namespace famiglia;
 // Enough for every development of the 90 numbers that a script can usefully hold (all the terni,
 // 117480 of them, take 352440 elements); about 130 MB of values at the limit.
 constexpr double kMassimoElementiMatrice = 1 << 23;
+// How many groups a full development makes between two looks at the user's interruption.
+constexpr size_t kGruppiTraControlli = 4096;
 // The widest range the random functions walk or shuffle.
 constexpr int32_t kMassimoIntervalloCasuale = 10'000'000;
 
@@ -176,7 +178,7 @@ Result<Variant> GetPercCombSviluppate(Libreria& lib, CallArgs&) {
 // The matrix (group, element), 1-based in both dimensions; stored column-major, so element j of
 // group g sits at (g - 1) + (j - 1) * groups.
 template <typename Motore>
-Result<Variant> SviluppoCompleto(Libreria&, CallArgs& args) {
+Result<Variant> SviluppoCompleto(Libreria& lib, CallArgs& args) {
   auto sviluppo = NuovoSviluppo<Motore>(args);
   if (!sviluppo) return std::move(sviluppo).error();
   Motore& motore = *sviluppo->motore;
@@ -192,6 +194,7 @@ Result<Variant> SviluppoCompleto(Libreria&, CallArgs& args) {
   if (!matrice) return std::move(matrice).error();
   auto celle = (*matrice)->elements();
   for (size_t g = 0; motore.Avanza(); ++g) {
+    if (g % kGruppiTraControlli == 0) VBS_TRY(lib.ControllaInterruzione());
     auto gruppo = motore.Gruppo();
     for (size_t j = 0; j < classe; ++j) celle[g + j * gruppi] = sviluppo->elementi[gruppo[j]];
   }

@@ -93,8 +93,9 @@ Result<Variant> AvanzamentoElab(Libreria& lib, CallArgs& args) {
   return Variant();
 }
 
-Result<Variant> ApriPagina(Libreria& lib, const std::string& nome) {
+Result<Variant> ApriPagina(Libreria& lib, const std::string& nome, std::string_view funzione) {
   const fs::path file = lib.impostazioni().cartella_output / nome;
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Write, file, funzione));
   auto aperta = lib.html().Apri(file, lib.impostazioni().colore_sfondo_html);
   if (!aperta) lib.ospite().Mostra(aperta.Errore());
   return Variant();
@@ -102,7 +103,7 @@ Result<Variant> ApriPagina(Libreria& lib, const std::string& nome) {
 
 Result<Variant> AzzeraHtmlOutput(Libreria& lib, CallArgs&) {
   const std::string& nome = lib.nome_file_html();
-  return ApriPagina(lib, nome.empty() ? std::string(kNomePaginaPredefinito) : nome);
+  return ApriPagina(lib, nome.empty() ? std::string(kNomePaginaPredefinito) : nome, "AzzeraHtmlOutput");
 }
 
 // In a multi-output run every output has a page of its own: the run's name, its number, ".html".
@@ -110,7 +111,7 @@ Result<Variant> AzzeraHtmlOutputMulti(Libreria& lib, CallArgs&) {
   lib.html().Chiudi();
   fs::path base = lib.nome_file_html().empty() ? fs::path(kNomePaginaPredefinito) : fs::path(lib.nome_file_html());
   const std::string nome = fmt::format("{}_{}.html", base.stem().string(), lib.pagine().size() + 1);
-  auto risultato = ApriPagina(lib, nome);
+  auto risultato = ApriPagina(lib, nome, "AzzeraHtmlOutputMulti");
   if (lib.html().Aperto()) lib.pagine().push_back(lib.html().Percorso());
   return risultato;
 }

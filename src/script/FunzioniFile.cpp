@@ -4,7 +4,8 @@
 //
 // A failure the user can fix (a missing file, a name already taken) is shown to the user and the
 // function gives its "nothing" (False, 0) so that the script can go on. No function replaces or
-// removes anything the script did not name explicitly.
+// removes anything the script did not name explicitly. Before it touches a file each function asks
+// the run's rules (AccessoFile.h), whose refusal ends the script with error 70.
 
 #include <spawn.h>
 #include <sys/wait.h>
@@ -19,6 +20,7 @@
 
 #include "ArgomentiLotto.h"
 #include "Famiglia.h"
+#include "LetturaFile.h"
 #include "archive/DateEstrazione.h"
 #include "archive/ImportaRisultati.h"
 #include "vbscript/SafeArray.h"
@@ -131,6 +133,11 @@ Result<Variant> ScriviFile(Libreria& lib, CallArgs& args) {
   auto& aperti = lib.Stato<StatoFile>().aperti;
   auto it = aperti.find(*file);
   if (it == aperti.end()) {
+    VBS_TRY(lib.Consenti(vbs::FileAccess::Write, *file, "ScriviFile"));
+    // Opening a pipe to write waits for a reader, and a device is nobody's text file.
+    std::error_code ec;
+    if (fs::exists(*file, ec) && !FileEsiste(*file))
+      return NonRiuscito(lib, "ScriviFile", fmt::format("{} non è un file: non viene scritto", file->string()));
     std::ofstream out(*file, std::ios::binary | (*aggiungi ? std::ios::app : std::ios::trunc));
     if (!out) return NonRiuscito(lib, "ScriviFile", fmt::format("Impossibile aprire in scrittura il file {}", file->string()));
     it = aperti.emplace(*file, std::move(out)).first;
@@ -159,14 +166,6 @@ Result<Variant> CloseAllFileHandle(Libreria& lib, CallArgs&) {
   return Variant();
 }
 
-std::optional<std::string> LeggiTuttoIlFile(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) return std::nullopt;
-  std::string contenuto{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-  if (in.bad()) return std::nullopt;
-  return contenuto;
-}
-
 // The lines without their ends ("\n" or "\r\n"); the end of the last line makes no empty line after it.
 std::vector<Variant> Righe(std::u16string_view testo) {
   std::vector<Variant> righe;
@@ -183,13 +182,13 @@ std::vector<Variant> Righe(std::u16string_view testo) {
 Result<Variant> LeggiRigheFileDiTesto(Libreria& lib, CallArgs& args) {
   auto file = PercorsoArgomento(lib, args, 0);
   if (!file) return std::move(file).error();
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Read, *file, "LeggiRigheFileDiTesto"));
   ScaricaSeAperto(lib, *file);
-  if (!FileEsiste(*file))
+  std::error_code ec;
+  if (!fs::exists(*file, ec))
     return NonRiuscito(lib, "LeggiRigheFileDiTesto", fmt::format("Il file {} non esiste", file->string()), Variant::Long(0));
-  auto contenuto = LeggiTuttoIlFile(*file);
-  if (!contenuto)
-    return NonRiuscito(lib, "LeggiRigheFileDiTesto", fmt::format("Impossibile leggere il file {}", file->string()),
-                       Variant::Long(0));
+  auto contenuto = LeggiFileRegolare(*file, kLimiteFileTesto);
+  if (!contenuto) return NonRiuscito(lib, "LeggiRigheFileDiTesto", contenuto.Errore().testo, Variant::Long(0));
   std::vector<Variant> righe = Righe(vbs::DecodeScriptFile(*contenuto));
   const auto quante = static_cast<int32_t>(righe.size());
   args.Out(1) = ArrayDaUno(std::move(righe));
@@ -206,6 +205,7 @@ Result<Variant> Esistente(Libreria& lib, CallArgs& args) {
 Result<Variant> CreaDirectory(Libreria& lib, CallArgs& args) {
   auto cartella = PercorsoArgomento(lib, args, 0);
   if (!cartella) return std::move(cartella).error();
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Write, *cartella, "CreaDirectory"));
   std::error_code ec;
   fs::create_directories(*cartella, ec);
   if (!CartellaEsiste(*cartella))
@@ -220,6 +220,8 @@ Result<Variant> CopiaFile(Libreria& lib, CallArgs& args) {
   if (!destinazione) return std::move(destinazione).error();
   auto sovrascrivi = args.Boolean(2, false);
   if (!sovrascrivi) return std::move(sovrascrivi).error();
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Read, *origine, "CopiaFile"));
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Write, *destinazione, "CopiaFile"));
   std::error_code ec;
   if (!FileEsiste(*origine))
     return NonRiuscito(lib, "CopiaFile", fmt::format("Il file {} non esiste", origine->string()));
@@ -238,6 +240,7 @@ Result<Variant> CopiaFile(Libreria& lib, CallArgs& args) {
 Result<Variant> EliminaFile(Libreria& lib, CallArgs& args) {
   auto file = PercorsoArgomento(lib, args, 0);
   if (!file) return std::move(file).error();
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Delete, *file, "EliminaFile"));
   std::error_code ec;
   if (!FileEsiste(*file))
     return NonRiuscito(lib, "EliminaFile", fmt::format("Il file {} non esiste", file->string()));
@@ -252,6 +255,8 @@ Result<Variant> RinominaFile(Libreria& lib, CallArgs& args) {
   if (!origine) return std::move(origine).error();
   auto destinazione = PercorsoArgomento(lib, args, 1);
   if (!destinazione) return std::move(destinazione).error();
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Delete, *origine, "RinominaFile"));
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Write, *destinazione, "RinominaFile"));
   std::error_code ec;
   if (!FileEsiste(*origine))
     return NonRiuscito(lib, "RinominaFile", fmt::format("Il file {} non esiste", origine->string()));
@@ -304,6 +309,7 @@ Result<Variant> ElencoFileInDirectory(Libreria& lib, CallArgs& args) {
   if (!cartella) return std::move(cartella).error();
   auto filtro = args.String(2, u"*.*");
   if (!filtro) return std::move(filtro).error();
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Read, *cartella, "ElencoFileInDirectory"));
   std::error_code ec;
   if (!CartellaEsiste(*cartella))
     return NonRiuscito(lib, "ElencoFileInDirectory", fmt::format("La cartella {} non esiste", cartella->string()),
@@ -352,6 +358,7 @@ bool AvviaApertura(const fs::path& file) {
 Result<Variant> LanciaFile(Libreria& lib, CallArgs& args) {
   auto file = PercorsoArgomento(lib, args, 0);
   if (!file) return std::move(file).error();
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Launch, *file, "LanciaFile"));
   std::error_code ec;
   if (!fs::exists(*file, ec)) return NonRiuscito(lib, "LanciaFile", fmt::format("Il file {} non esiste", file->string()));
   if (!DesktopDisponibile())
@@ -363,8 +370,9 @@ Result<Variant> LanciaFile(Libreria& lib, CallArgs& args) {
 }
 
 // The draws of a file in the operator's results layout, read again only when the file changed; null
-// when it cannot be read, after telling the user why.
-const std::vector<Estrazione>* EstrazioniDelFile(Libreria& lib, std::string_view funzione, const fs::path& file) {
+// when it cannot be read, after telling the user why; error 70 when the run's rules forbid reading it.
+Result<const std::vector<Estrazione>*> EstrazioniDelFile(Libreria& lib, std::string_view funzione, const fs::path& file) {
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Read, file, funzione));
   ScaricaSeAperto(lib, file);
   StatoFile& stato = lib.Stato<StatoFile>();
   std::error_code ec;
@@ -372,14 +380,15 @@ const std::vector<Estrazione>* EstrazioniDelFile(Libreria& lib, std::string_view
   const uintmax_t dimensione = ec ? 0 : fs::file_size(file, ec);
   if (!ec && file == stato.file_estrazioni && modifica == stato.modifica_estrazioni &&
       dimensione == stato.dimensione_estrazioni)
-    return &stato.estrazioni;
+    return static_cast<const std::vector<Estrazione>*>(&stato.estrazioni);
   stato.file_estrazioni.clear();
-  auto lette = LeggiNuoveEstrazioniDaFile(TabellaEstrazioni(), file);
+  auto regolare = FileRegolare(file);
+  auto lette = regolare ? LeggiNuoveEstrazioniDaFile(TabellaEstrazioni(), file) : Esito<std::vector<Estrazione>>(regolare.Errore());
   if (!lette) {
     Avviso avviso = lette.Errore();
     avviso.titolo = "ClsFunctionsGeodoScript." + std::string(funzione);
     lib.ospite().Mostra(avviso);
-    return nullptr;
+    return static_cast<const std::vector<Estrazione>*>(nullptr);
   }
   stato.estrazioni = std::move(lette).Valore();
   if (!ec) {
@@ -387,14 +396,15 @@ const std::vector<Estrazione>* EstrazioniDelFile(Libreria& lib, std::string_view
     stato.modifica_estrazioni = modifica;
     stato.dimensione_estrazioni = dimensione;
   }
-  return &stato.estrazioni;
+  return static_cast<const std::vector<Estrazione>*>(&stato.estrazioni);
 }
 
 Result<Variant> QuantitaEstrazioniInFile(Libreria& lib, CallArgs& args) {
   auto file = PercorsoArgomento(lib, args, 0);
   if (!file) return std::move(file).error();
-  const auto* estrazioni = EstrazioniDelFile(lib, "QuantitaEstrazioniInFile", *file);
-  return Variant::Long(estrazioni ? static_cast<int32_t>(estrazioni->size()) : 0);
+  auto estrazioni = EstrazioniDelFile(lib, "QuantitaEstrazioniInFile", *file);
+  if (!estrazioni) return std::move(estrazioni).error();
+  return Variant::Long(*estrazioni ? static_cast<int32_t>((*estrazioni)->size()) : 0);
 }
 
 Result<Variant> LeggiEstrazioneDaFile(Libreria& lib, CallArgs& args) {
@@ -402,7 +412,9 @@ Result<Variant> LeggiEstrazioneDaFile(Libreria& lib, CallArgs& args) {
   if (!file) return std::move(file).error();
   auto indice = args.Long(1);
   if (!indice) return std::move(indice).error();
-  const auto* estrazioni = EstrazioniDelFile(lib, "LeggiEstrazioneDaFile", *file);
+  auto letta = EstrazioniDelFile(lib, "LeggiEstrazioneDaFile", *file);
+  if (!letta) return std::move(letta).error();
+  const auto* estrazioni = *letta;
   if (!estrazioni || *indice < 1 || static_cast<size_t>(*indice) > estrazioni->size()) return Variant::Boolean(false);
   const Estrazione& estrazione = (*estrazioni)[static_cast<size_t>(*indice) - 1];
   auto numeri = ArrayEstrazione(estrazione);

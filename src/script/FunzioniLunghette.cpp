@@ -147,15 +147,16 @@ class Sviluppo {
   std::array<int, kMassimoNumero + 1> m_posto{};
 };
 
-// The delay of every group at `fine`, by index.
-std::vector<int> RitardiGruppi(const TabellaEstrazioni& tab, const Sviluppo& sviluppo, std::span<const int> ruote,
-                               int sorte, int fine) {
+// The delay of every group at `fine`, by index; the user's interruption ends the walk.
+Result<std::vector<int>> RitardiGruppi(const Libreria& lib, const TabellaEstrazioni& tab, const Sviluppo& sviluppo,
+                                       std::span<const int> ruote, int sorte, int fine) {
   constexpr int kAperto = -1;
   std::vector<int> ritardi(static_cast<size_t>(sviluppo.Gruppi()), kAperto);
   int64_t aperti = sviluppo.Gruppi();
   int contate = 0;
   Estratti estratti;
   for (int id = fine; id >= 1 && aperti > 0; --id) {
+    VBS_TRY(lib.ControllaInterruzione());
     const Estrazione& estrazione = tab[id];
     if (!estrazione.Presente()) continue;
     for (int ruota : ruote) {
@@ -228,7 +229,9 @@ Result<Variant> GetLunghettePiuRitardate(Libreria& lib, CallArgs& args) {
   auto intervallo = IntervalloArgomento(**archivio, args, std::nullopt, 6);
   if (!intervallo) return std::move(intervallo).error();
 
-  const std::vector<int> ritardi = RitardiGruppi(**archivio, sviluppo, RuoteSingole(*ruote), *sorte, intervallo->fine);
+  auto calcolati = RitardiGruppi(lib, **archivio, sviluppo, RuoteSingole(*ruote), *sorte, intervallo->fine);
+  if (!calcolati) return std::move(calcolati).error();
+  const std::vector<int>& ritardi = *calcolati;
   std::vector<int64_t> ordine(ritardi.size());
   std::iota(ordine.begin(), ordine.end(), 0);
   const auto righe = static_cast<ptrdiff_t>(std::min<int64_t>(*quante, sviluppo.Gruppi()));

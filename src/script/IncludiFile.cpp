@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <fstream>
-#include <sstream>
 
+#include "LetturaFile.h"
 #include "vbscript/Utf.h"
 
 namespace lottolab::script {
@@ -48,12 +47,16 @@ void TogliOgni(std::u16string& testo, std::u16string_view parola) {
   }
 }
 
-std::optional<std::string> LeggiFile(const fs::path& percorso) {
-  std::ifstream in(percorso, std::ios::binary);
-  if (!in) return std::nullopt;
-  std::stringstream contenuto;
-  contenuto << in.rdbuf();
-  return contenuto.str();
+// The file's text; a missing file keeps the message users know, anything else says what is wrong.
+Esito<std::string> LeggiInclusione(const fs::path& percorso, const vbs::FileAccessPolicy* accesso) {
+  if (auto permesso = vbs::CheckAccess(accesso, vbs::FileAccess::Read, percorso, "includi"); !permesso)
+    return AvvisoEsclamativo(vbs::Utf16ToUtf8(permesso.error().description));
+  std::error_code ec;
+  if (!fs::exists(percorso, ec))
+    return AvvisoEsclamativo(fmt::format("File di inclusione \n{}\npercorso errato", percorso.string()));
+  auto contenuto = LeggiFileRegolare(percorso, kLimiteFileScript);
+  if (!contenuto) return AvvisoEsclamativo("File di inclusione non letto: " + contenuto.Errore().testo);
+  return contenuto;
 }
 
 }  // namespace
@@ -76,7 +79,8 @@ std::optional<fs::path> FileDiInclusione(std::u16string_view riga, const Cartell
   return PercorsoLocale(percorso);
 }
 
-Esito<CodiceEspanso> GestioneIncludiFile(std::u16string_view testo, const CartelleScript& cartelle) {
+Esito<CodiceEspanso> GestioneIncludiFile(std::u16string_view testo, const CartelleScript& cartelle,
+                                         const vbs::FileAccessPolicy* accesso) {
   CodiceEspanso espanso;
   size_t inizio = 0;
   while (inizio <= testo.size()) {
@@ -84,9 +88,8 @@ Esito<CodiceEspanso> GestioneIncludiFile(std::u16string_view testo, const Cartel
     if (fine == std::u16string_view::npos) fine = testo.size();
     std::u16string_view riga = testo.substr(inizio, fine - inizio);
     if (auto percorso = FileDiInclusione(riga, cartelle)) {
-      auto contenuto = LeggiFile(*percorso);
-      if (!contenuto)
-        return AvvisoEsclamativo(fmt::format("File di inclusione \n{}\npercorso errato", percorso->string()));
+      auto contenuto = LeggiInclusione(*percorso, accesso);
+      if (!contenuto) return contenuto.Errore();
       std::u16string codice = vbs::DecodeScriptFile(*contenuto);
       TogliOgni(codice, u"Option Explicit");
       TogliOgni(codice, u"Option Compare Text");

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "archive/Esito.h"
+#include "vbscript/FileAccessPolicy.h"
 
 namespace lottolab::script {
 
@@ -37,7 +38,9 @@ struct CodiceEspanso {
 std::optional<std::filesystem::path> FileDiInclusione(std::u16string_view riga, const CartelleScript& cartelle);
 
 // Reads every included file. A missing one fails with "File di inclusione", its path and
-// "percorso errato" on three lines: the run must stop before any code runs.
-Esito<CodiceEspanso> GestioneIncludiFile(std::u16string_view testo, const CartelleScript& cartelle);
+// "percorso errato" on three lines; one that `accesso` forbids reading, or that is no regular file
+// of at most kLimiteFileScript bytes, fails saying so: the run must stop before any code runs.
+Esito<CodiceEspanso> GestioneIncludiFile(std::u16string_view testo, const CartelleScript& cartelle,
+                                         const vbs::FileAccessPolicy* accesso = nullptr);
 
 }  // namespace lottolab::script

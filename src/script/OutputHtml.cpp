@@ -17,22 +17,39 @@ Esito<Fatto> OutputHtml::Apri(const fs::path& file, std::string_view colore_sfon
   m_file.open(file, std::ios::binary | std::ios::trunc);
   if (!m_file) return AvvisoEsclamativo(fmt::format("Impossibile creare il file {}", file.string()));
   m_percorso = file;
-  m_file << "<html>\n<body bgcolor =" << colore_sfondo << ">\n<pre>\n";
+  m_scritti = 0;
+  m_troncato = false;
+  Aggiungi(fmt::format("<html>\n<body bgcolor ={}>\n<pre>\n", colore_sfondo));
   return Fatto{};
 }
 
+void OutputHtml::Aggiungi(std::string_view parte) {
+  if (m_troncato) return;
+  if (m_scritti + parte.size() > kLimitePaginaHtml) {
+    m_troncato = true;
+    m_file << fmt::format("</pre>\n<p><b><font color=\"#FF0000\">Output troncato: la pagina ha raggiunto {} MB, il "
+                          "resto dell'output non è stato scritto.</font></b></p>\n<pre>\n",
+                          kLimitePaginaHtml >> 20);
+    return;
+  }
+  m_scritti += parte.size();
+  m_file << parte;
+}
+
 void OutputHtml::Scrivi(std::string_view testo, int16_t colore, bool grassetto) {
-  if (!Aperto() || testo.empty()) return;
+  if (!Aperto() || testo.empty() || m_troncato) return;
+  std::string parte;
   const bool colorato = colore != kNero;
-  if (colorato) m_file << "<font color=\"" << ColoreHtml(colore) << "\">";
-  if (grassetto) m_file << "<b>";
-  m_file << TestoHtml(testo);
-  if (grassetto) m_file << "</b>";
-  if (colorato) m_file << "</font>";
+  if (colorato) parte += fmt::format("<font color=\"{}\">", ColoreHtml(colore));
+  if (grassetto) parte += "<b>";
+  parte += TestoHtml(testo);
+  if (grassetto) parte += "</b>";
+  if (colorato) parte += "</font>";
+  Aggiungi(parte);
 }
 
 void OutputHtml::ScriviMarkup(std::string_view markup) {
-  if (Aperto()) m_file << markup;
+  if (Aperto()) Aggiungi(markup);
 }
 
 void OutputHtml::Chiudi() {

@@ -1,7 +1,9 @@
 #pragma once
 
 // The HTML page of a run: opened before Main with the page head, filled with the script's text
-// output and tables, closed after the run whatever happened.
+// output and tables, closed after the run whatever happened. A page stops growing at
+// kLimitePaginaHtml: a script that writes in a loop must not fill the disk, and no window could
+// show such a page anyway. One line at its end says that the rest was left out.
 
 #include <filesystem>
 #include <fstream>
@@ -11,6 +13,8 @@
 #include "archive/Esito.h"
 
 namespace lottolab::script {
+
+inline constexpr uintmax_t kLimitePaginaHtml = uintmax_t{32} << 20;
 
 class OutputHtml {
  public:
@@ -26,11 +30,18 @@ class OutputHtml {
   std::string Testo();
 
   bool Aperto() const { return m_file.is_open(); }
+  // Whether the page reached kLimitePaginaHtml and was cut.
+  bool Troncato() const { return m_troncato; }
   const std::filesystem::path& Percorso() const { return m_percorso; }
 
  private:
+  // Writes `parte` unless the page would pass its limit, which ends it with the notice instead.
+  void Aggiungi(std::string_view parte);
+
   std::ofstream m_file;
   std::filesystem::path m_percorso;
+  uintmax_t m_scritti = 0;
+  bool m_troncato = false;
 };
 
 // The HTML colour of a script colour index ("#FF0000" for Rosso_); black for an unknown index.

@@ -320,7 +320,8 @@ Result<std::vector<FolderEntry>> ListFolder(const fs::path& folder) {
 
 // ---- FileSystemObject ----
 
-FileSystemObject::FileSystemObject(const Locale& locale) : HostObject(locale), m_random(std::random_device{}()) {}
+FileSystemObject::FileSystemObject(const Locale& locale, FilePolicyRef policy)
+    : HostObject(locale), m_random(std::random_device{}()), m_policy(std::move(policy)) {}
 
 std::span<const FileSystemObject::Member> FileSystemObject::Members() {
   using F = FileSystemObject;
@@ -386,6 +387,8 @@ Result<Variant> FileSystemObject::CopyFile(CallArgs& args) {
   for (const fs::path& one : *sources) {
     auto target = TargetFor(one, destination, into_folder);
     if (!target) return std::move(target).error();
+    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, one, "CopyFile"));
+    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, *target, "CopyFile"));
     VBS_TRY(CopyOneFile(one, *target, *overwrite ? Overwrite::Yes : Overwrite::No));
   }
   return Variant();
@@ -410,6 +413,8 @@ Result<Variant> FileSystemObject::CopyFolder(CallArgs& args) {
       if (!fs::is_directory(destination, ec)) return MakeError(kPathNotFound);
       target = destination / one.filename();
     }
+    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, one, "CopyFolder"));
+    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, target, "CopyFolder"));
     VBS_TRY(CopyTree(one, target, *overwrite ? Overwrite::Yes : Overwrite::No));
   }
   return Variant();
@@ -419,11 +424,12 @@ Result<Variant> FileSystemObject::CreateFolder(CallArgs& args) {
   auto name = args.String(0);
   if (!name) return std::move(name).error();
   const fs::path path = NativePath(*name);
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, path, "CreateFolder"));
   std::error_code ec;
   if (fs::exists(fs::symlink_status(path, ec))) return MakeError(kFileExists);
   fs::create_directory(path, ec);
   if (ec) return FileError(ec, kPathNotFound);
-  return Variant::Object(MakeRef<FolderObject>(locale(), FullPath(path)));
+  return Variant::Object(MakeRef<FolderObject>(locale(), FullPath(path), m_policy));
 }
 
 Result<Variant> FileSystemObject::CreateTextFile(CallArgs& args) {
@@ -433,7 +439,9 @@ Result<Variant> FileSystemObject::CreateTextFile(CallArgs& args) {
   if (!overwrite) return std::move(overwrite).error();
   auto unicode = args.Boolean(2, false);
   if (!unicode) return std::move(unicode).error();
-  auto stream = TextStream::Create(locale(), NativePath(*name), *overwrite, *unicode ? TextFormat::Unicode : TextFormat::Ansi);
+  const fs::path path = NativePath(*name);
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, path, "CreateTextFile"));
+  auto stream = TextStream::Create(locale(), path, *overwrite, *unicode ? TextFormat::Unicode : TextFormat::Ansi);
   if (!stream) return std::move(stream).error();
   return Variant::Object(*stream);
 }
@@ -445,7 +453,10 @@ Result<Variant> FileSystemObject::DeleteFile(CallArgs& args) {
   if (!force) return std::move(force).error();
   auto files = Matching(NativePath(*wanted), EntryKind::File, kFileNotFound);
   if (!files) return std::move(files).error();
-  for (const fs::path& file : *files) VBS_TRY(DeleteOneFile(file, *force ? Force::Yes : Force::No));
+  for (const fs::path& file : *files) {
+    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, file, "DeleteFile"));
+    VBS_TRY(DeleteOneFile(file, *force ? Force::Yes : Force::No));
+  }
   return Variant();
 }
 
@@ -456,7 +467,10 @@ Result<Variant> FileSystemObject::DeleteFolder(CallArgs& args) {
   if (!force) return std::move(force).error();
   auto folders = Matching(NativePath(*wanted), EntryKind::Folder, kPathNotFound);
   if (!folders) return std::move(folders).error();
-  for (const fs::path& folder : *folders) VBS_TRY(DeleteTree(folder, *force ? Force::Yes : Force::No));
+  for (const fs::path& folder : *folders) {
+    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, folder, "DeleteFolder"));
+    VBS_TRY(DeleteTree(folder, *force ? Force::Yes : Force::No));
+  }
   return Variant();
 }
 
@@ -466,7 +480,7 @@ Result<Variant> FileSystemObject::DriveExists(CallArgs& args) {
   return Variant::Boolean(NamesDrive(*wanted));
 }
 
-Result<Variant> FileSystemObject::Drives(CallArgs&) { return Variant::Object(MakeRef<DriveList>(locale())); }
+Result<Variant> FileSystemObject::Drives(CallArgs&) { return Variant::Object(MakeRef<DriveList>(locale(), m_policy)); }
 
 Result<Variant> FileSystemObject::FileExists(CallArgs& args) {
   auto wanted = args.String(0);
@@ -500,7 +514,7 @@ Result<Variant> FileSystemObject::GetDrive(CallArgs& args) {
   auto wanted = args.String(0);
   if (!wanted) return std::move(wanted).error();
   if (!NamesDrive(*wanted)) return MakeError(kDeviceUnavailable);
-  return Variant::Object(MakeRef<DriveObject>(locale()));
+  return Variant::Object(MakeRef<DriveObject>(locale(), m_policy));
 }
 
 Result<Variant> FileSystemObject::GetDriveName(CallArgs& args) {
@@ -525,7 +539,7 @@ Result<Variant> FileSystemObject::GetFile(CallArgs& args) {
   auto files = Matching(NativePath(*path), EntryKind::File, kFileNotFound);
   if (!files) return std::move(files).error();
   if (files->size() != 1) return MakeError(kFileNotFound);
-  return Variant::Object(MakeRef<FileObject>(locale(), FullPath(files->front())));
+  return Variant::Object(MakeRef<FileObject>(locale(), FullPath(files->front()), m_policy));
 }
 
 Result<Variant> FileSystemObject::GetFileName(CallArgs& args) {
@@ -540,7 +554,7 @@ Result<Variant> FileSystemObject::GetFolder(CallArgs& args) {
   std::error_code ec;
   const fs::path folder = NativePath(*path);
   if (!fs::is_directory(folder, ec)) return MakeError(kPathNotFound);
-  return Variant::Object(MakeRef<FolderObject>(locale(), FullPath(folder)));
+  return Variant::Object(MakeRef<FolderObject>(locale(), FullPath(folder), m_policy));
 }
 
 Result<Variant> FileSystemObject::GetParentFolderName(CallArgs& args) {
@@ -553,7 +567,7 @@ Result<Variant> FileSystemObject::GetSpecialFolder(CallArgs& args) {
   auto which = args.Long(0);
   if (!which) return std::move(which).error();
   if (*which < 0 || *which > 2) return MakeError(err::kInvalidCall);
-  return Variant::Object(MakeRef<FolderObject>(locale(), *which == 2 ? FullPath(TempFolder()) : fs::path("/")));
+  return Variant::Object(MakeRef<FolderObject>(locale(), *which == 2 ? FullPath(TempFolder()) : fs::path("/"), m_policy));
 }
 
 Result<Variant> FileSystemObject::GetTempName(CallArgs&) {
@@ -576,6 +590,8 @@ Result<Variant> FileSystemObject::MoveFile(CallArgs& args) {
   for (const fs::path& one : *sources) {
     auto target = TargetFor(one, NativePath(*to), into_folder);
     if (!target) return std::move(target).error();
+    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, one, "MoveFile"));
+    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, *target, "MoveFile"));
     VBS_TRY(MoveEntry(one, *target));
   }
   return Variant();
@@ -597,6 +613,8 @@ Result<Variant> FileSystemObject::MoveFolder(CallArgs& args) {
       if (!fs::is_directory(target, ec)) return MakeError(kPathNotFound);
       target /= one.filename();
     }
+    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, one, "MoveFolder"));
+    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, target, "MoveFolder"));
     VBS_TRY(MoveEntry(one, target));
   }
   return Variant();
@@ -612,7 +630,9 @@ Result<Variant> FileSystemObject::OpenTextFile(CallArgs& args) {
   if (!create) return std::move(create).error();
   auto format = FormatArgument(args, 3);
   if (!format) return std::move(format).error();
-  auto stream = TextStream::Open(locale(), NativePath(*name), static_cast<IoMode>(*mode), *create, *format);
+  const fs::path path = NativePath(*name);
+  VBS_TRY(CheckTextStreamAccess(m_policy.get(), path, static_cast<IoMode>(*mode), *create, "OpenTextFile"));
+  auto stream = TextStream::Open(locale(), path, static_cast<IoMode>(*mode), *create, *format);
   if (!stream) return std::move(stream).error();
   return Variant::Object(*stream);
 }

@@ -16,17 +16,24 @@
 //
 // Errors are Windows' numbers: 53 file not found, 76 path not found, 70 permission denied,
 // 58 file already exists, 61 disk full, 75 any other failure of the file system.
+//
+// Every object carries the host's FileAccessPolicy (null: no rule) and asks it before it reads a
+// file or lists a folder, writes, deletes, or renames; a refusal is the policy's error.
 
 #include <filesystem>
+#include <memory>
 #include <random>
 #include <system_error>
 #include <vector>
 
+#include "FileAccessPolicy.h"
 #include "HostObject.h"
 
 namespace vbs {
 
 class Interpreter;
+
+using FilePolicyRef = std::shared_ptr<const FileAccessPolicy>;
 
 // The file a script's path names, as described above; a path that exists in no case comes back with
 // its separators translated, for the caller to report.
@@ -62,7 +69,7 @@ Result<std::vector<FolderEntry>> ListFolder(const std::filesystem::path& folder)
 
 class FileSystemObject final : public HostObject<FileSystemObject> {
  public:
-  explicit FileSystemObject(const Locale& locale);
+  FileSystemObject(const Locale& locale, FilePolicyRef policy = nullptr);
   static std::span<const Member> Members();
   std::u16string ClassName() const override { return u"FileSystemObject"; }
 
@@ -94,13 +101,14 @@ class FileSystemObject final : public HostObject<FileSystemObject> {
   Result<Variant> OpenTextFile(CallArgs& args);
 
   std::mt19937 m_random;
+  FilePolicyRef m_policy;
 };
 
 // A file: Path (the default member), Name (assigning renames), Size, dates, ParentFolder, and
 // Copy, Move, Delete, OpenAsTextStream.
 class FileObject final : public HostObject<FileObject> {
  public:
-  FileObject(const Locale& locale, std::filesystem::path path);
+  FileObject(const Locale& locale, std::filesystem::path path, FilePolicyRef policy = nullptr);
   static std::span<const Member> Members();
   std::u16string ClassName() const override { return u"File"; }
 
@@ -122,13 +130,14 @@ class FileObject final : public HostObject<FileObject> {
   Result<Variant> OpenAsTextStream(CallArgs& args);
 
   std::filesystem::path m_path;
+  FilePolicyRef m_policy;
 };
 
 // A folder: Path (the default member), Name, Files, SubFolders, ParentFolder (Nothing at the root),
 // Size (of everything inside), dates, and Copy, Move, Delete, CreateTextFile.
 class FolderObject final : public HostObject<FolderObject> {
  public:
-  FolderObject(const Locale& locale, std::filesystem::path path);
+  FolderObject(const Locale& locale, std::filesystem::path path, FilePolicyRef policy = nullptr);
   static std::span<const Member> Members();
   std::u16string ClassName() const override { return u"Folder"; }
 
@@ -153,6 +162,7 @@ class FolderObject final : public HostObject<FolderObject> {
   Result<Variant> CreateTextFile(CallArgs& args);
 
   std::filesystem::path m_path;
+  FilePolicyRef m_policy;
 };
 
 // The files or the subfolders of a folder, read afresh at each use, sorted by name ignoring case
@@ -160,7 +170,7 @@ class FolderObject final : public HostObject<FolderObject> {
 class FolderListing final : public HostObject<FolderListing> {
  public:
   enum class Kind { Files, Folders };
-  FolderListing(const Locale& locale, std::filesystem::path folder, Kind kind);
+  FolderListing(const Locale& locale, std::filesystem::path folder, Kind kind, FilePolicyRef policy = nullptr);
   static std::span<const Member> Members();
   std::u16string ClassName() const override { return m_kind == Kind::Files ? u"Files" : u"Folders"; }
   Result<Ref<Enumerator>> Enumerate() override;
@@ -173,12 +183,13 @@ class FolderListing final : public HostObject<FolderListing> {
 
   std::filesystem::path m_folder;
   Kind m_kind;
+  FilePolicyRef m_policy;
 };
 
 // The one drive: the root of the file system, which every drive letter stands for.
 class DriveObject final : public HostObject<DriveObject> {
  public:
-  explicit DriveObject(const Locale& locale);
+  explicit DriveObject(const Locale& locale, FilePolicyRef policy = nullptr);
   static std::span<const Member> Members();
   std::u16string ClassName() const override { return u"Drive"; }
 
@@ -192,12 +203,14 @@ class DriveObject final : public HostObject<DriveObject> {
   Result<Variant> RootFolder(CallArgs& args);
   Result<Variant> Empty(CallArgs& args);
   Result<Variant> SerialNumber(CallArgs& args);
+
+  FilePolicyRef m_policy;
 };
 
 // FileSystemObject.Drives: Count, Item, For Each over the one drive.
 class DriveList final : public HostObject<DriveList> {
  public:
-  explicit DriveList(const Locale& locale);
+  explicit DriveList(const Locale& locale, FilePolicyRef policy = nullptr);
   static std::span<const Member> Members();
   std::u16string ClassName() const override { return u"Drives"; }
   Result<Ref<Enumerator>> Enumerate() override;
@@ -205,6 +218,8 @@ class DriveList final : public HostObject<DriveList> {
  private:
   Result<Variant> Count(CallArgs& args);
   Result<Variant> Item(CallArgs& args);
+
+  FilePolicyRef m_policy;
 };
 
 }  // namespace vbs

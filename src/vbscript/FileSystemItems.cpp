@@ -62,12 +62,14 @@ int32_t AttributesOf(const fs::path& path, bool folder) {
 }
 
 // Renames in place: the new name must be a name, not a path.
-Result<fs::path> Rename(const fs::path& path, const Variant& value, const Locale& locale) {
+Result<fs::path> Rename(const fs::path& path, const Variant& value, const Locale& locale, const FileAccessPolicy* policy) {
   auto name = value.to_string(locale);
   if (!name) return std::move(name).error();
   const std::u16string_view text = name->view();
   if (text.empty() || text.find_first_of(u"\\/") != std::u16string_view::npos) return MakeError(kBadFileName);
   const fs::path target = path.parent_path() / fs::path(Utf16ToUtf8(text));
+  VBS_TRY(CheckAccess(policy, FileAccess::Delete, path, "Name"));
+  VBS_TRY(CheckAccess(policy, FileAccess::Write, target, "Name"));
   VBS_TRY(MoveEntry(path, target));
   return target;
 }
@@ -107,15 +109,16 @@ Result<uintmax_t> TreeSize(const fs::path& folder) {
   return total;
 }
 
-Variant FolderValue(const Locale& locale, const fs::path& path) {
-  return Variant::Object(MakeRef<FolderObject>(locale, path));
+Variant FolderValue(const Locale& locale, const fs::path& path, const FilePolicyRef& policy) {
+  return Variant::Object(MakeRef<FolderObject>(locale, path, policy));
 }
 
 }  // namespace
 
 // ---- File ----
 
-FileObject::FileObject(const Locale& locale, fs::path path) : HostObject(locale), m_path(std::move(path)) {}
+FileObject::FileObject(const Locale& locale, fs::path path, FilePolicyRef policy)
+    : HostObject(locale), m_path(std::move(path)), m_policy(std::move(policy)) {}
 
 std::span<const FileObject::Member> FileObject::Members() {
   using F = FileObject;
@@ -148,18 +151,18 @@ Result<Variant> FileObject::DateLastAccessed(CallArgs&) { return DateOf(m_path, 
 
 Result<Variant> FileObject::DateLastModified(CallArgs&) { return DateOf(m_path, Stamp::Modified, kFileNotFound); }
 
-Result<Variant> FileObject::Drive(CallArgs&) { return Variant::Object(MakeRef<DriveObject>(locale())); }
+Result<Variant> FileObject::Drive(CallArgs&) { return Variant::Object(MakeRef<DriveObject>(locale(), m_policy)); }
 
 Result<Variant> FileObject::GetName(CallArgs&) { return Variant::String(NameOf(m_path)); }
 
 Result<Variant> FileObject::PutName(CallArgs&, Variant value) {
-  auto renamed = Rename(m_path, value, locale());
+  auto renamed = Rename(m_path, value, locale(), m_policy.get());
   if (!renamed) return std::move(renamed).error();
   m_path = std::move(*renamed);
   return Variant();
 }
 
-Result<Variant> FileObject::ParentFolder(CallArgs&) { return FolderValue(locale(), m_path.parent_path()); }
+Result<Variant> FileObject::ParentFolder(CallArgs&) { return FolderValue(locale(), m_path.parent_path(), m_policy); }
 
 Result<Variant> FileObject::Path(CallArgs&) { return Variant::String(ScriptPath(m_path)); }
 
@@ -187,6 +190,8 @@ Result<Variant> FileObject::Copy(CallArgs& args) {
   fs::path target = NativePath(*to);
   std::error_code ec;
   if (fs::is_directory(target, ec)) target /= m_path.filename();
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, m_path, "Copy"));
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, target, "Copy"));
   VBS_TRY(CopyOneFile(m_path, target, *overwrite ? Overwrite::Yes : Overwrite::No));
   return Variant();
 }
@@ -194,6 +199,7 @@ Result<Variant> FileObject::Copy(CallArgs& args) {
 Result<Variant> FileObject::Delete(CallArgs& args) {
   auto force = args.Boolean(0, false);
   if (!force) return std::move(force).error();
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, m_path, "Delete"));
   VBS_TRY(DeleteOneFile(m_path, *force ? Force::Yes : Force::No));
   return Variant();
 }
@@ -204,6 +210,8 @@ Result<Variant> FileObject::Move(CallArgs& args) {
   fs::path target = NativePath(*to);
   std::error_code ec;
   if (fs::is_directory(target, ec)) target /= m_path.filename();
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, m_path, "Move"));
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, target, "Move"));
   VBS_TRY(MoveEntry(m_path, target));
   m_path = FullPath(target);
   return Variant();
@@ -215,6 +223,7 @@ Result<Variant> FileObject::OpenAsTextStream(CallArgs& args) {
   if (*mode != 1 && *mode != 2 && *mode != 8) return MakeError(err::kInvalidCall);
   auto format = FormatArgument(args, 1);
   if (!format) return std::move(format).error();
+  VBS_TRY(CheckTextStreamAccess(m_policy.get(), m_path, static_cast<IoMode>(*mode), false, "OpenAsTextStream"));
   auto stream = TextStream::Open(locale(), m_path, static_cast<IoMode>(*mode), false, *format);
   if (!stream) return std::move(stream).error();
   return Variant::Object(*stream);
@@ -222,7 +231,8 @@ Result<Variant> FileObject::OpenAsTextStream(CallArgs& args) {
 
 // ---- Folder ----
 
-FolderObject::FolderObject(const Locale& locale, fs::path path) : HostObject(locale), m_path(std::move(path)) {}
+FolderObject::FolderObject(const Locale& locale, fs::path path, FilePolicyRef policy)
+    : HostObject(locale), m_path(std::move(path)), m_policy(std::move(policy)) {}
 
 std::span<const FolderObject::Member> FolderObject::Members() {
   using F = FolderObject;
@@ -259,10 +269,10 @@ Result<Variant> FolderObject::DateLastAccessed(CallArgs&) { return DateOf(m_path
 
 Result<Variant> FolderObject::DateLastModified(CallArgs&) { return DateOf(m_path, Stamp::Modified, kPathNotFound); }
 
-Result<Variant> FolderObject::Drive(CallArgs&) { return Variant::Object(MakeRef<DriveObject>(locale())); }
+Result<Variant> FolderObject::Drive(CallArgs&) { return Variant::Object(MakeRef<DriveObject>(locale(), m_policy)); }
 
 Result<Variant> FolderObject::Files(CallArgs&) {
-  return Variant::Object(MakeRef<FolderListing>(locale(), m_path, FolderListing::Kind::Files));
+  return Variant::Object(MakeRef<FolderListing>(locale(), m_path, FolderListing::Kind::Files, m_policy));
 }
 
 Result<Variant> FolderObject::IsRootFolder(CallArgs&) { return Variant::Boolean(m_path == m_path.root_path()); }
@@ -270,7 +280,7 @@ Result<Variant> FolderObject::IsRootFolder(CallArgs&) { return Variant::Boolean(
 Result<Variant> FolderObject::GetName(CallArgs&) { return Variant::String(NameOf(m_path)); }
 
 Result<Variant> FolderObject::PutName(CallArgs&, Variant value) {
-  auto renamed = Rename(m_path, value, locale());
+  auto renamed = Rename(m_path, value, locale(), m_policy.get());
   if (!renamed) return std::move(renamed).error();
   m_path = std::move(*renamed);
   return Variant();
@@ -278,7 +288,7 @@ Result<Variant> FolderObject::PutName(CallArgs&, Variant value) {
 
 Result<Variant> FolderObject::ParentFolder(CallArgs&) {
   if (m_path == m_path.root_path()) return Variant::Nothing();
-  return FolderValue(locale(), m_path.parent_path());
+  return FolderValue(locale(), m_path.parent_path(), m_policy);
 }
 
 Result<Variant> FolderObject::Path(CallArgs&) { return Variant::String(ScriptPath(m_path)); }
@@ -290,7 +300,7 @@ Result<Variant> FolderObject::Size(CallArgs&) {
 }
 
 Result<Variant> FolderObject::SubFolders(CallArgs&) {
-  return Variant::Object(MakeRef<FolderListing>(locale(), m_path, FolderListing::Kind::Folders));
+  return Variant::Object(MakeRef<FolderListing>(locale(), m_path, FolderListing::Kind::Folders, m_policy));
 }
 
 Result<Variant> FolderObject::Type(CallArgs&) { return Variant::String(u"File folder"); }
@@ -302,6 +312,8 @@ Result<Variant> FolderObject::Copy(CallArgs& args) {
   if (!overwrite) return std::move(overwrite).error();
   fs::path target = NativePath(*to);
   if (!to->empty() && (to->back() == u'\\' || to->back() == u'/')) target /= m_path.filename();
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, m_path, "Copy"));
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, target, "Copy"));
   VBS_TRY(CopyTree(m_path, target, *overwrite ? Overwrite::Yes : Overwrite::No));
   return Variant();
 }
@@ -309,6 +321,7 @@ Result<Variant> FolderObject::Copy(CallArgs& args) {
 Result<Variant> FolderObject::Delete(CallArgs& args) {
   auto force = args.Boolean(0, false);
   if (!force) return std::move(force).error();
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, m_path, "Delete"));
   VBS_TRY(DeleteTree(m_path, *force ? Force::Yes : Force::No));
   return Variant();
 }
@@ -318,6 +331,8 @@ Result<Variant> FolderObject::Move(CallArgs& args) {
   if (!to) return std::move(to).error();
   fs::path target = NativePath(*to);
   if (!to->empty() && (to->back() == u'\\' || to->back() == u'/')) target /= m_path.filename();
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, m_path, "Move"));
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, target, "Move"));
   VBS_TRY(MoveEntry(m_path, target));
   m_path = FullPath(target);
   return Variant();
@@ -332,6 +347,7 @@ Result<Variant> FolderObject::CreateTextFile(CallArgs& args) {
   if (!unicode) return std::move(unicode).error();
   const bool rooted = !name->empty() && ((*name)[0] == u'\\' || (*name)[0] == u'/' || (name->size() >= 2 && (*name)[1] == u':'));
   const fs::path file = NativePath(rooted ? *name : ScriptPath(m_path) + u"/" + *name);
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, file, "CreateTextFile"));
   auto stream = TextStream::Create(locale(), file, *overwrite, *unicode ? TextFormat::Unicode : TextFormat::Ansi);
   if (!stream) return std::move(stream).error();
   return Variant::Object(*stream);
@@ -339,8 +355,8 @@ Result<Variant> FolderObject::CreateTextFile(CallArgs& args) {
 
 // ---- Files and Folders ----
 
-FolderListing::FolderListing(const Locale& locale, fs::path folder, Kind kind)
-    : HostObject(locale), m_folder(std::move(folder)), m_kind(kind) {}
+FolderListing::FolderListing(const Locale& locale, fs::path folder, Kind kind, FilePolicyRef policy)
+    : HostObject(locale), m_folder(std::move(folder)), m_kind(kind), m_policy(std::move(policy)) {}
 
 std::span<const FolderListing::Member> FolderListing::Members() {
   static const Member kMembers[] = {
@@ -352,6 +368,7 @@ std::span<const FolderListing::Member> FolderListing::Members() {
 }
 
 Result<std::vector<Variant>> FolderListing::Entries() {
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, m_folder, m_kind == Kind::Files ? "Files" : "SubFolders"));
   auto entries = ListFolder(m_folder);
   if (!entries) return std::move(entries).error();
   std::vector<std::pair<std::u16string, fs::path>> found;
@@ -365,9 +382,9 @@ Result<std::vector<Variant>> FolderListing::Entries() {
   std::vector<Variant> values;
   for (const auto& [key, path] : found) {
     if (m_kind == Kind::Files)
-      values.push_back(Variant::Object(MakeRef<FileObject>(locale(), path)));
+      values.push_back(Variant::Object(MakeRef<FileObject>(locale(), path, m_policy)));
     else
-      values.push_back(FolderValue(locale(), path));
+      values.push_back(FolderValue(locale(), path, m_policy));
   }
   return values;
 }
@@ -387,12 +404,13 @@ Result<Variant> FolderListing::Count(CallArgs&) {
 Result<Variant> FolderListing::Item(CallArgs& args) {
   auto name = args.String(0);
   if (!name) return std::move(name).error();
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, m_folder, "Item"));
   auto entries = ListFolder(m_folder);
   if (!entries) return std::move(entries).error();
   for (const FolderEntry& entry : *entries) {
     if (entry.is_folder != (m_kind == Kind::Folders) || !EqualsIgnoringCase(NameOf(entry.path), *name)) continue;
-    if (m_kind == Kind::Files) return Variant::Object(MakeRef<FileObject>(locale(), entry.path));
-    return FolderValue(locale(), entry.path);
+    if (m_kind == Kind::Files) return Variant::Object(MakeRef<FileObject>(locale(), entry.path, m_policy));
+    return FolderValue(locale(), entry.path, m_policy);
   }
   return MakeError(m_kind == Kind::Files ? kFileNotFound : kPathNotFound);
 }
@@ -403,16 +421,17 @@ Result<Variant> FolderListing::Add(CallArgs& args) {
   if (!name) return std::move(name).error();
   if (name->empty() || name->find_first_of(u"\\/") != std::u16string::npos) return MakeError(kBadFileName);
   const fs::path folder = m_folder / fs::path(Utf16ToUtf8(*name));
+  VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, folder, "Add"));
   std::error_code ec;
   if (fs::exists(fs::symlink_status(folder, ec))) return MakeError(kFileExists);
   fs::create_directory(folder, ec);
   if (ec) return FileError(ec, kPathNotFound);
-  return FolderValue(locale(), folder);
+  return FolderValue(locale(), folder, m_policy);
 }
 
 // ---- Drive ----
 
-DriveObject::DriveObject(const Locale& locale) : HostObject(locale) {}
+DriveObject::DriveObject(const Locale& locale, FilePolicyRef policy) : HostObject(locale), m_policy(std::move(policy)) {}
 
 std::span<const DriveObject::Member> DriveObject::Members() {
   using F = DriveObject;
@@ -455,13 +474,13 @@ Result<Variant> DriveObject::IsReady(CallArgs&) { return Variant::Boolean(true);
 
 Result<Variant> DriveObject::Path(CallArgs&) { return Variant::String(u"/"); }
 
-Result<Variant> DriveObject::RootFolder(CallArgs&) { return FolderValue(locale(), "/"); }
+Result<Variant> DriveObject::RootFolder(CallArgs&) { return FolderValue(locale(), "/", m_policy); }
 
 Result<Variant> DriveObject::Empty(CallArgs&) { return Variant::String(u""); }
 
 Result<Variant> DriveObject::SerialNumber(CallArgs&) { return Variant::Long(0); }
 
-DriveList::DriveList(const Locale& locale) : HostObject(locale) {}
+DriveList::DriveList(const Locale& locale, FilePolicyRef policy) : HostObject(locale), m_policy(std::move(policy)) {}
 
 std::span<const DriveList::Member> DriveList::Members() {
   static const Member kMembers[] = {
@@ -472,11 +491,11 @@ std::span<const DriveList::Member> DriveList::Members() {
 }
 
 Result<Ref<Enumerator>> DriveList::Enumerate() {
-  return Ref<Enumerator>(MakeRef<SnapshotEnumerator>(std::vector<Variant>{Variant::Object(MakeRef<DriveObject>(locale()))}));
+  return Ref<Enumerator>(MakeRef<SnapshotEnumerator>(std::vector<Variant>{Variant::Object(MakeRef<DriveObject>(locale(), m_policy))}));
 }
 
 Result<Variant> DriveList::Count(CallArgs&) { return Variant::Long(1); }
 
-Result<Variant> DriveList::Item(CallArgs&) { return Variant::Object(MakeRef<DriveObject>(locale())); }
+Result<Variant> DriveList::Item(CallArgs&) { return Variant::Object(MakeRef<DriveObject>(locale(), m_policy)); }
 
 }  // namespace vbs

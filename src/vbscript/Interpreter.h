@@ -17,6 +17,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "FileAccessPolicy.h"
 #include "Locale.h"
 #include "Object.h"
 #include "Operators.h"
@@ -155,6 +156,11 @@ class Interpreter {
   // Records a caught error in Err, filling in the standard description and source.
   void SetErr(const ScriptError& error);
 
+  // ---- Files ----
+  // What the host lets scripts do with files (FileAccessPolicy.h); none allows everything.
+  void SetFileAccessPolicy(std::shared_ptr<const FileAccessPolicy> policy) { m_file_policy = std::move(policy); }
+  const std::shared_ptr<const FileAccessPolicy>& file_policy() const { return m_file_policy; }
+
   // ---- Interruption ----
   // From any thread: the running script ends with an error at its next statement.
   void RequestAbort() { m_abort.store(true, std::memory_order_relaxed); }
@@ -200,6 +206,7 @@ class Interpreter {
   Ref<ErrObject> m_err_object;
   RandomGenerator m_random;
   std::shared_ptr<struct EngineLink> m_link;
+  std::shared_ptr<const FileAccessPolicy> m_file_policy;
 
   std::atomic<bool> m_abort{false};
   std::optional<std::chrono::steady_clock::time_point> m_deadline;

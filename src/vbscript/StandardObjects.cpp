@@ -10,7 +10,7 @@ void RegisterStandardObjects(Interpreter& interp) {
     return Ref<Object>(MakeRef<Dictionary>(engine.locale()));
   });
   interp.RegisterObjectClass("Scripting.FileSystemObject", [](Interpreter& engine) -> Result<Ref<Object>> {
-    return Ref<Object>(MakeRef<FileSystemObject>(engine.locale()));
+    return Ref<Object>(MakeRef<FileSystemObject>(engine.locale(), engine.file_policy()));
   });
   interp.RegisterObjectClass("VBScript.RegExp", [](Interpreter& engine) -> Result<Ref<Object>> {
     return Ref<Object>(MakeRef<RegExp>(engine));

@@ -1,5 +1,9 @@
 #include "TextStream.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
 
@@ -18,11 +22,15 @@ constexpr int32_t kBadFileMode = 54;
 constexpr int32_t kFileExists = 58;
 constexpr int32_t kPastEnd = 62;
 constexpr int32_t kPermissionDenied = 70;
+constexpr int32_t kPathFileAccess = 75;
 constexpr int32_t kPathNotFound = 76;
 // How much written text waits before it goes to the disk.
 constexpr size_t kFlushAt = 32768;
 // How much of a file appending looks at to learn its encoding.
 constexpr size_t kSniffBytes = 65536;
+// The largest file a stream reads: its text must fit a string, and a script must not exhaust memory.
+constexpr size_t kMaxReadBytes = size_t{256} << 20;
+constexpr size_t kBlankLinesAtOnce = 8192;
 
 ScriptError ErrnoError(int32_t missing) { return FileError(std::error_code(errno, std::generic_category()), missing); }
 
@@ -33,21 +41,41 @@ ScriptError MissingFile(const fs::path& path) {
   return MakeError(parent.empty() || fs::is_directory(parent, ec) ? kFileNotFound : kPathNotFound);
 }
 
+// Up to `limit` bytes of a regular file. A device, a pipe or a socket would never end or would
+// wait for a writer: it is refused (75) without waiting, as is a file larger than kMaxReadBytes (7)
+// when the whole of it is wanted.
 Result<std::string> ReadBytes(const fs::path& path, size_t limit) {
-  std::FILE* file = std::fopen(path.c_str(), "rb");
-  if (!file) return ErrnoError(kFileNotFound);
+  const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (fd < 0) return ErrnoError(kFileNotFound);
+  struct stat info {};
+  if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
+    ::close(fd);
+    return MakeError(kPathFileAccess);
+  }
+  if (limit == SIZE_MAX && static_cast<uintmax_t>(info.st_size) > kMaxReadBytes) {
+    ::close(fd);
+    return MakeError(err::kOutOfMemory);
+  }
+  limit = std::min(limit, kMaxReadBytes);
   std::string bytes;
   char buffer[65536];
+  bool failed = false;
   while (bytes.size() < limit) {
-    const size_t got = std::fread(buffer, 1, std::min(sizeof buffer, limit - bytes.size()), file);
-    if (got == 0) break;
-    bytes.append(buffer, got);
+    const ssize_t got = ::read(fd, buffer, std::min(sizeof buffer, limit - bytes.size()));
+    if (got < 0 && errno == EINTR) continue;
+    if (got <= 0) {
+      failed = got < 0;
+      break;
+    }
+    bytes.append(buffer, static_cast<size_t>(got));
   }
-  const bool failed = std::ferror(file) != 0;
-  std::fclose(file);
+  ::close(fd);
   if (failed) return MakeError(kPermissionDenied);
   return bytes;
 }
+
+// Writing to a device or a pipe could wait for ever: only regular files, new or existing.
+bool WritableKind(const fs::file_status& status) { return !fs::exists(status) || fs::is_regular_file(status); }
 
 std::u16string Utf16LeToText(std::string_view bytes) {
   std::u16string text;
@@ -69,6 +97,15 @@ bool HasNonAscii(std::string_view bytes) {
 }
 
 }  // namespace
+
+Status CheckTextStreamAccess(const FileAccessPolicy* policy, const fs::path& path, IoMode mode, bool create,
+                            std::string_view function) {
+  std::error_code ec;
+  const bool creates = create && !fs::exists(path, ec);
+  if (mode == IoMode::Reading && !creates) return CheckAccess(policy, FileAccess::Read, path, function);
+  if (mode == IoMode::Reading) VBS_TRY(CheckAccess(policy, FileAccess::Read, path, function));
+  return CheckAccess(policy, FileAccess::Write, path, function);
+}
 
 Result<TextFormat> FormatArgument(const CallArgs& args, size_t i) {
   auto value = args.Long(i, 0);
@@ -115,6 +152,7 @@ Result<Ref<TextStream>> TextStream::Open(const Locale& locale, const fs::path& p
   if (fs::is_directory(status)) return MakeError(kPermissionDenied);
   const bool exists = fs::exists(status);
   if (!exists && !create) return MissingFile(path);
+  if (!WritableKind(status)) return MakeError(mode == IoMode::Reading ? kPathFileAccess : kPermissionDenied);
   if (mode != IoMode::Reading) return OpenForWriting(locale, path, mode == IoMode::Appending, format);
   if (!exists) {
     std::FILE* file = std::fopen(path.c_str(), "wb");
@@ -134,6 +172,7 @@ Result<Ref<TextStream>> TextStream::Create(const Locale& locale, const fs::path&
   const fs::file_status status = fs::status(path, ec);
   if (fs::is_directory(status)) return MakeError(kPermissionDenied);
   if (fs::exists(status) && !overwrite) return MakeError(kFileExists);
+  if (!WritableKind(status)) return MakeError(kPermissionDenied);
   return OpenForWriting(locale, path, false, format);
 }
 
@@ -301,9 +340,14 @@ Result<Variant> TextStream::WriteBlankLines(CallArgs& args) {
   auto count = args.Long(0);
   if (!count) return std::move(count).error();
   if (*count < 0) return MakeError(err::kInvalidCall);
+  // In pieces, so that a huge count costs no more memory than a small one.
   std::u16string breaks;
-  for (int32_t i = 0; i < *count; ++i) breaks += u"\r\n";
-  VBS_TRY(Put(breaks));
+  for (size_t i = 0; i < kBlankLinesAtOnce; ++i) breaks += u"\r\n";
+  for (auto left = static_cast<size_t>(*count); left > 0;) {
+    const size_t now = std::min(left, kBlankLinesAtOnce);
+    VBS_TRY(Put(std::u16string_view(breaks).substr(0, now * 2)));
+    left -= now;
+  }
   return Variant();
 }
 

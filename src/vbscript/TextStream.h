@@ -12,12 +12,16 @@
 // is buffered and reaches the disk at Close, when the buffer fills, or when the last reference
 // to the stream goes.
 //
+// Only regular files are read or written: a device or a pipe is refused at once (75 to read, 70 to
+// write) rather than read for ever or waited on; a file larger than 256 MB is not read (7).
+//
 // Errors: 54 bad file mode (reading a stream open for writing, or writing one open for reading,
 // or using a closed one), 62 input past end of file.
 
 #include <cstdio>
 #include <filesystem>
 
+#include "FileAccessPolicy.h"
 #include "HostObject.h"
 
 namespace vbs {
@@ -28,6 +32,10 @@ enum class TextFormat { Ansi, Unicode };
 // Argument i of OpenTextFile or OpenAsTextStream read as a Format (0 when missing); error 5 for a
 // value other than -2, -1 and 0.
 Result<TextFormat> FormatArgument(const CallArgs& args, size_t i);
+// What opening `path` in `mode` asks of the policy: reading, and writing as well when the stream
+// writes or creates the file.
+[[nodiscard]] Status CheckTextStreamAccess(const FileAccessPolicy* policy, const std::filesystem::path& path,
+                                           IoMode mode, bool create, std::string_view function);
 
 class TextStream final : public HostObject<TextStream> {
  public:
