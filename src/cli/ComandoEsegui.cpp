@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <charconv>
+#include <climits>
 #include <deque>
 #include <filesystem>
 #include <fmt/format.h>
@@ -199,7 +200,7 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
       auto minuti = Minuti(valore);
       if (!minuti)
         return contesto.Fallisci(AvvisoEsclamativo(fmt::format("--timeout vuole i minuti (0 = Infinito): {}", valore)));
-      if (*minuti > script::kMinutiTimeoutMassimi)
+      if (*minuti * 60000 > INT32_MAX)
         return contesto.Fallisci(AvvisoEsclamativo(fmt::format(
             "--timeout al massimo {} minuti (circa 24 giorni; 0 = Infinito): {}", script::kMinutiTimeoutMassimi, valore)));
       timeout_ms = *minuti == 0 ? -1 : std::max(1, static_cast<int32_t>(*minuti * 60000));

@@ -60,6 +60,9 @@ TEST_F(ComandoVbsTest, ArgomentiUscitaEdErrori) {
 
   EXPECT_EQ(Esegui({"--locale", "fr-FR", errore}).codice, 2);
   EXPECT_EQ(Esegui({(m_base / "manca.vbs").string()}).codice, 2);
+  auto periferica = Esegui({"/dev/zero"});
+  EXPECT_EQ(periferica.codice, 2) << "a device is refused, never read for ever";
+  EXPECT_NE(periferica.err.find("/dev/zero è una periferica"), std::string::npos) << periferica.err;
 }
 
 }  // namespace

@@ -16,6 +16,8 @@
 #include "gui/EsecuzioneInThread.h"
 #include "gui/F_Script.h"
 #include "gui/ParoleEditor.h"
+#include "gui/ScriptModalita.h"
+#include "script/OutputHtml.h"
 #include "vbscript/Lexer.h"
 #include "vbscript/Utf.h"
 
@@ -39,6 +41,11 @@ class DialoghiDiProva final : public DialoghiScript {
   }
   QString FileDaAprire(const QString&) override { return file_da_aprire; }
   QString FileDaSalvare(const QString&) override { return file_da_salvare; }
+  script::Modalita SceltaModalita(const QString& file) override {
+    Annota();
+    modalita_chieste << file;
+    return modalita_scelta;
+  }
   int MessageBox(const QString& testo, int, const QString&) override {
     Annota();
     domande << testo;
@@ -71,6 +78,8 @@ class DialoghiDiProva final : public DialoghiScript {
   QString file_da_aprire;
   QString file_da_salvare;
   QStringList domande;
+  QStringList modalita_chieste;
+  script::Modalita modalita_scelta = script::Modalita::Protetta;
   std::vector<Avviso> avvisi;
   bool fuori_dal_thread_della_finestra = false;
 
@@ -94,6 +103,8 @@ std::shared_ptr<const TabellaEstrazioni> ArchivioAMano() {
 // Forever, until told to stop or interrupted; writes "via" first so the test knows it runs.
 constexpr auto kFinoAlloStop = "Sub Main\nScrivi \"via\"\nDo Until ScriptInterrotto()\nLoop\nScrivi \"fermato\"\nEnd Sub";
 constexpr auto kSenzaFine = "Sub Main\nScrivi \"via\"\nDo\nLoop\nEnd Sub";
+// Writes as fast as it can and never looks at ScriptInterrotto.
+constexpr auto kAlluvione = "Sub Main\nScrivi \"via\"\nDo\nScrivi \"x\"\nLoop\nEnd Sub";
 
 }  // namespace
 
@@ -244,6 +255,60 @@ class FinestraScriptTest : public QObject {
     QVERIFY(m_finestra->Output()->toPlainText().contains("Errore script !"));
     QCOMPARE(m_dialoghi->avvisi.size(), size_t{1});
     QCOMPARE(m_dialoghi->avvisi[0].titolo, std::string("EseguiScript"));
+  }
+
+  void UnoScriptCheScriveSenzaFineVieneTroncatoEInterrottoSubito() {
+    Apri();
+    AvviaEAttendiIlVia(kAlluvione);
+    QTRY_VERIFY_WITH_TIMEOUT(m_finestra->Output()->toPlainText().contains("Output troncato"), kAttesaMs);
+    QSignalSpy terminata(m_finestra.get(), &F_Script::EsecuzioneTerminata);
+    m_finestra->InterrompiSubito();
+    QVERIFY(terminata.wait(kAttesaMs));
+    const QString output = m_finestra->Output()->toPlainText();
+    QVERIFY(output.count('\n') <= kMassimoRighe + 10);
+    QCOMPARE(output.count("Output troncato"), 1);
+    QVERIFY(output.contains("Esecuzione dello script interrotta"));
+    for (const auto& pagina : std::filesystem::directory_iterator(m_base->Percorso() / "scriptOutput"))
+      QVERIFY(pagina.file_size() <= script::kLimitePaginaHtml + 4096);
+  }
+
+  void UnoScriptDaFuoriChiedeLaModalitaUnaVoltaPerContenuto() {
+    Apri();
+    test::CartellaTemporanea scaricati;
+    const QString condiviso = QString::fromStdString((scaricati / "condiviso.ls").string());
+    std::ofstream(condiviso.toStdString()) << "Sub Main\nScrivi 1\nEnd Sub\n";
+    QVERIFY(m_finestra->ApriFile(condiviso));
+    QCOMPARE(m_dialoghi->modalita_chieste, QStringList{condiviso});
+    QCOMPARE(m_finestra->Modalita(), script::Modalita::Protetta);
+    QVERIFY(m_finestra->windowTitle().contains("(protetto)"));
+    QVERIFY(std::filesystem::exists(m_base->Percorso() / std::string(kFileModalita)));
+
+    // The same content is not asked again, even from another window; the user's change is kept.
+    m_finestra->ImpostaModalita(script::Modalita::Normale);
+    m_finestra->Nuovo();
+    QCOMPARE(m_finestra->Modalita(), script::Modalita::Normale);
+    QVERIFY(m_finestra->ApriFile(condiviso));
+    QCOMPARE(m_dialoghi->modalita_chieste.size(), 1);
+    QCOMPARE(m_finestra->Modalita(), script::Modalita::Normale);
+
+    // A changed file is another script.
+    std::ofstream(condiviso.toStdString()) << "Sub Main\nScrivi 2\nEnd Sub\n";
+    QVERIFY(m_finestra->ApriFile(condiviso));
+    QCOMPARE(m_dialoghi->modalita_chieste.size(), 2);
+    QCOMPARE(m_finestra->Modalita(), script::Modalita::Protetta);
+
+    // The user's own scripts folder asks nothing.
+    std::filesystem::create_directories(m_base->Percorso() / "Script");
+    const QString mio = QString::fromStdString((m_base->Percorso() / "Script" / "mio.ls").string());
+    std::ofstream(mio.toStdString()) << "Sub Main\nScrivi 3\nEnd Sub\n";
+    QVERIFY(m_finestra->ApriFile(mio));
+    QCOMPARE(m_dialoghi->modalita_chieste.size(), 2);
+    QCOMPARE(m_finestra->Modalita(), script::Modalita::Normale);
+
+    // A device is refused, not read for ever.
+    QVERIFY(!m_finestra->ApriFile("/dev/zero"));
+    QVERIFY(!m_dialoghi->avvisi.empty());
+    QVERIFY(m_dialoghi->avvisi.back().testo.find("periferica") != std::string::npos);
   }
 
   void UnaSecondaEsecuzioneDuranteLaPrimaERifiutata() {
