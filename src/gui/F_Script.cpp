@@ -10,13 +10,14 @@
 #include <QProgressBar>
 #include <QTabWidget>
 #include <QTextBrowser>
-#include <QTextEdit>
+#include <QPlainTextEdit>
 #include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 
@@ -34,8 +35,10 @@ namespace lottolab::gui {
 
 namespace {
 
-// A page larger than this takes the browser seconds to lay out: the tab links to it instead.
-constexpr uintmax_t kMassimoPaginaMostrata = uintmax_t{4} << 20;
+// The html tab lays out a page on the window's thread, some milliseconds per thousand lines: a
+// larger page would freeze the window for seconds, so the tab links to it instead.
+constexpr uintmax_t kMassimoPaginaMostrata = uintmax_t{1} << 20;
+constexpr qsizetype kMassimoRighePaginaMostrata = 20000;
 
 QString Modello() {
   return QString::fromUtf8(script::kModelloScript.data(), static_cast<qsizetype>(script::kModelloScript.size()));
@@ -61,11 +64,11 @@ F_Script::F_Script(ContestoGui& contesto, std::unique_ptr<DialoghiScript> dialog
 
   m_schede = new QTabWidget(this);
   m_editor = new EditorScript(m_schede);
-  m_output = new QTextEdit(m_schede);
+  m_output = new QPlainTextEdit(m_schede);
   m_output->setReadOnly(true);
   // Scripts line up their tables with blanks.
   m_output->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  m_output->setLineWrapMode(QTextEdit::NoWrap);
+  m_output->setLineWrapMode(QPlainTextEdit::NoWrap);
   m_html = new QTextBrowser(m_schede);
   m_html->setOpenExternalLinks(true);
   m_schede->addTab(m_editor, QStringLiteral("codice"));
@@ -284,10 +287,11 @@ void F_Script::MostraPagina(const std::filesystem::path& pagina) {
   const uintmax_t dimensione = std::filesystem::file_size(pagina, ec);
   if (ec) return;
   const QUrl indirizzo = QUrl::fromLocalFile(QString::fromStdString(pagina.string()));
-  if (dimensione > kMassimoPaginaMostrata) {
-    m_html->setHtml(QStringLiteral("<p>La pagina HTML di questa esecuzione è di %1 MB, troppo grande per mostrarla "
+  auto letta = script::LeggiFileRegolare(pagina, kMassimoPaginaMostrata);
+  if (!letta || std::count(letta->begin(), letta->end(), '\n') > kMassimoRighePaginaMostrata) {
+    m_html->setHtml(QStringLiteral("<p>La pagina HTML di questa esecuzione (%1 KB) è troppo grande per mostrarla "
                                    "qui.</p><p><a href=\"%2\">%3</a></p>")
-                        .arg(dimensione >> 20)
+                        .arg(dimensione >> 10)
                         .arg(indirizzo.toString(), QString::fromStdString(pagina.string()).toHtmlEscaped()));
     return;
   }

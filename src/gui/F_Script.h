@@ -23,7 +23,7 @@ class QLabel;
 class QProgressBar;
 class QTabWidget;
 class QTextBrowser;
-class QTextEdit;
+class QPlainTextEdit;
 class QVBoxLayout;
 
 namespace lottolab::gui {
@@ -45,7 +45,7 @@ class F_Script : public QWidget {
   bool InEsecuzione() const;
 
   EditorScript* Editor() const { return m_editor; }
-  QTextEdit* Output() const { return m_output; }
+  QPlainTextEdit* Output() const { return m_output; }
   QTextBrowser* PaginaHtml() const { return m_html; }
   QLabel* Attesa() const { return m_attesa; }
   QProgressBar* Avanzamento() const { return m_avanzamento; }
@@ -95,7 +95,7 @@ class F_Script : public QWidget {
   std::string m_nome_codice;
 
   EditorScript* m_editor = nullptr;
-  QTextEdit* m_output = nullptr;
+  QPlainTextEdit* m_output = nullptr;
   QTextBrowser* m_html = nullptr;
   QTabWidget* m_schede = nullptr;
   QComboBox* m_timeout = nullptr;

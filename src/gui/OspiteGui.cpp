@@ -80,18 +80,47 @@ void OspiteGui::ProgrammaConsegna() {
     QTimer::singleShot(static_cast<int>(kIntervalloConsegnaMs - trascorsi), this, &OspiteGui::ConsegnaTesto);
 }
 
-void OspiteGui::ConsegnaTesto() {
+std::vector<script::TrattoTesto> OspiteGui::PrimeRighe(int64_t righe) {
+  std::vector<script::TrattoTesto> presi;
+  size_t interi = 0;
+  for (; interi < m_tratti.size() && righe > 0; ++interi) {
+    const std::string& testo = m_tratti[interi].testo;
+    const auto nel_tratto = std::count(testo.begin(), testo.end(), '\n');
+    if (nel_tratto <= righe) {
+      righe -= nel_tratto;
+      continue;
+    }
+    // The piece is cut after its righe-th line; the rest waits for the next delivery.
+    size_t taglio = 0;
+    for (int64_t contate = 0; contate < righe; ++contate) taglio = testo.find('\n', taglio) + 1;
+    presi.assign(std::make_move_iterator(m_tratti.begin()), std::make_move_iterator(m_tratti.begin() + static_cast<ptrdiff_t>(interi)));
+    presi.push_back(script::TrattoTesto{testo.substr(0, taglio), m_tratti[interi].colore, m_tratti[interi].grassetto});
+    m_tratti[interi].testo.erase(0, taglio);
+    m_tratti.erase(m_tratti.begin(), m_tratti.begin() + static_cast<ptrdiff_t>(interi));
+    return presi;
+  }
+  presi.assign(std::make_move_iterator(m_tratti.begin()), std::make_move_iterator(m_tratti.begin() + static_cast<ptrdiff_t>(interi)));
+  m_tratti.erase(m_tratti.begin(), m_tratti.begin() + static_cast<ptrdiff_t>(interi));
+  return presi;
+}
+
+void OspiteGui::ConsegnaTesto() { Consegna(kRighePerConsegna); }
+
+void OspiteGui::Consegna(int64_t righe) {
   std::vector<script::TrattoTesto> tratti;
+  bool resta = false;
   {
     std::lock_guard blocco(m_mutex);
-    tratti.swap(m_tratti);
-    m_consegna_chiesta = false;
+    tratti = PrimeRighe(righe);
+    resta = !m_tratti.empty();
+    m_consegna_chiesta = resta;
   }
   m_ultima_consegna.start();
+  if (resta) QTimer::singleShot(kIntervalloConsegnaMs, this, &OspiteGui::ConsegnaTesto);
   if (!tratti.empty()) emit TestoScritto(tratti);
 }
 
-void OspiteGui::ConsegnaInSospeso() { ConsegnaTesto(); }
+void OspiteGui::ConsegnaInSospeso() { Consegna(kMassimoRighe + 1); }
 
 void OspiteGui::Azzera() {
   std::lock_guard blocco(m_mutex);

@@ -6,13 +6,12 @@
 //
 // A script may write lines in a loop as fast as it can. The window must stay responsive, so the
 // worker gathers the text (runs of one style joined into one piece) and the window takes it at most
-// every kIntervalloConsegnaMs; and a run's text stops at kMassimoRighe lines or kMassimoCaratteri
-// characters, where one line says so, so that neither the window nor the gathered text grows
-// without end.
-
-#include <QObject>
+// every kIntervalloConsegnaMs, kRighePerConsegna lines at a time; and a run's text stops at
+// kMassimoRighe lines or kMassimoCaratteri characters, where one line says so, so that neither the
+// window nor the gathered text grows without end.
 
 #include <QElapsedTimer>
+#include <QObject>
 
 #include <atomic>
 #include <mutex>
@@ -32,6 +31,9 @@ namespace lottolab::gui {
 inline constexpr int kIntervalloConsegnaMs = 80;
 inline constexpr int64_t kMassimoRighe = 100000;
 inline constexpr int64_t kMassimoCaratteri = int64_t{16} << 20;
+// Laying out a line in the output box costs the window's thread some microseconds: a delivery of
+// this many lines keeps it free for the user's clicks.
+inline constexpr int64_t kRighePerConsegna = 5000;
 
 class OspiteGui final : public QObject, public script::InterfacciaScript, public vbs::UiHandler {
   Q_OBJECT
@@ -79,6 +81,10 @@ class OspiteGui final : public QObject, public script::InterfacciaScript, public
   Risposta SulThreadDellaFinestra(Chiedi chiedi, const Risposta& annullato);
   void ProgrammaConsegna();
   void ConsegnaTesto();
+  // Hands the window up to `righe` lines of what waits, and asks again later for the rest.
+  void Consegna(int64_t righe);
+  // Takes the first `righe` lines of what waits; under m_mutex.
+  std::vector<script::TrattoTesto> PrimeRighe(int64_t righe);
   void ConsegnaAvanzamento();
   // Adds `tratto` to what waits, joined to the last piece when of the same style; under m_mutex.
   void Accoda(script::TrattoTesto tratto);

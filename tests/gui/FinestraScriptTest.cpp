@@ -6,7 +6,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBrowser>
-#include <QTextEdit>
+#include <QPlainTextEdit>
 #include <QThread>
 
 #include <fstream>
