@@ -125,6 +125,7 @@ void OspiteGui::ConsegnaInSospeso() { Consegna(kMassimoRighe + 1); }
 void OspiteGui::Azzera() {
   std::lock_guard blocco(m_mutex);
   m_tratti.clear();
+  m_mostrati.clear();
   m_righe = 0;
   m_caratteri = 0;
   m_troncato = false;
@@ -144,6 +145,13 @@ void OspiteGui::ConsegnaAvanzamento() {
 void OspiteGui::Messaggio(const std::string& testo) { emit MessaggioRicevuto(QString::fromStdString(testo)); }
 
 void OspiteGui::Mostra(const Avviso& avviso) {
+  // A script that repeats a failing call in a loop would otherwise keep a modal dialog in front of
+  // the user, who could never reach "Interrompi subito": a message already shown in this run goes
+  // to the output instead.
+  if (!m_mostrati.insert(avviso.titolo + '\n' + avviso.testo).second) {
+    Scrivi(script::TrattoTesto{fmt::format("{}: {}\n", avviso.titolo, avviso.testo), script::kRosso, false});
+    return;
+  }
   SulThreadDellaFinestra([&] {
     m_dialoghi.Avvisa(avviso);
     return true;

@@ -272,6 +272,15 @@ class FinestraScriptTest : public QObject {
       QVERIFY(pagina.file_size() <= script::kLimitePaginaHtml + 4096);
   }
 
+  void UnMessaggioRipetutoNonTieneLaFinestraInOstaggio() {
+    Apri();
+    Esegui("Sub Main\nDim i\nFor i = 1 To 3\nEstratto 1, 17, 1\nNext\nScrivi \"fine\"\nEnd Sub");
+    QCOMPARE(m_dialoghi->avvisi.size(), size_t{1});
+    const QString output = m_finestra->Output()->toPlainText();
+    QCOMPARE(output.count(QString::fromStdString(m_dialoghi->avvisi[0].testo)), 2);
+    QVERIFY(output.endsWith("fine\n"));
+  }
+
   void UnoScriptDaFuoriChiedeLaModalitaUnaVoltaPerContenuto() {
     Apri();
     test::CartellaTemporanea scaricati;
