@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <optional>
 
 #include "vbscript/Utf.h"
 
@@ -81,26 +82,23 @@ void OspiteGui::ProgrammaConsegna() {
 }
 
 std::vector<script::TrattoTesto> OspiteGui::PrimeRighe(int64_t righe) {
-  std::vector<script::TrattoTesto> presi;
-  size_t interi = 0;
-  for (; interi < m_tratti.size() && righe > 0; ++interi) {
-    const std::string& testo = m_tratti[interi].testo;
-    const auto nel_tratto = std::count(testo.begin(), testo.end(), '\n');
-    if (nel_tratto <= righe) {
-      righe -= nel_tratto;
-      continue;
+  auto fine = m_tratti.begin();
+  std::optional<script::TrattoTesto> inizio_del_tratto;
+  for (; fine != m_tratti.end() && righe > 0; ++fine) {
+    const auto nel_tratto = std::count(fine->testo.begin(), fine->testo.end(), '\n');
+    if (nel_tratto > righe) {
+      // The piece is cut after its righe-th line; the rest waits for the next delivery.
+      size_t taglio = 0;
+      for (int64_t contate = 0; contate < righe; ++contate) taglio = fine->testo.find('\n', taglio) + 1;
+      inizio_del_tratto = script::TrattoTesto{fine->testo.substr(0, taglio), fine->colore, fine->grassetto};
+      fine->testo.erase(0, taglio);
+      break;
     }
-    // The piece is cut after its righe-th line; the rest waits for the next delivery.
-    size_t taglio = 0;
-    for (int64_t contate = 0; contate < righe; ++contate) taglio = testo.find('\n', taglio) + 1;
-    presi.assign(std::make_move_iterator(m_tratti.begin()), std::make_move_iterator(m_tratti.begin() + static_cast<ptrdiff_t>(interi)));
-    presi.push_back(script::TrattoTesto{testo.substr(0, taglio), m_tratti[interi].colore, m_tratti[interi].grassetto});
-    m_tratti[interi].testo.erase(0, taglio);
-    m_tratti.erase(m_tratti.begin(), m_tratti.begin() + static_cast<ptrdiff_t>(interi));
-    return presi;
+    righe -= nel_tratto;
   }
-  presi.assign(std::make_move_iterator(m_tratti.begin()), std::make_move_iterator(m_tratti.begin() + static_cast<ptrdiff_t>(interi)));
-  m_tratti.erase(m_tratti.begin(), m_tratti.begin() + static_cast<ptrdiff_t>(interi));
+  std::vector<script::TrattoTesto> presi(std::make_move_iterator(m_tratti.begin()), std::make_move_iterator(fine));
+  m_tratti.erase(m_tratti.begin(), fine);
+  if (inizio_del_tratto) presi.push_back(std::move(*inizio_del_tratto));
   return presi;
 }
 

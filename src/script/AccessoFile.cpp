@@ -103,7 +103,8 @@ AccessoFile::AccessoFile(RegoleAccesso regole)
 vbs::Status AccessoFile::Check(vbs::FileAccess accesso, const fs::path& percorso, std::string_view funzione) const {
   const bool protetta = m_modalita == Modalita::Protetta;
   if (accesso == vbs::FileAccess::Launch) {
-    if (protetta) return Rifiuto(funzione, "aprire", percorso, "in modalità protetta nessun file si apre con altri programmi");
+    if (protetta)
+      return Rifiuto(funzione, "aprire", percorso, "in modalità protetta nessun file si apre con altri programmi");
     return vbs::Ok();
   }
   const auto risolto = PercorsoRisolto(percorso);

@@ -56,7 +56,8 @@ ClsFunctionsGeodoScript::ClsFunctionsGeodoScript(InterfacciaScript& ospite, cons
   regole.modalita = m_impostazioni.modalita;
   regole.cartella_base = m_impostazioni.cartella_base;
   regole.cartelle_scrivibili = {m_impostazioni.cartella_output};
-  if (!m_impostazioni.cartella_base.empty()) regole.cartelle_scrivibili.push_back(m_impostazioni.cartella_base / "scriptOutput");
+  if (!m_impostazioni.cartella_base.empty())
+    regole.cartelle_scrivibili.push_back(m_impostazioni.cartella_base / "scriptOutput");
   regole.sola_lettura = m_impostazioni.sola_lettura;
   m_accesso = std::make_shared<AccessoFile>(std::move(regole));
 }

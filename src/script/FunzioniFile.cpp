@@ -383,7 +383,8 @@ Result<const std::vector<Estrazione>*> EstrazioniDelFile(Libreria& lib, std::str
     return static_cast<const std::vector<Estrazione>*>(&stato.estrazioni);
   stato.file_estrazioni.clear();
   auto regolare = FileRegolare(file);
-  auto lette = regolare ? LeggiNuoveEstrazioniDaFile(TabellaEstrazioni(), file) : Esito<std::vector<Estrazione>>(regolare.Errore());
+  auto lette = regolare ? LeggiNuoveEstrazioniDaFile(TabellaEstrazioni(), file)
+                        : Esito<std::vector<Estrazione>>(regolare.Errore());
   if (!lette) {
     Avviso avviso = lette.Errore();
     avviso.titolo = "ClsFunctionsGeodoScript." + std::string(funzione);
@@ -457,7 +458,7 @@ const Libreria::Funzione kFile[] = {
     {"GetDirectoryAppData", 0, 0, &GetDirectoryAppData, "la cartella dei dati dell'applicazione, terminante con \"/\""},
     {"LanciaFile", 1, 1, &LanciaFile,
      "NomeFile: apre il file con il programma del desktop associato (xdg-open), senza attendere; True se avviato, "
-     "False se non c'è un desktop"},
+     "False se non c'è un desktop; in modalità protetta è rifiutato (errore 70)"},
     {"QuantitaEstrazioniInFile", 1, 1, &QuantitaEstrazioniInFile,
      "NomeFile: il numero di estrazioni (Long) nel file, scritto nel formato dei risultati del gestore del gioco "
      "(una riga per ruota: AAAA/MM/GG, sigla della ruota, cinque numeri) o in uno zip che lo contiene; 0 se non si "

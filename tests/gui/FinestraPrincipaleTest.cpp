@@ -123,7 +123,9 @@ class FinestraPrincipaleTest : public QObject {
   }
 
   void UnoScriptApertoEntraNellIni() {
-    const auto script = Scrivi("prova.ls", "Sub Main\nEnd Sub\n");
+    // In the user's scripts folder, so that opening it asks nothing.
+    std::filesystem::create_directories(*m_cartella / "Script");
+    const auto script = Scrivi("Script/prova.ls", "Sub Main\nEnd Sub\n");
     Scrivi("lottolab.ini", "; scritto a mano\n[SCRIPT_RECENTI]\nFile1=/altrove/vecchio.ls\n");
     auto contesto = Contesto();
     FinestraPrincipale finestra(*contesto);
