@@ -2,16 +2,27 @@
 
 #include <fmt/format.h>
 
-#include <fstream>
-#include <iterator>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
 #include <span>
+#include <utility>
 #include <vector>
 
+#include "Condizione.h"
+#include "LimitiStrutture.h"
 #include "vbscript/Utf.h"
 
 namespace lottolab::figures {
 
 namespace fs = std::filesystem;
+
+static_assert(kByteCondizione == kMassimiCaratteriCondizione, "a condition's record keeps every character compiled");
 
 namespace {
 
@@ -135,13 +146,9 @@ ClsLinea LeggiLinea(Lettore& lettore) {
 }
 
 size_t TrovaFineSezione(std::string_view byte, size_t da) {
-  auto maiuscola = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
-  for (size_t i = da; i + kFineSezione.size() <= byte.size(); ++i) {
-    size_t k = 0;
-    while (k < kFineSezione.size() && maiuscola(byte[i + k]) == kFineSezione[k]) ++k;
-    if (k == kFineSezione.size()) return i;
-  }
-  return std::string_view::npos;
+  if (da > byte.size()) return std::string_view::npos;
+  const size_t trovata = PosizioneFine(byte.substr(da));
+  return trovata == std::string_view::npos ? trovata : da + trovata;
 }
 
 // Halves go to the even count, as the conversion the files were always read with did.
@@ -153,19 +160,33 @@ size_t ArrotondaAlPari(size_t lunghezza, size_t lunghezzaRecord) {
 }
 
 struct Sezione {
-  size_t inizio = 0;
+  std::string_view marcatore;
+  size_t lunghezza_record;
+  std::string_view nome;  // for the messages
+  size_t inizio = 0;       // behind the marker
   size_t record = 0;
 };
 
-// No marker ends with the start of "FINE", so searching from behind the marker finds what a search
-// from the marker would. Without a "FINE" the section holds nothing.
-std::optional<Sezione> TrovaSezione(std::string_view byte, std::string_view marcatore, size_t lunghezzaRecord) {
-  size_t marcatoreTrovato = byte.find(marcatore);
-  if (marcatoreTrovato == std::string_view::npos) return std::nullopt;
-  Sezione sezione{marcatoreTrovato + marcatore.size(), 0};
-  size_t fine = TrovaFineSezione(byte, sezione.inizio);
-  if (fine != std::string_view::npos) sezione.record = ArrotondaAlPari(fine - sezione.inizio, lunghezzaRecord);
-  return sezione;
+// Each section's marker, then its "FINE" before the next section's marker: a file cut before a
+// section's end, or one whose end is missing, is not read as a shorter structure. No marker ends with
+// the start of "FINE", so searching from behind the marker finds what a search from the marker would.
+std::optional<std::string> TrovaSezioni(std::string_view byte, std::array<Sezione, 3>& sezioni) {
+  for (Sezione& sezione : sezioni) {
+    const size_t trovato = byte.find(sezione.marcatore);
+    if (trovato == std::string_view::npos)
+      return fmt::format("manca la sezione {} ({})", sezione.nome, sezione.marcatore);
+    sezione.inizio = trovato + sezione.marcatore.size();
+  }
+  for (Sezione& sezione : sezioni) {
+    size_t limite = byte.size();
+    for (const Sezione& altra : sezioni)
+      if (altra.inizio > sezione.inizio) limite = std::min(limite, altra.inizio - altra.marcatore.size());
+    const size_t fine = TrovaFineSezione(byte.substr(0, limite), sezione.inizio);
+    if (fine == std::string_view::npos)
+      return fmt::format("la sezione {} non ha la sua fine (FINE): il file è troncato o rovinato", sezione.nome);
+    sezione.record = ArrotondaAlPari(fine - sezione.inizio, sezione.lunghezza_record);
+  }
+  return std::nullopt;
 }
 
 template <typename Record, typename Leggi>
@@ -176,9 +197,9 @@ std::vector<Record> LeggiSezione(std::string_view byte, const Sezione& sezione, 
   return record;
 }
 
-Avviso FileNonValido(const fs::path& file) {
+Avviso FileNonValido(const fs::path& file, std::string_view motivo) {
   // Critical: the user named this file as a structure, so its failing to be one is not bad input.
-  return Avviso{TipoAvviso::Critico, "", fmt::format("File {} non valido", file.string())};
+  return Avviso{TipoAvviso::Critico, "", fmt::format("File {} non valido: {}", file.string(), motivo)};
 }
 
 Avviso ErroreSalvataggio(const fs::path& file, std::string_view motivo) {
@@ -187,27 +208,92 @@ Avviso ErroreSalvataggio(const fs::path& file, std::string_view motivo) {
                        fmt::format("Impossibile salvare la struttura nel file {}: {}", file.string(), motivo));
 }
 
-// Through a temporary file beside the target, so that a failed save leaves the old structure whole.
+std::string Errno() { return std::strerror(errno); }
+
+// Closes the descriptor it holds however the function that opened it ends.
+class Descrittore {
+ public:
+  explicit Descrittore(int fd) : m_fd(fd) {}
+  ~Descrittore() {
+    if (m_fd >= 0) ::close(m_fd);
+  }
+  Descrittore(const Descrittore&) = delete;
+  Descrittore& operator=(const Descrittore&) = delete;
+  int Fd() const { return m_fd; }
+  // The close's own outcome, which is where some file systems report a failed write.
+  bool Chiudi() {
+    const int fd = std::exchange(m_fd, -1);
+    return ::close(fd) == 0;
+  }
+
+ private:
+  int m_fd;
+};
+
+bool ScriviTutto(int fd, std::string_view byte) {
+  while (!byte.empty()) {
+    const ssize_t scritti = ::write(fd, byte.data(), byte.size());
+    if (scritti < 0 && errno == EINTR) continue;
+    if (scritti <= 0) return false;
+    byte.remove_prefix(static_cast<size_t>(scritti));
+  }
+  return true;
+}
+
+// Through a temporary file beside the target, flushed to the disk before it takes the target's name,
+// so that a failed or interrupted save leaves the old structure whole and no stray file behind.
 Esito<Fatto> ScriviFile(const fs::path& file, const std::string& byte) {
-  fs::path temporaneo = file;
-  temporaneo += ".tmp";
-  std::error_code ec;
-  {
-    std::ofstream out(temporaneo, std::ios::binary | std::ios::trunc);
-    out.write(byte.data(), static_cast<std::streamsize>(byte.size()));
-    out.close();
-    if (!out) {
-      fs::remove(temporaneo, ec);
-      return ErroreSalvataggio(file, "scrittura non riuscita");
-    }
-  }
-  fs::rename(temporaneo, file, ec);
-  if (ec) {
-    std::string motivo = ec.message();
-    fs::remove(temporaneo, ec);
+  const fs::path cartella = file.parent_path().empty() ? fs::path(".") : file.parent_path();
+  std::string modello = (cartella / ("." + file.filename().string() + ".XXXXXX")).string();
+  Descrittore temporaneo(::mkostemp(modello.data(), O_CLOEXEC));
+  if (temporaneo.Fd() < 0) return ErroreSalvataggio(file, Errno());
+  const fs::path percorso_temporaneo = modello;
+  auto fallito = [&](std::string motivo) {
+    std::error_code ec;
+    fs::remove(percorso_temporaneo, ec);
     return ErroreSalvataggio(file, motivo);
-  }
+  };
+  // The new file keeps the permissions of the one it replaces; a new one gets the usual rw-r--r--.
+  struct stat vecchio {};
+  const mode_t permessi = ::stat(file.c_str(), &vecchio) == 0 ? (vecchio.st_mode & 07777) : 0644;
+  if (::fchmod(temporaneo.Fd(), permessi) != 0 || !ScriviTutto(temporaneo.Fd(), byte) ||
+      ::fsync(temporaneo.Fd()) != 0)
+    return fallito(Errno());
+  if (!temporaneo.Chiudi()) return fallito(Errno());
+  if (::rename(percorso_temporaneo.c_str(), file.c_str()) != 0) return fallito(Errno());
+  // The rename itself reaches the disk with the folder's entry.
+  Descrittore dir(::open(cartella.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (dir.Fd() >= 0) ::fsync(dir.Fd());
   return Fatto{};
+}
+
+// The whole file, refused unless it is an ordinary file of at most kMassimoByteFile bytes. Opened
+// without waiting, so that a named pipe with no writer is refused instead of blocking.
+Esito<std::string> LeggiFile(const fs::path& file) {
+  auto rifiuto = [](std::string motivo) { return AvvisoEsclamativo(std::move(motivo)); };
+  Descrittore in(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+  if (in.Fd() < 0) return rifiuto(errno == ENOENT ? "il file non esiste" : "non si può leggere: " + Errno());
+  struct stat stato {};
+  if (::fstat(in.Fd(), &stato) != 0) return rifiuto("non si può leggere: " + Errno());
+  if (S_ISDIR(stato.st_mode)) return rifiuto("è una cartella, non un file");
+  if (!S_ISREG(stato.st_mode)) return rifiuto("non è un file ordinario (è un dispositivo, una pipe o un socket)");
+  if (static_cast<uintmax_t>(stato.st_size) > kMassimoByteFile)
+    return rifiuto(
+        fmt::format("è di {} byte, troppi per una struttura (al massimo {})", stato.st_size, kMassimoByteFile));
+  // The size is checked again while reading: the file may grow in the meantime.
+  std::string byte(kMassimoByteFile + 1, '\0');
+  size_t letti = 0;
+  while (letti < byte.size()) {
+    const ssize_t n = ::read(in.Fd(), byte.data() + letti, byte.size() - letti);
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) return rifiuto("non si può leggere: " + Errno());
+    if (n == 0) break;
+    letti += static_cast<size_t>(n);
+  }
+  if (letti > kMassimoByteFile)
+    return rifiuto(fmt::format("è di più di {} byte, troppi per una struttura", kMassimoByteFile));
+  byte.resize(letti);
+  return byte;
 }
 
 }  // namespace
@@ -221,17 +307,19 @@ std::string CodificaStrutturaConCondizione(const Struttura& struttura, std::stri
   return Codifica(struttura, std::span(&condizione, 1));
 }
 
-std::optional<Struttura> DecodificaStruttura(std::string_view byte) {
-  auto vertici = TrovaSezione(byte, kMarcatoreVertici, kByteVertice);
-  auto linee = TrovaSezione(byte, kMarcatoreLinee, kByteLinea);
-  auto condizioni = TrovaSezione(byte, kMarcatoreCondizioni, kByteCondizione);
-  if (!vertici || !linee || !condizioni) return std::nullopt;
-
+Esito<Struttura> DecodificaStruttura(std::string_view byte) {
+  std::array<Sezione, 3> sezioni{Sezione{kMarcatoreVertici, kByteVertice, "dei vertici"},
+                                 Sezione{kMarcatoreLinee, kByteLinea, "delle linee"},
+                                 Sezione{kMarcatoreCondizioni, kByteCondizione, "delle condizioni"}};
+  if (auto motivo = TrovaSezioni(byte, sezioni)) return AvvisoEsclamativo(std::move(*motivo));
+  const auto& [vertici, linee, condizioni] = sezioni;
+  // The file's size is bounded, and so are the records read before the limits are checked.
   Struttura struttura;
-  struttura.vertici = LeggiSezione<ClsVertice>(byte, *vertici, LeggiVertice);
-  struttura.linee = LeggiSezione<ClsLinea>(byte, *linee, LeggiLinea);
+  struttura.vertici = LeggiSezione<ClsVertice>(byte, vertici, LeggiVertice);
+  struttura.linee = LeggiSezione<ClsLinea>(byte, linee, LeggiLinea);
   struttura.condizioni = LeggiSezione<std::string>(
-      byte, *condizioni, [](Lettore& lettore) { return lettore.LeggiTesto(kByteCondizione); });
+      byte, condizioni, [](Lettore& lettore) { return lettore.LeggiTesto(kByteCondizione); });
+  if (auto motivo = LimiteSuperato(struttura)) return AvvisoEsclamativo(std::move(*motivo));
   return struttura;
 }
 
@@ -245,13 +333,11 @@ Esito<Fatto> SalvaStrutturaConCondizione(const fs::path& file, const Struttura& 
 }
 
 Esito<Struttura> CaricaStruttura(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) return FileNonValido(file);
-  std::string byte{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-  if (in.bad()) return FileNonValido(file);
-  auto struttura = DecodificaStruttura(byte);
-  if (!struttura) return FileNonValido(file);
-  return std::move(*struttura);
+  auto letto = LeggiFile(file);
+  if (!letto) return FileNonValido(file, letto.Errore().testo);
+  auto struttura = DecodificaStruttura(*letto);
+  if (!struttura) return FileNonValido(file, struttura.Errore().testo);
+  return std::move(struttura).Valore();
 }
 
 }  // namespace lottolab::figures

@@ -5,8 +5,12 @@
 #include <iterator>
 #include <sstream>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "TempDir.h"
 #include "figures/FileStrutture.h"
+#include "figures/LimitiStrutture.h"
 
 namespace lottolab::figures {
 namespace {
@@ -62,6 +66,13 @@ std::string Leggi(const fs::path& file) {
   return byte.str();
 }
 
+// The structure the bytes hold, or the reason they hold none as the test's failure.
+Struttura Decodificata(std::string_view byte) {
+  auto letta = DecodificaStruttura(byte);
+  EXPECT_TRUE(letta) << letta.Errore().testo;
+  return letta ? *letta : Struttura{};
+}
+
 void Scrivi(const fs::path& file, std::string_view byte) {
   std::ofstream(file, std::ios::binary | std::ios::trunc) << byte;
 }
@@ -75,7 +86,7 @@ TEST(FileStrutture, VerticesWithoutLinesOrConditionsAndNoTemplate) {
 
   ClsVertice bRifilato = kVerticeB;
   bRifilato.Caption = "B";
-  EXPECT_EQ(DecodificaStruttura(atteso.Str()), (Struttura{{kVerticeA, bRifilato}, {}, {}}));
+  EXPECT_EQ(Decodificata(atteso.Str()), (Struttura{{kVerticeA, bRifilato}, {}, {}}));
 }
 
 TEST(FileStrutture, LongTextsAreCutByCharactersShortOnesPaddedAndReadTrimmed) {
@@ -91,7 +102,7 @@ TEST(FileStrutture, LongTextsAreCutByCharactersShortOnesPaddedAndReadTrimmed) {
   EXPECT_EQ(CodificaStruttura(struttura), atteso.Str());
 
   citta.Caption = "Città";
-  EXPECT_EQ(DecodificaStruttura(atteso.Str()),
+  EXPECT_EQ(Decodificata(atteso.Str()),
             (Struttura{{citta}, struttura.linee, {std::string(499, 'a') + "é", "[A] = [B]"}}));
 }
 
@@ -143,24 +154,109 @@ TEST(FileStrutture, RoundedCountsReadPastTheEndMarkerAndPastTheFile) {
   EXPECT_EQ(letta->condizioni, std::vector<std::string>{std::string(260, 'x') + "FINE" + std::string(236, '\0')});
 }
 
-TEST(FileStrutture, AFileThatIsNoStructureIsNotValid) {
+TEST(FileStrutture, AFileThatIsNoStructureIsNotValidAndSaysWhy) {
   CartellaTemporanea cartella;
-  const std::string valida = CodificaStruttura({{kVerticeA}, {}, {}});
-  const std::vector<std::pair<std::string, std::string>> file = {
-      {"senza-condizioni.dat", valida.substr(0, valida.find("OFFSET_COND"))},
-      {"minuscole.dat", "offset_struct" + valida.substr(13)},
-      {"vuoto.dat", ""},
+  const std::string valida = CodificaStruttura({{kVerticeA}, {{1, 3, 3}}, {"[A] = 1"}});
+  const std::string senza_fine_vertici = "OFFSET_STRUCT" + valida.substr(13, 29) + valida.substr(46);
+  const struct {
+    std::string nome;
+    std::string byte;
+    std::string motivo;
+  } casi[] = {
+      {"senza-condizioni.dat", valida.substr(0, valida.find("OFFSET_COND")),
+       "manca la sezione delle condizioni (OFFSET_COND)"},
+      {"minuscole.dat", "offset_struct" + valida.substr(13), "manca la sezione dei vertici (OFFSET_STRUCT)"},
+      {"vuoto.dat", "", "manca la sezione dei vertici (OFFSET_STRUCT)"},
+      // The last FINE lost: the conditions would silently be none.
+      {"troncato.dat", valida.substr(0, valida.size() - 4),
+       "la sezione delle condizioni non ha la sua fine (FINE): il file è troncato o rovinato"},
+      // The lines' FINE must not stand in for the vertices' own.
+      {"senza-fine-vertici.dat", senza_fine_vertici,
+       "la sezione dei vertici non ha la sua fine (FINE): il file è troncato o rovinato"},
   };
-  for (const auto& [nome, byte] : file) {
-    Scrivi(cartella / nome, byte);
-    EXPECT_FALSE(DecodificaStruttura(byte)) << nome;
+  ASSERT_EQ(senza_fine_vertici.find("FINE"), senza_fine_vertici.find("OFFSET_LINEE") + 12 + 6);
+  for (const auto& caso : casi) {
+    Scrivi(cartella / caso.nome, caso.byte);
+    auto letta = DecodificaStruttura(caso.byte);
+    ASSERT_FALSE(letta) << caso.nome;
+    EXPECT_EQ(letta.Errore().testo, caso.motivo);
+    auto caricata = CaricaStruttura(cartella / caso.nome);
+    ASSERT_FALSE(caricata) << caso.nome;
+    EXPECT_EQ(caricata.Errore().testo, "File " + (cartella / caso.nome).string() + " non valido: " + caso.motivo);
   }
-  std::vector<fs::path> percorsi = {cartella / "senza-condizioni.dat", cartella / "minuscole.dat",
-                                    cartella / "vuoto.dat", cartella / "manca.dat"};
-  for (const fs::path& percorso : percorsi) {
+}
+
+// A file cut anywhere, as a crash or a full disk during a copy leaves it, reads either whole or not at
+// all: never as a structure with fewer vertices, lines or conditions.
+TEST(FileStrutture, AFileCutAtAnyByteIsWholeOrNotValid) {
+  ClsVertice fine_vicina = kVerticeB;
+  fine_vicina.Caption = "FIN";
+  const Struttura struttura{{kVerticeA, fine_vicina}, {{1, 3, 4}, {2, 4, 3}}, {"[A] = 1", "[A] <> Fin"}};
+  const std::string byte = CodificaStruttura(struttura);
+  const Struttura attesa = Decodificata(byte);
+  for (size_t lunghezza = 0; lunghezza <= byte.size(); ++lunghezza) {
+    auto letta = DecodificaStruttura(std::string_view(byte).substr(0, lunghezza));
+    if (lunghezza == byte.size()) {
+      ASSERT_TRUE(letta);
+      EXPECT_EQ(*letta, attesa);
+    } else {
+      EXPECT_FALSE(letta) << "cut at " << lunghezza << " of " << byte.size();
+    }
+  }
+}
+
+TEST(FileStrutture, StructuresBeyondTheLimitsAreRefusedNamingTheLimit) {
+  auto di = [](size_t vertici, size_t linee, size_t condizioni, int16_t ultima_riga = 1) {
+    Struttura struttura;
+    for (size_t k = 0; k < vertici; ++k)
+      struttura.vertici.push_back({.Index = static_cast<int16_t>(k + 1), .Riga = 1, .Colonna = 1, .Caption = ""});
+    if (vertici > 0) struttura.vertici.back().Riga = ultima_riga;
+    struttura.linee.resize(linee, ClsLinea{1, 1, 1});
+    struttura.condizioni.resize(condizioni, "[1] = 1");
+    return CodificaStruttura(struttura);
+  };
+  EXPECT_TRUE(DecodificaStruttura(di(kMassimoVertici, kMassimoLinee, kMassimoCondizioni, kMassimeRigheFigura)));
+  const std::pair<std::string, std::string> casi[] = {
+      // Two thousand vertices on one cell once filled the memory of the search.
+      {di(2000, 0, 0), "ha 2000 vertici, al massimo 100"},
+      {di(1, kMassimoLinee + 1, 0), "ha 1001 linee, al massimo 1000"},
+      {di(1, 0, 20000), "ha 20000 condizioni, al massimo 100"},
+      {di(2, 0, 0, kMassimeRigheFigura + 1), "si stende su 201 estrazioni, al massimo 200"},
+  };
+  CartellaTemporanea cartella;
+  for (const auto& [byte, motivo] : casi) {
+    auto letta = DecodificaStruttura(byte);
+    ASSERT_FALSE(letta) << motivo;
+    EXPECT_EQ(letta.Errore().testo, motivo);
+  }
+  Scrivi(cartella / "grande.dat", casi[0].first);
+  EXPECT_EQ(CaricaStruttura(cartella / "grande.dat").Errore().testo,
+            "File " + (cartella / "grande.dat").string() + " non valido: ha 2000 vertici, al massimo 100");
+}
+
+// Whatever the path names, loading answers at once with a message: no wait on a pipe with no
+// writer, no endless read of a device, no file of any size read whole.
+TEST(FileStrutture, WhatIsNoOrdinaryFileOrIsTooBigIsRefusedAtOnce) {
+  CartellaTemporanea cartella;
+  const fs::path pipe = cartella / "pipe.dat";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  const fs::path grande = cartella / "grande.dat";
+  {
+    std::ofstream out(grande, std::ios::binary);
+    out << CodificaStruttura({{kVerticeA}, {}, {}});
+    out << std::string(kMassimoByteFile, ' ');
+  }
+  const std::pair<fs::path, std::string> casi[] = {
+      {cartella.Percorso(), "è una cartella, non un file"},
+      {"/dev/zero", "non è un file ordinario (è un dispositivo, una pipe o un socket)"},
+      {pipe, "non è un file ordinario (è un dispositivo, una pipe o un socket)"},
+      {cartella / "manca.dat", "il file non esiste"},
+      {grande, "è di " + std::to_string(fs::file_size(grande)) + " byte, troppi per una struttura (al massimo 1048576)"},
+  };
+  for (const auto& [percorso, motivo] : casi) {
     auto caricata = CaricaStruttura(percorso);
     ASSERT_FALSE(caricata) << percorso;
-    EXPECT_EQ(caricata.Errore().testo, "File " + percorso.string() + " non valido");
+    EXPECT_EQ(caricata.Errore().testo, "File " + percorso.string() + " non valido: " + motivo);
   }
 }
 
@@ -181,6 +277,32 @@ TEST(FileStrutture, SavingWritesExactlyTheNewBytesOverAnOldFile) {
   EXPECT_EQ(*caricata, (Struttura{{kVerticeA}, struttura.linee, struttura.condizioni}));
 
   EXPECT_FALSE(SalvaStruttura(cartella / "manca" / "figura.dat", struttura));
+}
+
+// A save that fails leaves the old file as it was and no temporary file beside it.
+TEST(FileStrutture, AFailedSaveLeavesTheOldFileAndNothingElse) {
+  CartellaTemporanea cartella;
+  const fs::path file = cartella / "figura.dat";
+  const std::string vecchia = CodificaStruttura({{kVerticeA}, {}, {"[A] = 1"}});
+  Scrivi(file, vecchia);
+  // A folder in the way of the rename: everything before it succeeded.
+  const fs::path occupato = cartella / "occupato.dat";
+  fs::create_directory(occupato);
+  Scrivi(occupato / "dentro", "x");
+  auto salvata = SalvaStruttura(occupato, {{kVerticeB}, {}, {}});
+  ASSERT_FALSE(salvata);
+  EXPECT_TRUE(salvata.Errore().testo.starts_with("75- Impossibile salvare la struttura nel file " + occupato.string()))
+      << salvata.Errore().testo;
+  EXPECT_EQ(Leggi(file), vecchia);
+  EXPECT_EQ(std::distance(fs::directory_iterator(cartella.Percorso()), fs::directory_iterator()), 2);
+
+  // A folder that cannot be written: not even the temporary file.
+  if (::geteuid() != 0) {
+    fs::permissions(cartella.Percorso(), fs::perms::owner_write, fs::perm_options::remove);
+    EXPECT_FALSE(SalvaStruttura(file, {{kVerticeB}, {}, {}}));
+    fs::permissions(cartella.Percorso(), fs::perms::owner_write, fs::perm_options::add);
+    EXPECT_EQ(Leggi(file), vecchia);
+  }
 }
 
 TEST(FileStrutture, OtherWindowsSaveTheirOneConditionInPlaceOfTheList) {

@@ -47,7 +47,7 @@ std::vector<Trovata> Cerca(const TabellaEstrazioni& tab, const Struttura& strutt
   EXPECT_TRUE(trovate.Riuscito()) << (trovate.Riuscito() ? "" : trovate.Errore().testo);
   std::vector<Trovata> elenco;
   if (trovate)
-    for (const FiguraTrovata& t : *trovate) elenco.push_back({t.estrazione, t.forma, t.colonna});
+    for (const FiguraTrovata& t : trovate->elenco) elenco.push_back({t.estrazione, t.forma, t.colonna});
   return elenco;
 }
 
@@ -128,7 +128,7 @@ TEST(RicercaFigure, TheStopAnswerEndsTheSearchWithWhatWasFound) {
   opzioni.avanzamento = [&](double) { return ++avvisi < 1; };
   auto trovate = CercaFigura(TreEstrazioni(), struttura, opzioni);
   ASSERT_TRUE(trovate.Riuscito());
-  EXPECT_TRUE(trovate->empty());
+  EXPECT_TRUE(trovate->elenco.empty());
 }
 
 TEST(StatisticaStrutture, EachFigurePlaysItsClosureNumbersOnItsWheelsForTheColpi) {
@@ -138,7 +138,7 @@ TEST(StatisticaStrutture, EachFigurePlaysItsClosureNumbersOnItsWheelsForTheColpi
   struttura.vertici[0].UsaPerChiusura = true;
   auto trovate = CercaFigura(tab, struttura, Opzioni({BA}));
   ASSERT_TRUE(trovate.Riuscito());
-  ASSERT_EQ(trovate->size(), 2u) << "draws 1 and 6: at draws 3 and 4 the 7 is in position 5, where A never goes";
+  ASSERT_EQ(trovate->elenco.size(), 2u) << "draws 1 and 6: at draws 3 and 4 the 7 is in position 5, where A never goes";
 
   StatisticaStruttura statistica = CalcolaStatistica(tab, *trovate, 2, 1, 6);
   EXPECT_EQ(statistica.casi, 2);
@@ -181,7 +181,7 @@ TEST(RicercaFigure, OnTheRealArchiveTheSearchFindsWhatAPlainWalkFinds) {
     }
   auto trovate = CercaFigura(tab, quadrato, {});
   ASSERT_TRUE(trovate.Riuscito());
-  EXPECT_EQ(trovate->size(), attese);
+  EXPECT_EQ(trovate->elenco.size(), attese);
   EXPECT_GT(attese, 100u);
 }
 
