@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 
 #include "Argomenti.h"
 #include "Comandi.h"
@@ -34,12 +35,14 @@ void ScriviFigura(std::ostream& out, const TabellaEstrazioni& tab, const figures
   std::vector<int> ruote;
   for (const figures::VerticePiazzato& vertice : figura.vertici)
     if (std::find(ruote.begin(), ruote.end(), vertice.ruota) == ruote.end()) ruote.push_back(vertice.ruota);
-  std::string sigle;
-  for (int ruota : ruote) sigle += fmt::format("{}{}", sigle.empty() ? "" : ",", SiglaRuota(ruota));
-  std::string numeri;
-  for (const figures::VerticePiazzato& vertice : figura.vertici) numeri += fmt::format(" {:02}", vertice.numero);
-  fmt::print(out, "{} {} {}{}\n", trovata.estrazione, tab.DataEstrazione(trovata.estrazione).ValoreOppure("?"), sigle,
-             numeri);
+  // One buffer for the line: a figure of many vertices found at most cells prints millions of numbers.
+  fmt::memory_buffer riga;
+  fmt::format_to(std::back_inserter(riga), "{} {} ", trovata.estrazione,
+                 tab.DataEstrazione(trovata.estrazione).ValoreOppure("?"));
+  for (size_t k = 0; k < ruote.size(); ++k) fmt::format_to(std::back_inserter(riga), "{}{}", k == 0 ? "" : ",", SiglaRuota(ruote[k]));
+  for (const figures::VerticePiazzato& vertice : figura.vertici) fmt::format_to(std::back_inserter(riga), " {:02}", vertice.numero);
+  riga.push_back('\n');
+  out.write(riga.data(), static_cast<std::streamsize>(riga.size()));
 }
 
 void ScriviStatistica(std::ostream& out, const figures::StatisticaStruttura& statistica, int colpi) {

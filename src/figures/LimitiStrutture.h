@@ -27,7 +27,7 @@ inline constexpr size_t kMassimoCondizioni = 100;
 inline constexpr int kMassimeRigheFigura = 200;
 // The work the conditions may ask for at each placement of the figure (Condizione::Costo, summed):
 // far beyond what drawn figures ask, and at it a search of every draw takes seconds, not hours.
-inline constexpr size_t kMassimoCostoCondizioni = 20'000;
+inline constexpr size_t kMassimoCostoCondizioni = 10'000;
 // Well above the largest structure within the limits (about 60 KB).
 inline constexpr uintmax_t kMassimoByteFile = 1024 * 1024;
 
