@@ -262,6 +262,7 @@ QString F_EditorStrutture::ScegliFile(bool salvataggio) {
   dialogo.setNameFilter("Struttura utente (*.dat)");
   dialogo.setDefaultSuffix("dat");
   dialogo.setAcceptMode(salvataggio ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialogo.setOption(QFileDialog::DontConfirmOverwrite);
   dialogo.setFileMode(salvataggio ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return {};
   return dialogo.selectedFiles().front();
@@ -284,10 +285,22 @@ bool F_EditorStrutture::Salva() {
   return SalvaIn(m_modello.File());
 }
 
+// The dialog does not ask before replacing a file: a file that is no structure is refused first, and
+// only the replacement of another structure is asked about.
 bool F_EditorStrutture::SalvaConNome() {
-  const QString file = ScegliFile(true);
-  if (file.isEmpty()) return false;
-  return SalvaIn(Percorso(file));
+  const QString scelto = ScegliFile(true);
+  if (scelto.isEmpty()) return false;
+  const std::filesystem::path file = Percorso(scelto);
+  if (auto ammessa = DestinazioneAmmessa(file, m_contesto.Configurazione()); !ammessa) {
+    Avverti(this, ammessa.Errore().testo);
+    return false;
+  }
+  std::error_code ec;
+  if (file != m_modello.File() && std::filesystem::exists(file, ec) &&
+      QMessageBox::question(this, kTitolo, QString("La struttura %1 esiste già. Sostituirla?").arg(scelto)) !=
+          QMessageBox::Yes)
+    return false;
+  return SalvaIn(file);
 }
 
 bool F_EditorStrutture::SalvaIn(const std::filesystem::path& file) {

@@ -30,7 +30,7 @@ std::filesystem::path CartellaStrutture(const app::Configurazione& configurazion
 }
 
 Esito<Fatto> DestinazioneAmmessa(const std::filesystem::path& file, const app::Configurazione& configurazione) {
-  const std::string nome = file.string();
+  const std::string nome = file.lexically_normal().string();
   for (const std::filesystem::path& archivio : {configurazione.ArchivioLotto(), configurazione.ArchivioModificabile()})
     if (StessoFile(file, archivio))
       return AvvisoEsclamativo("Il file " + nome +
