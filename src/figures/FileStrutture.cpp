@@ -208,7 +208,23 @@ Avviso ErroreSalvataggio(const fs::path& file, std::string_view motivo) {
                        fmt::format("Impossibile salvare la struttura nel file {}: {}", file.string(), motivo));
 }
 
-std::string Errno() { return std::strerror(errno); }
+// The system's reason, in Italian for those a user meets; the system's own words for the rest.
+std::string Errno() {
+  switch (errno) {
+    case ENOENT: return "il file o la cartella non esiste";
+    case EACCES:
+    case EPERM: return "permesso negato";
+    case ENOSPC: return "il disco è pieno";
+    case EDQUOT: return "lo spazio concesso sul disco è esaurito";
+    case EROFS: return "il disco è di sola lettura";
+    case ENAMETOOLONG: return "il nome è troppo lungo";
+    case ENOTDIR: return "una parte del percorso non è una cartella";
+    case EISDIR: return "al suo posto c'è una cartella";
+    case ELOOP: return "troppi collegamenti simbolici nel percorso";
+    case EIO: return "errore di lettura o scrittura sul disco";
+    default: return std::strerror(errno);
+  }
+}
 
 // Closes the descriptor it holds however the function that opened it ends.
 class Descrittore {

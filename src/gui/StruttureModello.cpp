@@ -241,7 +241,18 @@ Esito<Fatto> StruttureModello::Apri(const std::filesystem::path& file, int estra
   return Fatto{};
 }
 
+// A text read from an old file may hold "fine": the file it came from already reads short there, and
+// a new one is not written so.
 Esito<Fatto> StruttureModello::Salva(const std::filesystem::path& file) {
+  for (const figures::ClsVertice& vertice : m_vertici)
+    if (auto motivo = figures::TestoNonAmmesso(vertice.Caption, figures::kCaratteriCaption,
+                                               "L'etichetta del vertice " + std::to_string(vertice.Index)))
+      return AvvisoEsclamativo(*motivo + " Correggerla prima di salvare.");
+  for (size_t k = 0; k < m_condizioni.size(); ++k)
+    if (auto motivo = figures::TestoNonAmmesso(m_condizioni[k], figures::kByteCondizione,
+                                               "La condizione " + std::to_string(k + 1)))
+      return AvvisoEsclamativo(*motivo + " Correggerla prima di salvare.");
+  if (auto motivo = figures::LimiteSuperato(Struttura())) return AvvisoEsclamativo("La struttura " + *motivo + ".");
   auto salvata = figures::SalvaStruttura(file, Struttura());
   if (!salvata) return salvata;
   m_file = file;

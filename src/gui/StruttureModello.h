@@ -85,7 +85,8 @@ class StruttureModello {
 
   // A file that cannot be read leaves the editor empty and gives the file's message.
   Esito<Fatto> Apri(const std::filesystem::path& file, int estrazioni);
-  // Writes the file as it is named: the caller checks DestinazioneAmmessa first.
+  // Writes the file as it is named: the caller checks DestinazioneAmmessa first. Refuses a structure
+  // the file would not read back whole (a text with "fine" loaded from an old file).
   Esito<Fatto> Salva(const std::filesystem::path& file);
   const std::filesystem::path& File() const { return m_file; }
   bool Modificata() const { return m_modificata; }

@@ -5,8 +5,12 @@
 #include <iterator>
 #include <sstream>
 
+#include <signal.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
+
+#include <random>
 
 #include "TempDir.h"
 #include "figures/FileStrutture.h"
@@ -299,10 +303,50 @@ TEST(FileStrutture, AFailedSaveLeavesTheOldFileAndNothingElse) {
   // A folder that cannot be written: not even the temporary file.
   if (::geteuid() != 0) {
     fs::permissions(cartella.Percorso(), fs::perms::owner_write, fs::perm_options::remove);
-    EXPECT_FALSE(SalvaStruttura(file, {{kVerticeB}, {}, {}}));
+    salvata = SalvaStruttura(file, {{kVerticeB}, {}, {}});
     fs::permissions(cartella.Percorso(), fs::perms::owner_write, fs::perm_options::add);
+    ASSERT_FALSE(salvata);
+    EXPECT_TRUE(salvata.Errore().testo.ends_with(": permesso negato")) << salvata.Errore().testo;
     EXPECT_EQ(Leggi(file), vecchia);
   }
+
+  // The system's reasons a user meets are said in Italian.
+  const fs::path lungo = cartella / (std::string(5000, 'n') + ".dat");
+  salvata = SalvaStruttura(lungo, {{kVerticeB}, {}, {}});
+  ASSERT_FALSE(salvata);
+  EXPECT_TRUE(salvata.Errore().testo.ends_with(": il nome è troppo lungo")) << salvata.Errore().testo;
+  EXPECT_EQ(CaricaStruttura(lungo).Errore().testo, "File " + lungo.string() + " non valido: non si può leggere: il nome è troppo lungo");
+  salvata = SalvaStruttura(file / "dentro.dat", {{kVerticeB}, {}, {}});
+  ASSERT_FALSE(salvata);
+  EXPECT_TRUE(salvata.Errore().testo.ends_with(": una parte del percorso non è una cartella")) << salvata.Errore().testo;
+}
+
+// A process killed at any point of a save leaves the file whole, old or new: never cut, never
+// empty. The child saves two structures in turn until it is killed at a random moment.
+TEST(FileStrutture, AProcessKilledWhileSavingLeavesTheOldFileOrTheNew) {
+  CartellaTemporanea cartella;
+  const fs::path file = cartella / "figura.dat";
+  const Struttura piccola{{kVerticeA}, {}, {"[A] = 1"}};
+  const Struttura grande{{kVerticeA, kVerticeB}, {{1, 3, 4}}, std::vector<std::string>(100, "[A] <> [B]")};
+  const std::string byte_piccola = CodificaStruttura(piccola);
+  const std::string byte_grande = CodificaStruttura(grande);
+  std::mt19937 caso(13);
+  constexpr int kProve = 200;
+  int rovinati = 0;
+  for (int prova = 0; prova < kProve; ++prova) {
+    Scrivi(file, byte_piccola);
+    const pid_t figlio = ::fork();
+    ASSERT_GE(figlio, 0);
+    if (figlio == 0) {
+      for (int k = 0;; ++k) static_cast<void>(SalvaStruttura(file, k % 2 == 0 ? grande : piccola));
+    }
+    ::usleep(std::uniform_int_distribution<useconds_t>(0, 3000)(caso));
+    ::kill(figlio, SIGKILL);
+    ::waitpid(figlio, nullptr, 0);
+    const std::string letto = Leggi(file);
+    if (letto != byte_piccola && letto != byte_grande) ++rovinati;
+  }
+  EXPECT_EQ(rovinati, 0) << "of " << kProve << " saves killed";
 }
 
 TEST(FileStrutture, OtherWindowsSaveTheirOneConditionInPlaceOfTheList) {

@@ -429,6 +429,23 @@ class EditorStruttureTest : public QObject {
     QVERIFY(figures::DecodificaStruttura(figures::CodificaStruttura(modello.Struttura())));
   }
 
+  // A caption or condition with "fine" read from an old file is not written again until corrected.
+  void AnOldTextWithFineIsNotSavedAgain() {
+    test::CartellaTemporanea cartella;
+    StruttureModello modello;
+    modello.Carica({{Vertice(1, "A", 1, 1), Vertice(2, "Fine", 1, 2)}, {}, {}}, 10);
+    auto salvata = modello.Salva(cartella / "vecchia.dat");
+    QVERIFY(!salvata.Riuscito());
+    QVERIFY(salvata.Errore().testo.starts_with("L'etichetta del vertice 2 non può contenere la parola \"fine\""));
+    QVERIFY(salvata.Errore().testo.ends_with("Correggerla prima di salvare."));
+    QVERIFY(modello.ImpostaCaption(2, "B").Riuscito());
+    modello.Carica({{Vertice(1, "A", 1, 1)}, {}, {"[A] = 1", "[A] = 2 Or FINE"}}, 10);
+    QVERIFY(modello.Salva(cartella / "vecchia.dat").Errore().testo.starts_with("La condizione 2 non può"));
+    QVERIFY(!std::filesystem::exists(cartella / "vecchia.dat"));
+    QVERIFY(modello.ModificaCondizione(1, "[A] = 2").Riuscito());
+    QVERIFY(modello.Salva(cartella / "vecchia.dat").Riuscito());
+  }
+
   // Typing the archive's name in the Save dialog once replaced the archive with a structure.
   void SavingNeverReplacesAnArchiveOrAFileThatIsNoStructure() {
     test::CartellaTemporanea cartella;
