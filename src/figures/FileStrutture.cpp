@@ -2,19 +2,13 @@
 
 #include <fmt/format.h>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstring>
 #include <span>
-#include <utility>
 #include <vector>
 
 #include "Condizione.h"
+#include "DiscoStrutture.h"
 #include "LimitiStrutture.h"
 #include "vbscript/Utf.h"
 
@@ -208,110 +202,6 @@ Avviso ErroreSalvataggio(const fs::path& file, std::string_view motivo) {
                        fmt::format("Impossibile salvare la struttura nel file {}: {}", file.string(), motivo));
 }
 
-// The system's reason, in Italian for those a user meets; the system's own words for the rest.
-std::string Errno() {
-  switch (errno) {
-    case ENOENT: return "il file o la cartella non esiste";
-    case EACCES:
-    case EPERM: return "permesso negato";
-    case ENOSPC: return "il disco è pieno";
-    case EDQUOT: return "lo spazio concesso sul disco è esaurito";
-    case EROFS: return "il disco è di sola lettura";
-    case ENAMETOOLONG: return "il nome è troppo lungo";
-    case ENOTDIR: return "una parte del percorso non è una cartella";
-    case EISDIR: return "al suo posto c'è una cartella";
-    case ELOOP: return "troppi collegamenti simbolici nel percorso";
-    case EIO: return "errore di lettura o scrittura sul disco";
-    default: return std::strerror(errno);
-  }
-}
-
-// Closes the descriptor it holds however the function that opened it ends.
-class Descrittore {
- public:
-  explicit Descrittore(int fd) : m_fd(fd) {}
-  ~Descrittore() {
-    if (m_fd >= 0) ::close(m_fd);
-  }
-  Descrittore(const Descrittore&) = delete;
-  Descrittore& operator=(const Descrittore&) = delete;
-  int Fd() const { return m_fd; }
-  // The close's own outcome, which is where some file systems report a failed write.
-  bool Chiudi() {
-    const int fd = std::exchange(m_fd, -1);
-    return ::close(fd) == 0;
-  }
-
- private:
-  int m_fd;
-};
-
-bool ScriviTutto(int fd, std::string_view byte) {
-  while (!byte.empty()) {
-    const ssize_t scritti = ::write(fd, byte.data(), byte.size());
-    if (scritti < 0 && errno == EINTR) continue;
-    if (scritti <= 0) return false;
-    byte.remove_prefix(static_cast<size_t>(scritti));
-  }
-  return true;
-}
-
-// Through a temporary file beside the target, flushed to the disk before it takes the target's name,
-// so that a failed or interrupted save leaves the old structure whole and no stray file behind.
-Esito<Fatto> ScriviFile(const fs::path& file, const std::string& byte) {
-  const fs::path cartella = file.parent_path().empty() ? fs::path(".") : file.parent_path();
-  std::string modello = (cartella / ("." + file.filename().string() + ".XXXXXX")).string();
-  Descrittore temporaneo(::mkostemp(modello.data(), O_CLOEXEC));
-  if (temporaneo.Fd() < 0) return ErroreSalvataggio(file, Errno());
-  const fs::path percorso_temporaneo = modello;
-  auto fallito = [&](std::string motivo) {
-    std::error_code ec;
-    fs::remove(percorso_temporaneo, ec);
-    return ErroreSalvataggio(file, motivo);
-  };
-  // The new file keeps the permissions of the one it replaces; a new one gets the usual rw-r--r--.
-  struct stat vecchio {};
-  const mode_t permessi = ::stat(file.c_str(), &vecchio) == 0 ? (vecchio.st_mode & 07777) : 0644;
-  if (::fchmod(temporaneo.Fd(), permessi) != 0 || !ScriviTutto(temporaneo.Fd(), byte) ||
-      ::fsync(temporaneo.Fd()) != 0)
-    return fallito(Errno());
-  if (!temporaneo.Chiudi()) return fallito(Errno());
-  if (::rename(percorso_temporaneo.c_str(), file.c_str()) != 0) return fallito(Errno());
-  // The rename itself reaches the disk with the folder's entry.
-  Descrittore dir(::open(cartella.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (dir.Fd() >= 0) ::fsync(dir.Fd());
-  return Fatto{};
-}
-
-// The whole file, refused unless it is an ordinary file of at most kMassimoByteFile bytes. Opened
-// without waiting, so that a named pipe with no writer is refused instead of blocking.
-Esito<std::string> LeggiFile(const fs::path& file) {
-  auto rifiuto = [](std::string motivo) { return AvvisoEsclamativo(std::move(motivo)); };
-  Descrittore in(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
-  if (in.Fd() < 0) return rifiuto(errno == ENOENT ? "il file non esiste" : "non si può leggere: " + Errno());
-  struct stat stato {};
-  if (::fstat(in.Fd(), &stato) != 0) return rifiuto("non si può leggere: " + Errno());
-  if (S_ISDIR(stato.st_mode)) return rifiuto("è una cartella, non un file");
-  if (!S_ISREG(stato.st_mode)) return rifiuto("non è un file ordinario (è un dispositivo, una pipe o un socket)");
-  if (static_cast<uintmax_t>(stato.st_size) > kMassimoByteFile)
-    return rifiuto(
-        fmt::format("è di {} byte, troppi per una struttura (al massimo {})", stato.st_size, kMassimoByteFile));
-  // The size is checked again while reading: the file may grow in the meantime.
-  std::string byte(kMassimoByteFile + 1, '\0');
-  size_t letti = 0;
-  while (letti < byte.size()) {
-    const ssize_t n = ::read(in.Fd(), byte.data() + letti, byte.size() - letti);
-    if (n < 0 && errno == EINTR) continue;
-    if (n < 0) return rifiuto("non si può leggere: " + Errno());
-    if (n == 0) break;
-    letti += static_cast<size_t>(n);
-  }
-  if (letti > kMassimoByteFile)
-    return rifiuto(fmt::format("è di più di {} byte, troppi per una struttura", kMassimoByteFile));
-  byte.resize(letti);
-  return byte;
-}
-
 }  // namespace
 
 std::string CodificaStruttura(const Struttura& struttura) {
@@ -340,16 +230,20 @@ Esito<Struttura> DecodificaStruttura(std::string_view byte) {
 }
 
 Esito<Fatto> SalvaStruttura(const fs::path& file, const Struttura& struttura) {
-  return ScriviFile(file, CodificaStruttura(struttura));
+  auto scritto = ScriviFileIntero(file, CodificaStruttura(struttura));
+  if (!scritto) return ErroreSalvataggio(file, scritto.Errore().testo);
+  return Fatto{};
 }
 
 Esito<Fatto> SalvaStrutturaConCondizione(const fs::path& file, const Struttura& struttura,
                                          std::string_view condizione) {
-  return ScriviFile(file, CodificaStrutturaConCondizione(struttura, condizione));
+  auto scritto = ScriviFileIntero(file, CodificaStrutturaConCondizione(struttura, condizione));
+  if (!scritto) return ErroreSalvataggio(file, scritto.Errore().testo);
+  return Fatto{};
 }
 
 Esito<Struttura> CaricaStruttura(const fs::path& file) {
-  auto letto = LeggiFile(file);
+  auto letto = LeggiFileOrdinario(file, kMassimoByteFile, "troppi per una struttura");
   if (!letto) return FileNonValido(file, letto.Errore().testo);
   auto struttura = DecodificaStruttura(*letto);
   if (!struttura) return FileNonValido(file, struttura.Errore().testo);
