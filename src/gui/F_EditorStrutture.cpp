@@ -49,6 +49,9 @@ void RiempiVersi(QComboBox* verso) {
 // Folders, and the files that begin as a structure file does: the archives, which share the
 // extension, are never offered. Only ordinary files are opened, so a pipe in the folder cannot block.
 class SoloStrutture : public QSortFilterProxyModel {
+ public:
+  using QSortFilterProxyModel::QSortFilterProxyModel;
+
  protected:
   bool filterAcceptsRow(int riga, const QModelIndex& genitore) const override {
     const auto* file_system = qobject_cast<const QFileSystemModel*>(sourceModel());
@@ -258,7 +261,7 @@ QString F_EditorStrutture::ScegliFile(bool salvataggio) {
   QFileDialog dialogo(this, salvataggio ? "Salva la struttura" : "Apri una struttura",
                       QString::fromStdU16String(cartella.u16string()));
   dialogo.setOption(QFileDialog::DontUseNativeDialog);
-  dialogo.setProxyModel(new SoloStrutture);
+  dialogo.setProxyModel(new SoloStrutture(&dialogo));
   dialogo.setNameFilter("Struttura utente (*.dat)");
   dialogo.setDefaultSuffix("dat");
   dialogo.setAcceptMode(salvataggio ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

@@ -12,15 +12,17 @@
 
 #include <random>
 
+#include "FigureDiProva.h"
 #include "TempDir.h"
 #include "figures/FileStrutture.h"
 #include "figures/LimitiStrutture.h"
+#include "figures/RicercaFigure.h"
 
 namespace lottolab::figures {
 namespace {
 
 namespace fs = std::filesystem;
-using test::CartellaTemporanea;
+using lottolab::test::CartellaTemporanea;
 
 // Writes the file's fields by hand, so that the expected bytes never come from the code under test.
 class Byte {
@@ -319,6 +321,48 @@ TEST(FileStrutture, AFailedSaveLeavesTheOldFileAndNothingElse) {
   salvata = SalvaStruttura(file / "dentro.dat", {{kVerticeB}, {}, {}});
   ASSERT_FALSE(salvata);
   EXPECT_TRUE(salvata.Errore().testo.ends_with(": una parte del percorso non è una cartella")) << salvata.Errore().testo;
+}
+
+// Bytes damaged at random, as a bad disk or a hostile hand leaves them: each reads as a structure
+// within the limits or fails with a reason, and what reads is searched over a table without harm.
+TEST(FileStrutture, DamagedBytesReadWithinTheLimitsOrNotAtAll) {
+  const Struttura struttura{{test::Vertice(1, "A", 0, 1), test::Vertice(2, "B", 1, 2)},
+                            {{1, 1, 2}},
+                            {"[A] = 1", "Cadenza([B]) <> 3 Or Not RuotaUnica()", "ContaPresenze([A]) < 2"}};
+  const std::string valida = CodificaStruttura(struttura);
+  const TabellaEstrazioni tab = test::SeiEstrazioni();
+  const std::string_view inserti[] = {"FINE", "fInE", "OFFSET_STRUCT", "OFFSET_LINEE", "OFFSET_COND", "\xFF\xFF"};
+  std::mt19937 caso(2026);
+  auto posizione = [&](const std::string& byte) {
+    return std::uniform_int_distribution<size_t>(0, byte.size())(caso);
+  };
+  int lette = 0;
+  for (int prova = 0; prova < 20000; ++prova) {
+    std::string byte = valida;
+    for (int guasto = std::uniform_int_distribution(1, 6)(caso); guasto > 0; --guasto) {
+      const size_t dove = posizione(byte);
+      switch (caso() % 4) {
+        case 0:
+          if (dove < byte.size()) byte[dove] = static_cast<char>(caso());
+          break;
+        case 1: byte.insert(dove, inserti[caso() % std::size(inserti)]); break;
+        case 2: byte.erase(dove, caso() % 40); break;
+        default: byte.insert(dove, byte.substr(posizione(byte), caso() % 600)); break;
+      }
+    }
+    auto letta = DecodificaStruttura(byte);
+    if (!letta) {
+      EXPECT_FALSE(letta.Errore().testo.empty());
+      continue;
+    }
+    ++lette;
+    EXPECT_FALSE(LimiteSuperato(*letta));
+    auto trovate = CercaFigura(tab, *letta, {});
+    if (!trovate) continue;
+    for (const FiguraTrovata& trovata : trovate->elenco)
+      EXPECT_EQ(trovate->Figura(tab, trovata).vertici.size(), trovate->forme[static_cast<size_t>(trovata.forma)].punti.size());
+  }
+  EXPECT_GT(lette, 1000) << "the damage should leave some files readable";
 }
 
 // A process killed at any point of a save leaves the file whole, old or new: never cut, never
