@@ -202,6 +202,11 @@ Avviso ErroreSalvataggio(const fs::path& file, std::string_view motivo) {
                        fmt::format("Impossibile salvare la struttura nel file {}: {}", file.string(), motivo));
 }
 
+std::array<Sezione, 3> SezioniDelFile() {
+  return {Sezione{kMarcatoreVertici, kByteVertice, "dei vertici"}, Sezione{kMarcatoreLinee, kByteLinea, "delle linee"},
+          Sezione{kMarcatoreCondizioni, kByteCondizione, "delle condizioni"}};
+}
+
 }  // namespace
 
 std::string CodificaStruttura(const Struttura& struttura) {
@@ -214,9 +219,7 @@ std::string CodificaStrutturaConCondizione(const Struttura& struttura, std::stri
 }
 
 Esito<Struttura> DecodificaStruttura(std::string_view byte) {
-  std::array<Sezione, 3> sezioni{Sezione{kMarcatoreVertici, kByteVertice, "dei vertici"},
-                                 Sezione{kMarcatoreLinee, kByteLinea, "delle linee"},
-                                 Sezione{kMarcatoreCondizioni, kByteCondizione, "delle condizioni"}};
+  std::array<Sezione, 3> sezioni = SezioniDelFile();
   if (auto motivo = TrovaSezioni(byte, sezioni)) return AvvisoEsclamativo(std::move(*motivo));
   const auto& [vertici, linee, condizioni] = sezioni;
   // The file's size is bounded, and so are the records read before the limits are checked.
@@ -248,6 +251,12 @@ Esito<Struttura> CaricaStruttura(const fs::path& file) {
   auto struttura = DecodificaStruttura(*letto);
   if (!struttura) return FileNonValido(file, struttura.Errore().testo);
   return std::move(struttura).Valore();
+}
+
+bool FileDiStruttura(const fs::path& file) {
+  auto letto = LeggiFileOrdinario(file, kMassimoByteFile, "");
+  std::array<Sezione, 3> sezioni = SezioniDelFile();
+  return letto && !TrovaSezioni(*letto, sezioni);
 }
 
 }  // namespace lottolab::figures

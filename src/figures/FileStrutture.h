@@ -54,5 +54,8 @@ Esito<Fatto> SalvaStrutturaConCondizione(const std::filesystem::path& file, cons
 // A file that is not a structure gives "File <path> non valido: <why>"; so does anything that is not an
 // ordinary file of at most kMassimoByteFile bytes (a folder, a device, a pipe), never waiting on it.
 Esito<Struttura> CaricaStruttura(const std::filesystem::path& file);
+// Whether the file is an ordinary file holding the three sections of a structure file with their ends,
+// whatever they hold: a file a structure may be saved over.
+bool FileDiStruttura(const std::filesystem::path& file);
 
 }  // namespace lottolab::figures

@@ -4,7 +4,9 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QFile>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QFormLayout>
 #include <QGraphicsView>
 #include <QGroupBox>
@@ -15,8 +17,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QFile>
-#include <QFileSystemModel>
 #include <QSortFilterProxyModel>
 #include <QSpinBox>
 #include <QSplitter>

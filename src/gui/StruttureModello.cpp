@@ -16,10 +16,15 @@ bool ByteDiSeguito(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x
 
 constexpr std::string_view kChiaveCartellaStrutture = "sCartellaStrutture";
 
+// The same file by its links, or, when either is missing, by the path it would have.
 bool StessoFile(const std::filesystem::path& a, const std::filesystem::path& b) {
   std::error_code ec;
   if (std::filesystem::equivalent(a, b, ec)) return true;
-  return std::filesystem::weakly_canonical(a, ec) == std::filesystem::weakly_canonical(b, ec) && !ec;
+  std::error_code ec_a;
+  std::error_code ec_b;
+  const std::filesystem::path canonico_a = std::filesystem::weakly_canonical(a, ec_a);
+  const std::filesystem::path canonico_b = std::filesystem::weakly_canonical(b, ec_b);
+  return !ec_a && !ec_b && canonico_a == canonico_b;
 }
 
 }  // namespace
@@ -39,7 +44,7 @@ Esito<Fatto> DestinazioneAmmessa(const std::filesystem::path& file, const app::C
   std::error_code ec;
   const auto stato = std::filesystem::status(file, ec);
   if (stato.type() == std::filesystem::file_type::not_found) return Fatto{};
-  if (!figures::CaricaStruttura(file))
+  if (!figures::FileDiStruttura(file))
     return AvvisoEsclamativo("Il file " + nome +
                              " esiste e non è una struttura: non viene sostituito. Scegliere un altro nome.");
   return Fatto{};

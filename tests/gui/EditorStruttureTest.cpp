@@ -471,6 +471,12 @@ class EditorStruttureTest : public QObject {
                  " esiste e non è una struttura: non viene sostituito. Scegliere un altro nome.");
     QVERIFY(!ammessa(base / "cartella.dat").Riuscito());
     QVERIFY(ammessa(base / "vecchia.dat").Riuscito());
+    // A structure beyond today's limits is still a structure file: a new one may take its place.
+    figures::Struttura enorme;
+    for (int16_t k = 1; k <= 150; ++k) enorme.vertici.push_back(Vertice(k, "", 1, 1));
+    std::ofstream(base / "enorme.dat", std::ios::binary) << figures::CodificaStruttura(enorme);
+    QVERIFY(!figures::CaricaStruttura(base / "enorme.dat").Riuscito());
+    QVERIFY(ammessa(base / "enorme.dat").Riuscito());
     QVERIFY(ammessa(base / "Figure" / "BaseDati.dat").Riuscito());
     QCOMPARE(std::filesystem::file_size(base / "BaseDati.dat"), std::uintmax_t{478});
   }
