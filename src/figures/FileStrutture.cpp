@@ -232,17 +232,39 @@ Esito<Struttura> DecodificaStruttura(std::string_view byte) {
   return struttura;
 }
 
-Esito<Fatto> SalvaStruttura(const fs::path& file, const Struttura& struttura) {
-  auto scritto = ScriviFileIntero(file, CodificaStruttura(struttura));
+namespace {
+
+// Written only when the bytes read back as many records as were written: a "FINE" that a text, or
+// numbers side by side, spell would otherwise cut a section of the new file.
+Esito<Fatto> Scrivi(const fs::path& file, const std::string& byte, size_t vertici, size_t linee, size_t condizioni) {
+  auto riletta = DecodificaStruttura(byte);
+  if (!riletta || riletta->vertici.size() != vertici || riletta->linee.size() != linee ||
+      riletta->condizioni.size() != condizioni)
+    return ErroreSalvataggio(file,
+                             riletta ? "un'etichetta, una condizione o un numero della struttura forma la parola "
+                                       "\"fine\", che nel file chiude la sezione: il file non si rileggerebbe intero"
+                                     : riletta.Errore().testo);
+  auto scritto = ScriviFileIntero(file, byte);
   if (!scritto) return ErroreSalvataggio(file, scritto.Errore().testo);
   return Fatto{};
 }
 
+size_t VerticiScritti(const Struttura& struttura) {
+  return static_cast<size_t>(std::count_if(struttura.vertici.begin(), struttura.vertici.end(),
+                                           [](const ClsVertice& vertice) { return vertice.Index != 0; }));
+}
+
+}  // namespace
+
+Esito<Fatto> SalvaStruttura(const fs::path& file, const Struttura& struttura) {
+  return Scrivi(file, CodificaStruttura(struttura), VerticiScritti(struttura), struttura.linee.size(),
+                struttura.condizioni.size());
+}
+
 Esito<Fatto> SalvaStrutturaConCondizione(const fs::path& file, const Struttura& struttura,
                                          std::string_view condizione) {
-  auto scritto = ScriviFileIntero(file, CodificaStrutturaConCondizione(struttura, condizione));
-  if (!scritto) return ErroreSalvataggio(file, scritto.Errore().testo);
-  return Fatto{};
+  return Scrivi(file, CodificaStrutturaConCondizione(struttura, condizione), VerticiScritti(struttura),
+                struttura.linee.size(), 1);
 }
 
 Esito<Struttura> CaricaStruttura(const fs::path& file) {

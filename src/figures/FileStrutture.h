@@ -47,7 +47,8 @@ std::string CodificaStrutturaConCondizione(const Struttura& struttura, std::stri
 Esito<Struttura> DecodificaStruttura(std::string_view byte);
 
 // The file written anew with CodificaStruttura's bytes, all or nothing: through a temporary file
-// flushed to the disk and renamed over it.
+// flushed to the disk and renamed over it. Refused, leaving the file as it was, when the bytes would
+// not read back whole (a "fine" in a text) or the structure exceeds LimitiStrutture.h.
 Esito<Fatto> SalvaStruttura(const std::filesystem::path& file, const Struttura& struttura);
 Esito<Fatto> SalvaStrutturaConCondizione(const std::filesystem::path& file, const Struttura& struttura,
                                          std::string_view condizione);

@@ -285,6 +285,32 @@ TEST(FileStrutture, SavingWritesExactlyTheNewBytesOverAnOldFile) {
   EXPECT_FALSE(SalvaStruttura(cartella / "manca" / "figura.dat", struttura));
 }
 
+// What would not read back whole is not written: a "fine" spelt by a text, by numbers side by side or
+// across two conditions, or a structure beyond the limits.
+TEST(FileStrutture, ASaveThatWouldNotReadBackWholeIsRefused) {
+  CartellaTemporanea cartella;
+  const fs::path file = cartella / "figura.dat";
+  ClsVertice fine = kVerticeA;
+  fine.Caption = "xFinE";
+  ClsVertice numeri = kVerticeA;
+  numeri.IdEstrazione = 'F' | ('I' << 8) | ('N' << 16) | ('E' << 24);
+  std::vector<ClsVertice> troppi(kMassimoVertici + 1, kVerticeA);
+  const std::pair<Struttura, std::string> casi[] = {
+      {{{fine, kVerticeB}, {}, {}}, "forma la parola \"fine\""},
+      {{{numeri, kVerticeB}, {}, {}}, "forma la parola \"fine\""},
+      {{{kVerticeA}, {}, {std::string(498, ' ') + "fi", "ne = 1"}}, "forma la parola \"fine\""},
+      {{troppi, {}, {}}, "ha 101 vertici, al massimo 100"},
+  };
+  for (const auto& [struttura, motivo] : casi) {
+    auto salvata = SalvaStruttura(file, struttura);
+    ASSERT_FALSE(salvata) << motivo;
+    EXPECT_NE(salvata.Errore().testo.find(motivo), std::string::npos) << salvata.Errore().testo;
+    EXPECT_FALSE(fs::exists(file));
+  }
+  EXPECT_FALSE(SalvaStrutturaConCondizione(file, {{kVerticeA}, {}, {}}, "[A] = 1 Or fine"));
+  EXPECT_TRUE(fs::is_empty(cartella.Percorso()));
+}
+
 // A save that fails leaves the old file as it was and no temporary file beside it.
 TEST(FileStrutture, AFailedSaveLeavesTheOldFileAndNothingElse) {
   CartellaTemporanea cartella;
