@@ -28,7 +28,7 @@ void BM_QuadratoConDueCondizioni(benchmark::State& state) {
   size_t trovate = 0;
   for (auto _ : state) {
     auto esito = CercaFigura(*tab, quadrato, {});
-    trovate = esito ? esito->size() : 0;
+    trovate = esito ? esito->elenco.size() : 0;
     benchmark::DoNotOptimize(trovate);
   }
   state.counters["trovate"] = static_cast<double>(trovate);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 
 #include "Argomenti.h"
 #include "Comandi.h"
@@ -28,16 +29,20 @@ Esito<int> LeggiColpi(const std::string& testo) {
 
 // One line per figure: the draw that completes it, its date, the wheels it touches, the numbers at
 // its vertices in the structure's order.
-void ScriviFigura(std::ostream& out, const TabellaEstrazioni& tab, const figures::FiguraTrovata& trovata) {
+void ScriviFigura(std::ostream& out, const TabellaEstrazioni& tab, const figures::FigureTrovate& trovate,
+                  const figures::FiguraTrovata& trovata) {
+  const figures::FiguraPiazzata figura = trovate.Figura(tab, trovata);
   std::vector<int> ruote;
-  for (const figures::VerticePiazzato& vertice : trovata.figura.vertici)
+  for (const figures::VerticePiazzato& vertice : figura.vertici)
     if (std::find(ruote.begin(), ruote.end(), vertice.ruota) == ruote.end()) ruote.push_back(vertice.ruota);
-  std::string sigle;
-  for (int ruota : ruote) sigle += fmt::format("{}{}", sigle.empty() ? "" : ",", SiglaRuota(ruota));
-  std::string numeri;
-  for (const figures::VerticePiazzato& vertice : trovata.figura.vertici) numeri += fmt::format(" {:02}", vertice.numero);
-  fmt::print(out, "{} {} {}{}\n", trovata.estrazione, tab.DataEstrazione(trovata.estrazione).ValoreOppure("?"), sigle,
-             numeri);
+  // One buffer for the line: a figure of many vertices found at most cells prints millions of numbers.
+  fmt::memory_buffer riga;
+  fmt::format_to(std::back_inserter(riga), "{} {} ", trovata.estrazione,
+                 tab.DataEstrazione(trovata.estrazione).ValoreOppure("?"));
+  for (size_t k = 0; k < ruote.size(); ++k) fmt::format_to(std::back_inserter(riga), "{}{}", k == 0 ? "" : ",", SiglaRuota(ruote[k]));
+  for (const figures::VerticePiazzato& vertice : figura.vertici) fmt::format_to(std::back_inserter(riga), " {:02}", vertice.numero);
+  riga.push_back('\n');
+  out.write(riga.data(), static_cast<std::streamsize>(riga.size()));
 }
 
 void ScriviStatistica(std::ostream& out, const figures::StatisticaStruttura& statistica, int colpi) {
@@ -79,8 +84,8 @@ int ComandoCercaFigura(Contesto& contesto, const Parole& parole) {
 
   auto trovate = figures::CercaFigura(*tabella, *struttura, ricerca);
   if (!trovate) return contesto.Fallisci(trovate.Errore());
-  for (const figures::FiguraTrovata& trovata : *trovate) ScriviFigura(contesto.out, *tabella, trovata);
-  fmt::print(contesto.out, "trovate {} figure\n", trovate->size());
+  for (const figures::FiguraTrovata& trovata : trovate->elenco) ScriviFigura(contesto.out, *tabella, *trovate, trovata);
+  fmt::print(contesto.out, "trovate {} figure\n", trovate->elenco.size());
   if (colpi)
     ScriviStatistica(contesto.out,
                      figures::CalcolaStatistica(*tabella, *trovate, *colpi, intervallo->inizio, intervallo->fine),

@@ -140,6 +140,10 @@ const std::string& Condizione::Testo() const {
   return m_programma->testo;
 }
 
+size_t Condizione::Costo() const {
+  return m_programma->costo;
+}
+
 Condizione::Condizione(std::unique_ptr<const ProgrammaCondizione> programma) : m_programma(std::move(programma)) {}
 Condizione::Condizione(Condizione&&) noexcept = default;
 Condizione& Condizione::operator=(Condizione&&) noexcept = default;

@@ -37,6 +37,10 @@
 
 namespace lottolab::figures {
 
+// The longest text compiled, in characters: what a record of the structure file keeps. Longer texts
+// are refused, as are texts nested deeper than the compiler allows (CondizioneCompilatore.cpp).
+inline constexpr size_t kMassimiCaratteriCondizione = 500;
+
 // Why a text was refused: the message starts with "Errore di sintassi", `colonna` (from 1) is
 // where the text stops making sense.
 struct ErroreSintassi {
@@ -57,6 +61,9 @@ class Condizione {
   bool Vale(const FiguraPiazzata& figura) const;
 
   const std::string& Testo() const;
+  // The work of one evaluation, in steps of about the same time: what a search multiplies by the
+  // cells of the table.
+  size_t Costo() const;
 
   Condizione(Condizione&&) noexcept;
   Condizione& operator=(Condizione&&) noexcept;

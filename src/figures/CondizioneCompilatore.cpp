@@ -134,12 +134,35 @@ int Effetto(Codice codice) {
   return 0;
 }
 
+bool ScorreIVertici(Codice codice) {
+  switch (codice) {
+    case Codice::SommaCiclometricaGlob:
+    case Codice::RuotaUnica:
+    case Codice::QuantitaCadenze:
+    case Codice::QuantitaFigure:
+    case Codice::PuntiSu:
+    case Codice::ContaPresenze:
+    case Codice::ContaChiusure:
+      return true;
+    default:
+      return false;
+  }
+}
+
 std::string ArgomentiSbagliati(const Funzione& funzione) {
   if (funzione.massimo == kSenzaLimite)
     return fmt::format("Errore di sintassi: {} vuole almeno {} argomenti", funzione.nome, funzione.minimo);
   if (funzione.massimo == 0) return fmt::format("Errore di sintassi: {} non vuole argomenti", funzione.nome);
   if (funzione.massimo == 1) return fmt::format("Errore di sintassi: {} vuole un argomento", funzione.nome);
   return fmt::format("Errore di sintassi: {} vuole {} argomenti", funzione.nome, funzione.massimo);
+}
+
+// The byte offset of the character numbered `carattere` from 0.
+size_t PosizioneDelCarattere(std::string_view testo, size_t carattere) {
+  size_t posizione = 0;
+  for (size_t contati = 0; posizione < testo.size(); ++posizione)
+    if ((static_cast<unsigned char>(testo[posizione]) & 0xC0) != 0x80 && contati++ == carattere) break;
+  return posizione;
 }
 
 // Thrown from anywhere in the descent, caught once at its top.
@@ -152,13 +175,22 @@ class Compilatore {
  public:
   Compilatore(std::string_view testo, std::span<const ClsVertice> vertici)
       : m_testo(testo), m_lessico(testo), m_vertici(vertici) {
+    const size_t caratteri = Colonna(testo, testo.size()) - 1;
+    if (caratteri > kMassimiCaratteriCondizione)
+      Rifiuta(fmt::format("Errore di sintassi: la condizione è lunga {} caratteri, al massimo {}", caratteri,
+                          kMassimiCaratteriCondizione),
+              PosizioneDelCarattere(testo, kMassimiCaratteriCondizione));
     Avanza();
   }
 
   ProgrammaCondizione Compila() && {
     Or();
     if (m_simbolo.tipo != TipoSimbolo::Fine) Atteso("un operatore o la fine del testo");
-    return {std::string(m_testo), std::move(m_istruzioni), &TabelleNumeri::Uniche(), m_vertici_letti};
+    const size_t vertici = static_cast<size_t>(
+        std::ranges::count_if(m_vertici, [](const ClsVertice& vertice) { return vertice.Index != 0; }));
+    size_t costo = 0;
+    for (const Istruzione& istruzione : m_istruzioni) costo += ScorreIVertici(istruzione.codice) ? vertici : 1;
+    return {std::string(m_testo), std::move(m_istruzioni), &TabelleNumeri::Uniche(), m_vertici_letti, costo};
   }
 
  private:

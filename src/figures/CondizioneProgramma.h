@@ -57,6 +57,9 @@ struct ProgrammaCondizione {
   std::vector<Istruzione> istruzioni;
   const TabelleNumeri* tabelle = nullptr;
   size_t vertici_letti = 0;  // one more than the highest place the program reads
+  // The work of one evaluation: one per instruction, as many as the vertices for an instruction
+  // that goes through all of them.
+  size_t costo = 0;
 };
 
 }  // namespace lottolab::figures

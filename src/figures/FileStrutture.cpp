@@ -2,16 +2,21 @@
 
 #include <fmt/format.h>
 
-#include <fstream>
-#include <iterator>
+#include <algorithm>
+#include <array>
 #include <span>
 #include <vector>
 
+#include "Condizione.h"
+#include "DiscoStrutture.h"
+#include "LimitiStrutture.h"
 #include "vbscript/Utf.h"
 
 namespace lottolab::figures {
 
 namespace fs = std::filesystem;
+
+static_assert(kByteCondizione == kMassimiCaratteriCondizione, "a condition's record keeps every character compiled");
 
 namespace {
 
@@ -135,13 +140,9 @@ ClsLinea LeggiLinea(Lettore& lettore) {
 }
 
 size_t TrovaFineSezione(std::string_view byte, size_t da) {
-  auto maiuscola = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
-  for (size_t i = da; i + kFineSezione.size() <= byte.size(); ++i) {
-    size_t k = 0;
-    while (k < kFineSezione.size() && maiuscola(byte[i + k]) == kFineSezione[k]) ++k;
-    if (k == kFineSezione.size()) return i;
-  }
-  return std::string_view::npos;
+  if (da > byte.size()) return std::string_view::npos;
+  const size_t trovata = PosizioneFine(byte.substr(da));
+  return trovata == std::string_view::npos ? trovata : da + trovata;
 }
 
 // Halves go to the even count, as the conversion the files were always read with did.
@@ -153,19 +154,33 @@ size_t ArrotondaAlPari(size_t lunghezza, size_t lunghezzaRecord) {
 }
 
 struct Sezione {
-  size_t inizio = 0;
+  std::string_view marcatore;
+  size_t lunghezza_record;
+  std::string_view nome;  // for the messages
+  size_t inizio = 0;       // behind the marker
   size_t record = 0;
 };
 
-// No marker ends with the start of "FINE", so searching from behind the marker finds what a search
-// from the marker would. Without a "FINE" the section holds nothing.
-std::optional<Sezione> TrovaSezione(std::string_view byte, std::string_view marcatore, size_t lunghezzaRecord) {
-  size_t marcatoreTrovato = byte.find(marcatore);
-  if (marcatoreTrovato == std::string_view::npos) return std::nullopt;
-  Sezione sezione{marcatoreTrovato + marcatore.size(), 0};
-  size_t fine = TrovaFineSezione(byte, sezione.inizio);
-  if (fine != std::string_view::npos) sezione.record = ArrotondaAlPari(fine - sezione.inizio, lunghezzaRecord);
-  return sezione;
+// Each section's marker, then its "FINE" before the next section's marker: a file cut before a
+// section's end, or one whose end is missing, is not read as a shorter structure. No marker ends with
+// the start of "FINE", so searching from behind the marker finds what a search from the marker would.
+std::optional<std::string> TrovaSezioni(std::string_view byte, std::array<Sezione, 3>& sezioni) {
+  for (Sezione& sezione : sezioni) {
+    const size_t trovato = byte.find(sezione.marcatore);
+    if (trovato == std::string_view::npos)
+      return fmt::format("manca la sezione {} ({})", sezione.nome, sezione.marcatore);
+    sezione.inizio = trovato + sezione.marcatore.size();
+  }
+  for (Sezione& sezione : sezioni) {
+    size_t limite = byte.size();
+    for (const Sezione& altra : sezioni)
+      if (altra.inizio > sezione.inizio) limite = std::min(limite, altra.inizio - altra.marcatore.size());
+    const size_t fine = TrovaFineSezione(byte.substr(0, limite), sezione.inizio);
+    if (fine == std::string_view::npos)
+      return fmt::format("la sezione {} non ha la sua fine (FINE): il file è troncato o rovinato", sezione.nome);
+    sezione.record = ArrotondaAlPari(fine - sezione.inizio, sezione.lunghezza_record);
+  }
+  return std::nullopt;
 }
 
 template <typename Record, typename Leggi>
@@ -176,9 +191,9 @@ std::vector<Record> LeggiSezione(std::string_view byte, const Sezione& sezione, 
   return record;
 }
 
-Avviso FileNonValido(const fs::path& file) {
+Avviso FileNonValido(const fs::path& file, std::string_view motivo) {
   // Critical: the user named this file as a structure, so its failing to be one is not bad input.
-  return Avviso{TipoAvviso::Critico, "", fmt::format("File {} non valido", file.string())};
+  return Avviso{TipoAvviso::Critico, "", fmt::format("File {} non valido: {}", file.string(), motivo)};
 }
 
 Avviso ErroreSalvataggio(const fs::path& file, std::string_view motivo) {
@@ -187,27 +202,9 @@ Avviso ErroreSalvataggio(const fs::path& file, std::string_view motivo) {
                        fmt::format("Impossibile salvare la struttura nel file {}: {}", file.string(), motivo));
 }
 
-// Through a temporary file beside the target, so that a failed save leaves the old structure whole.
-Esito<Fatto> ScriviFile(const fs::path& file, const std::string& byte) {
-  fs::path temporaneo = file;
-  temporaneo += ".tmp";
-  std::error_code ec;
-  {
-    std::ofstream out(temporaneo, std::ios::binary | std::ios::trunc);
-    out.write(byte.data(), static_cast<std::streamsize>(byte.size()));
-    out.close();
-    if (!out) {
-      fs::remove(temporaneo, ec);
-      return ErroreSalvataggio(file, "scrittura non riuscita");
-    }
-  }
-  fs::rename(temporaneo, file, ec);
-  if (ec) {
-    std::string motivo = ec.message();
-    fs::remove(temporaneo, ec);
-    return ErroreSalvataggio(file, motivo);
-  }
-  return Fatto{};
+std::array<Sezione, 3> SezioniDelFile() {
+  return {Sezione{kMarcatoreVertici, kByteVertice, "dei vertici"}, Sezione{kMarcatoreLinee, kByteLinea, "delle linee"},
+          Sezione{kMarcatoreCondizioni, kByteCondizione, "delle condizioni"}};
 }
 
 }  // namespace
@@ -221,37 +218,67 @@ std::string CodificaStrutturaConCondizione(const Struttura& struttura, std::stri
   return Codifica(struttura, std::span(&condizione, 1));
 }
 
-std::optional<Struttura> DecodificaStruttura(std::string_view byte) {
-  auto vertici = TrovaSezione(byte, kMarcatoreVertici, kByteVertice);
-  auto linee = TrovaSezione(byte, kMarcatoreLinee, kByteLinea);
-  auto condizioni = TrovaSezione(byte, kMarcatoreCondizioni, kByteCondizione);
-  if (!vertici || !linee || !condizioni) return std::nullopt;
-
+Esito<Struttura> DecodificaStruttura(std::string_view byte) {
+  std::array<Sezione, 3> sezioni = SezioniDelFile();
+  if (auto motivo = TrovaSezioni(byte, sezioni)) return AvvisoEsclamativo(std::move(*motivo));
+  const auto& [vertici, linee, condizioni] = sezioni;
+  // The file's size is bounded, and so are the records read before the limits are checked.
   Struttura struttura;
-  struttura.vertici = LeggiSezione<ClsVertice>(byte, *vertici, LeggiVertice);
-  struttura.linee = LeggiSezione<ClsLinea>(byte, *linee, LeggiLinea);
+  struttura.vertici = LeggiSezione<ClsVertice>(byte, vertici, LeggiVertice);
+  struttura.linee = LeggiSezione<ClsLinea>(byte, linee, LeggiLinea);
   struttura.condizioni = LeggiSezione<std::string>(
-      byte, *condizioni, [](Lettore& lettore) { return lettore.LeggiTesto(kByteCondizione); });
+      byte, condizioni, [](Lettore& lettore) { return lettore.LeggiTesto(kByteCondizione); });
+  if (auto motivo = LimiteSuperato(struttura)) return AvvisoEsclamativo(std::move(*motivo));
   return struttura;
 }
 
+namespace {
+
+// Written only when the bytes read back as many records as were written: a "FINE" that a text, or
+// numbers side by side, spell would otherwise cut a section of the new file.
+Esito<Fatto> Scrivi(const fs::path& file, const std::string& byte, size_t vertici, size_t linee, size_t condizioni) {
+  auto riletta = DecodificaStruttura(byte);
+  if (!riletta || riletta->vertici.size() != vertici || riletta->linee.size() != linee ||
+      riletta->condizioni.size() != condizioni)
+    return ErroreSalvataggio(file,
+                             riletta ? "un'etichetta, una condizione o un numero della struttura forma la parola "
+                                       "\"fine\", che nel file chiude la sezione: il file non si rileggerebbe intero"
+                                     : riletta.Errore().testo);
+  auto scritto = ScriviFileIntero(file, byte);
+  if (!scritto) return ErroreSalvataggio(file, scritto.Errore().testo);
+  return Fatto{};
+}
+
+size_t VerticiScritti(const Struttura& struttura) {
+  return static_cast<size_t>(std::count_if(struttura.vertici.begin(), struttura.vertici.end(),
+                                           [](const ClsVertice& vertice) { return vertice.Index != 0; }));
+}
+
+}  // namespace
+
 Esito<Fatto> SalvaStruttura(const fs::path& file, const Struttura& struttura) {
-  return ScriviFile(file, CodificaStruttura(struttura));
+  return Scrivi(file, CodificaStruttura(struttura), VerticiScritti(struttura), struttura.linee.size(),
+                struttura.condizioni.size());
 }
 
 Esito<Fatto> SalvaStrutturaConCondizione(const fs::path& file, const Struttura& struttura,
                                          std::string_view condizione) {
-  return ScriviFile(file, CodificaStrutturaConCondizione(struttura, condizione));
+  return Scrivi(file, CodificaStrutturaConCondizione(struttura, condizione), VerticiScritti(struttura),
+                struttura.linee.size(), 1);
 }
 
 Esito<Struttura> CaricaStruttura(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) return FileNonValido(file);
-  std::string byte{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-  if (in.bad()) return FileNonValido(file);
-  auto struttura = DecodificaStruttura(byte);
-  if (!struttura) return FileNonValido(file);
-  return std::move(*struttura);
+  auto letto = LeggiFileOrdinario(file, kMassimoByteFile, "troppi per una struttura");
+  if (!letto) return FileNonValido(file, letto.Errore().testo);
+  auto struttura = DecodificaStruttura(*letto);
+  if (!struttura) return FileNonValido(file, struttura.Errore().testo);
+  return std::move(struttura).Valore();
+}
+
+bool FileDiStruttura(const fs::path& file) {
+  auto letto = LeggiFileOrdinario(file, kMassimoByteFile, "");
+  std::array<Sezione, 3> sezioni = SezioniDelFile();
+  return letto && !TrovaSezioni(*letto, sezioni);
 }
 
 }  // namespace lottolab::figures

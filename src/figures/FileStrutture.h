@@ -14,13 +14,14 @@
 // blank-padded. Texts are Windows-1252 on disk.
 //
 // Reading finds each section's marker (exact case) and ends the section at the first "FINE" after
-// it in any case; the number of records is the section's length over the record's, rounded, and
-// that many records are read from right behind the marker. So a "FINE" inside a caption, a
-// condition or a record's bytes cuts its section short: the format has no escape for it, and files
-// written so are read as they always were.
+// it in any case, which must come before the next section's marker; the number of records is the
+// section's length over the record's, rounded, and that many records are read from right behind
+// the marker. So a "FINE" inside a caption, a condition or a record's bytes cuts its section short:
+// the format has no escape for it, files written so are read as they always were, and the editor
+// refuses such texts (LimitiStrutture.h). A section with no "FINE" of its own makes the file not
+// valid: it is what a file cut short looks like.
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -41,15 +42,21 @@ std::string CodificaStruttura(const Struttura& struttura);
 // record, `condizione`, whatever the structure's own list.
 std::string CodificaStrutturaConCondizione(const Struttura& struttura, std::string_view condizione);
 
-// The structure the bytes hold; captions and conditions trimmed of blanks at both ends. Nothing
-// when a marker is missing.
-std::optional<Struttura> DecodificaStruttura(std::string_view byte);
+// The structure the bytes hold; captions and conditions trimmed of blanks at both ends. Fails, saying
+// why in Italian, when a section or its end is missing or the structure exceeds LimitiStrutture.h.
+Esito<Struttura> DecodificaStruttura(std::string_view byte);
 
-// The file written anew with CodificaStruttura's bytes.
+// The file written anew with CodificaStruttura's bytes, all or nothing: through a temporary file
+// flushed to the disk and renamed over it. Refused, leaving the file as it was, when the bytes would
+// not read back whole (a "fine" in a text) or the structure exceeds LimitiStrutture.h.
 Esito<Fatto> SalvaStruttura(const std::filesystem::path& file, const Struttura& struttura);
 Esito<Fatto> SalvaStrutturaConCondizione(const std::filesystem::path& file, const Struttura& struttura,
                                          std::string_view condizione);
-// A file that is not a structure gives "File <path> non valido".
+// A file that is not a structure gives "File <path> non valido: <why>"; so does anything that is not an
+// ordinary file of at most kMassimoByteFile bytes (a folder, a device, a pipe), never waiting on it.
 Esito<Struttura> CaricaStruttura(const std::filesystem::path& file);
+// Whether the file is an ordinary file holding the three sections of a structure file with their ends,
+// whatever they hold: a file a structure may be saved over.
+bool FileDiStruttura(const std::filesystem::path& file);
 
 }  // namespace lottolab::figures

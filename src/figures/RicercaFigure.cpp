@@ -2,17 +2,20 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <array>
+#include <cassert>
 #include <variant>
 
 #include "Condizione.h"
-#include "Piazzamento.h"
+#include "LimitiStrutture.h"
 
 namespace lottolab::figures {
 
 namespace {
 
 Esito<std::vector<Condizione>> CompilaCondizioni(const Struttura& struttura) {
+  if (auto motivo = LimiteSuperato(struttura)) return AvvisoEsclamativo("La struttura " + *motivo + ".");
   std::vector<Condizione> condizioni;
   for (size_t k = 0; k < struttura.condizioni.size(); ++k) {
     auto compilata = Condizione::Compila(struttura.condizioni[k], struttura.vertici);
@@ -21,6 +24,13 @@ Esito<std::vector<Condizione>> CompilaCondizioni(const Struttura& struttura) {
                                            errore->colonna, struttura.condizioni[k]));
     condizioni.push_back(std::get<Condizione>(std::move(compilata)));
   }
+  size_t costo = 0;
+  for (const Condizione& condizione : condizioni) costo += condizione.Costo();
+  if (costo > kMassimoCostoCondizioni)
+    return AvvisoEsclamativo(fmt::format(
+        "Le condizioni chiedono troppo lavoro per ogni posizione della figura ({} passi, al massimo {}): "
+        "semplificarle o ridurne il numero.",
+        costo, kMassimoCostoCondizioni));
   return condizioni;
 }
 
@@ -52,16 +62,28 @@ bool Piazza(const TabellaEstrazioni& tab, const Forma& forma, int riga, int colo
 
 }  // namespace
 
-Esito<std::vector<FiguraTrovata>> CercaFigura(const TabellaEstrazioni& tab, const Struttura& struttura,
-                                              const OpzioniRicerca& opzioni) {
+FiguraPiazzata FigureTrovate::Figura(const TabellaEstrazioni& tab, const FiguraTrovata& trovata) const {
+  const Forma& forma = forme[static_cast<size_t>(trovata.forma)];
+  FiguraPiazzata figura;
+  figura.vertici.resize(forma.punti.size());
+  for (size_t k = 0; k < forma.punti.size(); ++k) figura.vertici[k].chiusura = forma.punti[k].chiusura;
+  [[maybe_unused]] const bool piazzata = Piazza(tab, forma, trovata.estrazione - forma.riga_massima, trovata.colonna,
+                                                ColonneAmmesse({}), figura);
+  assert(piazzata);
+  return figura;
+}
+
+Esito<FigureTrovate> CercaFigura(const TabellaEstrazioni& tab, const Struttura& struttura,
+                                 const OpzioniRicerca& opzioni) {
   auto condizioni = CompilaCondizioni(struttura);
   if (!condizioni) return condizioni.Errore();
-  const std::vector<Forma> forme = FormeDaCercare(struttura);
+  FigureTrovate trovate;
+  trovate.forme = FormeDaCercare(struttura);
+  const std::vector<Forma>& forme = trovate.forme;
   const int fine = opzioni.fine == 0 ? tab.EstrazioniArchivio() : std::min(opzioni.fine, tab.EstrazioniArchivio());
   const int inizio = std::max(opzioni.inizio, 1);
   const auto ammesse = ColonneAmmesse(opzioni.ruote);
 
-  std::vector<FiguraTrovata> trovate;
   std::vector<FiguraPiazzata> figure;
   for (const Forma& forma : forme) {
     FiguraPiazzata figura;
@@ -83,7 +105,7 @@ Esito<std::vector<FiguraTrovata>> CercaFigura(const TabellaEstrazioni& tab, cons
         if (!Piazza(tab, forma, riga, colonna, ammesse, figura)) continue;
         const bool valgono = std::all_of(condizioni->begin(), condizioni->end(),
                                          [&](const Condizione& condizione) { return condizione.Vale(figura); });
-        if (valgono) trovate.push_back({ultima, static_cast<int>(f), colonna, figura});
+        if (valgono) trovate.elenco.push_back({ultima, static_cast<int>(f), colonna});
       }
     }
   }

@@ -38,8 +38,9 @@ int SorteVinta(const Estrazione& estrazione, const Giocata& giocata) {
   return migliore;
 }
 
-EsitoFigura Segui(const TabellaEstrazioni& tab, const FiguraTrovata& trovata, int colpi) {
-  const Giocata giocata = GiocataDi(trovata.figura);
+EsitoFigura Segui(const TabellaEstrazioni& tab, const FigureTrovate& trovate, const FiguraTrovata& trovata,
+                  int colpi) {
+  const Giocata giocata = GiocataDi(trovate.Figura(tab, trovata));
   EsitoFigura esito;
   for (int colpo = 1; colpo <= colpi; ++colpo) {
     const int id = trovata.estrazione + colpo;
@@ -56,15 +57,15 @@ EsitoFigura Segui(const TabellaEstrazioni& tab, const FiguraTrovata& trovata, in
 
 }  // namespace
 
-StatisticaStruttura CalcolaStatistica(const TabellaEstrazioni& tab, const std::vector<FiguraTrovata>& trovate,
-                                      int colpi, int inizio, int fine) {
+StatisticaStruttura CalcolaStatistica(const TabellaEstrazioni& tab, const FigureTrovate& trovate, int colpi,
+                                      int inizio, int fine) {
   StatisticaStruttura statistica;
-  statistica.casi = static_cast<int>(trovate.size());
+  statistica.casi = static_cast<int>(trovate.elenco.size());
   int somma_colpi = 0;
   int vincenti = 0;
   int precedente = inizio - 1;
-  for (const FiguraTrovata& trovata : trovate) {
-    const EsitoFigura esito = Segui(tab, trovata, colpi);
+  for (const FiguraTrovata& trovata : trovate.elenco) {
+    const EsitoFigura esito = Segui(tab, trovate, trovata, colpi);
     if (esito.sorte > 0) {
       ++statistica.per_sorte[esito.sorte];
       somma_colpi += esito.colpo;

@@ -29,11 +29,11 @@ struct StatisticaStruttura {
   // longest run of draws without one, from the range's start.
   int ritardo = 0;
   int ritardo_massimo = 0;
-  std::vector<EsitoFigura> esiti;  // one per figure found, in order
+  std::vector<EsitoFigura> esiti;  // one per figure found, in the order of FigureTrovate::elenco
 };
 
 // `fine` is the last draw of the searched range: the delays are counted up to it.
-StatisticaStruttura CalcolaStatistica(const TabellaEstrazioni& tab, const std::vector<FiguraTrovata>& trovate,
+StatisticaStruttura CalcolaStatistica(const TabellaEstrazioni& tab, const FigureTrovate& trovate,
                                       int colpi, int inizio, int fine);
 
 }  // namespace lottolab::figures

@@ -4,7 +4,9 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QFile>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QFormLayout>
 #include <QGraphicsView>
 #include <QGroupBox>
@@ -15,6 +17,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QSortFilterProxyModel>
 #include <QSpinBox>
 #include <QSplitter>
 #include <QToolBar>
@@ -42,6 +45,28 @@ void RiempiVersi(QComboBox* verso) {
   verso->addItem("rovesciata", kVersoRovesciato);
   verso->addItem("entrambi i versi", kVersoEntrambi);
 }
+
+// Folders, and the files that begin as a structure file does: the archives, which share the
+// extension, are never offered. Only ordinary files are opened, so a pipe in the folder cannot block.
+class SoloStrutture : public QSortFilterProxyModel {
+ public:
+  using QSortFilterProxyModel::QSortFilterProxyModel;
+
+ protected:
+  bool filterAcceptsRow(int riga, const QModelIndex& genitore) const override {
+    const auto* file_system = qobject_cast<const QFileSystemModel*>(sourceModel());
+    if (!file_system) return true;
+    const QModelIndex indice = file_system->index(riga, 0, genitore);
+    if (file_system->isDir(indice)) return true;
+    const QString percorso = file_system->filePath(indice);
+    std::error_code ec;
+    if (!std::filesystem::is_regular_file(Percorso(percorso), ec)) return false;
+    QFile file(percorso);
+    return file.open(QIODevice::ReadOnly) && file.read(13) == "OFFSET_STRUCT";
+  }
+};
+
+void Avverti(QWidget* finestra, const std::string& testo) { QMessageBox::warning(finestra, kTitolo, Testo(testo)); }
 
 // 0 in a file means the shape as drawn, as 1 does.
 void MostraVerso(QComboBox* verso, int16_t valore) {
@@ -129,6 +154,7 @@ F_EditorStrutture::~F_EditorStrutture() { disconnect(m_scena, nullptr, this, nul
 
 QWidget* F_EditorStrutture::CreaPannelloVertice() {
   m_caption->setMaxLength(static_cast<int>(figures::kCaratteriCaption));
+  m_caption->setObjectName("etichetta");
   RiempiVersi(m_verso_vert);
   RiempiVersi(m_verso_orizz);
   auto* elimina = new QPushButton("Elimina vertice");
@@ -141,9 +167,11 @@ QWidget* F_EditorStrutture::CreaPannelloVertice() {
   campi->addRow(m_chiusura);
   campi->addRow(elimina);
 
+  // A refused caption is shown back as it was before the last key.
   connect(m_caption, &QLineEdit::textEdited, this, [this](const QString& testo) {
-    m_modello.ImpostaCaption(VerticeScelto(), testo.toStdString());
+    auto impostata = m_modello.ImpostaCaption(VerticeScelto(), testo.toStdString());
     Aggiorna();
+    if (!impostata) Avverti(this, impostata.Errore().testo);
   });
   connect(m_fulcro_orizz, &QCheckBox::toggled, this, [this](bool fulcro) {
     m_modello.ImpostaFulcroOrizz(VerticeScelto(), fulcro);
@@ -183,9 +211,11 @@ QWidget* F_EditorStrutture::CreaPannelloCondizioni() {
   layout->addLayout(pulsanti);
 
   connect(aggiungi, &QPushButton::clicked, this, [this] {
+    if (auto motivo = m_modello.CondizioneNonAmmessa()) return Avverti(this, *motivo);
     F_InsCondizione dialogo(m_modello.Vertici(), {}, this);
     if (dialogo.exec() != QDialog::Accepted) return;
-    m_modello.AggiungiCondizione(dialogo.Testo().toStdString());
+    auto aggiunta = m_modello.AggiungiCondizione(dialogo.Testo().toStdString());
+    if (!aggiunta) return Avverti(this, aggiunta.Errore().testo);
     Aggiorna();
     m_condizioni->setCurrentRow(m_condizioni->count() - 1);
   });
@@ -204,7 +234,7 @@ int F_EditorStrutture::Estrazioni() const { return m_contesto.Archivio()->Estraz
 void F_EditorStrutture::Apri(const QString& file) {
   auto aperta = m_modello.Apri(Percorso(file), Estrazioni());
   Aggiorna();
-  if (!aperta) QMessageBox::warning(this, kTitolo, Testo(aperta.Errore().testo));
+  if (!aperta) Avverti(this, aperta.Errore().testo);
 }
 
 void F_EditorStrutture::closeEvent(QCloseEvent* evento) {
@@ -219,14 +249,23 @@ bool F_EditorStrutture::ProseguoSeModificata() {
          QMessageBox::question(this, kTitolo, "Modifiche non salvate. Proseguo ? ") == QMessageBox::Yes;
 }
 
+// The structures' folder, made when missing; a structure already in a file stays beside it.
 QString F_EditorStrutture::ScegliFile(bool salvataggio) {
-  const std::filesystem::path cartella =
-      m_modello.File().empty() ? m_contesto.Configurazione().base : m_modello.File().parent_path();
+  std::filesystem::path cartella = m_modello.File().parent_path();
+  if (m_modello.File().empty()) {
+    cartella = CartellaStrutture(m_contesto.Configurazione());
+    std::error_code ec;
+    std::filesystem::create_directories(cartella, ec);
+    if (ec) cartella = m_contesto.Configurazione().base;
+  }
   QFileDialog dialogo(this, salvataggio ? "Salva la struttura" : "Apri una struttura",
                       QString::fromStdU16String(cartella.u16string()));
+  dialogo.setOption(QFileDialog::DontUseNativeDialog);
+  dialogo.setProxyModel(new SoloStrutture(&dialogo));
   dialogo.setNameFilter("Struttura utente (*.dat)");
   dialogo.setDefaultSuffix("dat");
   dialogo.setAcceptMode(salvataggio ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialogo.setOption(QFileDialog::DontConfirmOverwrite);
   dialogo.setFileMode(salvataggio ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return {};
   return dialogo.selectedFiles().front();
@@ -246,18 +285,35 @@ void F_EditorStrutture::ScegliEApri() {
 
 bool F_EditorStrutture::Salva() {
   if (m_modello.File().empty()) return SalvaConNome();
-  auto salvata = m_modello.Salva(m_modello.File());
-  Aggiorna();
-  if (!salvata) QMessageBox::warning(this, kTitolo, Testo(salvata.Errore().testo));
-  return salvata.Riuscito();
+  return SalvaIn(m_modello.File());
 }
 
+// The dialog does not ask before replacing a file: a file that is no structure is refused first, and
+// only the replacement of another structure is asked about.
 bool F_EditorStrutture::SalvaConNome() {
-  const QString file = ScegliFile(true);
-  if (file.isEmpty()) return false;
-  auto salvata = m_modello.Salva(Percorso(file));
+  const QString scelto = ScegliFile(true);
+  if (scelto.isEmpty()) return false;
+  const std::filesystem::path file = Percorso(scelto);
+  if (auto ammessa = DestinazioneAmmessa(file, m_contesto.Configurazione()); !ammessa) {
+    Avverti(this, ammessa.Errore().testo);
+    return false;
+  }
+  std::error_code ec;
+  if (file != m_modello.File() && std::filesystem::exists(file, ec) &&
+      QMessageBox::question(this, kTitolo, QString("La struttura %1 esiste già. Sostituirla?").arg(scelto)) !=
+          QMessageBox::Yes)
+    return false;
+  return SalvaIn(file);
+}
+
+bool F_EditorStrutture::SalvaIn(const std::filesystem::path& file) {
+  if (auto ammessa = DestinazioneAmmessa(file, m_contesto.Configurazione()); !ammessa) {
+    Avverti(this, ammessa.Errore().testo);
+    return false;
+  }
+  auto salvata = m_modello.Salva(file);
   Aggiorna();
-  if (!salvata) QMessageBox::warning(this, kTitolo, Testo(salvata.Errore().testo));
+  if (!salvata) Avverti(this, salvata.Errore().testo);
   return salvata.Riuscito();
 }
 
@@ -323,6 +379,8 @@ int16_t F_EditorStrutture::VerticeScelto() const {
 }
 
 void F_EditorStrutture::PiazzaVertice(int riga, int colonna) {
+  if (!m_modello.VerticeNellaCella(riga, colonna))
+    if (auto motivo = m_modello.VerticeNonAmmesso(riga)) return Avverti(this, *motivo);
   const int16_t index = m_modello.AggiungiVertice(riga, colonna);
   if (index == 0) return;
   Aggiorna();
@@ -332,6 +390,7 @@ void F_EditorStrutture::PiazzaVertice(int riga, int colonna) {
 void F_EditorStrutture::UnisciSelezionati() {
   const std::vector<int16_t> selezionati = m_scena->VerticiSelezionati();
   if (selezionati.size() != 2) return;
+  if (auto motivo = m_modello.LineaNonAmmessa()) return Avverti(this, *motivo);
   if (!m_modello.Unisci(selezionati[0], selezionati[1])) {
     QMessageBox::information(this, kTitolo, "I due vertici sono già uniti.");
     return;
@@ -349,7 +408,8 @@ void F_EditorStrutture::ModificaCondizione() {
   if (posto < 0) return;
   F_InsCondizione dialogo(m_modello.Vertici(), m_condizioni->item(posto)->text(), this);
   if (dialogo.exec() != QDialog::Accepted) return;
-  m_modello.ModificaCondizione(static_cast<size_t>(posto), dialogo.Testo().toStdString());
+  auto modificata = m_modello.ModificaCondizione(static_cast<size_t>(posto), dialogo.Testo().toStdString());
+  if (!modificata) return Avverti(this, modificata.Errore().testo);
   Aggiorna();
 }
 

@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <filesystem>
+
 #include "ContestoGui.h"
 #include "StruttureModello.h"
 
@@ -48,6 +50,8 @@ class F_EditorStrutture : public QWidget {
   void ScegliEApri();
   bool Salva();
   bool SalvaConNome();
+  // Refuses, with a message, a file that DestinazioneAmmessa refuses.
+  bool SalvaIn(const std::filesystem::path& file);
 
   // The grid, the panels and the title shown anew from the model.
   void Aggiorna();

@@ -11,7 +11,8 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTableWidget>
+#include <QAbstractTableModel>
+#include <QTableView>
 #include <QThread>
 #include <QVBoxLayout>
 
@@ -31,13 +32,55 @@ QString DescriviEsito(const figures::EsitoFigura& esito) {
   return esito.in_corso ? "in corso" : "negativo";
 }
 
-QTableWidgetItem* Cella(const QString& testo, Qt::Alignment allineamento = Qt::AlignLeft | Qt::AlignVCenter) {
-  auto* cella = new QTableWidgetItem(testo);
-  cella->setTextAlignment(allineamento);
-  return cella;
-}
-
 }  // namespace
+
+// The figures found, described row by row only when the view shows them: a search may find hundreds
+// of thousands, and a table of ready-made cells for each would take the memory and the time.
+class F_StatStrutture::ModelloFigure : public QAbstractTableModel {
+ public:
+  using QAbstractTableModel::QAbstractTableModel;
+
+  void Mostra(std::shared_ptr<const TabellaEstrazioni> tab, RisultatoRicerca risultato) {
+    beginResetModel();
+    m_tab = std::move(tab);
+    m_risultato = std::move(risultato);
+    endResetModel();
+  }
+
+  void Svuota() { Mostra(nullptr, {}); }
+
+  int rowCount(const QModelIndex& genitore) const override {
+    return genitore.isValid() ? 0 : static_cast<int>(m_risultato.trovate.elenco.size());
+  }
+  int columnCount(const QModelIndex& genitore) const override { return genitore.isValid() ? 0 : 5; }
+
+  QVariant headerData(int sezione, Qt::Orientation orientamento, int ruolo) const override {
+    static const char* const kTitoli[] = {"Estrazione", "Data", "Ruote", "Numeri ai vertici", "Esito"};
+    if (orientamento != Qt::Horizontal || ruolo != Qt::DisplayRole || sezione < 0 || sezione >= 5) return {};
+    return QString(kTitoli[sezione]);
+  }
+
+  QVariant data(const QModelIndex& indice, int ruolo) const override {
+    if (!indice.isValid() || !m_tab) return {};
+    if (ruolo == Qt::TextAlignmentRole)
+      return QVariant::fromValue(indice.column() == 0 ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
+    if (ruolo != Qt::DisplayRole) return {};
+    const auto k = static_cast<size_t>(indice.row());
+    if (indice.column() == 4)
+      return m_risultato.statistica ? DescriviEsito(m_risultato.statistica->esiti[k]) : QVariant();
+    const RigaFigura riga = DescriviFigura(*m_tab, m_risultato.trovate, m_risultato.trovate.elenco[k]);
+    switch (indice.column()) {
+      case 0: return riga.estrazione;
+      case 1: return QString::fromStdString(riga.data);
+      case 2: return QString::fromStdString(riga.ruote);
+      default: return QString::fromStdString(riga.numeri);
+    }
+  }
+
+ private:
+  std::shared_ptr<const TabellaEstrazioni> m_tab;
+  RisultatoRicerca m_risultato;
+};
 
 F_StatStrutture::F_StatStrutture(ContestoGui& contesto, std::function<figures::Struttura()> struttura, QWidget* parent)
     : QDialog(parent),
@@ -51,7 +94,8 @@ F_StatStrutture::F_StatStrutture(ContestoGui& contesto, std::function<figures::S
       m_cerca(new QPushButton("Cerca")),
       m_ferma(new QPushButton("Ferma")),
       m_avanzamento(new QProgressBar),
-      m_figure(new QTableWidget(0, 5)),
+      m_modello(new ModelloFigure(this)),
+      m_figure(new QTableView),
       m_trovate(new QLabel),
       m_statistica(new QLabel) {
   setWindowTitle("Cerca nell'archivio");
@@ -93,7 +137,7 @@ F_StatStrutture::F_StatStrutture(ContestoGui& contesto, std::function<figures::S
   m_avanzamento->setValue(0);
   m_avanzamento->setTextVisible(false);
 
-  m_figure->setHorizontalHeaderLabels({"Estrazione", "Data", "Ruote", "Numeri ai vertici", "Esito"});
+  m_figure->setModel(m_modello);
   m_figure->verticalHeader()->hide();
   m_figure->verticalHeader()->setDefaultSectionSize(m_figure->fontMetrics().height() + 6);
   m_figure->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -159,7 +203,7 @@ void F_StatStrutture::Cerca() {
   m_colpi_cercati = richiesta.colpi;
   m_risultato.reset();
   m_fermata_chiesta = false;
-  m_figure->setRowCount(0);
+  m_modello->Svuota();
   m_trovate->setText("Ricerca in corso...");
   m_statistica->clear();
   m_avanzamento->setValue(0);
@@ -189,23 +233,14 @@ void F_StatStrutture::Concludi() {
     if (m_risultato) QMessageBox::warning(this, windowTitle(), QString::fromStdString(m_risultato->Errore().testo));
     return;
   }
-  const RisultatoRicerca& risultato = **m_risultato;
-  const TabellaEstrazioni& tab = *m_archivio_cercato;
-  m_figure->setRowCount(static_cast<int>(risultato.trovate.size()));
-  for (size_t k = 0; k < risultato.trovate.size(); ++k) {
-    const RigaFigura riga = DescriviFigura(tab, risultato.trovate[k]);
-    const int r = static_cast<int>(k);
-    m_figure->setItem(r, 0, Cella(QString::number(riga.estrazione), Qt::AlignRight | Qt::AlignVCenter));
-    m_figure->setItem(r, 1, Cella(QString::fromStdString(riga.data)));
-    m_figure->setItem(r, 2, Cella(QString::fromStdString(riga.ruote)));
-    m_figure->setItem(r, 3, Cella(QString::fromStdString(riga.numeri)));
-    if (risultato.statistica) m_figure->setItem(r, 4, Cella(DescriviEsito(risultato.statistica->esiti[k])));
-  }
-  m_figure->resizeColumnsToContents();
+  RisultatoRicerca risultato = std::move(**m_risultato);
+  m_risultato.reset();
   m_trovate->setText(QString("%1trovate %2 figure")
                          .arg(risultato.interrotta ? "Ricerca interrotta: " : "")
-                         .arg(risultato.trovate.size()));
+                         .arg(risultato.trovate.elenco.size()));
   if (risultato.statistica) MostraStatistica(*risultato.statistica, m_colpi_cercati);
+  m_modello->Mostra(m_archivio_cercato, std::move(risultato));
+  m_figure->resizeColumnsToContents();
 }
 
 void F_StatStrutture::MostraStatistica(const figures::StatisticaStruttura& statistica, int colpi) {

@@ -19,7 +19,7 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 class QSpinBox;
-class QTableWidget;
+class QTableView;
 class QThread;
 
 namespace lottolab::gui {
@@ -49,7 +49,9 @@ class F_StatStrutture : public QDialog {
   QPushButton* m_cerca;
   QPushButton* m_ferma;
   QProgressBar* m_avanzamento;
-  QTableWidget* m_figure;
+  class ModelloFigure;
+  ModelloFigure* m_modello;
+  QTableView* m_figure;
   QLabel* m_trovate;
   QLabel* m_statistica;
 

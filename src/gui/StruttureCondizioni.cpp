@@ -5,6 +5,10 @@
 #include <cctype>
 #include <variant>
 
+#include "figures/CondizioneLessico.h"
+#include "figures/FileStrutture.h"
+#include "figures/LimitiStrutture.h"
+
 namespace lottolab::gui {
 
 namespace {
@@ -86,6 +90,14 @@ std::string AccodaCondizione(std::string_view testo, std::string_view connettivo
 
 std::optional<figures::ErroreSintassi> VerificaCondizione(std::string_view testo,
                                                           std::span<const figures::ClsVertice> vertici) {
+  if (auto motivo = figures::TestoNonAmmesso(testo, figures::kByteCondizione, "La condizione")) {
+    const size_t fine = figures::PosizioneFine(testo);
+    const size_t colonna = fine != std::string_view::npos ? figures::Colonna(testo, fine)
+                           : figures::Colonna(testo, testo.size()) > figures::kByteCondizione
+                               ? figures::kByteCondizione + 1
+                               : 1;
+    return figures::ErroreSintassi{std::move(*motivo), colonna};
+  }
   auto compilata = figures::Condizione::Compila(testo, vertici);
   if (auto* errore = std::get_if<figures::ErroreSintassi>(&compilata)) return std::move(*errore);
   return std::nullopt;

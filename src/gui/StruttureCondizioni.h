@@ -33,7 +33,8 @@ std::string ComponiCondizione(const FormaCondizione& forma, std::string_view a, 
 // `parte` added to the text after "And" or "Or" (`connettivo`); alone when the text is blank.
 std::string AccodaCondizione(std::string_view testo, std::string_view connettivo, std::string_view parte);
 
-// Nothing when the text compiles against the vertices, else why and where it does not.
+// Nothing when the text compiles against the vertices and the structure file can keep it as it is,
+// else why and where not.
 std::optional<figures::ErroreSintassi> VerificaCondizione(std::string_view testo,
                                                           std::span<const figures::ClsVertice> vertici);
 

@@ -1,8 +1,11 @@
 #include "StruttureModello.h"
 
 #include <algorithm>
+#include <cstdlib>
 
+#include "app/Percorsi.h"
 #include "figures/FileStrutture.h"
+#include "figures/LimitiStrutture.h"
 #include "figures/Piazzamento.h"
 
 namespace lottolab::gui {
@@ -11,7 +14,41 @@ namespace {
 
 bool ByteDiSeguito(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
+constexpr std::string_view kChiaveCartellaStrutture = "sCartellaStrutture";
+
+// The same file by its links, or, when either is missing, by the path it would have.
+bool StessoFile(const std::filesystem::path& a, const std::filesystem::path& b) {
+  std::error_code ec;
+  if (std::filesystem::equivalent(a, b, ec)) return true;
+  std::error_code ec_a;
+  std::error_code ec_b;
+  const std::filesystem::path canonico_a = std::filesystem::weakly_canonical(a, ec_a);
+  const std::filesystem::path canonico_b = std::filesystem::weakly_canonical(b, ec_b);
+  return !ec_a && !ec_b && canonico_a == canonico_b;
+}
+
 }  // namespace
+
+std::filesystem::path CartellaStrutture(const app::Configurazione& configurazione) {
+  return app::RisolviPercorso(configurazione.base,
+                              configurazione.ini.Leggi(app::kSezioneGenerale, kChiaveCartellaStrutture, "Strutture"));
+}
+
+Esito<Fatto> DestinazioneAmmessa(const std::filesystem::path& file, const app::Configurazione& configurazione) {
+  const std::string nome = file.lexically_normal().string();
+  for (const std::filesystem::path& archivio : {configurazione.ArchivioLotto(), configurazione.ArchivioModificabile()})
+    if (StessoFile(file, archivio))
+      return AvvisoEsclamativo("Il file " + nome +
+                               " è l'archivio delle estrazioni: una struttura non può prenderne il posto. "
+                               "Scegliere un altro nome.");
+  std::error_code ec;
+  const auto stato = std::filesystem::status(file, ec);
+  if (stato.type() == std::filesystem::file_type::not_found) return Fatto{};
+  if (!figures::FileDiStruttura(file))
+    return AvvisoEsclamativo("Il file " + nome +
+                             " esiste e non è una struttura: non viene sostituito. Scegliere un altro nome.");
+  return Fatto{};
+}
 
 std::string CaptionAmmessa(std::string_view caption) {
   size_t caratteri = 0;
@@ -54,9 +91,18 @@ std::string StruttureModello::CaptionLibera() const {
     }
 }
 
+std::optional<std::string> StruttureModello::VerticeNonAmmesso(int riga) const {
+  if (m_vertici.size() >= figures::kMassimoVertici)
+    return "La struttura ha già " + std::to_string(m_vertici.size()) + " vertici, il massimo.";
+  for (const figures::ClsVertice& vertice : m_vertici)
+    if (std::abs(vertice.Riga - riga) + 1 > figures::kMassimeRigheFigura)
+      return "La struttura si stenderebbe su più di " + std::to_string(figures::kMassimeRigheFigura) + " estrazioni.";
+  return std::nullopt;
+}
+
 int16_t StruttureModello::AggiungiVertice(int riga, int colonna) {
   if (!m_griglia.ContieneRiga(riga) || colonna < 1 || colonna > figures::kColonneTabella ||
-      VerticeNellaCella(riga, colonna))
+      VerticeNellaCella(riga, colonna) || VerticeNonAmmesso(riga))
     return 0;
   figures::ClsVertice vertice;
   vertice.Index = IndexLibero();
@@ -83,11 +129,15 @@ void StruttureModello::Rinumera() {
   for (size_t k = 0; k < m_linee.size(); ++k) m_linee[k].Numero = static_cast<int16_t>(k + 1);
 }
 
-void StruttureModello::ImpostaCaption(int16_t index, std::string_view caption) {
-  if (figures::ClsVertice* vertice = Modificabile(index)) {
-    vertice->Caption = CaptionAmmessa(caption);
-    m_modificata = true;
-  }
+Esito<Fatto> StruttureModello::ImpostaCaption(int16_t index, std::string_view caption) {
+  figures::ClsVertice* vertice = Modificabile(index);
+  if (!vertice) return Fatto{};
+  const std::string ammessa = CaptionAmmessa(caption);
+  if (auto motivo = figures::TestoNonAmmesso(ammessa, figures::kCaratteriCaption, "L'etichetta del vertice"))
+    return AvvisoEsclamativo(std::move(*motivo));
+  vertice->Caption = ammessa;
+  m_modificata = true;
+  return Fatto{};
 }
 
 void StruttureModello::ImpostaFulcroOrizz(int16_t index, bool fulcro) {
@@ -123,8 +173,13 @@ void StruttureModello::ImpostaChiusura(int16_t index, bool chiusura) {
   }
 }
 
+std::optional<std::string> StruttureModello::LineaNonAmmessa() const {
+  if (m_linee.size() < figures::kMassimoLinee) return std::nullopt;
+  return "La struttura ha già " + std::to_string(m_linee.size()) + " linee, il massimo.";
+}
+
 bool StruttureModello::Unisci(int16_t inizio, int16_t fine) {
-  if (inizio == fine || !Vertice(inizio) || !Vertice(fine)) return false;
+  if (inizio == fine || !Vertice(inizio) || !Vertice(fine) || LineaNonAmmessa()) return false;
   const bool gia_unite = std::any_of(m_linee.begin(), m_linee.end(), [&](const figures::ClsLinea& linea) {
     return (linea.Inizio == inizio && linea.Fine == fine) || (linea.Inizio == fine && linea.Fine == inizio);
   });
@@ -134,15 +189,27 @@ bool StruttureModello::Unisci(int16_t inizio, int16_t fine) {
   return true;
 }
 
-void StruttureModello::AggiungiCondizione(std::string testo) {
-  m_condizioni.push_back(std::move(testo));
-  m_modificata = true;
+std::optional<std::string> StruttureModello::CondizioneNonAmmessa() const {
+  if (m_condizioni.size() < figures::kMassimoCondizioni) return std::nullopt;
+  return "La struttura ha già " + std::to_string(m_condizioni.size()) + " condizioni, il massimo.";
 }
 
-void StruttureModello::ModificaCondizione(size_t posto, std::string testo) {
-  if (posto >= m_condizioni.size()) return;
+Esito<Fatto> StruttureModello::AggiungiCondizione(std::string testo) {
+  if (auto motivo = CondizioneNonAmmessa()) return AvvisoEsclamativo(std::move(*motivo));
+  if (auto motivo = figures::TestoNonAmmesso(testo, figures::kByteCondizione, "La condizione"))
+    return AvvisoEsclamativo(std::move(*motivo));
+  m_condizioni.push_back(std::move(testo));
+  m_modificata = true;
+  return Fatto{};
+}
+
+Esito<Fatto> StruttureModello::ModificaCondizione(size_t posto, std::string testo) {
+  if (posto >= m_condizioni.size()) return Fatto{};
+  if (auto motivo = figures::TestoNonAmmesso(testo, figures::kByteCondizione, "La condizione"))
+    return AvvisoEsclamativo(std::move(*motivo));
   m_condizioni[posto] = std::move(testo);
   m_modificata = true;
+  return Fatto{};
 }
 
 void StruttureModello::RimuoviCondizione(size_t posto) {
@@ -179,7 +246,18 @@ Esito<Fatto> StruttureModello::Apri(const std::filesystem::path& file, int estra
   return Fatto{};
 }
 
+// A text read from an old file may hold "fine": the file it came from already reads short there, and
+// a new one is not written so.
 Esito<Fatto> StruttureModello::Salva(const std::filesystem::path& file) {
+  for (const figures::ClsVertice& vertice : m_vertici)
+    if (auto motivo = figures::TestoNonAmmesso(vertice.Caption, figures::kCaratteriCaption,
+                                               "L'etichetta del vertice " + std::to_string(vertice.Index)))
+      return AvvisoEsclamativo(*motivo + " Correggerla prima di salvare.");
+  for (size_t k = 0; k < m_condizioni.size(); ++k)
+    if (auto motivo = figures::TestoNonAmmesso(m_condizioni[k], figures::kByteCondizione,
+                                               "La condizione " + std::to_string(k + 1)))
+      return AvvisoEsclamativo(*motivo + " Correggerla prima di salvare.");
+  if (auto motivo = figures::LimiteSuperato(Struttura())) return AvvisoEsclamativo("La struttura " + *motivo + ".");
   auto salvata = figures::SalvaStruttura(file, Struttura());
   if (!salvata) return salvata;
   m_file = file;

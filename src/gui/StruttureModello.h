@@ -6,11 +6,13 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "GrigliaEstrazioni.h"
+#include "app/Configurazione.h"
 #include "archive/Esito.h"
 #include "figures/Struttura.h"
 
@@ -23,6 +25,15 @@ inline constexpr int16_t kVersoEntrambi = 2;
 
 // The caption cut to the characters the structure file keeps.
 std::string CaptionAmmessa(std::string_view caption);
+
+// The folder that keeps the user's structures: key sCartellaStrutture of section GENERALE, "Strutture"
+// by default, relative paths from the base folder. Apart from the archives, so that a dialog opened
+// there never offers an archive's name.
+std::filesystem::path CartellaStrutture(const app::Configurazione& configurazione);
+
+// Whether a structure may be saved as `file`: not over an archive of the configuration, nor over
+// anything that exists and is not a structure file. The refusal says why, in Italian.
+Esito<Fatto> DestinazioneAmmessa(const std::filesystem::path& file, const app::Configurazione& configurazione);
 
 class StruttureModello {
  public:
@@ -38,11 +49,15 @@ class StruttureModello {
   const figures::ClsVertice* VerticeNellaCella(int riga, int colonna) const;
 
   // A new vertex on an empty cell of the grid, with the first free Index and the first free letter as
-  // caption; its Index, or 0 when the cell is taken or outside the grid.
+  // caption; its Index, or 0 when the cell is taken or outside the grid or VerticeNonAmmesso refuses.
   int16_t AggiungiVertice(int riga, int colonna);
+  // Why a vertex on the cell would take the structure beyond its limits (LimitiStrutture.h).
+  std::optional<std::string> VerticeNonAmmesso(int riga) const;
   // The vertex and every line that touches it.
   void RimuoviVertice(int16_t index);
-  void ImpostaCaption(int16_t index, std::string_view caption);
+  // The caption cut to the characters the file keeps; refused, keeping the old one, when the file
+  // could not keep it as typed (LimitiStrutture.h's TestoNonAmmesso).
+  Esito<Fatto> ImpostaCaption(int16_t index, std::string_view caption);
   // One pivot of each kind: marking a vertex unmarks the others.
   void ImpostaFulcroOrizz(int16_t index, bool fulcro);
   void ImpostaFulcroVert(int16_t index, bool fulcro);
@@ -50,11 +65,15 @@ class StruttureModello {
   void ImpostaVersoOrizz(int16_t index, int16_t verso);
   void ImpostaChiusura(int16_t index, bool chiusura);
 
-  // A line between two different vertices not yet joined; false otherwise.
+  // A line between two different vertices not yet joined; false otherwise, or when LineaNonAmmessa.
   bool Unisci(int16_t inizio, int16_t fine);
+  std::optional<std::string> LineaNonAmmessa() const;
 
-  void AggiungiCondizione(std::string testo);
-  void ModificaCondizione(size_t posto, std::string testo);
+  // Refused when the structure holds the most conditions it may (CondizioneNonAmmessa says so before
+  // a text is asked for) or when the file could not keep the text as typed.
+  Esito<Fatto> AggiungiCondizione(std::string testo);
+  Esito<Fatto> ModificaCondizione(size_t posto, std::string testo);
+  std::optional<std::string> CondizioneNonAmmessa() const;
   void RimuoviCondizione(size_t posto);
 
   figures::Struttura Struttura() const;
@@ -66,6 +85,8 @@ class StruttureModello {
 
   // A file that cannot be read leaves the editor empty and gives the file's message.
   Esito<Fatto> Apri(const std::filesystem::path& file, int estrazioni);
+  // Writes the file as it is named: the caller checks DestinazioneAmmessa first. Refuses a structure
+  // the file would not read back whole (a text with "fine" loaded from an old file).
   Esito<Fatto> Salva(const std::filesystem::path& file);
   const std::filesystem::path& File() const { return m_file; }
   bool Modificata() const { return m_modificata; }

@@ -6,15 +6,17 @@
 
 namespace lottolab::gui {
 
-RigaFigura DescriviFigura(const TabellaEstrazioni& tab, const figures::FiguraTrovata& trovata) {
+RigaFigura DescriviFigura(const TabellaEstrazioni& tab, const figures::FigureTrovate& trovate,
+                          const figures::FiguraTrovata& trovata) {
+  const figures::FiguraPiazzata figura = trovate.Figura(tab, trovata);
   RigaFigura riga;
   riga.estrazione = trovata.estrazione;
   riga.data = tab.DataEstrazione(trovata.estrazione).ValoreOppure("?");
   std::vector<int> ruote;
-  for (const figures::VerticePiazzato& vertice : trovata.figura.vertici)
+  for (const figures::VerticePiazzato& vertice : figura.vertici)
     if (std::find(ruote.begin(), ruote.end(), vertice.ruota) == ruote.end()) ruote.push_back(vertice.ruota);
   for (int ruota : ruote) riga.ruote += fmt::format("{}{}", riga.ruote.empty() ? "" : ",", SiglaRuota(ruota));
-  for (const figures::VerticePiazzato& vertice : trovata.figura.vertici)
+  for (const figures::VerticePiazzato& vertice : figura.vertici)
     riga.numeri += fmt::format("{}{:02}", riga.numeri.empty() ? "" : " ", vertice.numero);
   return riga;
 }

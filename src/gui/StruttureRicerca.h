@@ -26,7 +26,7 @@ struct RichiestaRicerca {
 };
 
 struct RisultatoRicerca {
-  std::vector<figures::FiguraTrovata> trovate;
+  figures::FigureTrovate trovate;
   // Only for a search that ran to its end: the delays of one cut short would be wrong.
   std::optional<figures::StatisticaStruttura> statistica;
   bool interrotta = false;
@@ -41,7 +41,8 @@ struct RigaFigura {
   std::string numeri;
 };
 
-RigaFigura DescriviFigura(const TabellaEstrazioni& tab, const figures::FiguraTrovata& trovata);
+RigaFigura DescriviFigura(const TabellaEstrazioni& tab, const figures::FigureTrovate& trovate,
+                          const figures::FiguraTrovata& trovata);
 
 // Runs on the calling thread; `progresso` is told the share done, 0..1, from the same thread. `ferma`
 // may be set from any thread: the search then ends at its next progress notice.

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <fstream>
 #include <sstream>
 
@@ -44,11 +46,39 @@ TEST_F(ComandoStrutturaTest, RefusesAFileThatIsNoStructureAndAMissingArgument) {
   auto uscita = Lottolab({"struttura", file});
   EXPECT_EQ(uscita.codice, 1);
   EXPECT_EQ(uscita.out, "");
-  EXPECT_EQ(uscita.err, "lottolab: File " + file + " non valido\n");
+  EXPECT_EQ(uscita.err, "lottolab: File " + file + " non valido: manca la sezione delle condizioni (OFFSET_COND)\n");
 
   uscita = Lottolab({"struttura"});
   EXPECT_EQ(uscita.codice, 2);
   EXPECT_EQ(uscita.err, "lottolab: uso: lottolab struttura FILE\n");
+}
+
+// Both commands answer at once with one line on stderr, whatever the path names: a folder, a device
+// that never ends, a pipe that no one writes, a file too big to be a structure.
+TEST_F(ComandoStrutturaTest, APathThatIsNoStructureFileIsRefusedAtOnce) {
+  const std::string pipe = (m_base / "pipe.dat").string();
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  const std::string grande = (m_base / "grande.dat").string();
+  {
+    std::ofstream out(grande, std::ios::binary);
+    out << figures::CodificaStruttura({}) << std::string(2'000'000, ' ');
+  }
+  const std::string cartella = m_base.Percorso().string();
+  const std::pair<std::string, std::string> casi[] = {
+      {cartella, "è una cartella, non un file"},
+      {"/dev/zero", "non è un file ordinario (è un dispositivo, una pipe o un socket)"},
+      {pipe, "non è un file ordinario (è un dispositivo, una pipe o un socket)"},
+      {grande, "è di " + std::to_string(std::filesystem::file_size(grande)) +
+                   " byte, troppi per una struttura (al massimo 1048576)"},
+  };
+  for (const auto& [percorso, motivo] : casi) {
+    for (const char* comando : {"struttura", "cerca-figura"}) {
+      auto uscita = Lottolab({comando, percorso});
+      EXPECT_EQ(uscita.codice, 1) << comando << " " << percorso;
+      EXPECT_EQ(uscita.out, "");
+      EXPECT_EQ(uscita.err, "lottolab: File " + percorso + " non valido: " + motivo + "\n");
+    }
+  }
 }
 
 // Bari and Venezia only: 1 then 2 on Bari's first column, 10, 11, 12 down Venezia's.

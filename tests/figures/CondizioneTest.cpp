@@ -210,5 +210,48 @@ TEST(Condizione, AnnidamentiProfondiMaAmmessi) {
            VerticiNumerati(1));
 }
 
+// Texts as a hostile file or a careless paste brings them: each is refused with a message, or
+// compiles and evaluates to some answer, and nothing crashes or runs long.
+TEST(Condizione, TestiOstiliRifiutatiOValutatiSenzaDanni) {
+  const auto vertici = VerticiNumerati(2);
+  auto rifiutato = [&](const std::string& testo, std::string_view nel_messaggio, size_t colonna) {
+    auto compilata = Condizione::Compila(testo, vertici);
+    const auto* errore = std::get_if<ErroreSintassi>(&compilata);
+    ASSERT_NE(errore, nullptr) << testo.substr(0, 40);
+    EXPECT_NE(errore->messaggio.find(nel_messaggio), std::string::npos) << errore->messaggio;
+    EXPECT_EQ(errore->colonna, colonna) << errore->messaggio;
+  };
+  rifiutato(std::string(100'000, '('), "lunga 100000 caratteri, al massimo 500", 501);
+  std::string somme;
+  for (int i = 0; i < 1'000'000; ++i) somme += "1+";
+  rifiutato(somme + "1", "lunga 2000001 caratteri", 501);
+  std::string accentate;
+  for (int i = 0; i < 250; ++i) accentate += "è";
+  rifiutato(accentate + std::string(251, 'x'), "lunga 501 caratteri", 501);
+  std::string negazioni;
+  for (int i = 0; i < 120; ++i) negazioni += "Not ";
+  rifiutato(negazioni + "1", "annidata", 397);  // the hundredth Not
+  rifiutato(std::string(240, '-') + "1", "annidata", 100);
+  rifiutato("Cadenza(" + std::string(200, '(') + "1" + std::string(200, ')') + ")", "annidata", 108);
+
+  const std::string estremi[] = {"9223372036854775807", "(-9223372036854775807 - 1)", "0", "[1]",
+                                 "9223372036854775807 * 9223372036854775807"};
+  const FiguraPiazzata figura = SuUnaRuota({90, 1});
+  for (const std::string& x : estremi) {
+    const std::string testi[] = {
+        fmt::format("Cadenza({0}) + Decina({0}) + DecinaCabalistica({0}) + Figura({0}) + Diametrale({0}) = 1", x),
+        fmt::format("DiffCiclometrica({0}, -{0}) + SommaCiclometrica({0}, {0}, 1) = 1 Or Vertibili({0}, {0})", x),
+        fmt::format("PuntiSu({0}) + ContaPresenze({0}) + ContaChiusure({0}) - {0} * {0} = 1", x),
+        fmt::format("-(-{0}) < {0} And Not {0} Or {0} >= -{0}", x),
+    };
+    for (const std::string& testo : testi) {
+      auto compilata = Condizione::Compila(testo, vertici);
+      ASSERT_TRUE(std::holds_alternative<Condizione>(compilata))
+          << testo << ": " << std::get<ErroreSintassi>(compilata).messaggio;
+      static_cast<void>(std::get<Condizione>(compilata).Vale(figura));
+    }
+  }
+}
+
 }  // namespace
 }  // namespace lottolab::figures

@@ -5,14 +5,24 @@
 #include <iterator>
 #include <sstream>
 
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <random>
+
+#include "FigureDiProva.h"
 #include "TempDir.h"
 #include "figures/FileStrutture.h"
+#include "figures/LimitiStrutture.h"
+#include "figures/RicercaFigure.h"
 
 namespace lottolab::figures {
 namespace {
 
 namespace fs = std::filesystem;
-using test::CartellaTemporanea;
+using lottolab::test::CartellaTemporanea;
 
 // Writes the file's fields by hand, so that the expected bytes never come from the code under test.
 class Byte {
@@ -62,6 +72,13 @@ std::string Leggi(const fs::path& file) {
   return byte.str();
 }
 
+// The structure the bytes hold, or the reason they hold none as the test's failure.
+Struttura Decodificata(std::string_view byte) {
+  auto letta = DecodificaStruttura(byte);
+  EXPECT_TRUE(letta) << letta.Errore().testo;
+  return letta ? *letta : Struttura{};
+}
+
 void Scrivi(const fs::path& file, std::string_view byte) {
   std::ofstream(file, std::ios::binary | std::ios::trunc) << byte;
 }
@@ -75,7 +92,7 @@ TEST(FileStrutture, VerticesWithoutLinesOrConditionsAndNoTemplate) {
 
   ClsVertice bRifilato = kVerticeB;
   bRifilato.Caption = "B";
-  EXPECT_EQ(DecodificaStruttura(atteso.Str()), (Struttura{{kVerticeA, bRifilato}, {}, {}}));
+  EXPECT_EQ(Decodificata(atteso.Str()), (Struttura{{kVerticeA, bRifilato}, {}, {}}));
 }
 
 TEST(FileStrutture, LongTextsAreCutByCharactersShortOnesPaddedAndReadTrimmed) {
@@ -91,7 +108,7 @@ TEST(FileStrutture, LongTextsAreCutByCharactersShortOnesPaddedAndReadTrimmed) {
   EXPECT_EQ(CodificaStruttura(struttura), atteso.Str());
 
   citta.Caption = "Città";
-  EXPECT_EQ(DecodificaStruttura(atteso.Str()),
+  EXPECT_EQ(Decodificata(atteso.Str()),
             (Struttura{{citta}, struttura.linee, {std::string(499, 'a') + "é", "[A] = [B]"}}));
 }
 
@@ -143,24 +160,109 @@ TEST(FileStrutture, RoundedCountsReadPastTheEndMarkerAndPastTheFile) {
   EXPECT_EQ(letta->condizioni, std::vector<std::string>{std::string(260, 'x') + "FINE" + std::string(236, '\0')});
 }
 
-TEST(FileStrutture, AFileThatIsNoStructureIsNotValid) {
+TEST(FileStrutture, AFileThatIsNoStructureIsNotValidAndSaysWhy) {
   CartellaTemporanea cartella;
-  const std::string valida = CodificaStruttura({{kVerticeA}, {}, {}});
-  const std::vector<std::pair<std::string, std::string>> file = {
-      {"senza-condizioni.dat", valida.substr(0, valida.find("OFFSET_COND"))},
-      {"minuscole.dat", "offset_struct" + valida.substr(13)},
-      {"vuoto.dat", ""},
+  const std::string valida = CodificaStruttura({{kVerticeA}, {{1, 3, 3}}, {"[A] = 1"}});
+  const std::string senza_fine_vertici = "OFFSET_STRUCT" + valida.substr(13, 29) + valida.substr(46);
+  const struct {
+    std::string nome;
+    std::string byte;
+    std::string motivo;
+  } casi[] = {
+      {"senza-condizioni.dat", valida.substr(0, valida.find("OFFSET_COND")),
+       "manca la sezione delle condizioni (OFFSET_COND)"},
+      {"minuscole.dat", "offset_struct" + valida.substr(13), "manca la sezione dei vertici (OFFSET_STRUCT)"},
+      {"vuoto.dat", "", "manca la sezione dei vertici (OFFSET_STRUCT)"},
+      // The last FINE lost: the conditions would silently be none.
+      {"troncato.dat", valida.substr(0, valida.size() - 4),
+       "la sezione delle condizioni non ha la sua fine (FINE): il file è troncato o rovinato"},
+      // The lines' FINE must not stand in for the vertices' own.
+      {"senza-fine-vertici.dat", senza_fine_vertici,
+       "la sezione dei vertici non ha la sua fine (FINE): il file è troncato o rovinato"},
   };
-  for (const auto& [nome, byte] : file) {
-    Scrivi(cartella / nome, byte);
-    EXPECT_FALSE(DecodificaStruttura(byte)) << nome;
+  ASSERT_EQ(senza_fine_vertici.find("FINE"), senza_fine_vertici.find("OFFSET_LINEE") + 12 + 6);
+  for (const auto& caso : casi) {
+    Scrivi(cartella / caso.nome, caso.byte);
+    auto letta = DecodificaStruttura(caso.byte);
+    ASSERT_FALSE(letta) << caso.nome;
+    EXPECT_EQ(letta.Errore().testo, caso.motivo);
+    auto caricata = CaricaStruttura(cartella / caso.nome);
+    ASSERT_FALSE(caricata) << caso.nome;
+    EXPECT_EQ(caricata.Errore().testo, "File " + (cartella / caso.nome).string() + " non valido: " + caso.motivo);
   }
-  std::vector<fs::path> percorsi = {cartella / "senza-condizioni.dat", cartella / "minuscole.dat",
-                                    cartella / "vuoto.dat", cartella / "manca.dat"};
-  for (const fs::path& percorso : percorsi) {
+}
+
+// A file cut anywhere, as a crash or a full disk during a copy leaves it, reads either whole or not at
+// all: never as a structure with fewer vertices, lines or conditions.
+TEST(FileStrutture, AFileCutAtAnyByteIsWholeOrNotValid) {
+  ClsVertice fine_vicina = kVerticeB;
+  fine_vicina.Caption = "FIN";
+  const Struttura struttura{{kVerticeA, fine_vicina}, {{1, 3, 4}, {2, 4, 3}}, {"[A] = 1", "[A] <> Fin"}};
+  const std::string byte = CodificaStruttura(struttura);
+  const Struttura attesa = Decodificata(byte);
+  for (size_t lunghezza = 0; lunghezza <= byte.size(); ++lunghezza) {
+    auto letta = DecodificaStruttura(std::string_view(byte).substr(0, lunghezza));
+    if (lunghezza == byte.size()) {
+      ASSERT_TRUE(letta);
+      EXPECT_EQ(*letta, attesa);
+    } else {
+      EXPECT_FALSE(letta) << "cut at " << lunghezza << " of " << byte.size();
+    }
+  }
+}
+
+TEST(FileStrutture, StructuresBeyondTheLimitsAreRefusedNamingTheLimit) {
+  auto di = [](size_t vertici, size_t linee, size_t condizioni, int16_t ultima_riga = 1) {
+    Struttura struttura;
+    for (size_t k = 0; k < vertici; ++k)
+      struttura.vertici.push_back({.Index = static_cast<int16_t>(k + 1), .Riga = 1, .Colonna = 1, .Caption = ""});
+    if (vertici > 0) struttura.vertici.back().Riga = ultima_riga;
+    struttura.linee.resize(linee, ClsLinea{1, 1, 1});
+    struttura.condizioni.resize(condizioni, "[1] = 1");
+    return CodificaStruttura(struttura);
+  };
+  EXPECT_TRUE(DecodificaStruttura(di(kMassimoVertici, kMassimoLinee, kMassimoCondizioni, kMassimeRigheFigura)));
+  const std::pair<std::string, std::string> casi[] = {
+      // Two thousand vertices on one cell once filled the memory of the search.
+      {di(2000, 0, 0), "ha 2000 vertici, al massimo 100"},
+      {di(1, kMassimoLinee + 1, 0), "ha 1001 linee, al massimo 1000"},
+      {di(1, 0, 20000), "ha 20000 condizioni, al massimo 100"},
+      {di(2, 0, 0, kMassimeRigheFigura + 1), "si stende su 201 estrazioni, al massimo 200"},
+  };
+  CartellaTemporanea cartella;
+  for (const auto& [byte, motivo] : casi) {
+    auto letta = DecodificaStruttura(byte);
+    ASSERT_FALSE(letta) << motivo;
+    EXPECT_EQ(letta.Errore().testo, motivo);
+  }
+  Scrivi(cartella / "grande.dat", casi[0].first);
+  EXPECT_EQ(CaricaStruttura(cartella / "grande.dat").Errore().testo,
+            "File " + (cartella / "grande.dat").string() + " non valido: ha 2000 vertici, al massimo 100");
+}
+
+// Whatever the path names, loading answers at once with a message: no wait on a pipe with no
+// writer, no endless read of a device, no file of any size read whole.
+TEST(FileStrutture, WhatIsNoOrdinaryFileOrIsTooBigIsRefusedAtOnce) {
+  CartellaTemporanea cartella;
+  const fs::path pipe = cartella / "pipe.dat";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  const fs::path grande = cartella / "grande.dat";
+  {
+    std::ofstream out(grande, std::ios::binary);
+    out << CodificaStruttura({{kVerticeA}, {}, {}});
+    out << std::string(kMassimoByteFile, ' ');
+  }
+  const std::pair<fs::path, std::string> casi[] = {
+      {cartella.Percorso(), "è una cartella, non un file"},
+      {"/dev/zero", "non è un file ordinario (è un dispositivo, una pipe o un socket)"},
+      {pipe, "non è un file ordinario (è un dispositivo, una pipe o un socket)"},
+      {cartella / "manca.dat", "il file non esiste"},
+      {grande, "è di " + std::to_string(fs::file_size(grande)) + " byte, troppi per una struttura (al massimo 1048576)"},
+  };
+  for (const auto& [percorso, motivo] : casi) {
     auto caricata = CaricaStruttura(percorso);
     ASSERT_FALSE(caricata) << percorso;
-    EXPECT_EQ(caricata.Errore().testo, "File " + percorso.string() + " non valido");
+    EXPECT_EQ(caricata.Errore().testo, "File " + percorso.string() + " non valido: " + motivo);
   }
 }
 
@@ -181,6 +283,140 @@ TEST(FileStrutture, SavingWritesExactlyTheNewBytesOverAnOldFile) {
   EXPECT_EQ(*caricata, (Struttura{{kVerticeA}, struttura.linee, struttura.condizioni}));
 
   EXPECT_FALSE(SalvaStruttura(cartella / "manca" / "figura.dat", struttura));
+}
+
+// What would not read back whole is not written: a "fine" spelt by a text, by numbers side by side or
+// across two conditions, or a structure beyond the limits.
+TEST(FileStrutture, ASaveThatWouldNotReadBackWholeIsRefused) {
+  CartellaTemporanea cartella;
+  const fs::path file = cartella / "figura.dat";
+  ClsVertice fine = kVerticeA;
+  fine.Caption = "xFinE";
+  ClsVertice numeri = kVerticeA;
+  numeri.IdEstrazione = 'F' | ('I' << 8) | ('N' << 16) | ('E' << 24);
+  std::vector<ClsVertice> troppi(kMassimoVertici + 1, kVerticeA);
+  const std::pair<Struttura, std::string> casi[] = {
+      {{{fine, kVerticeB}, {}, {}}, "forma la parola \"fine\""},
+      {{{numeri, kVerticeB}, {}, {}}, "forma la parola \"fine\""},
+      {{{kVerticeA}, {}, {std::string(498, ' ') + "fi", "ne = 1"}}, "forma la parola \"fine\""},
+      {{troppi, {}, {}}, "ha 101 vertici, al massimo 100"},
+  };
+  for (const auto& [struttura, motivo] : casi) {
+    auto salvata = SalvaStruttura(file, struttura);
+    ASSERT_FALSE(salvata) << motivo;
+    EXPECT_NE(salvata.Errore().testo.find(motivo), std::string::npos) << salvata.Errore().testo;
+    EXPECT_FALSE(fs::exists(file));
+  }
+  EXPECT_FALSE(SalvaStrutturaConCondizione(file, {{kVerticeA}, {}, {}}, "[A] = 1 Or fine"));
+  EXPECT_TRUE(fs::is_empty(cartella.Percorso()));
+}
+
+// A save that fails leaves the old file as it was and no temporary file beside it.
+TEST(FileStrutture, AFailedSaveLeavesTheOldFileAndNothingElse) {
+  CartellaTemporanea cartella;
+  const fs::path file = cartella / "figura.dat";
+  const std::string vecchia = CodificaStruttura({{kVerticeA}, {}, {"[A] = 1"}});
+  Scrivi(file, vecchia);
+  // A folder in the way of the rename: everything before it succeeded.
+  const fs::path occupato = cartella / "occupato.dat";
+  fs::create_directory(occupato);
+  Scrivi(occupato / "dentro", "x");
+  auto salvata = SalvaStruttura(occupato, {{kVerticeB}, {}, {}});
+  ASSERT_FALSE(salvata);
+  EXPECT_TRUE(salvata.Errore().testo.starts_with("75- Impossibile salvare la struttura nel file " + occupato.string()))
+      << salvata.Errore().testo;
+  EXPECT_EQ(Leggi(file), vecchia);
+  EXPECT_EQ(std::distance(fs::directory_iterator(cartella.Percorso()), fs::directory_iterator()), 2);
+
+  // A folder that cannot be written: not even the temporary file.
+  if (::geteuid() != 0) {
+    fs::permissions(cartella.Percorso(), fs::perms::owner_write, fs::perm_options::remove);
+    salvata = SalvaStruttura(file, {{kVerticeB}, {}, {}});
+    fs::permissions(cartella.Percorso(), fs::perms::owner_write, fs::perm_options::add);
+    ASSERT_FALSE(salvata);
+    EXPECT_TRUE(salvata.Errore().testo.ends_with(": permesso negato")) << salvata.Errore().testo;
+    EXPECT_EQ(Leggi(file), vecchia);
+  }
+
+  // The system's reasons a user meets are said in Italian.
+  const fs::path lungo = cartella / (std::string(5000, 'n') + ".dat");
+  salvata = SalvaStruttura(lungo, {{kVerticeB}, {}, {}});
+  ASSERT_FALSE(salvata);
+  EXPECT_TRUE(salvata.Errore().testo.ends_with(": il nome è troppo lungo")) << salvata.Errore().testo;
+  EXPECT_EQ(CaricaStruttura(lungo).Errore().testo, "File " + lungo.string() + " non valido: non si può leggere: il nome è troppo lungo");
+  salvata = SalvaStruttura(file / "dentro.dat", {{kVerticeB}, {}, {}});
+  ASSERT_FALSE(salvata);
+  EXPECT_TRUE(salvata.Errore().testo.ends_with(": una parte del percorso non è una cartella")) << salvata.Errore().testo;
+}
+
+// Bytes damaged at random, as a bad disk or a hostile hand leaves them: each reads as a structure
+// within the limits or fails with a reason, and what reads is searched over a table without harm.
+TEST(FileStrutture, DamagedBytesReadWithinTheLimitsOrNotAtAll) {
+  const Struttura struttura{{test::Vertice(1, "A", 0, 1), test::Vertice(2, "B", 1, 2)},
+                            {{1, 1, 2}},
+                            {"[A] = 1", "Cadenza([B]) <> 3 Or Not RuotaUnica()", "ContaPresenze([A]) < 2"}};
+  const std::string valida = CodificaStruttura(struttura);
+  const TabellaEstrazioni tab = test::SeiEstrazioni();
+  const std::string_view inserti[] = {"FINE", "fInE", "OFFSET_STRUCT", "OFFSET_LINEE", "OFFSET_COND", "\xFF\xFF"};
+  std::mt19937 caso(2026);
+  auto posizione = [&](const std::string& byte) {
+    return std::uniform_int_distribution<size_t>(0, byte.size())(caso);
+  };
+  int lette = 0;
+  for (int prova = 0; prova < 20000; ++prova) {
+    std::string byte = valida;
+    for (int guasto = std::uniform_int_distribution(1, 6)(caso); guasto > 0; --guasto) {
+      const size_t dove = posizione(byte);
+      switch (caso() % 4) {
+        case 0:
+          if (dove < byte.size()) byte[dove] = static_cast<char>(caso());
+          break;
+        case 1: byte.insert(dove, inserti[caso() % std::size(inserti)]); break;
+        case 2: byte.erase(dove, caso() % 40); break;
+        default: byte.insert(dove, byte.substr(posizione(byte), caso() % 600)); break;
+      }
+    }
+    auto letta = DecodificaStruttura(byte);
+    if (!letta) {
+      EXPECT_FALSE(letta.Errore().testo.empty());
+      continue;
+    }
+    ++lette;
+    EXPECT_FALSE(LimiteSuperato(*letta));
+    auto trovate = CercaFigura(tab, *letta, {});
+    if (!trovate) continue;
+    for (const FiguraTrovata& trovata : trovate->elenco)
+      EXPECT_EQ(trovate->Figura(tab, trovata).vertici.size(), trovate->forme[static_cast<size_t>(trovata.forma)].punti.size());
+  }
+  EXPECT_GT(lette, 1000) << "the damage should leave some files readable";
+}
+
+// A process killed at any point of a save leaves the file whole, old or new: never cut, never
+// empty. The child saves two structures in turn until it is killed at a random moment.
+TEST(FileStrutture, AProcessKilledWhileSavingLeavesTheOldFileOrTheNew) {
+  CartellaTemporanea cartella;
+  const fs::path file = cartella / "figura.dat";
+  const Struttura piccola{{kVerticeA}, {}, {"[A] = 1"}};
+  const Struttura grande{{kVerticeA, kVerticeB}, {{1, 3, 4}}, std::vector<std::string>(100, "[A] <> [B]")};
+  const std::string byte_piccola = CodificaStruttura(piccola);
+  const std::string byte_grande = CodificaStruttura(grande);
+  std::mt19937 caso(13);
+  constexpr int kProve = 200;
+  int rovinati = 0;
+  for (int prova = 0; prova < kProve; ++prova) {
+    Scrivi(file, byte_piccola);
+    const pid_t figlio = ::fork();
+    ASSERT_GE(figlio, 0);
+    if (figlio == 0) {
+      for (int k = 0;; ++k) static_cast<void>(SalvaStruttura(file, k % 2 == 0 ? grande : piccola));
+    }
+    ::usleep(std::uniform_int_distribution<useconds_t>(0, 3000)(caso));
+    ::kill(figlio, SIGKILL);
+    ::waitpid(figlio, nullptr, 0);
+    const std::string letto = Leggi(file);
+    if (letto != byte_piccola && letto != byte_grande) ++rovinati;
+  }
+  EXPECT_EQ(rovinati, 0) << "of " << kProve << " saves killed";
 }
 
 TEST(FileStrutture, OtherWindowsSaveTheirOneConditionInPlaceOfTheList) {

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "figures/LimitiStrutture.h"
 #include "figures/Piazzamento.h"
 #include "figures/RicercaFigure.h"
 #include "figures/StatisticaStrutture.h"
@@ -47,7 +48,7 @@ std::vector<Trovata> Cerca(const TabellaEstrazioni& tab, const Struttura& strutt
   EXPECT_TRUE(trovate.Riuscito()) << (trovate.Riuscito() ? "" : trovate.Errore().testo);
   std::vector<Trovata> elenco;
   if (trovate)
-    for (const FiguraTrovata& t : *trovate) elenco.push_back({t.estrazione, t.forma, t.colonna});
+    for (const FiguraTrovata& t : trovate->elenco) elenco.push_back({t.estrazione, t.forma, t.colonna});
   return elenco;
 }
 
@@ -121,6 +122,47 @@ TEST(RicercaFigure, AConditionThatDoesNotCompileFailsTheSearchNamingIt) {
   EXPECT_NE(trovate.Errore().testo.find("condizione 2"), std::string::npos) << trovate.Errore().testo;
 }
 
+// Many vertices on one cell, found at every cell of the table: the placements are kept, and each
+// figure's numbers read again from the table when asked for.
+TEST(RicercaFigure, AFigureOfManyVerticesFoundEverywhereGivesBackItsNumbers) {
+  Struttura pila;
+  for (int16_t k = 1; k <= static_cast<int16_t>(kMassimoVertici); ++k) pila.vertici.push_back(Vertice(k, "", 0, 1));
+  const TabellaEstrazioni tab = TreEstrazioni();
+  auto trovate = CercaFigura(tab, pila, {});
+  ASSERT_TRUE(trovate.Riuscito()) << trovate.Errore().testo;
+  ASSERT_EQ(trovate->elenco.size(), 3u * 50 + 1 * 5);  // Nazionale from draw 3
+  const FiguraPiazzata figura = trovate->Figura(tab, trovate->elenco[1]);
+  ASSERT_EQ(figura.vertici.size(), kMassimoVertici);
+  for (const VerticePiazzato& vertice : figura.vertici) {
+    EXPECT_EQ(vertice.id_estr, 1);
+    EXPECT_EQ(vertice.numero, 1);  // Bari's second position
+  }
+}
+
+// A structure beyond the limits, as a caller may build it without a file, and conditions that would
+// ask hours of work at each cell are refused before the search starts.
+TEST(RicercaFigure, LimitsAndTheConditionsWorkAreCheckedBeforeSearching) {
+  Struttura troppi;
+  for (int16_t k = 1; k <= static_cast<int16_t>(kMassimoVertici) + 1; ++k) troppi.vertici.push_back(Vertice(k, "", 0, 1));
+  auto rifiutata = CercaFigura(TreEstrazioni(), troppi, {});
+  ASSERT_FALSE(rifiutata.Riuscito());
+  EXPECT_EQ(rifiutata.Errore().testo, "La struttura ha 101 vertici, al massimo 100.");
+
+  Struttura onerosa;
+  for (int16_t k = 1; k <= 50; ++k) onerosa.vertici.push_back(Vertice(k, "", 0, 1));
+  std::string somma = "ContaPresenze(1)";
+  for (int i = 0; i < 19; ++i) somma += " + ContaPresenze(1)";
+  // Twenty passes over 50 vertices and 40 steps more: 1040 a condition, 9 of them fit and 10 do not.
+  onerosa.condizioni.assign(9, somma + " >= 0");
+  EXPECT_TRUE(CercaFigura(TreEstrazioni(), onerosa, {}).Riuscito());
+  onerosa.condizioni.push_back(somma + " >= 0");
+  rifiutata = CercaFigura(TreEstrazioni(), onerosa, {});
+  ASSERT_FALSE(rifiutata.Riuscito());
+  EXPECT_TRUE(rifiutata.Errore().testo.starts_with(
+      "Le condizioni chiedono troppo lavoro per ogni posizione della figura (10410 passi, al massimo 10000)"))
+      << rifiutata.Errore().testo;
+}
+
 TEST(RicercaFigure, TheStopAnswerEndsTheSearchWithWhatWasFound) {
   const Struttura struttura{{Vertice(1, "x", 0, 3)}, {}, {}};
   int avvisi = 0;
@@ -128,7 +170,7 @@ TEST(RicercaFigure, TheStopAnswerEndsTheSearchWithWhatWasFound) {
   opzioni.avanzamento = [&](double) { return ++avvisi < 1; };
   auto trovate = CercaFigura(TreEstrazioni(), struttura, opzioni);
   ASSERT_TRUE(trovate.Riuscito());
-  EXPECT_TRUE(trovate->empty());
+  EXPECT_TRUE(trovate->elenco.empty());
 }
 
 TEST(StatisticaStrutture, EachFigurePlaysItsClosureNumbersOnItsWheelsForTheColpi) {
@@ -138,7 +180,7 @@ TEST(StatisticaStrutture, EachFigurePlaysItsClosureNumbersOnItsWheelsForTheColpi
   struttura.vertici[0].UsaPerChiusura = true;
   auto trovate = CercaFigura(tab, struttura, Opzioni({BA}));
   ASSERT_TRUE(trovate.Riuscito());
-  ASSERT_EQ(trovate->size(), 2u) << "draws 1 and 6: at draws 3 and 4 the 7 is in position 5, where A never goes";
+  ASSERT_EQ(trovate->elenco.size(), 2u) << "draws 1 and 6: at draws 3 and 4 the 7 is in position 5, where A never goes";
 
   StatisticaStruttura statistica = CalcolaStatistica(tab, *trovate, 2, 1, 6);
   EXPECT_EQ(statistica.casi, 2);
@@ -181,7 +223,7 @@ TEST(RicercaFigure, OnTheRealArchiveTheSearchFindsWhatAPlainWalkFinds) {
     }
   auto trovate = CercaFigura(tab, quadrato, {});
   ASSERT_TRUE(trovate.Riuscito());
-  EXPECT_EQ(trovate->size(), attese);
+  EXPECT_EQ(trovate->elenco.size(), attese);
   EXPECT_GT(attese, 100u);
 }
 

@@ -1,18 +1,27 @@
+#include <QApplication>
 #include <QGraphicsLineItem>
 #include <QGraphicsView>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTimer>
 #include <QtTest>
 
 #include <algorithm>
 #include <atomic>
 #include <cmath>
 #include <fstream>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "TempDir.h"
+#include "figures/FileStrutture.h"
+#include "figures/LimitiStrutture.h"
 #include "gui/ContestoGui.h"
+#include "gui/F_EditorStrutture.h"
 #include "gui/Finestre.h"
+#include "gui/GrigliaScena.h"
 #include "gui/QvVertice.h"
 #include "gui/F_InsCondizione.h"
 #include "gui/StruttureCondizioni.h"
@@ -41,15 +50,31 @@ RichiestaRicerca SetteEVicino() {
   modello.AggiungiVertice(12, 1);
   modello.AggiungiVertice(12, 2);
   modello.ImpostaChiusura(1, true);
-  modello.AggiungiCondizione("[A] = 7");
+  if (!modello.AggiungiCondizione("[A] = 7")) qFatal("the condition is refused");
   richiesta.struttura = modello.Struttura();
   richiesta.colpi = 2;
   return richiesta;
 }
 
+// Runs `azione` and closes the message box it opens; the box's text, empty when none opened.
+QString TestoDelMessaggio(const std::function<void()>& azione) {
+  QString testo;
+  QTimer controllo;
+  controllo.setInterval(5);
+  QObject::connect(&controllo, &QTimer::timeout, [&] {
+    if (auto* messaggio = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      testo = messaggio->text();
+      messaggio->done(QMessageBox::Ok);
+    }
+  });
+  controllo.start();
+  azione();
+  return testo;
+}
+
 std::vector<int> Estrazioni(const RisultatoRicerca& risultato) {
   std::vector<int> estrazioni;
-  for (const figures::FiguraTrovata& trovata : risultato.trovate) estrazioni.push_back(trovata.estrazione);
+  for (const figures::FiguraTrovata& trovata : risultato.trovate.elenco) estrazioni.push_back(trovata.estrazione);
   return estrazioni;
 }
 
@@ -153,8 +178,8 @@ class EditorStruttureTest : public QObject {
     modello.AggiungiVertice(4, 2);
     modello.AggiungiVertice(7, 13);
     modello.AggiungiVertice(12, 55);
-    modello.ImpostaCaption(1, "ABCDEFG");
-    modello.ImpostaCaption(2, "Perù12");
+    QVERIFY(modello.ImpostaCaption(1, "ABCDEFG").Riuscito());
+    QVERIFY(modello.ImpostaCaption(2, "Perù12").Riuscito());
     modello.ImpostaFulcroVert(2, true);
     modello.ImpostaFulcroOrizz(3, true);
     modello.ImpostaVersoVert(2, kVersoEntrambi);
@@ -162,8 +187,8 @@ class EditorStruttureTest : public QObject {
     modello.ImpostaChiusura(1, true);
     modello.Unisci(1, 2);
     modello.Unisci(3, 2);
-    modello.AggiungiCondizione("[ABCDE] = [Perù1]");
-    modello.AggiungiCondizione("Cadenza([ABCDE]) = Cadenza([C]) Or [C] = 90");
+    QVERIFY(modello.AggiungiCondizione("[ABCDE] = [Perù1]").Riuscito());
+    QVERIFY(modello.AggiungiCondizione("Cadenza([ABCDE]) = Cadenza([C]) Or [C] = 90").Riuscito());
     QCOMPARE(modello.Vertice(1)->Caption, std::string("ABCDE"));
     QCOMPARE(modello.Vertice(2)->Caption, std::string("Perù1"));
 
@@ -188,10 +213,10 @@ class EditorStruttureTest : public QObject {
     StruttureModello modello;
     modello.Nuova(10);
     modello.AggiungiVertice(2, 2);
-    modello.AggiungiCondizione("[A] = 1");
+    QVERIFY(modello.AggiungiCondizione("[A] = 1").Riuscito());
     auto aperto = modello.Apri(file, 10);
     QVERIFY(!aperto.Riuscito());
-    QCOMPARE(aperto.Errore().testo, "File " + file.string() + " non valido");
+    QVERIFY(aperto.Errore().testo.starts_with("File " + file.string() + " non valido: "));
     QVERIFY(modello.Vertici().empty());
     QVERIFY(modello.Condizioni().empty());
     QVERIFY(modello.File().empty());
@@ -253,10 +278,10 @@ class EditorStruttureTest : public QObject {
     auto tutte = CercaStruttura(tab, richiesta, {}, mai);
     QVERIFY(tutte.Riuscito());
     QCOMPARE(Estrazioni(*tutte), (std::vector<int>{1, 2, 3, 4, 6}));
-    QCOMPARE(DescriviFigura(tab, tutte->trovate[1]).ruote, std::string("CA"));
-    QCOMPARE(DescriviFigura(tab, tutte->trovate[1]).numeri, std::string("07 01"));
-    QCOMPARE(DescriviFigura(tab, tutte->trovate[2]).ruote, std::string("BA,CA"));
-    QCOMPARE(DescriviFigura(tab, tutte->trovate[2]).numeri, std::string("07 81"));
+    QCOMPARE(DescriviFigura(tab, tutte->trovate, tutte->trovate.elenco[1]).ruote, std::string("CA"));
+    QCOMPARE(DescriviFigura(tab, tutte->trovate, tutte->trovate.elenco[1]).numeri, std::string("07 01"));
+    QCOMPARE(DescriviFigura(tab, tutte->trovate, tutte->trovate.elenco[2]).ruote, std::string("BA,CA"));
+    QCOMPARE(DescriviFigura(tab, tutte->trovate, tutte->trovate.elenco[2]).numeri, std::string("07 81"));
 
     richiesta.ruote = {BA};
     auto bari = CercaStruttura(tab, richiesta, {}, mai);
@@ -288,7 +313,7 @@ class EditorStruttureTest : public QObject {
     }, ferma);
     QVERIFY(risultato.Riuscito());
     QVERIFY(risultato->interrotta);
-    QVERIFY(risultato->trovate.empty());  // stopped before the first draw
+    QVERIFY(risultato->trovate.elenco.empty());  // stopped before the first draw
     QVERIFY(!risultato->statistica);
     QCOMPARE(quote, std::vector<double>{0.0});  // the end of a search cut short is not shown as done
 
@@ -309,7 +334,7 @@ class EditorStruttureTest : public QObject {
     QVERIFY(prime->interrotta);
     std::vector<int> attese = Estrazioni(*tutte);
     std::erase_if(attese, [&](int estrazione) { return estrazione > std::lround(cercate); });
-    QVERIFY(!attese.empty() && attese.size() < tutte->trovate.size());
+    QVERIFY(!attese.empty() && attese.size() < tutte->trovate.elenco.size());
     QCOMPARE(Estrazioni(*prime), attese);
 
     auto errata = SetteEVicino();
@@ -317,6 +342,143 @@ class EditorStruttureTest : public QObject {
     auto rifiutata = CercaStruttura(tab, errata, {}, ferma);
     QVERIFY(!rifiutata.Riuscito());
     QVERIFY(rifiutata.Errore().testo.starts_with("Errore di sintassi"));
+  }
+
+  // A "fine" in a text would end its section of the file and lose what follows: refused when typed,
+  // as are texts longer than the file keeps and characters it cannot write.
+  void TextsTheFileCouldNotKeepAreRefusedWhenTyped() {
+    StruttureModello modello;
+    modello.Nuova(20);
+    modello.AggiungiVertice(5, 1);
+    for (const char* caption : {"fine", "xFiNe", "FINE", "中"}) {
+      auto impostata = modello.ImpostaCaption(1, caption);
+      QVERIFY2(!impostata.Riuscito(), caption);
+      QVERIFY(impostata.Errore().testo.starts_with("L'etichetta del vertice"));
+    }
+    QVERIFY(modello.ImpostaCaption(1, "fine").Errore().testo.find("\"fine\" chiude la sezione") != std::string::npos);
+    QCOMPARE(modello.Vertice(1)->Caption, std::string("A"));
+    QVERIFY(modello.ImpostaCaption(1, "Fin").Riuscito());
+    QVERIFY(modello.ImpostaCaption(1, "Città").Riuscito());
+    QVERIFY(modello.ImpostaCaption(1, "€uro").Riuscito());
+
+    QVERIFY(modello.AggiungiCondizione("[1] = 5").Riuscito());
+    auto aggiunta = modello.AggiungiCondizione("[1] = [Fine]");
+    QVERIFY(!aggiunta.Riuscito());
+    QVERIFY(aggiunta.Errore().testo.find("fine") != std::string::npos);
+    aggiunta = modello.AggiungiCondizione("[1] = 1 Or " + std::string(490, '1'));
+    QVERIFY(!aggiunta.Riuscito());
+    QVERIFY(aggiunta.Errore().testo.find("è lunga 501 caratteri") != std::string::npos);
+    QVERIFY(!modello.ModificaCondizione(0, "[1] = 1 Or [SfInE] = 2").Riuscito());
+    QCOMPARE(modello.Condizioni(), std::vector<std::string>{"[1] = 5"});
+
+    const std::vector<figures::ClsVertice> vertici{Vertice(1, "A"), Vertice(2, "Fin")};
+    auto errore = VerificaCondizione("[A] = 1 Or [FinE] = 2", vertici);
+    QVERIFY(errore);
+    QCOMPARE(errore->colonna, size_t{13});
+    QVERIFY(!VerificaCondizione("[A] = 1 Or [Fin] = 2", vertici));
+    F_InsCondizione dialogo(vertici, "[A] = [fine]");
+    const QString messaggio = TestoDelMessaggio([&] { dialogo.accept(); });
+    QVERIFY(messaggio.contains("\"fine\""));
+    QVERIFY(messaggio.contains("(colonna 8)"));
+    QVERIFY(dialogo.result() != QDialog::Accepted);
+  }
+
+  // In the window: the caption typed key by key is refused at the key that makes "fine", with the
+  // message, and the field shows the caption kept.
+  void TheWindowSaysWhyACaptionIsRefused() {
+    test::CartellaTemporanea cartella;
+    ContestoGui contesto(app::Configurazione{cartella.Percorso(), {}});
+    F_EditorStrutture editor(contesto);
+    auto* scena = qobject_cast<GrigliaScena*>(editor.findChild<QGraphicsView*>()->scene());
+    QVERIFY(scena);
+    emit scena->CellaCliccata(5, 3);
+    auto* etichetta = editor.findChild<QLineEdit*>("etichetta");
+    QVERIFY(etichetta && etichetta->isEnabled());
+    QCOMPARE(etichetta->text(), QString("A"));
+    etichetta->setCursorPosition(1);
+    const QString messaggio = TestoDelMessaggio([&] { QTest::keyClicks(etichetta, "fine"); });
+    QVERIFY(messaggio.startsWith("L'etichetta del vertice non può contenere la parola \"fine\""));
+    QCOMPARE(etichetta->text(), QString("Afin"));
+  }
+
+  void TheEditorKeepsWithinTheLimits() {
+    StruttureModello modello;
+    modello.Nuova(50);
+    for (int k = 0; k < static_cast<int>(figures::kMassimoVertici); ++k)
+      QVERIFY(modello.AggiungiVertice(1 + k / 55, 1 + k % 55) != 0);
+    QCOMPARE(modello.AggiungiVertice(12, 55), int16_t{0});
+    QCOMPARE(modello.VerticeNonAmmesso(12).value_or(""), std::string("La struttura ha già 100 vertici, il massimo."));
+
+    size_t linee = 0;
+    for (int16_t a = 1; a <= 50 && linee < figures::kMassimoLinee; ++a)
+      for (int16_t b = static_cast<int16_t>(a + 1); b <= 50 && linee < figures::kMassimoLinee; ++b, ++linee)
+        QVERIFY(modello.Unisci(a, b));
+    QVERIFY(!modello.Unisci(99, 100));
+    QCOMPARE(modello.LineaNonAmmessa().value_or(""), std::string("La struttura ha già 1000 linee, il massimo."));
+
+    for (size_t k = 0; k < figures::kMassimoCondizioni; ++k) QVERIFY(modello.AggiungiCondizione("[1] = 1").Riuscito());
+    QVERIFY(modello.CondizioneNonAmmessa());
+    QCOMPARE(modello.AggiungiCondizione("[1] = 2").Errore().testo,
+             std::string("La struttura ha già 100 condizioni, il massimo."));
+
+    // A structure loaded far above the grid's rows: a vertex below would stretch it too far.
+    modello.Carica({{{.Index = 1, .Riga = -190, .Colonna = 1, .Caption = "A"}}, {}, {}}, 50);
+    QVERIFY(modello.VerticeNonAmmesso(12));
+    QCOMPARE(modello.AggiungiVertice(12, 1), int16_t{0});
+    QVERIFY(modello.AggiungiVertice(-100, 1) != 0);
+    QVERIFY(figures::DecodificaStruttura(figures::CodificaStruttura(modello.Struttura())));
+  }
+
+  // A caption or condition with "fine" read from an old file is not written again until corrected.
+  void AnOldTextWithFineIsNotSavedAgain() {
+    test::CartellaTemporanea cartella;
+    StruttureModello modello;
+    modello.Carica({{Vertice(1, "A", 1, 1), Vertice(2, "Fine", 1, 2)}, {}, {}}, 10);
+    auto salvata = modello.Salva(cartella / "vecchia.dat");
+    QVERIFY(!salvata.Riuscito());
+    QVERIFY(salvata.Errore().testo.starts_with("L'etichetta del vertice 2 non può contenere la parola \"fine\""));
+    QVERIFY(salvata.Errore().testo.ends_with("Correggerla prima di salvare."));
+    QVERIFY(modello.ImpostaCaption(2, "B").Riuscito());
+    modello.Carica({{Vertice(1, "A", 1, 1)}, {}, {"[A] = 1", "[A] = 2 Or FINE"}}, 10);
+    QVERIFY(modello.Salva(cartella / "vecchia.dat").Errore().testo.starts_with("La condizione 2 non può"));
+    QVERIFY(!std::filesystem::exists(cartella / "vecchia.dat"));
+    QVERIFY(modello.ModificaCondizione(1, "[A] = 2").Riuscito());
+    QVERIFY(modello.Salva(cartella / "vecchia.dat").Riuscito());
+  }
+
+  // Typing the archive's name in the Save dialog once replaced the archive with a structure.
+  void SavingNeverReplacesAnArchiveOrAFileThatIsNoStructure() {
+    test::CartellaTemporanea cartella;
+    const auto base = cartella.Percorso();
+    app::Configurazione configurazione{base, {}};
+    QCOMPARE(CartellaStrutture(configurazione), base / "Strutture");
+    configurazione.ini.Scrivi(app::kSezioneGenerale, "sCartellaStrutture", "Figure");
+    QCOMPARE(CartellaStrutture(configurazione), base / "Figure");
+
+    const figures::Struttura struttura{{Vertice(1, "A", 1, 1)}, {}, {}};
+    std::ofstream(base / "testo.dat") << "appunti";
+    std::filesystem::create_directory(base / "cartella.dat");
+    QVERIFY(figures::SalvaStruttura(base / "vecchia.dat", struttura));
+    auto ammessa = [&](const std::filesystem::path& file) { return DestinazioneAmmessa(file, configurazione); };
+
+    // The archives, whether or not they exist yet.
+    QVERIFY(ammessa(base / "BaseDati.dat").Errore().testo.find("è l'archivio delle estrazioni") != std::string::npos);
+    std::ofstream(base / "BaseDati.dat") << std::string(478, 'x');
+    QVERIFY(!ammessa(base / "BaseDati.dat").Riuscito());
+    QVERIFY(!ammessa(base / "." / "basedati.dat").Riuscito());
+    QCOMPARE(ammessa(base / "testo.dat").Errore().testo,
+             "Il file " + (base / "testo.dat").string() +
+                 " esiste e non è una struttura: non viene sostituito. Scegliere un altro nome.");
+    QVERIFY(!ammessa(base / "cartella.dat").Riuscito());
+    QVERIFY(ammessa(base / "vecchia.dat").Riuscito());
+    // A structure beyond today's limits is still a structure file: a new one may take its place.
+    figures::Struttura enorme;
+    for (int16_t k = 1; k <= 150; ++k) enorme.vertici.push_back(Vertice(k, "", 1, 1));
+    std::ofstream(base / "enorme.dat", std::ios::binary) << figures::CodificaStruttura(enorme);
+    QVERIFY(!figures::CaricaStruttura(base / "enorme.dat").Riuscito());
+    QVERIFY(ammessa(base / "enorme.dat").Riuscito());
+    QVERIFY(ammessa(base / "Figure" / "BaseDati.dat").Riuscito());
+    QCOMPARE(std::filesystem::file_size(base / "BaseDati.dat"), std::uintmax_t{478});
   }
 };
 
