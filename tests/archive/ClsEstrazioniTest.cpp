@@ -10,12 +10,13 @@ using test::CartellaTemporanea;
 using test::LeggiByte;
 using test::ScriviByte;
 
+// Draw `id` of 12/03/2024, Bari from `bari_primo` on (no Bari when 0), Nazionale 86..90.
 Estrazione Draw(int id, int bari_primo) {
   Estrazione e;
   e.id_estr = id;
   e.data = {static_cast<int16_t>(id), 12, 3, 2024};
-  e.ImpostaNumero(BA, 1, bari_primo);
-  e.ImpostaNumero(NZ, 5, 90);
+  for (int p = 1; p <= kNumeriPerRuota && bari_primo != 0; ++p) e.ImpostaNumero(BA, p, (bari_primo + p - 2) % 90 + 1);
+  for (int p = 1; p <= kNumeriPerRuota; ++p) e.ImpostaNumero(NZ, p, 85 + p);
   return e;
 }
 
@@ -53,7 +54,7 @@ TEST(GetNumeroEstrazioni, QuozienteArrotondatoDellaLunghezza) {
   }
 }
 
-TEST(CaricaEstrazioni, LeggeTuttoERecordTroncatoComeZeri) {
+TEST(CaricaEstrazioni, LeggeTuttoERecordTroncatoComeZeriConUnAvviso) {
   CartellaTemporanea cartella;
   ClsEstrazioni archivio(cartella / "BaseDati.dat");
 
@@ -76,6 +77,12 @@ TEST(CaricaEstrazioni, LeggeTuttoERecordTroncatoComeZeri) {
   EXPECT_EQ(tabella->Tutte()[1], Draw(2, 22));
   EXPECT_EQ((*tabella)[3].Numero(BA, 1), 33);
   EXPECT_EQ((*tabella)[3].Numero(NZ, 5), 0);
+
+  auto caricate = archivio.CaricaEControlla();
+  ASSERT_TRUE(caricate);
+  EXPECT_EQ(caricate->rapporto.byte_sparsi, 40);
+  EXPECT_EQ(caricate->rapporto.record_non_validi, 0) << "the partial record is told by the stray bytes alone";
+  EXPECT_EQ(caricate->rapporto.Avvisi().size(), 1u);
 }
 
 TEST(LeggiEstrazione, LasciaIntattoIlRecordFuoriDalFile) {
