@@ -33,10 +33,6 @@ Avviso ErroreFile(const char* procedura, const fs::path& percorso, int numero) {
                        fmt::format("Errore di accesso al file {}: {}", percorso.string(), DescrizioneErrore(numero)));
 }
 
-Avviso NonRegolare(const fs::path& percorso) {
-  return AvvisoEsclamativo(fmt::format("{} non è un file ordinario: l'archivio delle estrazioni è un file", percorso.string()));
-}
-
 }  // namespace
 
 int ContaRecordArchivio(uintmax_t lunghezza) {
@@ -68,10 +64,9 @@ Estrazione DecodificaRecord(const unsigned char* s, size_t lunghezza) {
 
 Esito<int> ClsEstrazioni::GetNumeroEstrazioni(const fs::path& percorso) const {
   const fs::path& file = percorso.empty() ? m_archivio : percorso;
+  if (auto regolare = ControllaFileRegolare(file); !regolare) return regolare.Errore();
   std::error_code ec;
-  const fs::file_status stato = fs::status(file, ec);
-  if (stato.type() == fs::file_type::not_found) return 0;
-  if (!ec && !fs::is_regular_file(stato)) return NonRegolare(file);
+  if (!fs::exists(file, ec) && !ec) return 0;
   const uintmax_t lunghezza = ec ? 0 : fs::file_size(file, ec);
   if (ec) return ErroreFile("Mod_AggiornaEstrazioni.GetNumeroEstrazioni", file, ec.value());
   return ContaRecordArchivio(lunghezza);
@@ -96,10 +91,9 @@ Esito<TabellaEstrazioni> ClsEstrazioni::CaricaEstrazioni() const {
 
 Esito<Fatto> ClsEstrazioni::LeggiEstrazione(int k, Estrazione& record) const {
   if (k < 1) return Fatto{};
+  if (auto regolare = ControllaFileRegolare(m_archivio); !regolare) return regolare.Errore();
   std::error_code ec;
-  const fs::file_status stato = fs::status(m_archivio, ec);
-  if (stato.type() == fs::file_type::not_found) return Fatto{};
-  if (!ec && !fs::is_regular_file(stato)) return NonRegolare(m_archivio);
+  if (!fs::exists(m_archivio, ec) && !ec) return Fatto{};
   const uintmax_t posizione = static_cast<uintmax_t>(k - 1) * kByteRecordArchivio;
   const uintmax_t lunghezza = ec ? 0 : fs::file_size(m_archivio, ec);
   if (ec) return ErroreFile("ClsEstrazioni.LeggiEstrazione", m_archivio, ec.value());

@@ -31,6 +31,10 @@ std::string_view TipoNonRegolare(mode_t modo) {
   return "non è un file ordinario";
 }
 
+Avviso NonRegolare(const fs::path& file, mode_t modo) {
+  return AvvisoEsclamativo(fmt::format("{} {}: serve un file ordinario", file.string(), TipoNonRegolare(modo)));
+}
+
 // Closes a descriptor when the scope ends, whatever way it ends.
 class Descrittore {
  public:
@@ -70,6 +74,15 @@ fs::path Accanto(const fs::path& file, std::string_view suffisso) {
   return accanto;
 }
 
+// A link is followed, so that the lock and the new file sit beside the real file and the link
+// survives the rename.
+fs::path FileReale(const fs::path& file) {
+  std::error_code ec;
+  if (!fs::is_symlink(file, ec)) return file;
+  fs::path reale = fs::canonical(file, ec);
+  return ec ? file : reale;
+}
+
 }  // namespace
 
 std::string DescrizioneErrore(int numero) {
@@ -92,6 +105,16 @@ std::string DescrizioneErrore(int numero) {
   }
 }
 
+Esito<Fatto> ControllaFileRegolare(const fs::path& file) {
+  struct stat stato {};
+  if (::stat(file.c_str(), &stato) != 0) {
+    if (errno == ENOENT) return Fatto{};
+    return ErroreAccesso(kProceduraLettura, file, errno);
+  }
+  if (!S_ISREG(stato.st_mode)) return NonRegolare(file, stato.st_mode);
+  return Fatto{};
+}
+
 Esito<std::optional<std::string>> LeggiFileRegolare(const fs::path& file, size_t limite) {
   // O_NONBLOCK keeps a FIFO from blocking the open until a writer comes; a regular file ignores it.
   Descrittore fd(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
@@ -101,9 +124,7 @@ Esito<std::optional<std::string>> LeggiFileRegolare(const fs::path& file, size_t
   }
   struct stat stato {};
   if (::fstat(fd.Get(), &stato) != 0) return ErroreAccesso(kProceduraLettura, file, errno);
-  if (!S_ISREG(stato.st_mode)) {
-    return AvvisoEsclamativo(fmt::format("{} {}: serve un file ordinario", file.string(), TipoNonRegolare(stato.st_mode)));
-  }
+  if (!S_ISREG(stato.st_mode)) return NonRegolare(file, stato.st_mode);
   auto TroppoGrande = [&] {
     return AvvisoEsclamativo(fmt::format("Il file {} è troppo grande: più di {} MB", file.string(), limite >> 20));
   };
@@ -126,7 +147,8 @@ Esito<std::optional<std::string>> LeggiFileRegolare(const fs::path& file, size_t
   return std::optional<std::string>(std::move(contenuto));
 }
 
-Esito<Fatto> SostituisciFile(const fs::path& file, std::string_view contenuto) {
+Esito<Fatto> SostituisciFile(const fs::path& richiesto, std::string_view contenuto) {
+  const fs::path file = FileReale(richiesto);
   const fs::path nuovo = Accanto(file, ".nuovo");
   mode_t permessi = 0666;
   struct stat stato {};
@@ -154,7 +176,7 @@ Esito<Fatto> SostituisciFile(const fs::path& file, std::string_view contenuto) {
 }
 
 Esito<BloccoScrittura> BloccoScrittura::Acquisisci(const fs::path& file, std::chrono::milliseconds attesa_massima) {
-  const fs::path blocco = Accanto(file, ".lock");
+  const fs::path blocco = Accanto(FileReale(file), ".lock");
   int fd = ::open(blocco.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
   if (fd < 0) {
     return AvvisoCritico("FileSicuri.BloccoScrittura", 75,

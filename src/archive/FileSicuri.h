@@ -23,17 +23,22 @@ namespace lottolab {
 // Italian words for an errno value, for messages that name a file and what went wrong with it.
 std::string DescrizioneErrore(int numero);
 
+// Refuses, with the user's message, a path that exists and is not a regular file (a folder, a
+// device, a FIFO); a missing path passes. Nothing is opened.
+Esito<Fatto> ControllaFileRegolare(const std::filesystem::path& file);
+
 // The whole content of `file`, read in chunks; nothing when the file does not exist. A path that is
 // not a regular file, or a file longer than `limite` bytes, is refused with the user's message.
 Esito<std::optional<std::string>> LeggiFileRegolare(const std::filesystem::path& file, size_t limite);
 
 // Replaces `file` with `contenuto` all at once: written to "<file>.nuovo", flushed to the disk,
-// renamed over `file`, and the folder flushed. An existing file keeps its permissions. On failure
+// renamed over `file`, and the folder flushed. An existing file keeps its permissions; a link is
+// followed, and the file it names is replaced. On failure
 // `file` is untouched and the aside file removed.
 Esito<Fatto> SostituisciFile(const std::filesystem::path& file, std::string_view contenuto);
 
-// The exclusive right to write a file, held on "<file>.lock" until the object dies (or its process
-// does: the system lets the lock go with it).
+// The exclusive right to write a file, held on "<file>.lock" (beside the file a link names) until
+// the object dies, or its process does: the system lets the lock go with it.
 class BloccoScrittura {
  public:
   // Waits up to `attesa_massima` for another writer to finish; then refuses, saying the file is busy.

@@ -11,15 +11,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A link to the archive is followed, so that the lock and the new file sit beside the real file and
-// the link survives the rename.
-fs::path FileReale(const fs::path& file) {
-  std::error_code ec;
-  if (!fs::is_symlink(file, ec)) return file;
-  fs::path reale = fs::canonical(file, ec);
-  return ec ? file : reale;
-}
-
 // The table and the check of an archive's bytes.
 ArchivioLetto Decodifica(const fs::path& file, std::string contenuto) {
   ArchivioLetto archivio;
@@ -51,8 +42,9 @@ Esito<ArchivioLetto> LeggiArchivio(const fs::path& file) {
   return Decodifica(file, std::move(**letto));
 }
 
-Esito<ScritturaArchivio> ScritturaArchivio::Apri(const fs::path& richiesto) {
-  const fs::path file = FileReale(richiesto);
+Esito<ScritturaArchivio> ScritturaArchivio::Apri(const fs::path& file) {
+  // Checked before the lock, so that no lock file is left beside a folder or in /dev.
+  if (auto regolare = ControllaFileRegolare(file); !regolare) return regolare.Errore();
   auto blocco = BloccoScrittura::Acquisisci(file);
   if (!blocco) return blocco.Errore();
   auto letto = LeggiArchivio(file);
