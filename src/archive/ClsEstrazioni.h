@@ -2,7 +2,8 @@
 
 // The Lotto archive file: fixed 67-byte little-endian records with no header, draw k at byte
 // (k-1)*67. The number of draws follows from the file length alone, so a draw can be read or
-// overwritten in place without touching the others and an append is the only way the file grows.
+// overwritten without touching the others and an append is the only way the file grows. Writes
+// never change the file in place, though: each replaces it whole, under a lock (ScritturaArchivio.h).
 
 #include <filesystem>
 #include <vector>
