@@ -1,7 +1,8 @@
 #include "ControlloArchivio.h"
 
-#include <algorithm>
 #include <fmt/format.h>
+
+#include <algorithm>
 
 #include "Ruote.h"
 
@@ -30,17 +31,19 @@ std::string DifettoRuota(const Estrazione& estrazione, int ruota) {
 
 }  // namespace
 
-std::string DifettoEstrazione(const Estrazione& estrazione, int k, const GruppoData* precedente, const GruppoData& oggi) {
+std::string DifettoEstrazione(const Estrazione& estrazione, int k, const GruppoData* precedente,
+                              const GruppoData& oggi) {
   if (!DataValida(estrazione.data)) return fmt::format("la data {} non esiste", DataGrezza(estrazione.data));
   if (!DataPossibile(estrazione.data, oggi)) {
     return fmt::format("la data {} è fuori dal periodo possibile (dal {} a domani)", FormattaData(estrazione.data),
                        kPrimoAnnoLotto);
   }
   if (precedente && ConfrontaDate(estrazione.data, *precedente) < 0) {
-    return fmt::format("la data {} viene prima di quella dell'estrazione precedente ({})", FormattaData(estrazione.data),
-                       FormattaData(*precedente));
+    return fmt::format("la data {} viene prima di quella dell'estrazione precedente ({})",
+                       FormattaData(estrazione.data), FormattaData(*precedente));
   }
-  if (estrazione.id_estr != k) return fmt::format("il suo numero d'ordine (IdEstr) è {} invece di {}", estrazione.id_estr, k);
+  if (estrazione.id_estr != k)
+    return fmt::format("il suo numero d'ordine (IdEstr) è {} invece di {}", estrazione.id_estr, k);
   if (!estrazione.RuotaEstratta(BA)) return "manca la ruota di Bari";
   for (int ruota = 1; ruota <= kNumeroRuote; ++ruota)
     if (std::string difetto = DifettoRuota(estrazione, ruota); !difetto.empty()) return difetto;
@@ -93,21 +96,24 @@ std::vector<std::string> RapportoArchivio::Avvisi() const {
                  : std::string("quei byte non sono mostrati")));
   }
   if (record_non_validi != 0) {
-    avvisi.push_back(fmt::format("L'archivio {} ha {} record su {} che non sono estrazioni valide; il primo è il n. {}: {}.",
-                                 file.string(), record_non_validi, record_interi, primo_non_valido, difetto));
+    avvisi.push_back(
+        fmt::format("L'archivio {} ha {} record su {} che non sono estrazioni valide; il primo è il n. {}: {}.",
+                    file.string(), record_non_validi, record_interi, primo_non_valido, difetto));
   }
   return avvisi;
 }
 
 Avviso RapportoArchivio::Rifiuto() const {
   if (record_interi == 0) {
-    return AvvisoEsclamativo(fmt::format("Il file {} non è un archivio delle estrazioni: i suoi {} byte non fanno "
-                                         "nemmeno un'estrazione intera di 67 byte.",
-                                         file.string(), lunghezza));
+    return AvvisoEsclamativo(
+        fmt::format("Il file {} non è un archivio delle estrazioni: i suoi {} byte non fanno "
+                    "nemmeno un'estrazione intera di 67 byte.",
+                    file.string(), lunghezza));
   }
-  return AvvisoEsclamativo(fmt::format("Il file {} non è un archivio delle estrazioni: {} record su {} non sono "
-                                       "estrazioni valide (il primo, n. {}: {}).",
-                                       file.string(), record_non_validi, record_interi, primo_non_valido, difetto));
+  return AvvisoEsclamativo(
+      fmt::format("Il file {} non è un archivio delle estrazioni: {} record su {} non sono "
+                  "estrazioni valide (il primo, n. {}: {}).",
+                  file.string(), record_non_validi, record_interi, primo_non_valido, difetto));
 }
 
 }  // namespace lottolab

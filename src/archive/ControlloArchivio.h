@@ -19,11 +19,11 @@ namespace lottolab {
 struct RapportoArchivio {
   std::filesystem::path file;
   uintmax_t lunghezza = 0;
-  int record_interi = 0;       // the whole 67-byte records the file holds
-  int byte_sparsi = 0;         // the bytes after the last whole record
-  int record_non_validi = 0;   // among the whole records
-  int primo_non_valido = 0;    // its index from 1; 0 when every record is a draw
-  std::string difetto;         // what is wrong with that record
+  int record_interi = 0;      // the whole 67-byte records the file holds
+  int byte_sparsi = 0;        // the bytes after the last whole record
+  int record_non_validi = 0;  // among the whole records
+  int primo_non_valido = 0;   // its index from 1; 0 when every record is a draw
+  std::string difetto;        // what is wrong with that record
 
   bool LunghezzaIntera() const { return byte_sparsi == 0; }
   bool Integro() const { return byte_sparsi == 0 && record_non_validi == 0; }
@@ -42,6 +42,7 @@ RapportoArchivio ControllaArchivio(const TabellaEstrazioni& tabella, const std::
 
 // What is wrong with draw `k` of an archive, given the date of the last well-dated draw before it
 // (or nothing); empty when it is a draw.
-std::string DifettoEstrazione(const Estrazione& estrazione, int k, const GruppoData* precedente, const GruppoData& oggi);
+std::string DifettoEstrazione(const Estrazione& estrazione, int k, const GruppoData* precedente,
+                              const GruppoData& oggi);
 
 }  // namespace lottolab

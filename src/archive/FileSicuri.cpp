@@ -1,13 +1,14 @@
 #include "FileSicuri.h"
 
-#include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <thread>
 #include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <thread>
 
 namespace lottolab {
 
@@ -20,7 +21,8 @@ constexpr const char* kProceduraScrittura = "FileSicuri.SostituisciFile";
 
 Avviso ErroreAccesso(const char* procedura, const fs::path& file, int numero) {
   // 75 is the number of a path/file access error, as users know it from their scripts.
-  return AvvisoCritico(procedura, 75, fmt::format("Errore di accesso al file {}: {}", file.string(), DescrizioneErrore(numero)));
+  return AvvisoCritico(procedura, 75,
+                       fmt::format("Errore di accesso al file {}: {}", file.string(), DescrizioneErrore(numero)));
 }
 
 std::string_view TipoNonRegolare(mode_t modo) {
@@ -87,21 +89,34 @@ fs::path FileReale(const fs::path& file) {
 
 std::string DescrizioneErrore(int numero) {
   switch (numero) {
-    case ENOENT: return "il file o la cartella non esiste";
+    case ENOENT:
+      return "il file o la cartella non esiste";
     case EACCES:
-    case EPERM: return "permesso negato";
-    case EISDIR: return "è una cartella";
-    case ENOTDIR: return "una parte del percorso non è una cartella";
-    case ENAMETOOLONG: return "nome del file troppo lungo";
-    case ENOSPC: return "spazio su disco esaurito";
-    case EDQUOT: return "quota del disco superata";
-    case EROFS: return "il disco è di sola lettura";
-    case EIO: return "errore di lettura o scrittura sul disco";
+    case EPERM:
+      return "permesso negato";
+    case EISDIR:
+      return "è una cartella";
+    case ENOTDIR:
+      return "una parte del percorso non è una cartella";
+    case ENAMETOOLONG:
+      return "nome del file troppo lungo";
+    case ENOSPC:
+      return "spazio su disco esaurito";
+    case EDQUOT:
+      return "quota del disco superata";
+    case EROFS:
+      return "il disco è di sola lettura";
+    case EIO:
+      return "errore di lettura o scrittura sul disco";
     case EMFILE:
-    case ENFILE: return "troppi file aperti";
-    case ELOOP: return "troppi collegamenti simbolici nel percorso";
-    case EFBIG: return "file troppo grande";
-    default: return fmt::format("errore di sistema {} ({})", numero, std::strerror(numero));
+    case ENFILE:
+      return "troppi file aperti";
+    case ELOOP:
+      return "troppi collegamenti simbolici nel percorso";
+    case EFBIG:
+      return "file troppo grande";
+    default:
+      return fmt::format("errore di sistema {} ({})", numero, std::strerror(numero));
   }
 }
 
@@ -179,8 +194,9 @@ Esito<BloccoScrittura> BloccoScrittura::Acquisisci(const fs::path& file, std::ch
   const fs::path blocco = Accanto(FileReale(file), ".lock");
   int fd = ::open(blocco.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
   if (fd < 0) {
-    return AvvisoCritico("FileSicuri.BloccoScrittura", 75,
-                         fmt::format("Impossibile creare il file di blocco {}: {}", blocco.string(), DescrizioneErrore(errno)));
+    return AvvisoCritico(
+        "FileSicuri.BloccoScrittura", 75,
+        fmt::format("Impossibile creare il file di blocco {}: {}", blocco.string(), DescrizioneErrore(errno)));
   }
   BloccoScrittura tenuto(fd);
   const auto scadenza = std::chrono::steady_clock::now() + attesa_massima;

@@ -1,7 +1,8 @@
 #include "RiparaArchivio.h"
 
-#include <ctime>
 #include <fmt/format.h>
+
+#include <ctime>
 #include <system_error>
 
 #include "FileSicuri.h"
@@ -38,7 +39,8 @@ Esito<Riparazione> RiparaArchivio(const fs::path& archivio) {
   if (!blocco) return blocco.Errore();
   auto letto = LeggiArchivio(archivio);
   if (!letto) return letto.Errore();
-  if (!letto->esiste) return AvvisoEsclamativo(fmt::format("L'archivio {} non esiste: non c'è nulla da riparare.", archivio.string()));
+  if (!letto->esiste)
+    return AvvisoEsclamativo(fmt::format("L'archivio {} non esiste: non c'è nulla da riparare.", archivio.string()));
   const RapportoArchivio& rapporto = letto->rapporto;
   Riparazione riparazione;
   riparazione.estrazioni = rapporto.record_interi;
@@ -47,7 +49,8 @@ Esito<Riparazione> RiparaArchivio(const fs::path& archivio) {
 
   riparazione.copia = NomeCopia(archivio);
   if (auto copiato = SostituisciFile(riparazione.copia, letto->contenuto); !copiato) return copiato.Errore();
-  const std::string_view intero(letto->contenuto.data(), static_cast<size_t>(rapporto.record_interi) * kByteRecordArchivio);
+  const std::string_view intero(letto->contenuto.data(),
+                                static_cast<size_t>(rapporto.record_interi) * kByteRecordArchivio);
   if (auto tagliato = SostituisciFile(archivio, intero); !tagliato) return tagliato.Errore();
   riparazione.eseguita = true;
   riparazione.byte_tolti = rapporto.byte_sparsi;
@@ -59,9 +62,10 @@ std::string DescriviRiparazione(const fs::path& archivio, const Riparazione& rip
     return fmt::format("L'archivio {} è già fatto di estrazioni intere ({}): nessuna riparazione necessaria.",
                        archivio.string(), riparazione.estrazioni);
   }
-  return fmt::format("Archivio {} riparato: tolti {} byte dopo l'ultima estrazione intera, ora contiene {} estrazioni. "
-                     "Il file com'era è stato copiato in {}.",
-                     archivio.string(), riparazione.byte_tolti, riparazione.estrazioni, riparazione.copia.string());
+  return fmt::format(
+      "Archivio {} riparato: tolti {} byte dopo l'ultima estrazione intera, ora contiene {} estrazioni. "
+      "Il file com'era è stato copiato in {}.",
+      archivio.string(), riparazione.byte_tolti, riparazione.estrazioni, riparazione.copia.string());
 }
 
 }  // namespace lottolab

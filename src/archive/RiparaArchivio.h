@@ -13,10 +13,10 @@
 namespace lottolab {
 
 struct Riparazione {
-  bool eseguita = false;            // false when the archive needed no repair
-  std::filesystem::path copia;      // the copy of the archive as it was
+  bool eseguita = false;        // false when the archive needed no repair
+  std::filesystem::path copia;  // the copy of the archive as it was
   int byte_tolti = 0;
-  int estrazioni = 0;               // the draws the archive holds afterwards
+  int estrazioni = 0;  // the draws the archive holds afterwards
 };
 
 // Under the writers' lock, copies `archivio` to "<archivio>.bak-AAAAMMGGhhmmss" and then cuts it to

@@ -76,7 +76,8 @@ Esito<Fatto> ScritturaArchivio::Accoda(const std::vector<Estrazione>& estrazioni
 
 Esito<Fatto> ScritturaArchivio::Sovrascrivi(int k, const Estrazione& estrazione) {
   std::string contenuto = m_letto.contenuto;
-  CodificaRecord(estrazione, reinterpret_cast<unsigned char*>(contenuto.data() + static_cast<size_t>(k - 1) * kByteRecordArchivio));
+  CodificaRecord(estrazione,
+                 reinterpret_cast<unsigned char*>(contenuto.data() + static_cast<size_t>(k - 1) * kByteRecordArchivio));
   return Sostituisci(std::move(contenuto));
 }
 

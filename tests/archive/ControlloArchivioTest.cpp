@@ -70,7 +70,8 @@ TEST_P(Controllo, NominaIByteSparsiEIlPrimoRecordGuasto) {
   EXPECT_EQ(avvisi.size(), size_t{caso.byte_sparsi != 0} + size_t{caso.primo_non_valido != 0});
   for (const std::string& avviso : avvisi) EXPECT_NE(avviso.find(archivio.Archivio().string()), std::string::npos);
   if (caso.byte_sparsi != 0) {
-    EXPECT_NE(avvisi.front().find(std::to_string(caso.byte_sparsi) + " byte oltre"), std::string::npos) << avvisi.front();
+    EXPECT_NE(avvisi.front().find(std::to_string(caso.byte_sparsi) + " byte oltre"), std::string::npos)
+        << avvisi.front();
     EXPECT_NE(avvisi.front().find("lottolab ripara"), std::string::npos);
   }
   if (caso.primo_non_valido != 0) {
@@ -81,32 +82,31 @@ TEST_P(Controllo, NominaIByteSparsiEIlPrimoRecordGuasto) {
 
 INSTANTIATE_TEST_SUITE_P(
     CaricaEControlla, Controllo,
-    testing::Values(
-        Caso{"Integro", [](Byte&) {}, 0, 0, ""},
-        Caso{"TrentaquattroByteInPiu", [](Byte& b) { b.resize(b.size() + 34, 0x07); }, 34, 0, ""},
-        Caso{"TagliatoDiQuaranta", [](Byte& b) { b.resize(b.size() - 40); }, 27, 0, ""},
-        Caso{"NumeroZeroSuUnaRuotaEstratta", [](Byte& b) { b[NumeroBari(2, 3)] = 0; }, 0, 2,
-             "la ruota di Bari ha 4 numeri invece di 5"},
-        Caso{"NumeroNovantuno", [](Byte& b) { b[NumeroBari(2, 4)] = 91; }, 0, 2,
-             "il numero 91 sulla ruota di Bari è fuori dall'intervallo 1-90"},
-        Caso{"Numero255", [](Byte& b) { b[NumeroBari(3, 1)] = 255; }, 0, 3,
-             "il numero 255 sulla ruota di Bari è fuori dall'intervallo 1-90"},
-        Caso{"NumeroRipetuto", [](Byte& b) { b[NumeroBari(1, 5)] = b[NumeroBari(1, 2)]; }, 0, 1,
-             "il numero 12 è ripetuto sulla ruota di Bari"},
-        Caso{"SenzaBari", [](Byte& b) { std::fill_n(b.begin() + NumeroBari(2, 1), 5, 0); }, 0, 2,
-             "manca la ruota di Bari"},
-        Caso{"TrentunoFebbraio", [](Byte& b) { b[Giorno(2)] = 31, b[Giorno(2) + 2] = 2; }, 0, 2,
-             "la data 31/2/2024 non esiste"},
-        Caso{"Anno1799", [](Byte& b) { b[Anno(1)] = 1799 & 0xFF, b[Anno(1) + 1] = 1799 >> 8; }, 0, 1,
-             "la data 11/03/1799 è fuori dal periodo possibile (dal 1871 a domani)"},
-        Caso{"NelFuturo", [](Byte& b) { b[Anno(3)] = 9999 & 0xFF, b[Anno(3) + 1] = 9999 >> 8; }, 0, 3,
-             "la data 13/03/9999 è fuori dal periodo possibile (dal 1871 a domani)"},
-        Caso{"DateAllIndietro", [](Byte& b) { b[Giorno(3)] = 1; }, 0, 3,
-             "la data 01/03/2024 viene prima di quella dell'estrazione precedente (12/03/2024)"},
-        Caso{"IdEstrFuoriPosto", [](Byte& b) { b[Record(2)] = 7; }, 0, 2,
-             "il suo numero d'ordine (IdEstr) è 7 invece di 2"},
-        Caso{"ByteSparsiERecordGuasto", [](Byte& b) { b[NumeroBari(3, 1)] = 95, b.resize(b.size() + 10); }, 10, 3,
-             "il numero 95 sulla ruota di Bari è fuori dall'intervallo 1-90"}),
+    testing::Values(Caso{"Integro", [](Byte&) {}, 0, 0, ""},
+                    Caso{"TrentaquattroByteInPiu", [](Byte& b) { b.resize(b.size() + 34, 0x07); }, 34, 0, ""},
+                    Caso{"TagliatoDiQuaranta", [](Byte& b) { b.resize(b.size() - 40); }, 27, 0, ""},
+                    Caso{"NumeroZeroSuUnaRuotaEstratta", [](Byte& b) { b[NumeroBari(2, 3)] = 0; }, 0, 2,
+                         "la ruota di Bari ha 4 numeri invece di 5"},
+                    Caso{"NumeroNovantuno", [](Byte& b) { b[NumeroBari(2, 4)] = 91; }, 0, 2,
+                         "il numero 91 sulla ruota di Bari è fuori dall'intervallo 1-90"},
+                    Caso{"Numero255", [](Byte& b) { b[NumeroBari(3, 1)] = 255; }, 0, 3,
+                         "il numero 255 sulla ruota di Bari è fuori dall'intervallo 1-90"},
+                    Caso{"NumeroRipetuto", [](Byte& b) { b[NumeroBari(1, 5)] = b[NumeroBari(1, 2)]; }, 0, 1,
+                         "il numero 12 è ripetuto sulla ruota di Bari"},
+                    Caso{"SenzaBari", [](Byte& b) { std::fill_n(b.begin() + NumeroBari(2, 1), 5, 0); }, 0, 2,
+                         "manca la ruota di Bari"},
+                    Caso{"TrentunoFebbraio", [](Byte& b) { b[Giorno(2)] = 31, b[Giorno(2) + 2] = 2; }, 0, 2,
+                         "la data 31/2/2024 non esiste"},
+                    Caso{"Anno1799", [](Byte& b) { b[Anno(1)] = 1799 & 0xFF, b[Anno(1) + 1] = 1799 >> 8; }, 0, 1,
+                         "la data 11/03/1799 è fuori dal periodo possibile (dal 1871 a domani)"},
+                    Caso{"NelFuturo", [](Byte& b) { b[Anno(3)] = 9999 & 0xFF, b[Anno(3) + 1] = 9999 >> 8; }, 0, 3,
+                         "la data 13/03/9999 è fuori dal periodo possibile (dal 1871 a domani)"},
+                    Caso{"DateAllIndietro", [](Byte& b) { b[Giorno(3)] = 1; }, 0, 3,
+                         "la data 01/03/2024 viene prima di quella dell'estrazione precedente (12/03/2024)"},
+                    Caso{"IdEstrFuoriPosto", [](Byte& b) { b[Record(2)] = 7; }, 0, 2,
+                         "il suo numero d'ordine (IdEstr) è 7 invece di 2"},
+                    Caso{"ByteSparsiERecordGuasto", [](Byte& b) { b[NumeroBari(3, 1)] = 95, b.resize(b.size() + 10); },
+                         10, 3, "il numero 95 sulla ruota di Bari è fuori dall'intervallo 1-90"}),
     [](const testing::TestParamInfo<Caso>& info) { return info.param.nome; });
 
 TEST(CaricaEControlla, RifiutaUnFileCheNonEUnArchivio) {

@@ -15,7 +15,8 @@ using test::ScriviByte;
 std::vector<fs::path> CopieAccanto(const fs::path& archivio) {
   std::vector<fs::path> copie;
   for (const auto& voce : fs::directory_iterator(archivio.parent_path()))
-    if (voce.path().filename().string().starts_with(archivio.filename().string() + ".bak-")) copie.push_back(voce.path());
+    if (voce.path().filename().string().starts_with(archivio.filename().string() + ".bak-"))
+      copie.push_back(voce.path());
   return copie;
 }
 
@@ -43,10 +44,12 @@ TEST(RiparaArchivio, CopiaPrimaPoiTaglia) {
   ASSERT_EQ(CopieAccanto(archivio.Archivio()), std::vector<fs::path>{riparazione->copia});
   EXPECT_EQ(LeggiByte(riparazione->copia), guasto) << "the copy is the file as it was";
   EXPECT_TRUE(riparazione->copia.filename().string().starts_with("BaseDati.dat.bak-20"));
-  EXPECT_EQ(DescriviRiparazione(archivio.Archivio(), *riparazione),
-            "Archivio " + archivio.Archivio().string() +
-                " riparato: tolti 40 byte dopo l'ultima estrazione intera, ora contiene 2 estrazioni. Il file com'era è "
-                "stato copiato in " + riparazione->copia.string() + ".");
+  EXPECT_EQ(
+      DescriviRiparazione(archivio.Archivio(), *riparazione),
+      "Archivio " + archivio.Archivio().string() +
+          " riparato: tolti 40 byte dopo l'ultima estrazione intera, ora contiene 2 estrazioni. Il file com'era è "
+          "stato copiato in " +
+          riparazione->copia.string() + ".");
   EXPECT_TRUE(archivio.ScriviEstrazione(e, 2)) << "the repaired archive takes writes again";
 
   auto di_nuovo = RiparaArchivio(archivio.Archivio());
@@ -80,7 +83,8 @@ TEST(RiparaArchivio, RifiutaCioCheNonSiPuoRiparare) {
   ScriviByte(altro, std::vector<unsigned char>(1000, 0xAB));
   esito = RiparaArchivio(altro);
   ASSERT_FALSE(esito);
-  EXPECT_TRUE(esito.Errore().testo.find("non è un archivio delle estrazioni") != std::string::npos) << esito.Errore().testo;
+  EXPECT_TRUE(esito.Errore().testo.find("non è un archivio delle estrazioni") != std::string::npos)
+      << esito.Errore().testo;
   EXPECT_TRUE(CopieAccanto(altro).empty());
   EXPECT_EQ(LeggiByte(altro).size(), 1000u);
 }

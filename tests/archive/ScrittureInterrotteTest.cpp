@@ -2,16 +2,16 @@
 // that writes, kills it after a random delay, and requires the archive to be the state before the
 // write or the state after it: never a mixture, never a partial record.
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <csignal>
-#include <fmt/format.h>
 #include <random>
 #include <string>
-#include <sys/wait.h>
 #include <thread>
-#include <unistd.h>
 #include <vector>
 
 #include "TempDir.h"
@@ -53,9 +53,7 @@ std::string RisultatiSintetici(int estrazioni) {
   return testo;
 }
 
-void ScriviTesto(const fs::path& file, const std::string& testo) {
-  ScriviByte(file, Byte(testo.begin(), testo.end()));
-}
+void ScriviTesto(const fs::path& file, const std::string& testo) { ScriviByte(file, Byte(testo.begin(), testo.end())); }
 
 // Runs `lavoro` in a child process, which exits with the status it returns.
 template <typename F>
@@ -118,8 +116,10 @@ TEST_F(ScrittureInterrotte, UnaImportazioneUccisaLasciaLArchivioDiPrimaODiDopo) 
     std::this_thread::sleep_for(std::chrono::microseconds(m_caso() % (fino_a.count() + 1)));
     kill(pid, SIGKILL);
     int uscita = Attendi(pid);
-    if (uscita == -SIGKILL) ++interrotte;
-    else EXPECT_EQ(uscita, 0);
+    if (uscita == -SIGKILL)
+      ++interrotte;
+    else
+      EXPECT_EQ(uscita, 0);
     const Byte ora = LeggiByte(m_archivio);
     if (ora == m_dopo) ++completate;
     if (ora != m_prima && ora != m_dopo) {
