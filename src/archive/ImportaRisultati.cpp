@@ -109,8 +109,10 @@ Esito<std::vector<Giornata>> LeggiGiornate(std::string_view testo, const GruppoD
       return ErroreRiga(riga, fmt::format("data \"{}\" non valida, atteso il formato AAAA/MM/GG", campi[0]));
     }
     if (!DataPossibile(data, oggi)) {
-      if (data.anno < kPrimoAnnoLotto)
-        return ErroreRiga(riga, fmt::format("la data {} è anteriore al {}, anno della prima estrazione", campi[0], kPrimoAnnoLotto));
+      if (data.anno < kPrimoAnnoLotto) {
+        return ErroreRiga(riga, fmt::format("la data {} è anteriore al {}, anno della prima estrazione", campi[0],
+                                            kPrimoAnnoLotto));
+      }
       return ErroreRiga(riga, fmt::format("la data {} è nel futuro, oltre domani (oggi è il {}): il file dei "
                                           "risultati non è attendibile",
                                           campi[0], FormattaData(oggi)));
@@ -263,7 +265,9 @@ std::string MotivoZip(const zip_error_t* errore) {
     case ZIP_ER_MEMORY: return "memoria insufficiente";
     case ZIP_ER_EOF:
     case ZIP_ER_READ: return "l'archivio zip finisce prima del previsto";
-    default: return fmt::format("errore {} della libreria zip ({})", zip_error_code_zip(errore), zip_error_strerror(const_cast<zip_error_t*>(errore)));
+    default:
+      return fmt::format("errore {} della libreria zip ({})", zip_error_code_zip(errore),
+                         zip_error_strerror(const_cast<zip_error_t*>(errore)));
   }
 }
 
