@@ -1,11 +1,15 @@
 #include "ClsEstrazioni.h"
 
+#include <algorithm>
 #include <cerrno>
-#include <cmath>
 #include <cstring>
 #include <fmt/format.h>
 #include <fstream>
+#include <iterator>
 #include <system_error>
+
+#include "FileSicuri.h"
+#include "ScritturaArchivio.h"
 
 namespace lottolab {
 
@@ -23,17 +27,17 @@ uint32_t LeggiLE(const unsigned char* p, int byte) {
   return valore;
 }
 
-Avviso ErroreFile(const char* procedura, const fs::path& percorso) {
+Avviso ErroreFile(const char* procedura, const fs::path& percorso, int numero) {
   // 75 is the number of a path/file access error, as users know it from their scripts.
   return AvvisoCritico(procedura, 75,
-                       fmt::format("Errore di accesso al file {}: {}", percorso.string(), std::strerror(errno)));
-}
-
-int ContaRecord(uintmax_t lunghezza) {
-  return static_cast<int>(std::lround(static_cast<double>(lunghezza) / kByteRecordArchivio));
+                       fmt::format("Errore di accesso al file {}: {}", percorso.string(), DescrizioneErrore(numero)));
 }
 
 }  // namespace
+
+int ContaRecordArchivio(uintmax_t lunghezza) {
+  return static_cast<int>((lunghezza + kByteRecordArchivio / 2) / kByteRecordArchivio);
+}
 
 void CodificaRecord(const Estrazione& e, unsigned char* d) {
   ScriviLE(d + 0, static_cast<uint32_t>(e.id_estr), 4);
@@ -60,98 +64,72 @@ Estrazione DecodificaRecord(const unsigned char* s, size_t lunghezza) {
 
 Esito<int> ClsEstrazioni::GetNumeroEstrazioni(const fs::path& percorso) const {
   const fs::path& file = percorso.empty() ? m_archivio : percorso;
+  if (auto regolare = ControllaFileRegolare(file); !regolare) return regolare.Errore();
   std::error_code ec;
-  if (!fs::exists(file, ec)) return 0;
-  uintmax_t lunghezza = fs::file_size(file, ec);
-  if (ec) {
-    return AvvisoCritico("Mod_AggiornaEstrazioni.GetNumeroEstrazioni", 75,
-                         fmt::format("Errore di accesso al file {}: {}", file.string(), ec.message()));
-  }
-  return ContaRecord(lunghezza);
+  if (!fs::exists(file, ec) && !ec) return 0;
+  const uintmax_t lunghezza = ec ? 0 : fs::file_size(file, ec);
+  if (ec) return ErroreFile("Mod_AggiornaEstrazioni.GetNumeroEstrazioni", file, ec.value());
+  return ContaRecordArchivio(lunghezza);
 }
 
-Esito<TabellaEstrazioni> ClsEstrazioni::CaricaEstrazioni() const {
-  std::error_code ec;
-  if (!fs::exists(m_archivio, ec)) {
+Esito<EstrazioniCaricate> ClsEstrazioni::CaricaEControlla() const {
+  auto letto = LeggiArchivio(m_archivio);
+  if (!letto) return letto.Errore();
+  if (!letto->esiste) {
     return AvvisoEsclamativo(
         fmt::format("Non esiste il file relativo alla base dati originale \n{}", m_archivio.string()));
   }
-  std::ifstream in(m_archivio, std::ios::binary);
-  if (!in) return ErroreFile("ClsEstrazioni.CaricaEstrazioni", m_archivio);
-  std::vector<unsigned char> contenuto(fs::file_size(m_archivio, ec));
-  in.read(reinterpret_cast<char*>(contenuto.data()), static_cast<std::streamsize>(contenuto.size()));
-  if (!in) return ErroreFile("ClsEstrazioni.CaricaEstrazioni", m_archivio);
+  if (letto->rapporto.NonEUnArchivio()) return letto->rapporto.Rifiuto();
+  return EstrazioniCaricate{std::move(letto->tabella), std::move(letto->rapporto)};
+}
 
-  int conteggio = ContaRecord(contenuto.size());
-  std::vector<Estrazione> estrazioni(conteggio);
-  for (int k = 0; k < conteggio; ++k) {
-    size_t inizio = static_cast<size_t>(k) * kByteRecordArchivio;
-    estrazioni[k] = DecodificaRecord(contenuto.data() + inizio, contenuto.size() - inizio);
-  }
-  return TabellaEstrazioni(std::move(estrazioni));
+Esito<TabellaEstrazioni> ClsEstrazioni::CaricaEstrazioni() const {
+  auto caricate = CaricaEControlla();
+  if (!caricate) return caricate.Errore();
+  return std::move(caricate).Valore().tabella;
 }
 
 Esito<Fatto> ClsEstrazioni::LeggiEstrazione(int k, Estrazione& record) const {
+  if (k < 1) return Fatto{};
+  if (auto regolare = ControllaFileRegolare(m_archivio); !regolare) return regolare.Errore();
   std::error_code ec;
-  if (k < 1 || !fs::exists(m_archivio, ec)) return Fatto{};
-  uintmax_t posizione = static_cast<uintmax_t>(k - 1) * kByteRecordArchivio;
-  uintmax_t lunghezza = fs::file_size(m_archivio, ec);
-  if (ec || posizione >= lunghezza) return Fatto{};
+  if (!fs::exists(m_archivio, ec) && !ec) return Fatto{};
+  const uintmax_t posizione = static_cast<uintmax_t>(k - 1) * kByteRecordArchivio;
+  const uintmax_t lunghezza = ec ? 0 : fs::file_size(m_archivio, ec);
+  if (ec) return ErroreFile("ClsEstrazioni.LeggiEstrazione", m_archivio, ec.value());
+  if (posizione >= lunghezza) return Fatto{};
   std::ifstream in(m_archivio, std::ios::binary);
   unsigned char buffer[kByteRecordArchivio] = {};
   in.seekg(static_cast<std::streamoff>(posizione));
   in.read(reinterpret_cast<char*>(buffer), kByteRecordArchivio);
-  if (in.bad()) return ErroreFile("ClsEstrazioni.LeggiEstrazione", m_archivio);
+  if (in.bad()) return ErroreFile("ClsEstrazioni.LeggiEstrazione", m_archivio, errno);
   record = DecodificaRecord(buffer, static_cast<size_t>(in.gcount()));
   return Fatto{};
 }
 
 Esito<bool> ClsEstrazioni::ScriviEstrazione(const Estrazione& estrazione, int k) {
-  constexpr const char* kProcedura = "ClsEstrazioni.ScriviEstrazione";
   if (k < 0) return false;
-  auto conteggio = GetNumeroEstrazioni();
-  if (!conteggio) return conteggio.Errore();
-  int n = *conteggio;
+  auto scrittura = ScritturaArchivio::Apri(m_archivio);
+  if (!scrittura) return scrittura.Errore();
+  const int n = scrittura->Conteggio();
   if (k > n + 1) {
     return AvvisoEsclamativo(
         "Id estrazione non consecutivo. \nL'id della nuova estrazione che si sta scrivendo deve essere "
         "compreso tra 1 e il NumeroEstrazioniArchiviate + 1 !");
   }
-  unsigned char buffer[kByteRecordArchivio];
-  CodificaRecord(estrazione, buffer);
-
-  std::error_code ec;
-  bool sovrascrivi = k >= 1 && k <= n;
-  std::fstream file(m_archivio, std::ios::binary | std::ios::in | std::ios::out |
-                                    (fs::exists(m_archivio, ec) ? std::ios::openmode{} : std::ios::trunc));
-  if (!file) return ErroreFile(kProcedura, m_archivio);
-  if (sovrascrivi)
-    file.seekp(static_cast<std::streamoff>(k - 1) * kByteRecordArchivio);
-  else
-    file.seekp(0, std::ios::end);
-  file.write(reinterpret_cast<const char*>(buffer), kByteRecordArchivio);
-  file.flush();
-  if (!file) return ErroreFile(kProcedura, m_archivio);
+  auto scritto = k >= 1 && k <= n ? scrittura->Sovrascrivi(k, estrazione) : scrittura->Accoda({estrazione});
+  if (!scritto) return scritto.Errore();
   return true;
 }
 
 Esito<Fatto> ClsEstrazioni::SalvaFileEstrazioni(const std::vector<Estrazione>& estrazioni) {
-  constexpr const char* kProcedura = "Mod_AggiornaEstrazioni.SalvaFileEstrazioni";
-  std::vector<unsigned char> nuovi;
-  nuovi.reserve(estrazioni.size() * kByteRecordArchivio);
-  for (const Estrazione& e : estrazioni) {
-    if (!e.Presente()) continue;
-    size_t fine = nuovi.size();
-    nuovi.resize(fine + kByteRecordArchivio);
-    CodificaRecord(e, nuovi.data() + fine);
-  }
-  if (nuovi.empty()) return Fatto{};
-  std::ofstream file(m_archivio, std::ios::binary | std::ios::app);
-  if (!file) return ErroreFile(kProcedura, m_archivio);
-  file.write(reinterpret_cast<const char*>(nuovi.data()), static_cast<std::streamsize>(nuovi.size()));
-  file.flush();
-  if (!file) return ErroreFile(kProcedura, m_archivio);
-  return Fatto{};
+  std::vector<Estrazione> presenti;
+  std::copy_if(estrazioni.begin(), estrazioni.end(), std::back_inserter(presenti),
+               [](const Estrazione& e) { return e.Presente(); });
+  if (presenti.empty()) return Fatto{};
+  auto scrittura = ScritturaArchivio::Apri(m_archivio);
+  if (!scrittura) return scrittura.Errore();
+  return scrittura->Accoda(presenti);
 }
 
 }  // namespace lottolab

@@ -1,6 +1,8 @@
 #include "DateEstrazione.h"
 
+#include <array>
 #include <charconv>
+#include <ctime>
 #include <fmt/format.h>
 #include <vector>
 
@@ -58,6 +60,25 @@ int GiornoAssoluto(const GruppoData& data) {
   int doy = (153 * mp + 2) / 5 + data.giorno - 1;
   int doe = yoe * 365 + yoe / 4 - yoe / 100 + doy;
   return era * 146097 + doe - 693901;
+}
+
+bool DataValida(const GruppoData& data) {
+  constexpr std::array<int, 12> kGiorni = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  if (data.anno < 1 || data.mese < 1 || data.mese > 12 || data.giorno < 1) return false;
+  const bool bisestile = (data.anno % 4 == 0 && data.anno % 100 != 0) || data.anno % 400 == 0;
+  return data.giorno <= (data.mese == 2 && bisestile ? 29 : kGiorni[data.mese - 1]);
+}
+
+GruppoData DataOdierna() {
+  const std::time_t adesso = std::time(nullptr);
+  std::tm locale{};
+  localtime_r(&adesso, &locale);
+  return GruppoData{0, static_cast<int16_t>(locale.tm_mday), static_cast<int16_t>(locale.tm_mon + 1),
+                    static_cast<int16_t>(locale.tm_year + 1900)};
+}
+
+bool DataPossibile(const GruppoData& data, const GruppoData& oggi) {
+  return DataValida(data) && data.anno >= kPrimoAnnoLotto && GiornoAssoluto(data) <= GiornoAssoluto(oggi) + 1;
 }
 
 }  // namespace lottolab

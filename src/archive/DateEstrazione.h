@@ -23,4 +23,17 @@ int ConfrontaDate(const GruppoData& a, const GruppoData& b);
 // Days since 1/1/1900 (proleptic Gregorian), for measuring the gap between two dates.
 int GiornoAssoluto(const GruppoData& data);
 
+// The year of the first draw of the unified Lotto: no archive holds an earlier one.
+inline constexpr int kPrimoAnnoLotto = 1871;
+
+// Whether the day exists in its month and year (29 February only in leap years).
+bool DataValida(const GruppoData& data);
+
+// Today's date on this computer's clock, local time.
+GruppoData DataOdierna();
+
+// A date a draw can have: valid, from kPrimoAnnoLotto on, and not after the day after `oggi` (a
+// results file published late in the evening may already carry the next day's date).
+bool DataPossibile(const GruppoData& data, const GruppoData& oggi);
+
 }  // namespace lottolab

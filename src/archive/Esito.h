@@ -24,12 +24,17 @@ class [[nodiscard]] Esito {
     assert(Riuscito());
     return std::get<T>(m_stato);
   }
+  T& Valore() & {
+    assert(Riuscito());
+    return std::get<T>(m_stato);
+  }
   T&& Valore() && {
     assert(Riuscito());
     return std::get<T>(std::move(m_stato));
   }
   const T& operator*() const& { return Valore(); }
   const T* operator->() const { return &Valore(); }
+  T* operator->() { return &Valore(); }
 
   const Avviso& Errore() const {
     assert(!Riuscito());

@@ -14,6 +14,8 @@
 #include <zip.h>
 
 #include "DateEstrazione.h"
+#include "FileSicuri.h"
+#include "ScritturaArchivio.h"
 
 namespace lottolab {
 
@@ -25,6 +27,8 @@ namespace {
 // many days before or after it.
 constexpr int kGiorniDistanzaMassima = 3;
 constexpr int kCampiPerRiga = 2 + kNumeriPerRuota;
+// The whole history is about 2 MB of text; anything much larger is not a results file.
+constexpr size_t kLimiteRisultati = size_t{64} << 20;
 
 // All the lines of one date: the draw itself when Bari is among them, else the part of a draw held
 // over two days.
@@ -58,12 +62,6 @@ bool LeggiIntero(std::string_view testo, int& valore) {
   return !testo.empty() && ec == std::errc() && ptr == fine && testo.front() != '-';
 }
 
-int GiorniDelMese(int mese, int anno) {
-  constexpr std::array<int, 12> kGiorni = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  bool bisestile = (anno % 4 == 0 && anno % 100 != 0) || anno % 400 == 0;
-  return mese == 2 && bisestile ? 29 : kGiorni[mese - 1];
-}
-
 // "AAAA/MM/GG" as the operator writes it; no other order is accepted, so that a file in the user's
 // own day/month/year form is refused instead of being read with day and year swapped.
 bool LeggiDataRisultati(std::string_view testo, GruppoData& data) {
@@ -74,14 +72,14 @@ bool LeggiDataRisultati(std::string_view testo, GruppoData& data) {
   if (!LeggiIntero(testo.substr(0, barra1), anno) || !LeggiIntero(testo.substr(barra1 + 1, barra2 - barra1 - 1), mese) ||
       !LeggiIntero(testo.substr(barra2 + 1), giorno))
     return false;
-  if (anno < 1 || mese < 1 || mese > 12 || giorno < 1 || giorno > GiorniDelMese(mese, anno)) return false;
+  if (anno > 9999 || mese > 12 || giorno > 31) return false;
   data = GruppoData{0, static_cast<int16_t>(giorno), static_cast<int16_t>(mese), static_cast<int16_t>(anno)};
-  return true;
+  return DataValida(data);
 }
 
 // Reads every line and gathers the lines of each date, checking each line on its own and the order
 // of the dates.
-Esito<std::vector<Giornata>> LeggiGiornate(std::string_view testo) {
+Esito<std::vector<Giornata>> LeggiGiornate(std::string_view testo, const GruppoData& oggi) {
   std::vector<Giornata> giornate;
   // About a hundred bytes make one wheel line and roughly ten wheel lines make one date.
   giornate.reserve(testo.size() / 1000 + 1);
@@ -109,6 +107,15 @@ Esito<std::vector<Giornata>> LeggiGiornate(std::string_view testo) {
     GruppoData data;
     if (!LeggiDataRisultati(campi[0], data)) {
       return ErroreRiga(riga, fmt::format("data \"{}\" non valida, atteso il formato AAAA/MM/GG", campi[0]));
+    }
+    if (!DataPossibile(data, oggi)) {
+      if (data.anno < kPrimoAnnoLotto) {
+        return ErroreRiga(riga, fmt::format("la data {} è anteriore al {}, anno della prima estrazione", campi[0],
+                                            kPrimoAnnoLotto));
+      }
+      return ErroreRiga(riga, fmt::format("la data {} è nel futuro, oltre domani (oggi è il {}): il file dei "
+                                          "risultati non è attendibile",
+                                          campi[0], FormattaData(oggi)));
     }
     std::optional<int> ruota = RuotaDaSigla(campi[1]);
     if (!ruota || *ruota > kNumeroRuote) return ErroreRiga(riga, fmt::format("ruota \"{}\" sconosciuta", campi[1]));
@@ -243,7 +250,30 @@ struct ChiudiVoceZip {
   void operator()(zip_file_t* voce) const { zip_fclose(voce); }
 };
 
-// The text inside a zip held in memory: its first ".txt" entry, or its only entry.
+// Italian words for the failures of libzip that a damaged or unusual zip can cause.
+std::string MotivoZip(const zip_error_t* errore) {
+  switch (zip_error_code_zip(errore)) {
+    case ZIP_ER_NOZIP: return "non è un archivio zip";
+    case ZIP_ER_INCONS: return "l'archivio zip è incoerente (danneggiato o costruito male)";
+    case ZIP_ER_CRC: return "i dati non corrispondono al loro codice di controllo (CRC): lo zip è danneggiato";
+    case ZIP_ER_ZLIB:
+    case ZIP_ER_COMPRESSED_DATA: return "i dati compressi sono danneggiati";
+    case ZIP_ER_COMPNOTSUPP: return "il metodo di compressione non è supportato";
+    case ZIP_ER_ENCRNOTSUPP:
+    case ZIP_ER_NOPASSWD:
+    case ZIP_ER_WRONGPASSWD: return "il contenuto è cifrato";
+    case ZIP_ER_MEMORY: return "memoria insufficiente";
+    case ZIP_ER_EOF:
+    case ZIP_ER_READ: return "l'archivio zip finisce prima del previsto";
+    default:
+      return fmt::format("errore {} della libreria zip ({})", zip_error_code_zip(errore),
+                         zip_error_strerror(const_cast<zip_error_t*>(errore)));
+  }
+}
+
+// The text inside a zip held in memory: its first ".txt" entry, or its only entry. The entry is
+// read in chunks up to the size limit, whatever size the zip's directory claims for it, and must
+// turn out exactly as long as claimed.
 Esito<std::string> TestoDaZip(const std::string& contenuto, const fs::path& file) {
   auto Errore = [&](std::string_view motivo) {
     return AvvisoEsclamativo(fmt::format("Impossibile leggere l'archivio zip {}: {}", file.string(), motivo));
@@ -252,14 +282,14 @@ Esito<std::string> TestoDaZip(const std::string& contenuto, const fs::path& file
   zip_error_init(&errore);
   zip_source_t* sorgente = zip_source_buffer_create(contenuto.data(), contenuto.size(), 0, &errore);
   if (!sorgente) {
-    std::string motivo = zip_error_strerror(&errore);
+    std::string motivo = MotivoZip(&errore);
     zip_error_fini(&errore);
     return Errore(motivo);
   }
   std::unique_ptr<zip_t, ChiudiZip> archivio(zip_open_from_source(sorgente, ZIP_RDONLY, &errore));
   if (!archivio) {
     zip_source_free(sorgente);
-    std::string motivo = zip_error_strerror(&errore);
+    std::string motivo = MotivoZip(&errore);
     zip_error_fini(&errore);
     return Errore(motivo);
   }
@@ -275,21 +305,38 @@ Esito<std::string> TestoDaZip(const std::string& contenuto, const fs::path& file
 
   zip_stat_t stato;
   zip_stat_init(&stato);
-  if (zip_stat_index(archivio.get(), static_cast<zip_uint64_t>(scelta), 0, &stato) != 0 ||
-      !(stato.valid & ZIP_STAT_SIZE))
-    return Errore(zip_strerror(archivio.get()));
+  if (zip_stat_index(archivio.get(), static_cast<zip_uint64_t>(scelta), 0, &stato) != 0)
+    return Errore(MotivoZip(zip_get_error(archivio.get())));
+  const std::string nome = stato.valid & ZIP_STAT_NAME ? stato.name : "?";
+  if (!(stato.valid & ZIP_STAT_SIZE)) return Errore(fmt::format("la lunghezza di {} non è indicata", nome));
+  if (stato.size > kLimiteRisultati) {
+    return Errore(fmt::format("{} dichiara {} byte, più del massimo di {} MB per un file dei risultati", nome,
+                              stato.size, kLimiteRisultati >> 20));
+  }
   std::unique_ptr<zip_file_t, ChiudiVoceZip> voce(zip_fopen_index(archivio.get(), static_cast<zip_uint64_t>(scelta), 0));
-  if (!voce) return Errore(zip_strerror(archivio.get()));
-  std::string testo(static_cast<size_t>(stato.size), '\0');
-  zip_int64_t letti = zip_fread(voce.get(), testo.data(), testo.size());
-  if (letti < 0 || static_cast<zip_uint64_t>(letti) != stato.size) return Errore(zip_file_strerror(voce.get()));
+  if (!voce) return Errore(MotivoZip(zip_get_error(archivio.get())));
+
+  std::string testo;
+  char blocco[1 << 16];
+  for (;;) {
+    const zip_int64_t letti = zip_fread(voce.get(), blocco, sizeof blocco);
+    if (letti < 0) return Errore(MotivoZip(zip_file_get_error(voce.get())));
+    if (letti == 0) break;
+    if (testo.size() + static_cast<size_t>(letti) > stato.size)
+      return Errore(fmt::format("{} contiene più dei {} byte dichiarati: lo zip è danneggiato", nome, stato.size));
+    testo.append(blocco, static_cast<size_t>(letti));
+  }
+  if (testo.size() != stato.size) {
+    return Errore(fmt::format("{} dichiara {} byte ma ne contiene solo {}: lo zip è danneggiato", nome, stato.size,
+                              testo.size()));
+  }
   return testo;
 }
 
 }  // namespace
 
 Esito<std::vector<Estrazione>> LeggiNuoveEstrazioni(const TabellaEstrazioni& archivio, std::string_view testo) {
-  auto giornate = LeggiGiornate(testo);
+  auto giornate = LeggiGiornate(testo, DataOdierna());
   if (!giornate) return giornate.Errore();
   auto estrazioni = UnisciEstrazioniSuDueGiorni(std::move(giornate).Valore());
   if (!estrazioni) return estrazioni.Errore();
@@ -297,18 +344,10 @@ Esito<std::vector<Estrazione>> LeggiNuoveEstrazioni(const TabellaEstrazioni& arc
 }
 
 Esito<std::vector<Estrazione>> LeggiNuoveEstrazioniDaFile(const TabellaEstrazioni& archivio, const fs::path& file) {
-  std::error_code ec;
-  if (!fs::is_regular_file(file, ec)) {
-    return AvvisoEsclamativo(fmt::format("Non esiste il file dei risultati \n{}", file.string()));
-  }
-  const uintmax_t lunghezza = fs::file_size(file, ec);
-  std::string contenuto(ec ? 0 : lunghezza, '\0');
-  std::ifstream in(file, std::ios::binary);
-  in.read(contenuto.data(), static_cast<std::streamsize>(contenuto.size()));
-  if (ec || !in) {
-    return AvvisoCritico("ImportaRisultati.LeggiNuoveEstrazioniDaFile", 75,
-                         fmt::format("Errore di accesso al file {}", file.string()));
-  }
+  auto letto = LeggiFileRegolare(file, kLimiteRisultati);
+  if (!letto) return letto.Errore();
+  if (!letto->has_value()) return AvvisoEsclamativo(fmt::format("Non esiste il file dei risultati \n{}", file.string()));
+  const std::string& contenuto = **letto;
   // A zip is known by its signature, not by its name: downloads are often saved under another one.
   if (contenuto.starts_with("PK\x03\x04") || contenuto.starts_with("PK\x05\x06")) {
     auto testo = TestoDaZip(contenuto, file);
@@ -319,30 +358,14 @@ Esito<std::vector<Estrazione>> LeggiNuoveEstrazioniDaFile(const TabellaEstrazion
 }
 
 Esito<int> ImportaRisultati(ClsEstrazioni& archivio_file, const fs::path& file) {
-  const fs::path& percorso = archivio_file.Archivio();
-  std::error_code ec;
-  const bool esisteva = fs::exists(percorso, ec);
-  TabellaEstrazioni tabella;
-  if (esisteva) {
-    auto caricata = archivio_file.CaricaEstrazioni();
-    if (!caricata) return caricata.Errore();
-    tabella = std::move(caricata).Valore();
-  }
-  auto nuove = LeggiNuoveEstrazioniDaFile(tabella, file);
+  // The lock is held from reading the archive to writing it: a second import waits, then sees the
+  // draws of the first as already archived.
+  auto scrittura = ScritturaArchivio::Apri(archivio_file.Archivio());
+  if (!scrittura) return scrittura.Errore();
+  auto nuove = LeggiNuoveEstrazioniDaFile(scrittura->Tabella(), file);
   if (!nuove) return nuove.Errore();
   if (nuove->empty()) return 0;
-
-  const uintmax_t lunghezza = esisteva ? fs::file_size(percorso, ec) : 0;
-  auto salvato = archivio_file.SalvaFileEstrazioni(*nuove);
-  if (!salvato) {
-    // A write that failed half-way is taken back, so that the archive holds all of the new draws
-    // or none.
-    if (esisteva)
-      fs::resize_file(percorso, lunghezza, ec);
-    else
-      fs::remove(percorso, ec);
-    return salvato.Errore();
-  }
+  if (auto scritto = scrittura->Accoda(*nuove); !scritto) return scritto.Errore();
   return static_cast<int>(nuove->size());
 }
 

@@ -28,8 +28,10 @@ Esito<std::vector<Estrazione>> LeggiNuoveEstrazioniDaFile(const TabellaEstrazion
                                                           const std::filesystem::path& file);
 
 // The whole user action: loads the archive (an absent archive file counts as empty), reads the new
-// draws of `file` and appends them. Returns how many were added; on any failure the archive file is
-// left exactly as it was.
+// draws of `file` and appends them, all under the writers' lock so that a second import at the same
+// time waits and then finds them archived. Returns how many were added; on any failure, a kill
+// included, the archive file is left exactly as it was. An archive whose length is not a whole
+// number of records is refused.
 Esito<int> ImportaRisultati(ClsEstrazioni& archivio_file, const std::filesystem::path& file);
 
 }  // namespace lottolab

@@ -14,7 +14,8 @@ constexpr std::string_view kUso =
     "comandi:\n"
     "  importa FILE              aggiunge all'archivio le estrazioni nuove di un file di risultati (testo o zip)\n"
     "  aggiorna                  scarica i risultati pubblicati e li importa\n"
-    "  info                      numero di estrazioni, prima e ultima data\n"
+    "  info                      numero di estrazioni, prima e ultima data; controlla l'archivio\n"
+    "  ripara                    toglie da un archivio l'estrazione incompleta in fondo, dopo averlo copiato\n"
     "  estrazione ID|GG/MM/AAAA  mostra un'estrazione\n"
     "  ritardo|frequenza|storico [--ruote BA,VE|TT] [--sorte N] [--posizioni 1,3] [--inizio X] [--fine X] N1 [N2 ...]\n"
     "  tabellone [--ruota VE] [--inizio X] [--fine X]\n"
@@ -53,6 +54,7 @@ int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err
   if (comando == "importa") return ComandoImporta(contesto, parole);
   if (comando == "aggiorna") return ComandoAggiorna(contesto, parole);
   if (comando == "info") return ComandoInfo(contesto, parole);
+  if (comando == "ripara") return ComandoRipara(contesto, parole);
   if (comando == "estrazione") return ComandoEstrazione(contesto, parole);
   if (comando == "ritardo") return ComandoStatistica(contesto, parole, Statistica::Ritardo);
   if (comando == "frequenza") return ComandoStatistica(contesto, parole, Statistica::Frequenza);

@@ -14,7 +14,10 @@ using Parole = std::vector<std::string>;
 
 int ComandoImporta(Contesto& contesto, const Parole& parole);
 int ComandoAggiorna(Contesto& contesto, const Parole& parole);
+// Prints the count and the dates of the draws; a damaged archive is told on stderr and fails it.
 int ComandoInfo(Contesto& contesto, const Parole& parole);
+// Cuts an archive's partial trailing record, after copying the archive beside it.
+int ComandoRipara(Contesto& contesto, const Parole& parole);
 int ComandoEstrazione(Contesto& contesto, const Parole& parole);
 
 enum class Statistica { Ritardo, Frequenza, Storico };

@@ -6,6 +6,7 @@
 #include "archive/ClsEstrazioni.h"
 #include "archive/DateEstrazione.h"
 #include "archive/ImportaRisultati.h"
+#include "archive/RiparaArchivio.h"
 #include "archive/ScaricaRisultati.h"
 
 namespace lottolab::cli {
@@ -30,7 +31,9 @@ int Importa(Contesto& contesto, const fs::path& file) {
 
 int ComandoImporta(Contesto& contesto, const Parole& parole) {
   if (parole.size() != 1) return contesto.Fallisci(UsoErrato("importa FILE"));
-  if (!fs::exists(parole[0])) return contesto.Fallisci(AvvisoEsclamativo(fmt::format("il file {} non esiste", parole[0])));
+  std::error_code ec;
+  if (!fs::exists(parole[0], ec) && !ec)
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("il file {} non esiste", parole[0])));
   return Importa(contesto, parole[0]);
 }
 
@@ -47,12 +50,24 @@ int ComandoAggiorna(Contesto& contesto, const Parole& parole) {
 
 int ComandoInfo(Contesto& contesto, const Parole& parole) {
   if (!parole.empty()) return contesto.Fallisci(UsoErrato("info"));
-  auto tabella = contesto.CaricaTabella();
-  if (!tabella) return contesto.Fallisci(tabella.Errore());
-  int n = tabella->EstrazioniArchivio();
+  auto caricate = contesto.CaricaTabellaControllata();
+  if (!caricate) return contesto.Fallisci(caricate.Errore());
+  const TabellaEstrazioni& tabella = caricate->tabella;
+  int n = tabella.EstrazioniArchivio();
   fmt::print(contesto.out, "estrazioni: {}\n", n);
-  fmt::print(contesto.out, "prima: {}\n", n ? FormattaData((*tabella)[1].data) : "-");
-  fmt::print(contesto.out, "ultima: {}\n", n ? FormattaData((*tabella)[n].data) : "-");
+  fmt::print(contesto.out, "prima: {}\n", n ? FormattaData(tabella[1].data) : "-");
+  fmt::print(contesto.out, "ultima: {}\n", n ? FormattaData(tabella[n].data) : "-");
+  // info is how a user or a script checks an archive: a damaged one fails it.
+  const std::vector<std::string> avvisi = caricate->rapporto.Avvisi();
+  for (const std::string& avviso : avvisi) contesto.segnalatore.Avverti(avviso);
+  return avvisi.empty() ? kUscitaRiuscita : kUscitaErrore;
+}
+
+int ComandoRipara(Contesto& contesto, const Parole& parole) {
+  if (!parole.empty()) return contesto.Fallisci(UsoErrato("ripara"));
+  auto riparazione = RiparaArchivio(contesto.archivio);
+  if (!riparazione) return contesto.Fallisci(riparazione.Errore());
+  fmt::print(contesto.out, "{}\n", DescriviRiparazione(contesto.archivio, *riparazione));
   return kUscitaRiuscita;
 }
 

@@ -8,6 +8,7 @@
 
 #include "app/Configurazione.h"
 #include "app/Segnalatore.h"
+#include "archive/ClsEstrazioni.h"
 #include "archive/TabellaEstrazioni.h"
 
 namespace lottolab::cli {
@@ -21,6 +22,8 @@ class SegnalatoreTerminale : public app::Segnalatore {
   explicit SegnalatoreTerminale(std::ostream& err) : m_err(err) {}
   // Prints the message on one line; a critical one is prefixed by the procedure's name.
   void Mostra(const Avviso& avviso) override;
+  // Prints a warning on one line; the exit status stays as it is.
+  void Avverti(const std::string& testo);
   int CodiceUscita() const { return m_codice; }
 
  private:
@@ -36,8 +39,11 @@ struct Contesto {
 
   // Shows the failure and gives the exit status that goes with it.
   int Fallisci(const Avviso& avviso);
-  // The whole archive; a missing file is a failure.
+  // The whole archive; a missing file is a failure. What the check of the archive found is printed
+  // on stderr, and the command goes on.
   Esito<TabellaEstrazioni> CaricaTabella() const;
+  // The whole archive with the check's report; nothing is printed.
+  Esito<EstrazioniCaricate> CaricaTabellaControllata() const;
   // The same, refused when it holds no draw.
   Esito<TabellaEstrazioni> CaricaTabellaNonVuota() const;
 };

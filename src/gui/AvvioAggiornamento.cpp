@@ -12,6 +12,7 @@
 
 #include "AggiornamentoArchivio.h"
 #include "SegnalatoreGui.h"
+#include "archive/Estrazione.h"
 
 namespace lottolab::gui {
 
@@ -64,6 +65,11 @@ void MostraEsito(ContestoGui& contesto, QWidget* finestra, const Esito<int>& esi
     Avviso avviso = esito.Errore();
     if (avviso.titolo.empty()) avviso.titolo = kTitolo.toStdString();
     segnalatore.Mostra(avviso);
+    // An archive refused for a partial record at its end is reloaded: the main window then offers
+    // its repair, as it does when it opens one.
+    std::error_code ec;
+    const uintmax_t lunghezza = std::filesystem::file_size(contesto.Configurazione().ArchivioLotto(), ec);
+    if (!ec && lunghezza % kByteRecordArchivio != 0) (void)contesto.RicaricaArchivio();
     return;
   }
   // The file grew even if the reload fails, so both outcomes are told.

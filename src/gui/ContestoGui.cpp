@@ -14,9 +14,20 @@ void ContestoGui::ImpostaConfigurazione(app::Configurazione configurazione) {
 }
 
 Esito<Fatto> ContestoGui::RicaricaArchivio() {
-  auto tabella = ClsEstrazioni(m_configurazione.ArchivioLotto()).CaricaEstrazioni();
-  if (!tabella) return tabella.Errore();
-  m_archivio = std::make_shared<const TabellaEstrazioni>(std::move(tabella).Valore());
+  auto caricate = ClsEstrazioni(m_configurazione.ArchivioLotto()).CaricaEControlla();
+  if (!caricate) {
+    m_archivio = std::make_shared<const TabellaEstrazioni>();
+    m_rapporto = RapportoArchivio{};
+    // A missing file is a new installation's empty archive, not a failure to show.
+    std::error_code ec;
+    const bool esiste = std::filesystem::exists(m_configurazione.ArchivioLotto(), ec) || ec;
+    m_errore_caricamento = esiste ? caricate.Errore().testo : std::string();
+    emit ArchivioCambiato();
+    return caricate.Errore();
+  }
+  m_archivio = std::make_shared<const TabellaEstrazioni>(std::move(caricate->tabella));
+  m_rapporto = std::move(caricate->rapporto);
+  m_errore_caricamento.clear();
   emit ArchivioCambiato();
   return Fatto{};
 }

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "app/Configurazione.h"
+#include "archive/ControlloArchivio.h"
 #include "archive/Esito.h"
 #include "archive/TabellaEstrazioni.h"
 
@@ -25,7 +26,13 @@ class ContestoGui : public QObject {
 
   // The archive as last loaded: an empty table when the file could not be read.
   std::shared_ptr<const TabellaEstrazioni> Archivio() const { return m_archivio; }
-  // Reads the archive file of the configuration again; on success every window is told.
+  // What the check of the archive found when it was last loaded.
+  const RapportoArchivio& Rapporto() const { return m_rapporto; }
+  // Why the archive could not be loaded the last time; empty when it was.
+  const std::string& ErroreCaricamento() const { return m_errore_caricamento; }
+  // Reads the archive file of the configuration again and tells every window. When it cannot be
+  // read, the table becomes empty, so that no window shows the draws of another archive than the
+  // one the settings name.
   Esito<Fatto> RicaricaArchivio();
 
  signals:
@@ -34,6 +41,8 @@ class ContestoGui : public QObject {
  private:
   app::Configurazione m_configurazione;
   std::shared_ptr<const TabellaEstrazioni> m_archivio;
+  RapportoArchivio m_rapporto;
+  std::string m_errore_caricamento;
 };
 
 }  // namespace lottolab::gui

@@ -11,9 +11,11 @@
 #include <QPixmap>
 #include <QPushButton>
 
+#include <fmt/format.h>
+
 #include "Impostazioni.h"
-#include "SegnalatoreGui.h"
 #include "app/Percorsi.h"
+#include "archive/ClsEstrazioni.h"
 
 namespace lottolab::gui {
 
@@ -36,7 +38,8 @@ DialogoImpostazioni::DialogoImpostazioni(ContestoGui& contesto, QWidget* parent)
       m_archivio(new QLineEdit),
       m_cartella_script(new QLineEdit),
       m_pulsante_colore(new QPushButton),
-      m_mantieni_pagina(new QCheckBox(QStringLiteral("Mantieni la pagina HTML precedente all'avvio di uno script"))) {
+      m_mantieni_pagina(new QCheckBox(QStringLiteral("Mantieni la pagina HTML precedente all'avvio di uno script"))),
+      m_interlocutore(std::make_unique<InterlocutoreGui>(this)) {
   setWindowTitle(QStringLiteral("Impostazioni"));
   const ImpostazioniGenerali impostazioni = LeggiImpostazioni(contesto.Configurazione().ini);
 
@@ -90,17 +93,39 @@ void DialogoImpostazioni::accept() {
 
   app::FileIni ini = m_contesto.Configurazione().ini;
   ScriviImpostazioni(ini, impostazioni);
-  SegnalatoreGui segnalatore(this);
+  if (!ArchivioAccettabile(app::Configurazione{m_contesto.Configurazione().base, ini})) return;
   if (auto salvato = SalvaConfigurazione(m_contesto, std::move(ini)); !salvato) {
-    segnalatore.Mostra(salvato.Errore());
+    m_interlocutore->Mostra(salvato.Errore());
     return;
   }
-  if (auto ricaricato = m_contesto.RicaricaArchivio(); !ricaricato) {
+  // A missing archive the user accepted loads as empty, which the status bar says: no message.
+  std::error_code ec;
+  const bool esiste = std::filesystem::exists(m_contesto.Configurazione().ArchivioLotto(), ec);
+  if (auto ricaricato = m_contesto.RicaricaArchivio(); !ricaricato && esiste) {
     Avviso avviso = ricaricato.Errore();
     avviso.testo = "Impostazioni salvate, ma l'archivio non si può caricare.\n\n" + avviso.testo;
-    segnalatore.Mostra(avviso);
+    m_interlocutore->Mostra(avviso);
   }
   QDialog::accept();
+}
+
+bool DialogoImpostazioni::ArchivioAccettabile(const app::Configurazione& configurazione) {
+  const std::filesystem::path nuovo = configurazione.ArchivioLotto();
+  if (nuovo == m_contesto.Configurazione().ArchivioLotto()) return true;
+  std::error_code ec;
+  if (!std::filesystem::exists(nuovo, ec) && !ec) {
+    return m_interlocutore->Chiedi(
+        "Impostazioni",
+        fmt::format("L'archivio {} non esiste.\n\nUsarlo comunque? Resterà vuoto finché non lo riempi con Archivio > "
+                    "Aggiorna archivio.",
+                    nuovo.string()));
+  }
+  auto caricato = ClsEstrazioni(nuovo).CaricaEstrazioni();
+  if (caricato) return true;
+  Avviso avviso = caricato.Errore();
+  avviso.testo = "L'archivio scelto non si può usare.\n\n" + avviso.testo;
+  m_interlocutore->Mostra(avviso);
+  return false;
 }
 
 void DialogoImpostazioni::ScegliArchivio() {

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QStatusBar>
 #include <QStyle>
+#include <QTimer>
 #include <QToolBar>
 
 #include "AvvioAggiornamento.h"
@@ -18,19 +19,10 @@
 #include "Impostazioni.h"
 #include "ScriptRecenti.h"
 #include "SegnalatoreGui.h"
-#include "archive/DateEstrazione.h"
 
 namespace lottolab::gui {
 
 namespace {
-
-QString TestoStatoArchivio(const TabellaEstrazioni& archivio) {
-  const int estrazioni = archivio.EstrazioniArchivio();
-  if (estrazioni == 0) return QStringLiteral("Archivio vuoto: per riempirlo usa Archivio > Aggiorna archivio");
-  return QStringLiteral("Archivio: %1 estrazioni, l'ultima del %2")
-      .arg(estrazioni)
-      .arg(QString::fromStdString(FormattaData(archivio[estrazioni].data)));
-}
 
 QString Percorso(const std::filesystem::path& percorso) { return QString::fromStdString(percorso.string()); }
 
@@ -43,7 +35,11 @@ constexpr QStyle::StandardPixmap kIconaStrutture = QStyle::SP_FileDialogContents
 }  // namespace
 
 FinestraPrincipale::FinestraPrincipale(ContestoGui& contesto, QWidget* parent)
-    : QMainWindow(parent), m_contesto(contesto), m_area(new QMdiArea), m_stato_archivio(new QLabel) {
+    : QMainWindow(parent),
+      m_contesto(contesto),
+      m_area(new QMdiArea),
+      m_stato_archivio(new QLabel),
+      m_interlocutore(std::make_unique<InterlocutoreGui>(this)) {
   // Qt's default hides the scroll bars, which makes the area as large as its largest window and
   // pushes the main window past the screen; scrolling keeps the main window's size the user's.
   m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -52,8 +48,10 @@ FinestraPrincipale::FinestraPrincipale(ContestoGui& contesto, QWidget* parent)
   m_stato_archivio->setObjectName(QStringLiteral("statoArchivio"));
   statusBar()->addPermanentWidget(m_stato_archivio);
   CreaMenu();
-  connect(&m_contesto, &ContestoGui::ArchivioCambiato, this, &FinestraPrincipale::MostraArchivio);
+  connect(&m_contesto, &ContestoGui::ArchivioCambiato, this, &FinestraPrincipale::ArchivioRicaricato);
   MostraArchivio();
+  // The archive loaded before the window existed is told about once the window is on screen.
+  QTimer::singleShot(0, this, [this] { AvvisaArchivioCaricato(m_contesto, *m_interlocutore); });
 }
 
 void FinestraPrincipale::CreaMenu() {
@@ -172,7 +170,12 @@ void FinestraPrincipale::MostraInformazioni() {
 
 void FinestraPrincipale::MostraArchivio() {
   setWindowTitle(QStringLiteral("lottolab - %1").arg(Percorso(m_contesto.Configurazione().ArchivioLotto().filename())));
-  m_stato_archivio->setText(TestoStatoArchivio(*m_contesto.Archivio()));
+  m_stato_archivio->setText(QString::fromStdString(TestoStatoArchivio(m_contesto)));
+}
+
+void FinestraPrincipale::ArchivioRicaricato() {
+  MostraArchivio();
+  AvvisaArchivioCaricato(m_contesto, *m_interlocutore);
 }
 
 void FinestraPrincipale::CompilaScriptRecenti() {

@@ -6,6 +6,9 @@
 #include <QMainWindow>
 #include <QStyle>
 
+#include <memory>
+
+#include "AvvisiArchivio.h"
 #include "ContestoGui.h"
 
 class QLabel;
@@ -26,6 +29,9 @@ class FinestraPrincipale : public QMainWindow {
   void ApriScript(const QString& file);
   // Opens the structure in a new structure editor.
   void ApriStruttura(const QString& file);
+  // Who tells the user about a damaged archive and asks about its repair; message boxes unless
+  // replaced (tests answer without a window).
+  void ImpostaInterlocutore(std::unique_ptr<Interlocutore> interlocutore) { m_interlocutore = std::move(interlocutore); }
 
  private:
   void CreaMenu();
@@ -36,6 +42,7 @@ class FinestraPrincipale : public QMainWindow {
   void ApriImpostazioni();
   void MostraInformazioni();
   void MostraArchivio();
+  void ArchivioRicaricato();
   void CompilaScriptRecenti();
   void CompilaFinestre();
 
@@ -44,6 +51,7 @@ class FinestraPrincipale : public QMainWindow {
   QLabel* m_stato_archivio;
   QMenu* m_script_recenti = nullptr;
   QMenu* m_finestre = nullptr;
+  std::unique_ptr<Interlocutore> m_interlocutore;
 };
 
 }  // namespace lottolab::gui

@@ -1,7 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "TempDir.h"
 #include "archive/ClsEstrazioni.h"
+#include "archive/ImportaRisultati.h"
 
 namespace lottolab {
 namespace {
@@ -10,12 +15,13 @@ using test::CartellaTemporanea;
 using test::LeggiByte;
 using test::ScriviByte;
 
+// Draw `id` of 12/03/2024, Bari from `bari_primo` on (no Bari when 0), Nazionale 86..90.
 Estrazione Draw(int id, int bari_primo) {
   Estrazione e;
   e.id_estr = id;
   e.data = {static_cast<int16_t>(id), 12, 3, 2024};
-  e.ImpostaNumero(BA, 1, bari_primo);
-  e.ImpostaNumero(NZ, 5, 90);
+  for (int p = 1; p <= kNumeriPerRuota && bari_primo != 0; ++p) e.ImpostaNumero(BA, p, (bari_primo + p - 2) % 90 + 1);
+  for (int p = 1; p <= kNumeriPerRuota; ++p) e.ImpostaNumero(NZ, p, 85 + p);
   return e;
 }
 
@@ -53,7 +59,7 @@ TEST(GetNumeroEstrazioni, QuozienteArrotondatoDellaLunghezza) {
   }
 }
 
-TEST(CaricaEstrazioni, LeggeTuttoERecordTroncatoComeZeri) {
+TEST(CaricaEstrazioni, LeggeTuttoERecordTroncatoComeZeriConUnAvviso) {
   CartellaTemporanea cartella;
   ClsEstrazioni archivio(cartella / "BaseDati.dat");
 
@@ -76,6 +82,12 @@ TEST(CaricaEstrazioni, LeggeTuttoERecordTroncatoComeZeri) {
   EXPECT_EQ(tabella->Tutte()[1], Draw(2, 22));
   EXPECT_EQ((*tabella)[3].Numero(BA, 1), 33);
   EXPECT_EQ((*tabella)[3].Numero(NZ, 5), 0);
+
+  auto caricate = archivio.CaricaEControlla();
+  ASSERT_TRUE(caricate);
+  EXPECT_EQ(caricate->rapporto.byte_sparsi, 40);
+  EXPECT_EQ(caricate->rapporto.record_non_validi, 0) << "the partial record is told by the stray bytes alone";
+  EXPECT_EQ(caricate->rapporto.Avvisi().size(), 1u);
 }
 
 TEST(LeggiEstrazione, LasciaIntattoIlRecordFuoriDalFile) {
@@ -131,6 +143,86 @@ TEST(SalvaFileEstrazioni, AccodaSoloIRecordConUnaEstrazione) {
   ASSERT_EQ(tabella->EstrazioniArchivio(), 3);
   EXPECT_EQ((*tabella)[1], Draw(1, 11));
   EXPECT_EQ((*tabella)[3], Draw(3, 33));
+}
+
+TEST(Scritture, RifiutanoUnArchivioDallaLunghezzaNonIntera) {
+  CartellaTemporanea cartella;
+  ClsEstrazioni archivio(cartella / "BaseDati.dat");
+  ASSERT_TRUE(archivio.SalvaFileEstrazioni({Draw(1, 11), Draw(2, 22)}));
+  auto byte = LeggiByte(archivio.Archivio());
+  byte.resize(byte.size() - 40);
+  ScriviByte(archivio.Archivio(), byte);
+  std::ofstream(cartella / "risultati.txt") << "2024/03/13\tBA\t1\t2\t3\t4\t5\n";
+
+  const std::string atteso = "L'archivio " + archivio.Archivio().string() +
+                             " ha 27 byte oltre l'ultima estrazione intera (la sua lunghezza non è un multiplo di 67): "
+                             "non vi si aggiunge nulla, perché ogni estrazione aggiunta sarebbe letta spostata. Per "
+                             "ripararlo: lottolab ripara, che ne fa prima una copia e poi toglie l'estrazione incompleta.";
+  auto salvato = archivio.SalvaFileEstrazioni({Draw(2, 33)});
+  ASSERT_FALSE(salvato);
+  EXPECT_EQ(salvato.Errore().testo, atteso);
+  auto scritto = archivio.ScriviEstrazione(Draw(1, 44), 1);
+  ASSERT_FALSE(scritto);
+  EXPECT_EQ(scritto.Errore().testo, atteso);
+  auto importato = ImportaRisultati(archivio, cartella / "risultati.txt");
+  ASSERT_FALSE(importato);
+  EXPECT_EQ(importato.Errore().testo, atteso);
+  EXPECT_EQ(LeggiByte(archivio.Archivio()), byte);
+}
+
+TEST(Scritture, TengonoIPermessiERifiutanoUnArchivioDiSolaLettura) {
+  CartellaTemporanea cartella;
+  ClsEstrazioni archivio(cartella / "BaseDati.dat");
+  ASSERT_TRUE(archivio.SalvaFileEstrazioni({Draw(1, 11)}));
+  ASSERT_EQ(chmod(archivio.Archivio().c_str(), 0640), 0);
+  ASSERT_TRUE(archivio.ScriviEstrazione(Draw(2, 22), 2));
+  struct stat stato {};
+  ASSERT_EQ(stat(archivio.Archivio().c_str(), &stato), 0);
+  EXPECT_EQ(stato.st_mode & 0777, 0640u);
+
+  if (geteuid() == 0) GTEST_SKIP() << "root may write a read-only file";
+  ASSERT_EQ(chmod(archivio.Archivio().c_str(), 0440), 0);
+  auto scritto = archivio.ScriviEstrazione(Draw(3, 33), 3);
+  ASSERT_FALSE(scritto);
+  EXPECT_EQ(scritto.Errore().testo, "L'archivio " + archivio.Archivio().string() + " è di sola lettura: non vi si può scrivere.");
+}
+
+// Paths that are not regular files, given as the archive or as the results file: every entry point
+// answers with a message, at once.
+TEST(PercorsiCheNonSonoFile, DannoUnMessaggioSenzaBloccarsi) {
+  CartellaTemporanea cartella;
+  const auto fifo = cartella / "fifo";
+  ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+  std::ofstream(cartella / "risultati.txt") << "2024/03/13\tBA\t1\t2\t3\t4\t5\n";
+  struct Caso {
+    std::filesystem::path percorso;
+    std::string tipo;
+  };
+  for (const Caso& caso : {Caso{cartella.Percorso(), "è una cartella"}, Caso{"/dev/zero", "è un dispositivo"},
+                           Caso{fifo, "è una FIFO (pipe con nome)"}}) {
+    const std::string atteso = caso.percorso.string() + " " + caso.tipo + ": serve un file ordinario";
+    ClsEstrazioni archivio(caso.percorso);
+    auto caricato = archivio.CaricaEstrazioni();
+    ASSERT_FALSE(caricato);
+    EXPECT_EQ(caricato.Errore().testo, atteso);
+    auto importato = ImportaRisultati(archivio, cartella / "risultati.txt");
+    ASSERT_FALSE(importato);
+    EXPECT_EQ(importato.Errore().testo, atteso);
+    EXPECT_FALSE(archivio.GetNumeroEstrazioni());
+    Estrazione record;
+    EXPECT_FALSE(archivio.LeggiEstrazione(1, record));
+
+    ClsEstrazioni vero(cartella / "BaseDati.dat");
+    auto risultati = ImportaRisultati(vero, caso.percorso);
+    ASSERT_FALSE(risultati);
+    EXPECT_EQ(risultati.Errore().testo, atteso);
+  }
+
+  ClsEstrazioni lunghissimo(cartella / std::string(5000, 'a'));
+  auto caricato = lunghissimo.CaricaEstrazioni();
+  ASSERT_FALSE(caricato);
+  EXPECT_TRUE(caricato.Errore().testo.ends_with("nome del file troppo lungo")) << caricato.Errore().testo;
+  EXPECT_FALSE(ImportaRisultati(lunghissimo, cartella / "risultati.txt"));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <ctime>
 #include <fmt/format.h>
 #include <fstream>
 #include <iterator>
@@ -184,6 +185,8 @@ INSTANTIATE_TEST_SUITE_P(
                    "Riga 3: data \"2024/13/02\" non valida, atteso il formato AAAA/MM/GG"},
         CasoErrore{"VentinoveFebbraioNonBisestile", BUONA "2023/02/29\tCA\t1\t2\t3\t4\t5\n",
                    "Riga 3: data \"2023/02/29\" non valida, atteso il formato AAAA/MM/GG"},
+        CasoErrore{"PrimaDel1871", "1870/12/31\tBA\t1\t2\t3\t4\t5\n",
+                   "Riga 1: la data 1870/12/31 è anteriore al 1871, anno della prima estrazione"},
         CasoErrore{"DataGiornoMeseAnno", "02/01/2024\tBA\t1\t2\t3\t4\t5\n",
                    "Riga 1: data \"02/01/2024\" non valida, atteso il formato AAAA/MM/GG"},
         CasoErrore{"RuotaSconosciuta", BUONA "2024/01/02\tXX\t1\t2\t3\t4\t5\n", "Riga 3: ruota \"XX\" sconosciuta"},
@@ -218,6 +221,25 @@ INSTANTIATE_TEST_SUITE_P(
                    "dopo, è priva delle sue ruote per accoglierle"}),
     [](const testing::TestParamInfo<CasoErrore>& info) { return info.param.nome; });
 #undef BUONA
+
+// The date `giorni` days after today, as the operator writes it.
+std::string DataRisultati(int giorni) {
+  const std::time_t quando = std::time(nullptr) + giorni * 86400;
+  std::tm locale{};
+  localtime_r(&quando, &locale);
+  return fmt::format("{:04}/{:02}/{:02}", locale.tm_year + 1900, locale.tm_mon + 1, locale.tm_mday);
+}
+
+TEST(LeggiNuoveEstrazioni, RefusesDatesPastTomorrow) {
+  const std::string oggi = FormattaData(DataOdierna());
+  EXPECT_EQ(Leggi(DataRisultati(1) + "\tBA\t1\t2\t3\t4\t5\n").size(), 1u) << "a late-evening file may carry tomorrow";
+  EXPECT_EQ(Errore(DataRisultati(0) + "\tBA\t1\t2\t3\t4\t5\n" + DataRisultati(2) + "\tBA\t1\t2\t3\t4\t5\n"),
+            "Riga 2: la data " + DataRisultati(2) + " è nel futuro, oltre domani (oggi è il " + oggi +
+                "): il file dei risultati non è attendibile");
+  EXPECT_EQ(Errore("9999/12/31\tBA\t1\t2\t3\t4\t5\n"),
+            "Riga 1: la data 9999/12/31 è nel futuro, oltre domani (oggi è il " + oggi +
+                "): il file dei risultati non è attendibile");
+}
 
 TEST(LeggiNuoveEstrazioni, KeepsOnlyWhatTheArchiveLacksAndRefusesContradictions) {
   constexpr std::string_view kArchiviate =
@@ -333,6 +355,72 @@ TEST_F(ImportaRisultatiSuFile, ReadsTheTextInsideAZip) {
   estrazioni = LeggiNuoveEstrazioniDaFile(vuoto, zip);
   ASSERT_FALSE(estrazioni);
   EXPECT_TRUE(estrazioni.Errore().testo.starts_with("Impossibile leggere l'archivio zip")) << estrazioni.Errore().testo;
+}
+
+uint32_t Crc32(std::string_view dati) {
+  uint32_t crc = 0xFFFFFFFFu;
+  for (unsigned char c : dati) {
+    crc ^= c;
+    for (int i = 0; i < 8; ++i) crc = (crc >> 1) ^ (0xEDB88320u & (0u - (crc & 1u)));
+  }
+  return ~crc;
+}
+
+// A zip of one stored entry written byte by byte, so that its headers can claim sizes that its data
+// does not have: `dichiarata` in both headers, `compressa` as the stored length.
+std::string ZipAMano(std::string_view nome, std::string_view dati, uint32_t dichiarata, uint32_t compressa) {
+  std::string zip;
+  auto U16 = [&](uint32_t v) { zip += static_cast<char>(v & 0xFF), zip += static_cast<char>((v >> 8) & 0xFF); };
+  auto U32 = [&](uint32_t v) { U16(v & 0xFFFF), U16(v >> 16); };
+  const uint32_t crc = Crc32(dati);
+  auto Comune = [&] {
+    U16(20), U16(0), U16(0), U16(0), U16(0);  // version, flags, stored, time, date
+    U32(crc), U32(compressa), U32(dichiarata), U16(static_cast<uint32_t>(nome.size())), U16(0);
+  };
+  U32(0x04034b50);
+  Comune();
+  zip += nome;
+  zip += dati;
+  const uint32_t directory = static_cast<uint32_t>(zip.size());
+  U32(0x02014b50), U16(20);
+  Comune();
+  U16(0), U16(0), U16(0), U32(0), U32(0);  // comment, disk, attributes, offset of the local header
+  zip += nome;
+  const uint32_t lunghezza_directory = static_cast<uint32_t>(zip.size()) - directory;
+  U32(0x06054b50), U16(0), U16(0), U16(1), U16(1), U32(lunghezza_directory), U32(directory), U16(0);
+  return zip;
+}
+
+TEST_F(ImportaRisultatiSuFile, RefusesZipsThatLieAboutTheirSizes) {
+  const TabellaEstrazioni vuoto;
+  const fs::path zip = m_cartella / "risultati.zip";
+  const std::string riga = "2024/01/02\tBA\t1\t2\t3\t4\t5\n";
+  const std::string prefisso = fmt::format("Impossibile leggere l'archivio zip {}: ", zip.string());
+
+  ScriviFile(zip, ZipAMano("lotto.txt", riga, static_cast<uint32_t>(riga.size()), static_cast<uint32_t>(riga.size())));
+  auto esito = LeggiNuoveEstrazioniDaFile(vuoto, zip);
+  ASSERT_TRUE(esito) << "the hand-made zip itself is sound: " << esito.Errore().testo;
+  EXPECT_EQ(esito->size(), 1u);
+
+  // Sizes far past the limit are refused before a byte is read; others when the data turn out
+  // longer or shorter than claimed.
+  struct Caso {
+    uint32_t dichiarata, compressa;
+    std::string messaggio;
+  };
+  for (const Caso& caso : {
+           Caso{0xFFFFFFF0u, static_cast<uint32_t>(riga.size()),
+                "lotto.txt dichiara 4294967280 byte, più del massimo di 64 MB per un file dei risultati"},
+           Caso{100u << 20, static_cast<uint32_t>(riga.size()),
+                "lotto.txt dichiara 104857600 byte, più del massimo di 64 MB per un file dei risultati"},
+           Caso{1000, static_cast<uint32_t>(riga.size()), "l'archivio zip è incoerente (danneggiato o costruito male)"},
+           Caso{10, static_cast<uint32_t>(riga.size()), "lotto.txt contiene più dei 10 byte dichiarati: lo zip è danneggiato"},
+       }) {
+    ScriviFile(zip, ZipAMano("lotto.txt", riga, caso.dichiarata, caso.compressa));
+    esito = LeggiNuoveEstrazioniDaFile(vuoto, zip);
+    ASSERT_FALSE(esito) << caso.dichiarata;
+    EXPECT_EQ(esito.Errore().testo, prefisso + caso.messaggio);
+  }
 }
 
 class ImportaRisultatiDatiReali : public ImportaRisultatiSuFile {

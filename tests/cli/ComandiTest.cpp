@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <sstream>
+#include <sys/stat.h>
 
 #include "DatiReali.h"
 #include "LottolabDiProva.h"
@@ -120,6 +121,60 @@ TEST_F(RigaDiComando, ArchivioRealeFattiNoti) {
   EXPECT_EQ(Esegui({"ritardo", "--ruote", "VE", "--fine", "09/02/2005", "53"}).out, "0\n");
   EXPECT_EQ(Esegui({"storico", "--ruote", "VE", "53"}).out, "182\n");
   EXPECT_EQ(Esegui({"ritardo", "--ruote", "NZ", "--fine", "04/05/2005", "--inizio", "1", "1"}).out, "1\n");
+}
+
+TEST_F(RigaDiComando, UnArchivioGuastoSiDiceERipara) {
+  ASSERT_EQ(Esegui({"importa", ScriviRisultati("risultati.txt", kRisultati)}).codice, 0);
+  std::ofstream(Archivio(), std::ios::app | std::ios::binary) << std::string(34, '\x07');
+  const std::string avviso = "lottolab: attenzione: L'archivio " + Archivio() + " ha 34 byte oltre l'ultima estrazione intera";
+
+  auto info = Esegui({"info"});
+  EXPECT_EQ(info.codice, 1);
+  // The stray bytes still count as a draw, as the length rule says; the warning is what tells.
+  EXPECT_EQ(info.out, "estrazioni: 4\nprima: 30/04/2005\nultima: 1799/1799/1799\n");
+  EXPECT_TRUE(info.err.starts_with(avviso)) << info.err;
+  EXPECT_EQ(std::count(info.err.begin(), info.err.end(), '\n'), 1);
+
+  auto ritardo = Esegui({"ritardo", "--ruote", "VE", "7"});
+  EXPECT_EQ(ritardo.codice, 0) << "other commands warn and go on";
+  EXPECT_EQ(ritardo.out, "1\n");
+  EXPECT_TRUE(ritardo.err.starts_with(avviso)) << ritardo.err;
+
+  auto importa = Esegui({"importa", ScriviRisultati("altri.txt", kRisultati)});
+  EXPECT_EQ(importa.codice, 2);
+  EXPECT_NE(importa.err.find("non vi si aggiunge nulla"), std::string::npos) << importa.err;
+
+  auto ripara = Esegui({"ripara"});
+  EXPECT_EQ(ripara.codice, 0) << ripara.err;
+  EXPECT_TRUE(ripara.out.starts_with("Archivio " + Archivio() + " riparato: tolti 34 byte")) << ripara.out;
+  info = Esegui({"info"});
+  EXPECT_EQ(info.codice, 0);
+  EXPECT_EQ(info.out, "estrazioni: 3\nprima: 30/04/2005\nultima: 04/05/2005\n");
+  EXPECT_EQ(info.err, "");
+  EXPECT_EQ(Esegui({"ripara"}).out, "L'archivio " + Archivio() + " è già fatto di estrazioni intere (3): nessuna "
+                                    "riparazione necessaria.\n");
+}
+
+TEST_F(RigaDiComando, PercorsiCheNonSonoFileDannoUnaRiga) {
+  const auto fifo = (m_base / "fifo").string();
+  ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+  const auto risultati = ScriviRisultati("risultati.txt", kRisultati);
+  const std::string lungo = (m_base / std::string(5000, 'x')).string();
+  for (const std::string& percorso : {m_base.Percorso().string(), std::string("/dev/zero"), fifo, lungo}) {
+    for (const std::vector<std::string>& parole :
+         {std::vector<std::string>{"--archivio", percorso, "info"}, {"--archivio", percorso, "importa", risultati},
+          {"--archivio", percorso, "ripara"}, {"importa", percorso}}) {
+      auto uscita = Lottolab(parole);
+      EXPECT_NE(uscita.codice, 0) << percorso.substr(0, 60) << " " << parole[parole.size() - 1];
+      EXPECT_EQ(std::count(uscita.err.begin(), uscita.err.end(), '\n'), 1) << uscita.err;
+    }
+  }
+}
+
+TEST_F(RigaDiComando, ImportaRifiutaLeDateOltreDomani) {
+  auto uscita = Esegui({"importa", ScriviRisultati("futuro.txt", "9999/12/31\tBA\t1\t2\t3\t4\t5\n")});
+  EXPECT_EQ(uscita.codice, 2);
+  EXPECT_TRUE(uscita.err.starts_with("lottolab: Riga 1: la data 9999/12/31 è nel futuro, oltre domani")) << uscita.err;
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <deque>
 #include <fstream>
 #include <memory>
 
@@ -23,6 +24,21 @@ namespace lottolab::gui {
 namespace {
 
 using test::BaseTemporanea;
+
+// Answers the questions from a list and keeps every message and question it was given.
+struct InterlocutoreDiProva : Interlocutore {
+  void Mostra(const Avviso& avviso) override { messaggi->push_back(avviso.testo); }
+  bool Chiedi(const std::string&, const std::string& domanda) override {
+    domande->push_back(domanda);
+    if (risposte->empty()) qFatal("unexpected question: %s", domanda.c_str());
+    bool risposta = risposte->front();
+    risposte->pop_front();
+    return risposta;
+  }
+  std::shared_ptr<std::vector<std::string>> messaggi = std::make_shared<std::vector<std::string>>();
+  std::shared_ptr<std::vector<std::string>> domande = std::make_shared<std::vector<std::string>>();
+  std::shared_ptr<std::deque<bool>> risposte = std::make_shared<std::deque<bool>>();
+};
 
 // Two draws, then a third that a later update brings.
 constexpr const char* kDueEstrazioni =
@@ -168,6 +184,91 @@ class FinestraPrincipaleTest : public QObject {
     QCOMPARE(cambiato.count(), 1);
     QCOMPARE(contesto->Archivio()->EstrazioniArchivio(), 3);
     QCOMPARE(CartellaScript(contesto->Configurazione()), *m_cartella / "MieiScript");
+  }
+
+  void UnArchivioGuastoSiDiceESiRipara() {
+    Importa("BaseDati.dat", kDueEstrazioni);
+    const auto archivio = *m_cartella / "BaseDati.dat";
+    std::ofstream(archivio, std::ios::app | std::ios::binary) << std::string(34, '\x07');
+    auto contesto = Contesto();
+    FinestraPrincipale finestra(*contesto);
+    InterlocutoreDiProva prova;
+    finestra.ImpostaInterlocutore(std::make_unique<InterlocutoreDiProva>(prova));
+    auto* stato = finestra.findChild<QLabel*>("statoArchivio");
+
+    prova.risposte->push_back(false);
+    QVERIFY(contesto->RicaricaArchivio().Riuscito());
+    QCOMPARE(stato->text(), QString("Archivio: 3 estrazioni, l'ultima del 1799/1799/1799 - ATTENZIONE: 34 byte oltre "
+                                    "l'ultima estrazione intera"));
+    QCOMPARE(prova.domande->size(), size_t{1});
+    QVERIFY(prova.domande->front().find("34 byte oltre") != std::string::npos);
+    QVERIFY(prova.domande->front().find("Riparare l'archivio ora?") != std::string::npos);
+    QCOMPARE(std::filesystem::file_size(archivio), uintmax_t{2 * 67 + 34});
+
+    prova.risposte->push_back(true);
+    QVERIFY(contesto->RicaricaArchivio().Riuscito());
+    QCOMPARE(std::filesystem::file_size(archivio), uintmax_t{2 * 67});
+    QCOMPARE(stato->text(), QString("Archivio: 2 estrazioni, l'ultima del 03/05/2005"));
+    QCOMPARE(prova.messaggi->size(), size_t{1});
+    QVERIFY2(prova.messaggi->back().find("riparato: tolti 34 byte") != std::string::npos, prova.messaggi->back().c_str());
+
+    // A bad record with a whole length is told, with nothing to ask.
+    std::fstream file(archivio, std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(67 + 12);
+    file.put(char(91));
+    file.close();
+    QVERIFY(contesto->RicaricaArchivio().Riuscito());
+    QCOMPARE(prova.domande->size(), size_t{2});
+    QCOMPARE(prova.messaggi->size(), size_t{2});
+    QVERIFY(prova.messaggi->back().find("il primo è il n. 2: il numero 91") != std::string::npos);
+    QVERIFY(stato->text().endsWith("ATTENZIONE: 1 estrazioni non valide, la prima è la n. 2"));
+  }
+
+  void UnaCartellaComeArchivioNonFermaIlDesktop() {
+    Scrivi("lottolab.ini", "[GENERALE]\nsFileBd=cartella\n");
+    std::filesystem::create_directories(*m_cartella / "cartella");
+    auto contesto = Contesto();
+    auto caricato = contesto->RicaricaArchivio();
+    QVERIFY(!caricato.Riuscito());
+    QVERIFY(caricato.Errore().testo.find("è una cartella") != std::string::npos);
+    FinestraPrincipale finestra(*contesto);
+    QCOMPARE(finestra.findChild<QLabel*>("statoArchivio")->text(), QString("Archivio non caricato: vedi Archivio > Impostazioni"));
+  }
+
+  void LImpostazioneDiUnArchivioMancanteVaConfermata() {
+    Importa("BaseDati.dat", kDueEstrazioni);
+    std::filesystem::create_directories(*m_cartella / "cartella");
+    auto contesto = Contesto();
+    QVERIFY(contesto->RicaricaArchivio().Riuscito());
+    FinestraPrincipale finestra(*contesto);
+    auto* stato = finestra.findChild<QLabel*>("statoArchivio");
+
+    for (bool conferma : {false, true}) {
+      DialogoImpostazioni dialogo(*contesto);
+      InterlocutoreDiProva prova;
+      prova.risposte->push_back(conferma);
+      dialogo.ImpostaInterlocutore(std::make_unique<InterlocutoreDiProva>(prova));
+      dialogo.findChild<QLineEdit*>("archivio")->setText("Nuovo.dat");
+      dialogo.accept();
+      QCOMPARE(prova.domande->size(), size_t{1});
+      QVERIFY(prova.domande->front().starts_with("L'archivio " + (*m_cartella / "Nuovo.dat").string() + " non esiste."));
+      QCOMPARE(dialogo.result(), int(conferma ? QDialog::Accepted : QDialog::Rejected));
+      QCOMPARE(IniSalvato().Leggi("GENERALE", "sFileBd", ""), std::string(conferma ? "Nuovo.dat" : ""));
+      QCOMPARE(finestra.windowTitle(), QString(conferma ? "lottolab - Nuovo.dat" : "lottolab - BaseDati.dat"));
+      QCOMPARE(stato->text(), QString(conferma ? "Archivio vuoto: per riempirlo usa Archivio > Aggiorna archivio"
+                                               : "Archivio: 2 estrazioni, l'ultima del 03/05/2005"));
+    }
+
+    // An archive that cannot be read at all is refused, and the settings stay as they were.
+    DialogoImpostazioni dialogo(*contesto);
+    InterlocutoreDiProva prova;
+    dialogo.ImpostaInterlocutore(std::make_unique<InterlocutoreDiProva>(prova));
+    dialogo.findChild<QLineEdit*>("archivio")->setText("cartella");
+    dialogo.accept();
+    QCOMPARE(dialogo.result(), int(QDialog::Rejected));
+    QCOMPARE(prova.messaggi->size(), size_t{1});
+    QVERIFY(prova.messaggi->front().find("è una cartella") != std::string::npos);
+    QCOMPARE(IniSalvato().Leggi("GENERALE", "sFileBd", ""), std::string("Nuovo.dat"));
   }
 
   void UnaConfigurazioneNonScrivibileNonCambiaNulla() {
