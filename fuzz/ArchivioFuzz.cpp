@@ -1,29 +1,40 @@
-// The bytes as an archive file: each record decoded alone, then the file loaded and read by the
-// commands that show it (info, one draw, the delay table, a delay), as a user's damaged or foreign
-// file would be.
+// The bytes as an archive file: each record decoded alone, then the file loaded as every window and
+// command loads it, and read as they read it: dates, the delay table, delays and frequencies. A
+// damaged or foreign file must give a message or numbers, never a crash.
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
-#include "ComandiFuzz.h"
 #include "TestoFuzz.h"
 #include "archive/ClsEstrazioni.h"
-
-using lottolab::kByteRecordArchivio;
+#include "stats/Ritardi.h"
+#include "stats/Tabellone.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+  using namespace lottolab;
   for (size_t inizio = 0; inizio < size; inizio += kByteRecordArchivio)
-    (void)lottolab::DecodificaRecord(data + inizio, std::min<size_t>(size - inizio, kByteRecordArchivio));
+    (void)DecodificaRecord(data + inizio, std::min<size_t>(size - inizio, kByteRecordArchivio));
 
-  const std::string file = lottolab::fuzz::ScriviFileTemporaneo("BaseDati.dat", lottolab::fuzz::ComeTesto(data, size)).string();
-  (void)lottolab::ClsEstrazioni(file).GetNumeroEstrazioni();
-  for (const auto& comando : {std::vector<std::string>{"info"}, {"estrazione", "1"}, {"estrazione", "01/01/2000"},
-                              {"tabellone", "--ruota", "TT"}, {"ritardo", "--sorte", "1", "7", "90"},
-                              {"storico", "--ruote", "BA,NZ", "1", "2"}}) {
-    std::vector<std::string> parole{"--archivio", file};
-    parole.insert(parole.end(), comando.begin(), comando.end());
-    (void)lottolab::fuzz::EseguiComando(parole);
+  ClsEstrazioni archivio(fuzz::ScriviFileTemporaneo("BaseDati.dat", fuzz::ComeTesto(data, size)));
+  (void)archivio.GetNumeroEstrazioni();
+  Estrazione ultima;
+  (void)archivio.LeggiEstrazione(1, ultima);
+  auto tabella = archivio.CaricaEstrazioni();
+  if (!tabella) return 0;
+  const int n = tabella->EstrazioniArchivio();
+  for (int k = 1; k <= n; ++k) {
+    (void)tabella->DataEstrazione(k);
+    (void)tabella->IndiceAnnuale(k);
   }
+  (void)tabella->UltimaEstrazioneEntro(GruppoData{0, 1, 1, 2000});
+  if (n == 0) return 0;
+  (void)stats::CalcolaTabellone(*tabella, 1, n);
+  const std::array<int, 2> ruote{1, kTutteLeRuote};
+  const std::array<int, 2> numeri{1, 90};
+  (void)stats::RitardoCombinazione(*tabella, ruote, numeri, 1, n);
+  (void)stats::FrequenzaCombinazione(*tabella, ruote, numeri, 2, n);
+  (void)stats::StoricoCombinazione(*tabella, ruote, numeri, 1, n);
   return 0;
 }

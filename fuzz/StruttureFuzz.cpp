@@ -1,22 +1,22 @@
-// The bytes as a structure file: decoded, its conditions compiled against its own vertices, encoded
-// again, and then shown and searched for by the commands over a small archive, as a structure file
-// shared by someone else would be.
+// The bytes as a structure file: loaded, its conditions compiled against its own vertices, encoded
+// again, and searched for over a small archive with the play followed, as a structure file shared
+// by someone else would be.
 
 #include <cstddef>
 #include <cstdint>
 #include <variant>
 
-#include "ComandiFuzz.h"
 #include "TestoFuzz.h"
-#include "archive/ClsEstrazioni.h"
 #include "figures/Condizione.h"
 #include "figures/FileStrutture.h"
+#include "figures/RicercaFigure.h"
+#include "figures/StatisticaStrutture.h"
 
 namespace {
 
 // Eight draws in which every wheel holds numbers spread over 1..90.
-std::string ArchivioPiccolo() {
-  std::string byte;
+lottolab::TabellaEstrazioni ArchivioPiccolo() {
+  std::vector<lottolab::Estrazione> estrazioni;
   for (int k = 1; k <= 8; ++k) {
     lottolab::Estrazione estrazione;
     estrazione.id_estr = k;
@@ -24,27 +24,25 @@ std::string ArchivioPiccolo() {
     for (int ruota = 1; ruota <= lottolab::kNumeroRuote; ++ruota)
       for (int posizione = 1; posizione <= lottolab::kNumeriPerRuota; ++posizione)
         estrazione.ImpostaNumero(ruota, posizione, (k * 31 + ruota * 7 + posizione * 13) % 90 + 1);
-    unsigned char record[lottolab::kByteRecordArchivio];
-    lottolab::CodificaRecord(estrazione, record);
-    byte.append(reinterpret_cast<const char*>(record), sizeof record);
+    estrazioni.push_back(estrazione);
   }
-  return byte;
+  return lottolab::TabellaEstrazioni(std::move(estrazioni));
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace lottolab;
-  static const std::string archivio = fuzz::ScriviFileTemporaneo("Piccolo.dat", ArchivioPiccolo()).string();
+  static const TabellaEstrazioni tabella = ArchivioPiccolo();
 
-  if (auto struttura = figures::DecodificaStruttura(fuzz::ComeTesto(data, size))) {
-    for (const std::string& condizione : struttura->condizioni)
-      (void)figures::Condizione::Compila(condizione, struttura->vertici);
-    (void)figures::DecodificaStruttura(figures::CodificaStruttura(*struttura));
-  }
+  auto struttura = figures::CaricaStruttura(fuzz::ScriviFileTemporaneo("figura.dat", fuzz::ComeTesto(data, size)));
+  if (!struttura) return 0;
+  for (const std::string& condizione : struttura->condizioni)
+    (void)figures::Condizione::Compila(condizione, struttura->vertici);
+  (void)figures::DecodificaStruttura(figures::CodificaStruttura(*struttura));
 
-  const std::string file = fuzz::ScriviFileTemporaneo("figura.dat", fuzz::ComeTesto(data, size)).string();
-  (void)fuzz::EseguiComando({"struttura", file});
-  (void)fuzz::EseguiComando({"--archivio", archivio, "cerca-figura", file, "--colpi", "3"});
+  figures::OpzioniRicerca opzioni;
+  auto trovate = figures::CercaFigura(tabella, *struttura, opzioni);
+  if (trovate) (void)figures::CalcolaStatistica(tabella, *trovate, 3, 1, tabella.EstrazioniArchivio());
   return 0;
 }
