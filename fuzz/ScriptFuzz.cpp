@@ -1,8 +1,8 @@
 // Compiles and runs arbitrary bytes as a script on a fresh engine: the parser's output through the
 // compiler and the interpreter, builtins and objects included. A run is cut after a fifth of a
 // second by the engine's own time-out, so a fuzzed endless loop ends as a script error. Scripts get
-// no FileSystemObject and run in a folder of their own, so that nothing they do reaches the user's
-// files.
+// no FileSystemObject, the engine's only way to files, so that nothing they do reaches the user's
+// files. (A change of the working folder would not do: libFuzzer writes its findings relative to it.)
 
 #include <cstddef>
 #include <cstdint>
@@ -10,11 +10,6 @@
 
 #include "TestoFuzz.h"
 #include "vbscript/ScriptControl.h"
-
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  lottolab::fuzz::LavoraInCartellaTemporanea();
-  return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   vbs::ScriptControl control;

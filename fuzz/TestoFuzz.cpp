@@ -3,7 +3,6 @@
 #include <cstdlib>
 #include <fstream>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace lottolab::fuzz {
 
@@ -58,10 +57,6 @@ fs::path ScriviFileTemporaneo(std::string_view nome, std::string_view byte) {
   out.write(byte.data(), static_cast<std::streamsize>(byte.size()));
   if (!out.flush()) std::abort();
   return file;
-}
-
-void LavoraInCartellaTemporanea() {
-  if (chdir(Cartella().c_str()) != 0) std::abort();
 }
 
 }  // namespace lottolab::fuzz

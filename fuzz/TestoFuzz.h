@@ -22,8 +22,4 @@ inline std::string_view ComeTesto(const uint8_t* data, size_t size) {
 // `nome` in a folder made for this process, rewritten with the bytes; the folder goes at exit.
 std::filesystem::path ScriviFileTemporaneo(std::string_view nome, std::string_view byte);
 
-// A folder made for this process, the working folder from now on, so that nothing a target runs
-// writes beside the user's files.
-void LavoraInCartellaTemporanea();
-
 }  // namespace lottolab::fuzz

@@ -12,7 +12,6 @@
 #include <vector>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
-extern "C" __attribute__((weak)) int LLVMFuzzerInitialize(int* argc, char*** argv);
 
 int main(int argc, char** argv) {
   namespace fs = std::filesystem;
@@ -28,7 +27,6 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "corpus vuoto: %s\n", argv[1]);
     return 1;
   }
-  if (LLVMFuzzerInitialize) LLVMFuzzerInitialize(&argc, &argv);
   for (const fs::path& percorso : file) {
     std::printf("%s\n", percorso.filename().c_str());
     std::fflush(stdout);
