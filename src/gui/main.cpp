@@ -89,11 +89,17 @@ int Avvia(Applicazione& applicazione) {
   finestra.showMaximized();
 
   // Files named on the command line (a double click in a file manager) open as the menus open them.
+  // One that cannot be opened is reported and the others still open.
   for (const QString& file : QApplication::arguments().mid(1)) {
-    if (file.endsWith(QStringLiteral(".dat"), Qt::CaseInsensitive))
-      finestra.ApriStruttura(file);
-    else
-      finestra.ApriScript(file);
+    try {
+      if (file.endsWith(QStringLiteral(".dat"), Qt::CaseInsensitive))
+        finestra.ApriStruttura(file);
+      else
+        finestra.ApriScript(file);
+    } catch (...) {
+      QMessageBox::warning(&finestra, QStringLiteral("lottolab"),
+                           QStringLiteral("Impossibile aprire %1: %2").arg(file.left(120), TestoEccezione()));
+    }
   }
 
   // Without an archive the desktop still opens: the way to fill it is one menu away.
