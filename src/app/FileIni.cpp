@@ -2,9 +2,15 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cerrno>
+#include <fcntl.h>
 #include <fmt/format.h>
-#include <fstream>
-#include <sstream>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "Descrittore.h"
+#include "ErroreInatteso.h"
+#include "FileAtomico.h"
 
 namespace lottolab::app {
 
@@ -55,13 +61,35 @@ FileIni FileIni::DaTesto(std::string_view testo) {
 }
 
 Esito<FileIni> FileIni::Carica(const fs::path& percorso) {
-  std::error_code ec;
-  if (!fs::exists(percorso, ec)) return FileIni{};
-  std::ifstream in(percorso, std::ios::binary);
-  std::stringstream contenuto;
-  contenuto << in.rdbuf();
-  if (!in) return AvvisoEsclamativo(fmt::format("Impossibile leggere il file di configurazione {}", percorso.string()));
-  return DaTesto(contenuto.str());
+  auto Errore = [&](std::string_view motivo) {
+    return AvvisoEsclamativo(fmt::format("Impossibile leggere il file di configurazione {}: {}",
+                                         PercorsoPerMessaggio(percorso.string()), motivo));
+  };
+  // Opened without waiting, so that a pipe or a device put in the file's place is refused by the
+  // check below instead of blocking the program before it starts.
+  Descrittore fd(::open(percorso.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  if (fd.Fd() < 0) {
+    if (errno == ENOENT) return FileIni{};
+    return Errore(DescriviErroreDiSistema(std::error_code(errno, std::generic_category())));
+  }
+  struct stat stato {};
+  if (::fstat(fd.Fd(), &stato) != 0) return Errore(DescriviErroreDiSistema(std::error_code(errno, std::generic_category())));
+  if (S_ISDIR(stato.st_mode)) return Errore("è una cartella");
+  if (!S_ISREG(stato.st_mode)) return Errore("non è un file normale");
+
+  std::string testo;
+  char blocco[65536];
+  for (;;) {
+    ssize_t letti = ::read(fd.Fd(), blocco, sizeof blocco);
+    if (letti < 0 && errno == EINTR) continue;
+    if (letti < 0) return Errore(DescriviErroreDiSistema(std::error_code(errno, std::generic_category())));
+    if (letti == 0) break;
+    if (testo.size() + static_cast<size_t>(letti) > kDimensioneMassima)
+      return Errore(fmt::format("è più grande di {} KB, non può essere un file di configurazione",
+                                kDimensioneMassima / 1024));
+    testo.append(blocco, static_cast<size_t>(letti));
+  }
+  return DaTesto(testo);
 }
 
 size_t FileIni::IndiceChiave(std::string_view sezione, std::string_view chiave) const {
@@ -82,11 +110,14 @@ std::string FileIni::Leggi(std::string_view sezione, std::string_view chiave, st
   return valore && !valore->empty() ? *valore : std::string(predefinito);
 }
 
-void FileIni::Scrivi(std::string_view sezione, std::string_view chiave, std::string_view valore) {
+void FileIni::Scrivi(std::string_view sezione, std::string_view chiave, std::string_view valore_dato) {
+  // A line break in a value would start a line of its own, read back as another key.
+  std::string valore(valore_dato);
+  std::replace_if(valore.begin(), valore.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
   std::string testo = fmt::format("{}={}", chiave, valore);
   if (size_t i = IndiceChiave(sezione, chiave); i < m_righe.size()) {
     m_righe[i].testo = testo;
-    m_righe[i].valore = std::string(valore);
+    m_righe[i].valore = valore;
     return;
   }
   // A new key goes after the last key (or the header) of its section, before the blank lines that
@@ -94,7 +125,7 @@ void FileIni::Scrivi(std::string_view sezione, std::string_view chiave, std::str
   auto ultima = std::find_if(m_righe.rbegin(), m_righe.rend(), [&](const Riga& r) {
     return UgualiSenzaMaiuscole(r.sezione, sezione) && !Rifila(r.testo).empty();
   });
-  Riga nuova{testo, std::string(sezione), std::string(chiave), std::string(valore)};
+  Riga nuova{testo, std::string(sezione), std::string(chiave), valore};
   if (ultima == m_righe.rend()) {
     m_righe.push_back(Riga{fmt::format("[{}]", sezione), std::string(sezione), {}, {}});
     m_righe.push_back(std::move(nuova));
@@ -113,20 +144,15 @@ std::string FileIni::Testo() const {
 }
 
 Esito<Fatto> FileIni::Salva(const fs::path& percorso) const {
+  auto Errore = [&](std::string_view motivo) {
+    return AvvisoEsclamativo(fmt::format("Impossibile scrivere il file di configurazione {}: {}",
+                                         PercorsoPerMessaggio(percorso.string()), motivo));
+  };
   std::error_code ec;
   if (percorso.has_parent_path()) fs::create_directories(percorso.parent_path(), ec);
-  fs::path temporaneo = percorso;
-  temporaneo += ".tmp";
-  {
-    std::ofstream out(temporaneo, std::ios::binary | std::ios::trunc);
-    out << Testo();
-    if (!out.flush()) {
-      fs::remove(temporaneo, ec);
-      return AvvisoEsclamativo(fmt::format("Impossibile scrivere il file di configurazione {}", percorso.string()));
-    }
-  }
-  fs::rename(temporaneo, percorso, ec);
-  if (ec) return AvvisoEsclamativo(fmt::format("Impossibile scrivere il file di configurazione {}: {}", percorso.string(), ec.message()));
+  if (ec) return Errore(DescriviErroreDiSistema(ec));
+  auto scritto = SostituisciFile(percorso, Testo());
+  if (!scritto) return Errore(scritto.Errore().testo);
   return Fatto{};
 }
 

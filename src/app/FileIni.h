@@ -16,16 +16,21 @@ namespace lottolab::app {
 
 class FileIni {
  public:
-  // An absent file reads as empty; an unreadable one is a failure.
+  // Far more than any configuration: a bigger file is refused rather than read into memory.
+  static constexpr size_t kDimensioneMassima = 1024 * 1024;
+
+  // An absent file reads as empty; an unreadable one, a folder, a device or a file above
+  // kDimensioneMassima is a failure with the reason.
   static Esito<FileIni> Carica(const std::filesystem::path& percorso);
   static FileIni DaTesto(std::string_view testo);
 
   std::optional<std::string> Leggi(std::string_view sezione, std::string_view chiave) const;
   std::string Leggi(std::string_view sezione, std::string_view chiave, std::string_view predefinito) const;
+  // Sets the key, adding it (and its section) when absent; line breaks in the value become blanks.
   void Scrivi(std::string_view sezione, std::string_view chiave, std::string_view valore);
 
   std::string Testo() const;
-  // Writes through a temporary file, so a failed save never leaves half a configuration behind.
+  // Replaces the file all at once (see FileAtomico.h): a failed save leaves the old one whole.
   Esito<Fatto> Salva(const std::filesystem::path& percorso) const;
 
  private:

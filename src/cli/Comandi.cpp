@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 #include <fmt/ostream.h>
 
+#include "app/ErroreInatteso.h"
 #include "app/Percorsi.h"
 
 namespace lottolab::cli {
@@ -26,9 +27,7 @@ constexpr std::string_view kUso =
     "  funzioni [--html FILE]    elenca le funzioni degli script (o ne scrive la pagina di riferimento)\n"
     "  cerca-figura FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]   cerca una figura nell'archivio\n";
 
-}  // namespace
-
-int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err) {
+int EseguiParole(const Parole& argomenti, std::ostream& out, std::ostream& err) {
   SegnalatoreTerminale segnalatore(err);
   auto configurazione = app::CaricaConfigurazione(app::CartellaBase());
   if (!configurazione) {
@@ -67,6 +66,18 @@ int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err
   if (comando == "funzioni") return ComandoFunzioni(contesto, parole, err);
   if (comando == "cerca-figura") return ComandoCercaFigura(contesto, parole);
   return contesto.Fallisci(AvvisoEsclamativo(fmt::format("comando sconosciuto: {} (lottolab --help per l'elenco)", comando)));
+}
+
+}  // namespace
+
+int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err) {
+  try {
+    return EseguiParole(argomenti, out, err);
+  } catch (...) {
+    out.flush();
+    fmt::print(err, "lottolab: {}\n", app::DescriviEccezioneCorrente());
+    return kUscitaErrore;
+  }
 }
 
 }  // namespace lottolab::cli

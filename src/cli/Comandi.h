@@ -40,7 +40,8 @@ int ComandoStruttura(Contesto& contesto, const Parole& parole);
 // with --colpi, what its play did next.
 int ComandoCercaFigura(Contesto& contesto, const Parole& parole);
 
-// The whole command line: global options, then a command and its words.
+// The whole command line: global options, then a command and its words. An exception that escapes
+// a command ends it with one line on `err` opening with app::kErroreInatteso, and status 1.
 int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err);
 
 }  // namespace lottolab::cli

@@ -3,6 +3,7 @@
 
 #include "Argomenti.h"
 #include "Comandi.h"
+#include "app/ErroreInatteso.h"
 #include "archive/ClsEstrazioni.h"
 #include "archive/DateEstrazione.h"
 #include "archive/ImportaRisultati.h"
@@ -20,6 +21,10 @@ Avviso UsoErrato(std::string_view uso) { return AvvisoEsclamativo(fmt::format("u
 int Importa(Contesto& contesto, const fs::path& file) {
   std::error_code ec;
   if (contesto.archivio.has_parent_path()) fs::create_directories(contesto.archivio.parent_path(), ec);
+  if (ec)
+    return contesto.Fallisci(AvvisoEsclamativo(
+        fmt::format("impossibile creare la cartella dell'archivio {}: {}",
+                    app::PercorsoPerMessaggio(contesto.archivio.parent_path().string()), app::DescriviErroreDiSistema(ec))));
   ClsEstrazioni archivio(contesto.archivio);
   auto importate = ImportaRisultati(archivio, file);
   if (!importate) return contesto.Fallisci(importate.Errore());
@@ -32,8 +37,10 @@ int Importa(Contesto& contesto, const fs::path& file) {
 int ComandoImporta(Contesto& contesto, const Parole& parole) {
   if (parole.size() != 1) return contesto.Fallisci(UsoErrato("importa FILE"));
   std::error_code ec;
-  if (!fs::exists(parole[0], ec) && !ec)
-    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("il file {} non esiste", parole[0])));
+  if (!fs::exists(parole[0], ec))
+    return contesto.Fallisci(AvvisoEsclamativo(
+        ec ? fmt::format("il file {} non è accessibile: {}", app::PercorsoPerMessaggio(parole[0]), app::DescriviErroreDiSistema(ec))
+           : fmt::format("il file {} non esiste", app::PercorsoPerMessaggio(parole[0]))));
   return Importa(contesto, parole[0]);
 }
 

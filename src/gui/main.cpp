@@ -8,9 +8,49 @@
 
 #include "ContestoGui.h"
 #include "FinestraPrincipale.h"
+#include "app/ErroreInatteso.h"
 #include "app/Percorsi.h"
 
 namespace {
+
+using lottolab::AvvisoEsclamativo;
+using lottolab::Esito;
+using lottolab::Fatto;
+
+QString TestoEccezione() {
+  return QString::fromStdString(lottolab::app::DescriviEccezioneCorrente());
+}
+
+// An exception must never cross Qt's event loop: the one that escapes an event handler is shown
+// and the program goes on, as after any refused action. Its message waits for the handler to
+// unwind, and while one is on screen the next are dropped, so a handler that throws on every paint
+// cannot bury the window under dialogs.
+class Applicazione : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+  bool notify(QObject* destinatario, QEvent* evento) override {
+    try {
+      return QApplication::notify(destinatario, evento);
+    } catch (...) {
+      Segnala(TestoEccezione());
+      return false;
+    }
+  }
+
+ private:
+  void Segnala(const QString& testo) {
+    if (m_segnalazione_aperta) return;
+    m_segnalazione_aperta = true;
+    QTimer::singleShot(0, this, [this, testo] {
+      QMessageBox::warning(activeWindow(), QStringLiteral("lottolab"),
+                           QStringLiteral("L'operazione non è riuscita per un %1").arg(testo));
+      m_segnalazione_aperta = false;
+    });
+  }
+
+  bool m_segnalazione_aperta = false;
+};
 
 // Qt's own dialogs (file chooser, colour picker, standard buttons) speak Italian like ours.
 void TraduciDialoghiQt(QApplication& applicazione) {
@@ -20,10 +60,7 @@ void TraduciDialoghiQt(QApplication& applicazione) {
     applicazione.installTranslator(traduttore);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  QApplication applicazione(argc, argv);
+int Avvia(Applicazione& applicazione) {
   QApplication::setApplicationName(QStringLiteral("lottolab"));
   TraduciDialoghiQt(applicazione);
 
@@ -36,7 +73,15 @@ int main(int argc, char** argv) {
     return 1;
   }
   lottolab::gui::ContestoGui contesto(std::move(configurazione).Valore());
-  const auto caricato = contesto.RicaricaArchivio();
+  // An archive that cannot even be looked at (a folder, a device, a path the system refuses) is
+  // one more reason for having none: the window opens and its settings can point elsewhere.
+  const Esito<Fatto> caricato = [&contesto]() -> Esito<Fatto> {
+    try {
+      return contesto.RicaricaArchivio();
+    } catch (...) {
+      return AvvisoEsclamativo(TestoEccezione().toStdString());
+    }
+  }();
 
   lottolab::gui::FinestraPrincipale finestra(contesto);
   // Where no window manager maximises, the window still takes most of the screen.
@@ -44,11 +89,17 @@ int main(int argc, char** argv) {
   finestra.showMaximized();
 
   // Files named on the command line (a double click in a file manager) open as the menus open them.
+  // One that cannot be opened is reported and the others still open.
   for (const QString& file : QApplication::arguments().mid(1)) {
-    if (file.endsWith(QStringLiteral(".dat"), Qt::CaseInsensitive))
-      finestra.ApriStruttura(file);
-    else
-      finestra.ApriScript(file);
+    try {
+      if (file.endsWith(QStringLiteral(".dat"), Qt::CaseInsensitive))
+        finestra.ApriStruttura(file);
+      else
+        finestra.ApriScript(file);
+    } catch (...) {
+      QMessageBox::warning(&finestra, QStringLiteral("lottolab"),
+                           QStringLiteral("Impossibile aprire %1: %2").arg(file.left(120), TestoEccezione()));
+    }
   }
 
   // Without an archive the desktop still opens: the way to fill it is one menu away.
@@ -63,4 +114,17 @@ int main(int argc, char** argv) {
                    QString::fromStdString(contesto.Configurazione().ArchivioLotto().string())));
     });
   return applicazione.exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Applicazione applicazione(argc, argv);
+  try {
+    return Avvia(applicazione);
+  } catch (...) {
+    QMessageBox::critical(nullptr, QStringLiteral("lottolab"),
+                          QStringLiteral("Il programma non può continuare per un %1").arg(TestoEccezione()));
+    return 1;
+  }
 }

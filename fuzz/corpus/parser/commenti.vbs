@@ -1,0 +1,3 @@
+' uno
+Rem due
+x = 1 ' tre

@@ -1,0 +1,1 @@
+a = 1: b = 2: If a Then b = 3 Else b = 4

@@ -1,0 +1,4 @@
+Dim i, s
+For i = 1 To 10
+  s = s & i
+Next

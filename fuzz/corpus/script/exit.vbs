@@ -1,0 +1,7 @@
+Do While True
+ Exit Do
+Loop
+Function F
+ Exit Function
+End Function
+F

@@ -1,0 +1,3 @@
+On Error Resume Next
+Set f = CreateObject("Scripting.FileSystemObject")
+f.CreateTextFile("x.txt")

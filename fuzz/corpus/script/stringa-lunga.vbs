@@ -1,0 +1,5 @@
+On Error Resume Next
+s = "ab"
+For i = 1 To 16
+ s = s & s
+Next

@@ -1,0 +1,6 @@
+s = Replace("abcabc", "b", "xx")
+t = Mid(s, 2, 3) & Left(s, 1) & Right(s, 2)
+u = Split("a,b,,c", ",")
+v = Join(u, ";")
+w = InStr(1, v, "c")
+x = UCase(LCase(Trim("  Ab  ")))

@@ -1,0 +1,4 @@
+i = 0
+While i < 5
+ i = i + 1
+Wend
