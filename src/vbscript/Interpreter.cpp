@@ -198,6 +198,20 @@ void Interpreter::CloseFrame(const FrameSlots& frame) {
   --m_depth;
 }
 
+void Interpreter::RewindStack(const StackMark& mark) {
+  while (m_segment > mark.segment || (m_segment == mark.segment && m_offset > mark.offset)) {
+    const uint32_t bottom = m_segment == mark.segment ? mark.offset : 0;
+    for (uint32_t i = bottom; i < m_offset; ++i) m_segments[m_segment][i] = Variant();
+    if (m_segment == mark.segment) {
+      m_offset = mark.offset;
+    } else {
+      --m_segment;
+      m_offset = kSegmentSlots;
+    }
+  }
+  m_depth = mark.depth;
+}
+
 namespace {
 
 void InitialiseArrays(const Procedure& procedure, Variant* slots) {

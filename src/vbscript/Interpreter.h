@@ -174,6 +174,15 @@ class Interpreter {
 
   // Empties a frame's slots and gives them back; frames close in the reverse order of opening.
   void CloseFrame(const FrameSlots& frame);
+  // Where the slot stack stands, and the way back there for a host call that a C++ exception
+  // unwound, leaving frames open.
+  struct StackMark {
+    size_t segment = 0;
+    uint32_t offset = 0;
+    uint32_t depth = 0;
+  };
+  StackMark MarkStack() const { return {m_segment, m_offset, m_depth}; }
+  void RewindStack(const StackMark& mark);
 
   // Clears globals and objects (running Class_Terminate where due) and forgets all code.
   void Clear();

@@ -32,8 +32,10 @@ std::string FoldName(std::string_view name) {
 
 }  // namespace
 
-Parser::DepthGuard::DepthGuard(Parser& parser) : m_parser(parser) {
-  if (++m_parser.m_depth > kMaxDepth) m_parser.Abort(kOutOfStack);
+Parser::DepthGuard::DepthGuard(Parser& parser) : m_parser(parser) { m_parser.Deepen(); }
+
+void Parser::Deepen() {
+  if (++m_depth > kMaxDepth) Abort(kOutOfStack);
 }
 
 Parser::Parser(const SourceTable& sources, uint32_t source_id)

@@ -96,6 +96,8 @@ class Parser {
   void Fail(int32_t error) { Fail(error, Current()); }
   void Recover();
   void Abort(int32_t error);
+  // One level deeper; past the limit the parse aborts with "Out of stack space".
+  void Deepen();
   uint16_t& Open(Closer closer) { return m_context.open[static_cast<size_t>(closer)]; }
   bool IsOpen(Closer closer) const { return m_context.open[static_cast<size_t>(closer)] > 0; }
   bool AnyEndOpen() const;
