@@ -1,11 +1,10 @@
 #include "Interpreter.h"
 
-#include <pthread.h>
-
 #include "Builtins.h"
 #include "ErrObject.h"
 #include "SafeArray.h"
 #include "ScriptClass.h"
+#include "StackLimit.h"
 #include "Utf.h"
 
 namespace vbs {
@@ -16,17 +15,6 @@ constexpr size_t kSegmentSlots = 1 << 16;
 constexpr size_t kMaxSegments = 256;
 // Deep recursion ends with "Out of stack space" well before the thread's real stack runs out.
 constexpr uint32_t kMaxCallDepth = 10000;
-constexpr size_t kStackReserve = 256 * 1024;
-
-const char* StackLimitOfThisThread() {
-  pthread_attr_t attributes;
-  if (pthread_getattr_np(pthread_self(), &attributes) != 0) return nullptr;
-  void* low = nullptr;
-  size_t size = 0;
-  pthread_attr_getstack(&attributes, &low, &size);
-  pthread_attr_destroy(&attributes);
-  return static_cast<const char*>(low) + kStackReserve;
-}
 
 }  // namespace
 
@@ -166,9 +154,7 @@ ScriptError Interpreter::InterruptError() const {
 }
 
 Result<FrameSlots> Interpreter::OpenFrame(uint32_t count) {
-  char probe;
-  if (m_depth == 0) m_stack_limit = StackLimitOfThisThread();
-  if (m_depth >= kMaxCallDepth || (m_stack_limit && &probe < m_stack_limit)) return MakeError(err::kOutOfStack);
+  if (m_depth >= kMaxCallDepth || StackNearlyExhausted()) return MakeError(err::kOutOfStack);
   if (m_segments.empty() || m_offset + count > kSegmentSlots) return OpenFrameInNewSegment(count);
   FrameSlots frame{&m_segments[m_segment][m_offset], count, m_offset, m_segment};
   m_offset += count;

@@ -219,7 +219,6 @@ class Interpreter {
   size_t m_segment = 0;
   uint32_t m_offset = 0;
   uint32_t m_depth = 0;
-  const char* m_stack_limit = nullptr;
 };
 
 // Registers the objects every engine offers to CreateObject (Scripting.Dictionary, ...).

@@ -1,6 +1,7 @@
 #include "Parser.h"
 
 #include "Lexer.h"
+#include "StackLimit.h"
 
 namespace vbs {
 
@@ -34,8 +35,9 @@ std::string FoldName(std::string_view name) {
 
 Parser::DepthGuard::DepthGuard(Parser& parser) : m_parser(parser) { m_parser.Deepen(); }
 
+// The stack is looked at too: Eval may parse from deep inside a recursion of the script's own.
 void Parser::Deepen() {
-  if (++m_depth > kMaxDepth) Abort(kOutOfStack);
+  if (++m_depth > kMaxDepth || StackNearlyExhausted()) Abort(kOutOfStack);
 }
 
 Parser::Parser(const SourceTable& sources, uint32_t source_id)
