@@ -200,16 +200,17 @@ void Interpreter::RewindStack(const StackMark& mark) {
 
 namespace {
 
-void InitialiseArrays(const Procedure& procedure, Variant* slots) {
+Status InitialiseArrays(const Procedure& procedure, Variant* slots) {
   for (const auto& [slot, uppers] : procedure.fixed_arrays) {
     std::vector<ArrayBound> bounds;
     for (int32_t upper : uppers) bounds.push_back({0, upper});
-    if (auto array = SafeArray::Create(bounds)) {
-      slots[slot] = Variant::Array(*array);
-      slots[slot].MarkFixedArray();
-    }
+    auto array = SafeArray::Create(bounds);
+    if (!array) return std::move(array).error();
+    slots[slot] = Variant::Array(*array);
+    slots[slot].MarkFixedArray();
   }
   for (uint32_t slot : procedure.dynamic_arrays) slots[slot] = Variant::Array(SafeArray::CreateUndimensioned());
+  return Ok();
 }
 
 }  // namespace
@@ -230,7 +231,12 @@ Result<Variant> Interpreter::Call(const Procedure& procedure, ClassInstance* me,
 }
 
 Result<Variant> Interpreter::RunFrame(const Procedure& procedure, ClassInstance* me, const FrameSlots& slots) {
-  if (!procedure.fixed_arrays.empty() || !procedure.dynamic_arrays.empty()) InitialiseArrays(procedure, slots.slots);
+  if (!procedure.fixed_arrays.empty() || !procedure.dynamic_arrays.empty()) {
+    if (auto arrays = InitialiseArrays(procedure, slots.slots); !arrays) {
+      CloseFrame(slots);
+      return std::move(arrays).error();
+    }
+  }
   Frame frame{*this, slots.slots, &procedure, me, nullptr, false};
   auto flow = procedure.body.Exec(frame);
   Result<Variant> result = flow ? Result<Variant>(std::move(slots.slots[Procedure::kResultSlot]))
