@@ -154,7 +154,8 @@ ScriptError Interpreter::InterruptError() const {
 }
 
 Result<FrameSlots> Interpreter::OpenFrame(uint32_t count) {
-  if (m_depth >= kMaxCallDepth || StackNearlyExhausted()) return MakeError(err::kOutOfStack);
+  if (m_depth == 0) m_stack_limit = StackLimit();
+  if (m_depth >= kMaxCallDepth || StackBelow(m_stack_limit)) return MakeError(err::kOutOfStack);
   if (m_segments.empty() || m_offset + count > kSegmentSlots) return OpenFrameInNewSegment(count);
   FrameSlots frame{&m_segments[m_segment][m_offset], count, m_offset, m_segment};
   m_offset += count;
@@ -213,6 +214,12 @@ Status InitialiseArrays(const Procedure& procedure, Variant* slots) {
   return Ok();
 }
 
+// Out of line, so that the call path keeps a single, inlined CloseFrame.
+[[gnu::noinline]] ScriptError AbandonFrame(Interpreter& interp, const FrameSlots& slots, ScriptError error) {
+  interp.CloseFrame(slots);
+  return error;
+}
+
 }  // namespace
 
 Result<Variant> Interpreter::Call(const Procedure& procedure, ClassInstance* me, std::span<Variant> args) {
@@ -232,10 +239,8 @@ Result<Variant> Interpreter::Call(const Procedure& procedure, ClassInstance* me,
 
 Result<Variant> Interpreter::RunFrame(const Procedure& procedure, ClassInstance* me, const FrameSlots& slots) {
   if (!procedure.fixed_arrays.empty() || !procedure.dynamic_arrays.empty()) {
-    if (auto arrays = InitialiseArrays(procedure, slots.slots); !arrays) {
-      CloseFrame(slots);
-      return std::move(arrays).error();
-    }
+    if (auto arrays = InitialiseArrays(procedure, slots.slots); !arrays) [[unlikely]]
+      return AbandonFrame(*this, slots, std::move(arrays).error());
   }
   Frame frame{*this, slots.slots, &procedure, me, nullptr, false};
   auto flow = procedure.body.Exec(frame);

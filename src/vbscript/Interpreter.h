@@ -143,7 +143,7 @@ class Interpreter {
   Result<FrameSlots> OpenFrame(uint32_t count);
   Result<Variant> RunFrame(const Procedure& procedure, ClassInstance* me, const FrameSlots& frame);
   Result<Ref<ClassInstance>> NewInstance(ClassInfo& info);
-  // Keeps a compiled program alive as long as the engine, since procedures point into it.
+  // Keeps the host's compiled code alive as long as the engine.
   CompiledProgram& Keep(std::unique_ptr<CompiledProgram> program);
   Procedure& Keep(std::unique_ptr<Procedure> procedure);
 
@@ -219,6 +219,7 @@ class Interpreter {
   size_t m_segment = 0;
   uint32_t m_offset = 0;
   uint32_t m_depth = 0;
+  const char* m_stack_limit = nullptr;
 };
 
 // Registers the objects every engine offers to CreateObject (Scripting.Dictionary, ...).

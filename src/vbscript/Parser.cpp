@@ -37,11 +37,11 @@ Parser::DepthGuard::DepthGuard(Parser& parser) : m_parser(parser) { m_parser.Dee
 
 // The stack is looked at too: Eval may parse from deep inside a recursion of the script's own.
 void Parser::Deepen() {
-  if (++m_depth > kMaxDepth || StackNearlyExhausted()) Abort(kOutOfStack);
+  if (++m_depth > kMaxDepth || StackBelow(m_stack_limit)) Abort(kOutOfStack);
 }
 
 Parser::Parser(const SourceTable& sources, uint32_t source_id)
-    : m_sources(sources), m_source_id(source_id), m_text(sources[source_id].text) {
+    : m_sources(sources), m_source_id(source_id), m_text(sources[source_id].text), m_stack_limit(StackLimit()) {
   m_tokens = Tokenize(m_text);
 }
 

@@ -172,6 +172,7 @@ class Parser {
   bool m_skip_end_check = false;  // a construct reported its missing closer and left the token
   bool m_seen_statement = false;  // "Option Explicit" must come first
   uint32_t m_depth = 0;
+  const char* m_stack_limit;
   uint32_t m_single_line_if = 0;
   Context m_context;
   std::vector<std::unordered_set<std::string>> m_scopes;  // declared names, case-folded

@@ -7,7 +7,14 @@
 
 namespace vbs {
 
-// True when less than the reserve (256 KB) is left below the caller's frame.
-bool StackNearlyExhausted();
+// The address below which less than the reserve (256 KB) of the running thread's stack is left;
+// null when the system does not say. The system is asked once per thread.
+const char* StackLimit();
+
+// True when the caller's frame lies below `limit` (a StackLimit() of the same thread).
+[[gnu::always_inline]] inline bool StackBelow(const char* limit) {
+  char probe;
+  return limit != nullptr && &probe < limit;
+}
 
 }  // namespace vbs
