@@ -20,9 +20,13 @@ constexpr int32_t kLanguageNotSet = 5;
 template <typename Call>
 auto Contained(Interpreter& interp, Call&& call) -> decltype(call()) {
   const Interpreter::StackMark mark = interp.MarkStack();
-  auto result = TrapAllocationFailure(call);
-  if (!result && result.error().number == kAllocationFailed) interp.RewindStack(mark);
-  return result;
+  try {
+    return call();
+  } catch (const std::bad_alloc&) {
+  } catch (const std::length_error&) {
+  }
+  interp.RewindStack(mark);
+  return MakeError(kAllocationFailed);
 }
 
 }  // namespace

@@ -61,6 +61,14 @@ class Libreria final : public HostObject<Libreria> {
   }
 };
 
+// An object bound by hand, without HostObject's trap: what it throws reaches the engine's edge.
+class Grezzo final : public Object {
+ public:
+  std::u16string ClassName() const override { return u"Grezzo"; }
+  DispId FindMember(std::string_view) override { return 1; }
+  Result<Variant> Invoke(DispId, InvokeKind, std::span<Variant>) override { throw std::bad_alloc(); }
+};
+
 class Motore : public ::testing::Test {
  protected:
   void SetUp() override { ASSERT_TRUE(engine.SetLanguage("vbscript")); }
@@ -154,6 +162,11 @@ TEST_F(Motore, MemoriaEsauritaInUnOggettoEErrore7CheOnErrorIntercetta) {
   EXPECT_FALSE(Add("Function F(n)\n F = F(n + 1)\nEnd Function\nF 1"));
   EXPECT_EQ(engine.Error().number, 28);
   EXPECT_EQ(EvalText("1 + 1"), "2");
+
+  ASSERT_TRUE(engine.AddObject("Grezzo", MakeRef<Grezzo>(), false));
+  EXPECT_FALSE(Add("Sub Dentro(n)\n If n > 0 Then Dentro n - 1 Else Grezzo.Qualcosa\nEnd Sub\nDentro 5"));
+  EXPECT_EQ(engine.Error().number, 7);
+  EXPECT_EQ(engine.interpreter().MarkStack().depth, 0u) << "the frames the exception crossed are closed";
 }
 
 TEST_F(Motore, EvalEExecuteNonTengonoIlCodiceDopoAverloEseguito) {
