@@ -14,19 +14,24 @@ bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
 
 constexpr int32_t kLanguageNotSet = 5;
 
-// The last line against a C++ allocation failure that the traps of builtins and objects did not
-// catch (the parser's or the compiler's, say): error 7 for the host, never an abort, and the slot
-// stack as it stood before the call.
+constexpr int32_t kInternalError = 51;
+
+// The last line against a C++ exception that the traps of builtins and objects did not catch (an
+// allocation of the parser's or the compiler's, an object of the host's that throws): an error for
+// the host, never an abort, and the slot stack as it stood before the call.
 template <typename Call>
 auto Contained(Interpreter& interp, Call&& call) -> decltype(call()) {
   const Interpreter::StackMark mark = interp.MarkStack();
+  int32_t number = kAllocationFailed;
   try {
     return call();
   } catch (const std::bad_alloc&) {
   } catch (const std::length_error&) {
+  } catch (const std::exception&) {
+    number = kInternalError;
   }
   interp.RewindStack(mark);
-  return MakeError(kAllocationFailed);
+  return MakeError(number);
 }
 
 }  // namespace

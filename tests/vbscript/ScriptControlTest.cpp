@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <thread>
 
 #include "vbscript/HostObject.h"
@@ -66,7 +67,10 @@ class Grezzo final : public Object {
  public:
   std::u16string ClassName() const override { return u"Grezzo"; }
   DispId FindMember(std::string_view) override { return 1; }
-  Result<Variant> Invoke(DispId, InvokeKind, std::span<Variant>) override { throw std::bad_alloc(); }
+  Result<Variant> Invoke(DispId, InvokeKind, std::span<Variant> args) override {
+    if (args.empty()) throw std::bad_alloc();
+    throw std::runtime_error("guasto");
+  }
 };
 
 class Motore : public ::testing::Test {
@@ -167,6 +171,9 @@ TEST_F(Motore, MemoriaEsauritaInUnOggettoEErrore7CheOnErrorIntercetta) {
   EXPECT_FALSE(Add("Sub Dentro(n)\n If n > 0 Then Dentro n - 1 Else Grezzo.Qualcosa\nEnd Sub\nDentro 5"));
   EXPECT_EQ(engine.Error().number, 7);
   EXPECT_EQ(engine.interpreter().MarkStack().depth, 0u) << "the frames the exception crossed are closed";
+  EXPECT_FALSE(Add("Sub Altro\n Grezzo.Qualcosa 1\nEnd Sub\nAltro"));
+  EXPECT_EQ(engine.Error().number, 51) << "any other exception is an internal error";
+  EXPECT_EQ(engine.interpreter().MarkStack().depth, 0u);
 }
 
 TEST_F(Motore, EvalEExecuteNonTengonoIlCodiceDopoAverloEseguito) {
