@@ -89,8 +89,11 @@ enum class BinaryOp {
   And, Or, Xor, Eqv, Imp,
 };
 
+// Operators are left-associative, so a long chain (1 + 1 + 1 ...) is a tree as deep as it is long:
+// its destructor takes the left spine apart in a loop rather than one nested call per operand.
 struct BinaryExpr : Expr {
   explicit BinaryExpr(SourcePos p) : Expr(ExprKind::Binary, p) {}
+  ~BinaryExpr() override;
   BinaryOp op = BinaryOp::Add;
   ExprPtr left;
   ExprPtr right;

@@ -18,10 +18,14 @@ Frame* ProcedureFrame(Frame& frame) {
   return frame.procedure ? &frame : nullptr;
 }
 
-Result<uint32_t> SourceOf(Frame& frame, const Variant& code, const char* name) {
+// The text's source entry is shared by every call of the same function (SourceTable::Reuse), and
+// the compiled code lives only while it runs: what it declares (procedures, classes, variables)
+// is owned by the engine, not by the code. A loop calling Eval a million times thus runs in flat
+// memory.
+Result<uint32_t> SourceOf(Frame& frame, const Variant& code, std::string_view name) {
   auto text = code.Deref().to_string(frame.interp.locale());
   if (!text) return std::move(text).error();
-  return frame.interp.sources().Add(name, text->ToU16String());
+  return frame.interp.sources().Reuse(name, text->ToU16String());
 }
 
 Result<Variant> EvalFunction(Frame& frame, Args args) {
@@ -32,17 +36,17 @@ Result<Variant> EvalFunction(Frame& frame, Args args) {
   Frame* scope = ProcedureFrame(frame);
   auto program = Compiler(frame.interp, scope).CompileExpression(**expression);
   if (!program) return std::move(program).error();
-  return frame.interp.EvalProgram(frame.interp.Keep(std::move(*program)), scope);
+  return frame.interp.EvalProgram(**program, scope);
 }
 
-Result<Variant> Run(Frame& frame, const Variant& code, Frame* scope, const char* name) {
+Result<Variant> Run(Frame& frame, const Variant& code, Frame* scope, std::string_view name) {
   auto source = SourceOf(frame, code, name);
   if (!source) return std::move(source).error();
   ParseResult parsed = ParseProgram(frame.interp.sources(), *source);
   if (!parsed.errors.empty()) return parsed.errors.front();
   auto program = Compiler(frame.interp, scope).CompileProgram(parsed.program);
   if (!program) return std::move(program).error();
-  VBS_TRY(frame.interp.RunProgram(frame.interp.Keep(std::move(*program)), scope));
+  VBS_TRY(frame.interp.RunProgram(**program, scope));
   return Variant();
 }
 

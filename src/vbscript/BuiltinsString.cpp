@@ -484,17 +484,28 @@ Result<Variant> ReplaceFunction(Frame& frame, Args args) {
   const std::u16string_view find = parts[1]->view();
   const std::u16string_view replacement = parts[2]->view();
   if (find.empty() || *count == 0) return Text(text);
+  // The matches first, so that a result too long to hold fails before anything is built.
   const Search search(text, find, *mode);
-  std::u16string out;
-  size_t at = 0;
-  for (int32_t done = 0; *count == -1 || done < *count; ++done) {
+  std::vector<size_t> matches;
+  for (size_t at = 0; *count == -1 || matches.size() < static_cast<size_t>(*count);) {
     const size_t found = search.Next(at);
     if (found == std::u16string_view::npos) break;
-    out.append(text.substr(at, found - at)).append(replacement);
+    matches.push_back(found);
     at = found + find.size();
   }
-  out.append(text.substr(at));
-  return Variant::String(out);
+  const size_t kept = text.size() - matches.size() * find.size();
+  if (!matches.empty() && replacement.size() > (VbString::kMaxLength - kept) / matches.size())
+    return MakeError(err::kOutOfMemory);
+  VbString out;
+  VBS_TRY(out.Reserve(kept + matches.size() * replacement.size()));
+  size_t at = 0;
+  for (size_t found : matches) {
+    VBS_TRY(out.Append(text.substr(at, found - at)));
+    VBS_TRY(out.Append(replacement));
+    at = found + find.size();
+  }
+  VBS_TRY(out.Append(text.substr(at)));
+  return Variant::String(std::move(out));
 }
 
 // ---- Arrays of strings ----

@@ -64,6 +64,7 @@ class Compiler {
 
   // CompilerExpressions.cpp
   Result<ExprNodePtr> CompileExpr(ast::Expr& expression, Scope& scope);
+  Result<ExprNodePtr> CompileBinary(ast::BinaryExpr& binary, Scope& scope);
   Result<ExprNodes> CompileArgs(std::vector<ast::ExprPtr>& args, Scope& scope);
   // A name, with arguments when it is called or indexed (args null: no parentheses at all).
   Result<ExprNodePtr> CompileName(const std::string& name, SourcePos pos, std::vector<ast::ExprPtr>* args, Scope& scope);

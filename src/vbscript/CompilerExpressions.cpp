@@ -86,10 +86,11 @@ Result<ExprNodePtr> Compiler::CompileName(const std::string& name, SourcePos pos
   const bool has_args = args != nullptr && !args->empty();
 
   // Locals: parameters, Dims, constants, and the function's own name for its return value (a
-  // call with arguments of the function's own name recurses instead).
+  // call with arguments of the function's own name recurses instead, from Execute code too).
   auto local = scope.names.find(folded);
-  if (local != scope.names.end() && !(has_args && !local->second.outer && local->second.slot == Procedure::kResultSlot &&
-                                      !local->second.is_constant && scope.procedure)) {
+  const bool calls_itself = local != scope.names.end() && has_args && local->second.slot == Procedure::kResultSlot &&
+                            !local->second.is_constant && (local->second.outer || scope.procedure);
+  if (local != scope.names.end() && !calls_itself) {
     const Name& n = local->second;
     if (n.is_constant) {
       ExprNodePtr constant = std::make_unique<ConstantNode>(pos, n.value);
@@ -190,6 +191,46 @@ Result<ExprNodePtr> Compiler::CompileMember(ast::MemberExpr& member, std::vector
   return ExprNodePtr(std::make_unique<MemberNode>(member.pos, std::move(object), member.name, std::move(compiled_args)));
 }
 
+// Short chains get a node per operator, whose fast paths the arithmetic of loops needs. A long left
+// spine (an operand list written out, or generated code) compiles in a loop into one chain node:
+// neither the compiler nor the running code then recurses once per operand.
+Result<ExprNodePtr> Compiler::CompileBinary(ast::BinaryExpr& binary, Scope& scope) {
+  constexpr size_t kLongChain = 16;
+  size_t length = 0;
+  ast::Expr* leftmost = &binary;
+  while (leftmost->kind == ast::ExprKind::Binary) {
+    leftmost = static_cast<ast::BinaryExpr&>(*leftmost).left.get();
+    ++length;
+  }
+  if (length <= kLongChain) {
+    auto left = CompileExpr(*binary.left, scope);
+    if (!left) return left;
+    auto right = CompileExpr(*binary.right, scope);
+    if (!right) return right;
+    if (binary.op == ast::BinaryOp::Is)
+      return ExprNodePtr(std::make_unique<IsNode>(binary.pos, std::move(*left), std::move(*right)));
+    return MakeBinaryNode(binary.pos, ToOperator(binary.op), std::move(*left), std::move(*right));
+  }
+
+  std::vector<ast::BinaryExpr*> spine(length);  // from the innermost operator out
+  ast::Expr* node = &binary;
+  for (size_t i = length; i-- > 0;) {
+    spine[i] = static_cast<ast::BinaryExpr*>(node);
+    node = spine[i]->left.get();
+  }
+  auto first = CompileExpr(*leftmost, scope);
+  if (!first) return first;
+  std::vector<OperatorChainNode::Step> steps(length);
+  for (size_t i = 0; i < length; ++i) {
+    auto right = CompileExpr(*spine[i]->right, scope);
+    if (!right) return right;
+    steps[i].is = spine[i]->op == ast::BinaryOp::Is;
+    steps[i].op = ToOperator(spine[i]->op);
+    steps[i].operand = std::move(*right);
+  }
+  return ExprNodePtr(std::make_unique<OperatorChainNode>(binary.pos, std::move(*first), std::move(steps)));
+}
+
 Result<ExprNodePtr> Compiler::CompileExpr(ast::Expr& expression, Scope& scope) {
   switch (expression.kind) {
     case ast::ExprKind::Literal:
@@ -232,16 +273,8 @@ Result<ExprNodePtr> Compiler::CompileExpr(ast::Expr& expression, Scope& scope) {
       return ExprNodePtr(std::make_unique<UnaryNode>(expression.pos, unary.op, std::move(*operand)));
     }
 
-    case ast::ExprKind::Binary: {
-      auto& binary = static_cast<ast::BinaryExpr&>(expression);
-      auto left = CompileExpr(*binary.left, scope);
-      if (!left) return left;
-      auto right = CompileExpr(*binary.right, scope);
-      if (!right) return right;
-      if (binary.op == ast::BinaryOp::Is)
-        return ExprNodePtr(std::make_unique<IsNode>(expression.pos, std::move(*left), std::move(*right)));
-      return MakeBinaryNode(expression.pos, ToOperator(binary.op), std::move(*left), std::move(*right));
-    }
+    case ast::ExprKind::Binary:
+      return CompileBinary(static_cast<ast::BinaryExpr&>(expression), scope);
 
     case ast::ExprKind::Paren: {
       auto inner = CompileExpr(*static_cast<ast::ParenExpr&>(expression).inner, scope);

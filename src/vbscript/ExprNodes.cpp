@@ -1,5 +1,6 @@
 #include "ExprNodes.h"
 
+#include "AllocationFailure.h"
 #include "Coercion.h"
 #include "FastArithmetic.h"
 #include "SafeArray.h"
@@ -345,6 +346,26 @@ Result<Variant> IsNode::Eval(Frame& frame) {
   return Variant::Boolean(*same);
 }
 
+Result<Variant> OperatorChainNode::Eval(Frame& frame) {
+  auto value = m_first->Eval(frame);
+  if (!value) return value;
+  Variant accumulated = std::move(*value);
+  for (const Step& step : m_steps) {
+    auto right = step.operand->Eval(frame);
+    if (!right) return right;
+    if (step.is) {
+      auto same = Is(accumulated, *right);
+      if (!same) return std::move(same).error();
+      accumulated = Variant::Boolean(*same);
+      continue;
+    }
+    auto next = ApplyBinary(step.op, accumulated, *right, frame.interp.compare_mode(), frame.interp.locale());
+    if (!next) return next;
+    accumulated = std::move(*next);
+  }
+  return accumulated;
+}
+
 // ---- Calls ----
 
 ProcedureCallNode::ProcedureCallNode(SourcePos pos, const Procedure* procedure, ExprNodes args)
@@ -398,7 +419,7 @@ Result<Variant> BuiltinCallNode::Call(Frame& frame) {
   if (m_args.size() < m_builtin->min_args || m_args.size() > m_builtin->max_args) return MakeError(err::kWrongArgs);
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, m_builtin->wants_references));
-  return m_builtin->function(frame, values.span());
+  return TrapAllocationFailure([&] { return m_builtin->function(frame, values.span()); });
 }
 
 IndexNode::IndexNode(SourcePos pos, ExprNodePtr holder, ExprNodes args)

@@ -267,6 +267,25 @@ class IsNode final : public ExprNode {
   ExprNodePtr m_right;
 };
 
+// A long left-associative chain (1 + 2 - 3 & x ...): the first operand, then each operator with
+// its right operand, applied in turn. One node in a loop, where nested nodes would recurse once per
+// operand; the order of evaluation and of errors is the same.
+class OperatorChainNode final : public ExprNode {
+ public:
+  struct Step {
+    BinaryOperator op = BinaryOperator::Add;
+    bool is = false;  // the Is operator, which compares objects and is no BinaryOperator
+    ExprNodePtr operand;
+  };
+  OperatorChainNode(SourcePos pos, ExprNodePtr first, std::vector<Step> steps)
+      : ExprNode(pos), m_first(std::move(first)), m_steps(std::move(steps)) {}
+  Result<Variant> Eval(Frame& frame) override;
+
+ private:
+  ExprNodePtr m_first;
+  std::vector<Step> m_steps;
+};
+
 class ParenNode final : public ExprNode {
  public:
   ParenNode(SourcePos pos, ExprNodePtr inner) : ExprNode(pos), m_inner(std::move(inner)) {}

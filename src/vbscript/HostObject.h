@@ -13,6 +13,7 @@
 #include <span>
 #include <string_view>
 
+#include "AllocationFailure.h"
 #include "Coercion.h"
 #include "Locale.h"
 #include "Object.h"
@@ -85,6 +86,14 @@ class HostObject : public Object {
   const void* MemberLayout() const override { return Self::Members().data(); }
 
   Result<Variant> Invoke(DispId member, InvokeKind kind, std::span<Variant> args) override {
+    return TrapAllocationFailure([&] { return InvokeMember(member, kind, args); });
+  }
+
+ protected:
+  const Locale& locale() const { return *m_locale; }
+
+ private:
+  Result<Variant> InvokeMember(DispId member, InvokeKind kind, std::span<Variant> args) {
     const auto members = Self::Members();
     if (member == kDefaultMember) {
       auto it = std::find_if(members.begin(), members.end(), [](const Member& m) { return m.is_default; });
@@ -116,10 +125,6 @@ class HostObject : public Object {
     return (self.*m.get)(call);
   }
 
- protected:
-  const Locale& locale() const { return *m_locale; }
-
- private:
   const Locale* m_locale;
 };
 

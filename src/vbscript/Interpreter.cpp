@@ -1,11 +1,10 @@
 #include "Interpreter.h"
 
-#include <pthread.h>
-
 #include "Builtins.h"
 #include "ErrObject.h"
 #include "SafeArray.h"
 #include "ScriptClass.h"
+#include "StackLimit.h"
 #include "Utf.h"
 
 namespace vbs {
@@ -16,17 +15,6 @@ constexpr size_t kSegmentSlots = 1 << 16;
 constexpr size_t kMaxSegments = 256;
 // Deep recursion ends with "Out of stack space" well before the thread's real stack runs out.
 constexpr uint32_t kMaxCallDepth = 10000;
-constexpr size_t kStackReserve = 256 * 1024;
-
-const char* StackLimitOfThisThread() {
-  pthread_attr_t attributes;
-  if (pthread_getattr_np(pthread_self(), &attributes) != 0) return nullptr;
-  void* low = nullptr;
-  size_t size = 0;
-  pthread_attr_getstack(&attributes, &low, &size);
-  pthread_attr_destroy(&attributes);
-  return static_cast<const char*>(low) + kStackReserve;
-}
 
 }  // namespace
 
@@ -166,9 +154,8 @@ ScriptError Interpreter::InterruptError() const {
 }
 
 Result<FrameSlots> Interpreter::OpenFrame(uint32_t count) {
-  char probe;
-  if (m_depth == 0) m_stack_limit = StackLimitOfThisThread();
-  if (m_depth >= kMaxCallDepth || (m_stack_limit && &probe < m_stack_limit)) return MakeError(err::kOutOfStack);
+  if (m_depth == 0) m_stack_limit = StackLimit();
+  if (m_depth >= kMaxCallDepth || StackBelow(m_stack_limit)) return MakeError(err::kOutOfStack);
   if (m_segments.empty() || m_offset + count > kSegmentSlots) return OpenFrameInNewSegment(count);
   FrameSlots frame{&m_segments[m_segment][m_offset], count, m_offset, m_segment};
   m_offset += count;
@@ -198,18 +185,39 @@ void Interpreter::CloseFrame(const FrameSlots& frame) {
   --m_depth;
 }
 
+void Interpreter::RewindStack(const StackMark& mark) {
+  while (m_segment > mark.segment || (m_segment == mark.segment && m_offset > mark.offset)) {
+    const uint32_t bottom = m_segment == mark.segment ? mark.offset : 0;
+    for (uint32_t i = bottom; i < m_offset; ++i) m_segments[m_segment][i] = Variant();
+    if (m_segment == mark.segment) {
+      m_offset = mark.offset;
+    } else {
+      --m_segment;
+      m_offset = kSegmentSlots;
+    }
+  }
+  m_depth = mark.depth;
+}
+
 namespace {
 
-void InitialiseArrays(const Procedure& procedure, Variant* slots) {
+Status InitialiseArrays(const Procedure& procedure, Variant* slots) {
   for (const auto& [slot, uppers] : procedure.fixed_arrays) {
     std::vector<ArrayBound> bounds;
     for (int32_t upper : uppers) bounds.push_back({0, upper});
-    if (auto array = SafeArray::Create(bounds)) {
-      slots[slot] = Variant::Array(*array);
-      slots[slot].MarkFixedArray();
-    }
+    auto array = SafeArray::Create(bounds);
+    if (!array) return std::move(array).error();
+    slots[slot] = Variant::Array(*array);
+    slots[slot].MarkFixedArray();
   }
   for (uint32_t slot : procedure.dynamic_arrays) slots[slot] = Variant::Array(SafeArray::CreateUndimensioned());
+  return Ok();
+}
+
+// Out of line, so that the call path keeps a single, inlined CloseFrame.
+[[gnu::noinline]] ScriptError AbandonFrame(Interpreter& interp, const FrameSlots& slots, ScriptError error) {
+  interp.CloseFrame(slots);
+  return error;
 }
 
 }  // namespace
@@ -230,7 +238,10 @@ Result<Variant> Interpreter::Call(const Procedure& procedure, ClassInstance* me,
 }
 
 Result<Variant> Interpreter::RunFrame(const Procedure& procedure, ClassInstance* me, const FrameSlots& slots) {
-  if (!procedure.fixed_arrays.empty() || !procedure.dynamic_arrays.empty()) InitialiseArrays(procedure, slots.slots);
+  if (!procedure.fixed_arrays.empty() || !procedure.dynamic_arrays.empty()) {
+    if (auto arrays = InitialiseArrays(procedure, slots.slots); !arrays) [[unlikely]]
+      return AbandonFrame(*this, slots, std::move(arrays).error());
+  }
   Frame frame{*this, slots.slots, &procedure, me, nullptr, false};
   auto flow = procedure.body.Exec(frame);
   Result<Variant> result = flow ? Result<Variant>(std::move(slots.slots[Procedure::kResultSlot]))

@@ -144,7 +144,7 @@ class Interpreter {
   Result<FrameSlots> OpenFrame(uint32_t count);
   Result<Variant> RunFrame(const Procedure& procedure, ClassInstance* me, const FrameSlots& frame);
   Result<Ref<ClassInstance>> NewInstance(ClassInfo& info);
-  // Keeps a compiled program alive as long as the engine, since procedures point into it.
+  // Keeps the host's compiled code alive as long as the engine.
   CompiledProgram& Keep(std::unique_ptr<CompiledProgram> program);
   Procedure& Keep(std::unique_ptr<Procedure> procedure);
 
@@ -180,6 +180,15 @@ class Interpreter {
 
   // Empties a frame's slots and gives them back; frames close in the reverse order of opening.
   void CloseFrame(const FrameSlots& frame);
+  // Where the slot stack stands, and the way back there for a host call that a C++ exception
+  // unwound, leaving frames open.
+  struct StackMark {
+    size_t segment = 0;
+    uint32_t offset = 0;
+    uint32_t depth = 0;
+  };
+  StackMark MarkStack() const { return {m_segment, m_offset, m_depth}; }
+  void RewindStack(const StackMark& mark);
 
   // Clears globals and objects (running Class_Terminate where due) and forgets all code.
   void Clear();

@@ -1,6 +1,7 @@
 #include "Parser.h"
 
 #include "Lexer.h"
+#include "StackLimit.h"
 
 namespace vbs {
 
@@ -32,12 +33,15 @@ std::string FoldName(std::string_view name) {
 
 }  // namespace
 
-Parser::DepthGuard::DepthGuard(Parser& parser) : m_parser(parser) {
-  if (++m_parser.m_depth > kMaxDepth) m_parser.Abort(kOutOfStack);
+Parser::DepthGuard::DepthGuard(Parser& parser) : m_parser(parser) { m_parser.Deepen(); }
+
+// The stack is looked at too: Eval may parse from deep inside a recursion of the script's own.
+void Parser::Deepen() {
+  if (++m_depth > kMaxDepth || StackBelow(m_stack_limit)) Abort(kOutOfStack);
 }
 
 Parser::Parser(const SourceTable& sources, uint32_t source_id)
-    : m_sources(sources), m_source_id(source_id), m_text(sources[source_id].text) {
+    : m_sources(sources), m_source_id(source_id), m_text(sources[source_id].text), m_stack_limit(StackLimit()) {
   m_tokens = Tokenize(m_text);
 }
 

@@ -96,6 +96,8 @@ class Parser {
   void Fail(int32_t error) { Fail(error, Current()); }
   void Recover();
   void Abort(int32_t error);
+  // One level deeper; past the limit the parse aborts with "Out of stack space".
+  void Deepen();
   uint16_t& Open(Closer closer) { return m_context.open[static_cast<size_t>(closer)]; }
   bool IsOpen(Closer closer) const { return m_context.open[static_cast<size_t>(closer)] > 0; }
   bool AnyEndOpen() const;
@@ -170,6 +172,7 @@ class Parser {
   bool m_skip_end_check = false;  // a construct reported its missing closer and left the token
   bool m_seen_statement = false;  // "Option Explicit" must come first
   uint32_t m_depth = 0;
+  const char* m_stack_limit;
   uint32_t m_single_line_if = 0;
   Context m_context;
   std::vector<std::unordered_set<std::string>> m_scopes;  // declared names, case-folded

@@ -113,9 +113,17 @@ ast::ExprPtr Parser::ParseOperand() {
   }
 }
 
-// A "." after a blank starts a With member instead: "f .x" passes .x to f.
+// A "." after a blank starts a With member instead: "f .x" passes .x to f. Each link nests the
+// tree one level deeper (a(1)(2) indexes what a(1) gives), so links count against the nesting limit.
 ast::ExprPtr Parser::ParsePostfix(ast::ExprPtr expr, SourcePos* last_paren) {
-  while (expr) {
+  struct RestoreDepth {
+    uint32_t& depth;
+    uint32_t saved;
+    ~RestoreDepth() { depth = saved; }
+  } restore{m_depth, m_depth};
+  while (expr && !m_aborted) {
+    if (At(TokenKind::LParen) || (At(TokenKind::Dot) && !Current().after_blank)) Deepen();
+    if (m_aborted) break;
     if (At(TokenKind::LParen)) {
       if (last_paren) *last_paren = Pos();
       Advance();

@@ -3,6 +3,11 @@
 // Intrusive reference counting for the heap payloads of values (strings, arrays, objects). Script
 // objects must die the moment their last reference goes, because Class_Terminate runs then, as
 // scripts expect; a count in the object itself makes that cheap and deterministic.
+//
+// Dying can cascade: an array that holds the only reference to another array, a chain of objects
+// each holding the next. Each link would nest one more destructor on the C++ stack, so past a
+// modest depth a dying object is queued instead, and the outermost release finishes the queue in
+// a loop: a chain of a million links dies in constant stack.
 
 #include <cstdint>
 #include <utility>
@@ -17,7 +22,7 @@ class RefCounted {
 
   void AddRef() const { ++m_refs; }
   void Release() const {
-    if (--m_refs == 0) const_cast<RefCounted*>(this)->LastReleased();
+    if (--m_refs == 0) const_cast<RefCounted*>(this)->Dispose();
   }
   uint32_t RefCount() const { return m_refs; }
 
@@ -28,7 +33,11 @@ class RefCounted {
   virtual void LastReleased() { delete this; }
 
  private:
+  // Runs LastReleased now, or queues it when releases already nest deep on this thread.
+  void Dispose();
+
   mutable uint32_t m_refs = 0;
+  RefCounted* m_next_disposal = nullptr;  // the queue of deferred disposals, while queued
 };
 
 // A counted pointer to a RefCounted; null is allowed (the script's Nothing).

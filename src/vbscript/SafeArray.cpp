@@ -1,11 +1,32 @@
 #include "SafeArray.h"
 
 #include <algorithm>
+#include <atomic>
 #include <new>
 
 namespace vbs {
 
-SafeArray::~SafeArray() { delete[] m_data; }
+namespace {
+
+// The elements of all arrays alive in the process. Each array is bounded by kMaxElements, but a
+// recursion whose every frame declares a large array, or a loop keeping many, would otherwise
+// exhaust the machine's memory before the stack or the script ran out: past this total (what a
+// 32-bit process could hold), a new array is error 7, as a single too large one is.
+constexpr size_t kMaxLiveElements = SafeArray::kMaxElements;
+std::atomic<size_t> g_live_elements{0};
+
+bool ReserveElements(size_t count) {
+  if (g_live_elements.fetch_add(count, std::memory_order_relaxed) + count <= kMaxLiveElements) return true;
+  g_live_elements.fetch_sub(count, std::memory_order_relaxed);
+  return false;
+}
+
+}  // namespace
+
+SafeArray::~SafeArray() {
+  delete[] m_data;
+  g_live_elements.fetch_sub(m_size, std::memory_order_relaxed);
+}
 
 Result<Ref<SafeArray>> SafeArray::Allocate(std::span<const ArrayBound> bounds) {
   size_t total = 1;
@@ -19,8 +40,12 @@ Result<Ref<SafeArray>> SafeArray::Allocate(std::span<const ArrayBound> bounds) {
   Ref<SafeArray> array(new SafeArray());
   array->m_bounds.assign(bounds.begin(), bounds.end());
   if (total != 0) {
+    if (!ReserveElements(total)) return MakeError(7);
     array->m_data = new (std::nothrow) Variant[total];
-    if (!array->m_data) return MakeError(7);
+    if (!array->m_data) {
+      g_live_elements.fetch_sub(total, std::memory_order_relaxed);
+      return MakeError(7);
+    }
   }
   array->m_size = total;
   return array;

@@ -1,5 +1,6 @@
 #include "ScriptControl.h"
 
+#include "AllocationFailure.h"
 #include "Compiler.h"
 #include "Parser.h"
 
@@ -12,6 +13,26 @@ bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
 }
 
 constexpr int32_t kLanguageNotSet = 5;
+
+constexpr int32_t kInternalError = 51;
+
+// The last line against a C++ exception that the traps of builtins and objects did not catch (an
+// allocation of the parser's or the compiler's, an object of the host's that throws): an error for
+// the host, never an abort, and the slot stack as it stood before the call.
+template <typename Call>
+auto Contained(Interpreter& interp, Call&& call) -> decltype(call()) {
+  const Interpreter::StackMark mark = interp.MarkStack();
+  int32_t number = kAllocationFailed;
+  try {
+    return call();
+  } catch (const std::bad_alloc&) {
+  } catch (const std::length_error&) {
+  } catch (const std::exception&) {
+    number = kInternalError;
+  }
+  interp.RewindStack(mark);
+  return MakeError(number);
+}
 
 }  // namespace
 
@@ -82,12 +103,14 @@ Status ScriptControl::AddObject(std::string name, Ref<Object> object, bool add_m
 Status ScriptControl::AddCode(std::u16string_view code, std::string source_name) {
   BeginCall();
   VBS_TRY(Guard(CheckLanguage()));
-  uint32_t source = m_interp->sources().Add(source_name, std::u16string(code));
-  ParseResult parsed = ParseProgram(m_interp->sources(), source);
-  if (!parsed.errors.empty()) return Guard(Status(parsed.errors.front()));
-  auto program = Compiler(*m_interp, nullptr).CompileProgram(parsed.program);
-  if (!program) return Guard(Status(std::move(program).error()));
-  return Guard(m_interp->RunProgram(m_interp->Keep(std::move(*program))));
+  return Guard(Contained(*m_interp, [&]() -> Status {
+    uint32_t source = m_interp->sources().Add(source_name, std::u16string(code));
+    ParseResult parsed = ParseProgram(m_interp->sources(), source);
+    if (!parsed.errors.empty()) return parsed.errors.front();
+    auto program = Compiler(*m_interp, nullptr).CompileProgram(parsed.program);
+    if (!program) return std::move(program).error();
+    return m_interp->RunProgram(m_interp->Keep(std::move(*program)));
+  }));
 }
 
 Status ScriptControl::ExecuteStatement(std::u16string_view statement) { return AddCode(statement, "ExecuteStatement"); }
@@ -95,12 +118,15 @@ Status ScriptControl::ExecuteStatement(std::u16string_view statement) { return A
 Result<Variant> ScriptControl::Eval(std::u16string_view expression) {
   BeginCall();
   if (auto language = CheckLanguage(); !language) return Guard(Result<Variant>(std::move(language).error()));
-  uint32_t source = m_interp->sources().Add("Eval", std::u16string(expression));
-  auto parsed = ParseExpression(m_interp->sources(), source);
-  if (!parsed) return Guard(Result<Variant>(std::move(parsed).error()));
-  auto program = Compiler(*m_interp, nullptr).CompileExpression(**parsed);
-  if (!program) return Guard(Result<Variant>(std::move(program).error()));
-  return Guard(m_interp->EvalProgram(m_interp->Keep(std::move(*program))));
+  // Like the script's own Eval: one shared source entry, and the code freed once it has run.
+  return Guard(Contained(*m_interp, [&]() -> Result<Variant> {
+    uint32_t source = m_interp->sources().Reuse("Eval", std::u16string(expression));
+    auto parsed = ParseExpression(m_interp->sources(), source);
+    if (!parsed) return std::move(parsed).error();
+    auto program = Compiler(*m_interp, nullptr).CompileExpression(**parsed);
+    if (!program) return std::move(program).error();
+    return m_interp->EvalProgram(**program);
+  }));
 }
 
 Result<Variant> ScriptControl::Run(std::string_view procedure, std::span<Variant> args) {
@@ -108,7 +134,7 @@ Result<Variant> ScriptControl::Run(std::string_view procedure, std::span<Variant
   if (auto language = CheckLanguage(); !language) return Guard(Result<Variant>(std::move(language).error()));
   const GlobalEntry* entry = m_interp->FindGlobal(Interpreter::Fold(procedure));
   if (!entry || entry->kind != GlobalEntry::Kind::Procedure) return Guard(Result<Variant>(MakeError(err::kTypeMismatch)));
-  return Guard(m_interp->Call(*entry->procedure, nullptr, args));
+  return Guard(Contained(*m_interp, [&] { return m_interp->Call(*entry->procedure, nullptr, args); }));
 }
 
 }  // namespace vbs

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vbs {
@@ -27,11 +28,26 @@ class SourceTable {
     m_sources.push_back(SourceText{std::move(name), std::move(text)});
     return static_cast<uint32_t>(m_sources.size() - 1);
   }
+  // For code made at run time (Eval, Execute): all texts of one name share one entry, whose text
+  // each call replaces. The text is read only while it is parsed, and afterwards positions need
+  // only the name, so a loop of a million Eval calls keeps one entry, not a million texts.
+  uint32_t Reuse(std::string_view name, std::u16string text) {
+    for (uint32_t id : m_reused) {
+      if (m_sources[id].name == name) {
+        m_sources[id].text = std::move(text);
+        return id;
+      }
+    }
+    uint32_t id = Add(std::string(name), std::move(text));
+    m_reused.push_back(id);
+    return id;
+  }
   const SourceText& operator[](uint32_t id) const { return m_sources[id]; }
   size_t size() const { return m_sources.size(); }
 
  private:
   std::vector<SourceText> m_sources;
+  std::vector<uint32_t> m_reused;
 };
 
 }  // namespace vbs

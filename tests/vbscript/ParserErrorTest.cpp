@@ -152,6 +152,10 @@ TEST(ParserErrorTest, DeepNestingReportsOutOfStackSpace) {
   for (int i = 0; i < kDepth; ++i) nots += "Not ";
   std::string calls;
   for (int i = 0; i < kDepth; ++i) calls += "f(";
+  std::string members = "x = a";
+  for (int i = 0; i < kDepth; ++i) members += ".b";
+  std::string indexes = "a";
+  for (int i = 0; i < kDepth; ++i) indexes += "(1)";
   const std::string cases[] = {
       "x = " + std::string(kDepth, '(') + "1" + std::string(kDepth, ')'),
       "x = " + std::string(kDepth, '-') + "1",
@@ -160,6 +164,8 @@ TEST(ParserErrorTest, DeepNestingReportsOutOfStackSpace) {
       "Const c = " + std::string(kDepth, '-') + "1",
       ifs,
       single_line_ifs + "x = 1",
+      members,
+      indexes + " = 1",
   };
   for (const std::string& source : cases) {
     SourceTable sources;
@@ -169,8 +175,12 @@ TEST(ParserErrorTest, DeepNestingReportsOutOfStackSpace) {
   }
 }
 
+// A chain of operators is long, not deep: it parses whatever its length.
 TEST(ParserErrorTest, ModerateNestingIsFine) {
   std::string source = "x = " + std::string(100, '(') + "1" + std::string(100, ')') + "\n";
+  source += "y = 1";
+  for (int i = 0; i < 100000; ++i) source += i % 2 ? " + 1" : " & a.b(1)";
+  source += "\n";
   for (int i = 0; i < 60; ++i) source += "For i = 1 To 2\nIf a Then\n";
   for (int i = 0; i < 60; ++i) source += "End If\nNext\n";
   EXPECT_EQ(ParseErrors(source), "");

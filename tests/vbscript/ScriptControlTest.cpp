@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <thread>
 
 #include "vbscript/HostObject.h"
@@ -19,6 +20,7 @@ class Libreria final : public HostObject<Libreria> {
         {"Somma", 2, 3, &Libreria::Somma, nullptr, "A, B[, C]: the sum"},
         {"Riempi", 1, 1, &Libreria::Riempi, nullptr, "Arr: fills the caller's variable with a 1-based array"},
         {"Valore", 0, 0, &Libreria::GetValore, &Libreria::PutValore, "a read-write property", true},
+        {"Esaurisci", 1, 1, &Libreria::Esaurisci, nullptr, "N: fails as the C++ library does when memory runs out"},
     };
     return kMembers;
   }
@@ -43,12 +45,31 @@ class Libreria final : public HostObject<Libreria> {
     args.Out(0) = Variant::Array(*array);
     return Variant();
   }
+  Result<Variant> Esaurisci(CallArgs& args) {
+    auto n = args.Long(0);
+    if (!n) return std::move(n).error();
+    if (*n == 1) throw std::bad_alloc();
+    std::u16string text;
+    text.reserve(text.max_size() + static_cast<size_t>(*n));
+    return Variant();
+  }
   Result<Variant> GetValore(CallArgs&) { return Variant::Long(valore); }
   Result<Variant> PutValore(CallArgs&, Variant value) {
     auto v = value.to_long(locale());
     if (!v) return std::move(v).error();
     valore = *v;
     return Variant();
+  }
+};
+
+// An object bound by hand, without HostObject's trap: what it throws reaches the engine's edge.
+class Grezzo final : public Object {
+ public:
+  std::u16string ClassName() const override { return u"Grezzo"; }
+  DispId FindMember(std::string_view) override { return 1; }
+  Result<Variant> Invoke(DispId, InvokeKind, std::span<Variant> args) override {
+    if (args.empty()) throw std::bad_alloc();
+    throw std::runtime_error("guasto");
   }
 };
 
@@ -132,6 +153,42 @@ TEST_F(Motore, UnaRichiestaDaUnAltroThreadFermaLoScriptAnchePassandoResumeNext) 
   EXPECT_FALSE(Add("On Error Resume Next\nDo\nLoop"));
   stop.join();
   EXPECT_EQ(engine.Error().number, err::kAborted);
+}
+
+TEST_F(Motore, MemoriaEsauritaInUnOggettoEErrore7CheOnErrorIntercetta) {
+  ASSERT_TRUE(engine.AddObject("ClsLibreria", MakeRef<Libreria>(engine.interpreter().locale()), true));
+  ASSERT_TRUE(Add("Dim e\nOn Error Resume Next\nEsaurisci 1\ne = Err.Number\nErr.Clear\nEsaurisci 2\ne = e & Err.Number"));
+  EXPECT_EQ(EvalText("e"), "77");
+  EXPECT_FALSE(Add("Sub Giu(n)\n Esaurisci n\nEnd Sub\nGiu 2"));
+  EXPECT_EQ(engine.Error().number, 7);
+  EXPECT_EQ(engine.Error().line, 2u);
+  // The frames the failure left are given back: deep recursion still reaches its usual limit.
+  EXPECT_FALSE(Add("Function F(n)\n F = F(n + 1)\nEnd Function\nF 1"));
+  EXPECT_EQ(engine.Error().number, 28);
+  EXPECT_EQ(EvalText("1 + 1"), "2");
+
+  ASSERT_TRUE(engine.AddObject("Grezzo", MakeRef<Grezzo>(), false));
+  EXPECT_FALSE(Add("Sub Dentro(n)\n If n > 0 Then Dentro n - 1 Else Grezzo.Qualcosa\nEnd Sub\nDentro 5"));
+  EXPECT_EQ(engine.Error().number, 7);
+  EXPECT_EQ(engine.interpreter().MarkStack().depth, 0u) << "the frames the exception crossed are closed";
+  EXPECT_FALSE(Add("Sub Altro\n Grezzo.Qualcosa 1\nEnd Sub\nAltro"));
+  EXPECT_EQ(engine.Error().number, 51) << "any other exception is an internal error";
+  EXPECT_EQ(engine.interpreter().MarkStack().depth, 0u);
+}
+
+TEST_F(Motore, EvalEExecuteNonTengonoIlCodiceDopoAverloEseguito) {
+  ASSERT_TRUE(Add("Dim i, s\nExecuteGlobal \"Sub Esplodi\" & vbLf & \"s = 1 / 0\" & vbLf & \"End Sub\""));
+  const size_t sources = engine.interpreter().sources().size();
+  ASSERT_TRUE(Add("For i = 1 To 2000\n s = Eval(i & \" * 2\")\n Execute \"s = s + \" & i\n"
+                  " ExecuteGlobal \"Dim g\" & (i Mod 3)\nNext"));
+  EXPECT_EQ(EvalText("s"), "6000");
+  for (int i = 0; i < 100; ++i) EXPECT_EQ(EvalText(std::to_string(i) + " + 1"), std::to_string(i + 1));
+  EXPECT_LE(engine.interpreter().sources().size(), sources + 3) << "the loop, then one entry per kind of run-time code";
+  // What ExecuteGlobal declared lives on, and its errors still name where it came from.
+  EXPECT_FALSE(Add("Esplodi"));
+  EXPECT_EQ(engine.Error().number, 11);
+  EXPECT_EQ(engine.Error().source_name, "ExecuteGlobal");
+  EXPECT_EQ(engine.Error().line, 2u);
 }
 
 }  // namespace
