@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "AggiornamentoArchivio.h"
+#include "LavoroSenzaEccezioni.h"
 #include "SegnalatoreGui.h"
 #include "archive/Estrazione.h"
 
@@ -93,7 +94,9 @@ void AvviaAggiornamentoArchivio(ContestoGui& contesto, QWidget* finestra) {
   progresso->show();
 
   auto esito = std::make_shared<std::optional<Esito<int>>>();
-  QThread* thread = QThread::create([esito, esegui = lavoro->esegui] { *esito = esegui(); });
+  QThread* thread = QThread::create([esito, esegui = lavoro->esegui] {
+    *esito = SenzaEccezioni<int>("AggiornamentoArchivio.Avvia", esegui);
+  });
   QObject::connect(thread, &QThread::finished, progresso, [&contesto, finestra, progresso, thread, esito] {
     thread->deleteLater();
     progresso->deleteLater();

@@ -1,5 +1,7 @@
 #include "EsecuzioneInThread.h"
 
+#include "LavoroSenzaEccezioni.h"
+
 namespace lottolab::gui {
 
 namespace {
@@ -36,7 +38,12 @@ bool EsecuzioneInThread::Avvia(const QString& testo, script::OpzioniEsecuzione o
   m_opzioni = std::move(opzioni);
   m_opzioni.libreria.archivio = m_archivio && !m_archivio->Vuota() ? m_archivio.get() : nullptr;
   m_ospite.Azzera();
-  m_thread.reset(QThread::create([this] { m_esito = m_esecutore.Esegui(m_testo, m_opzioni); }));
+  m_thread.reset(QThread::create([this] {
+    auto esito = SenzaEccezioni<script::EsitoEsecuzione>("F_Script.Esegui",
+                                                         [this] { return m_esecutore.Esegui(m_testo, m_opzioni); });
+    if (!esito) m_ospite.Mostra(esito.Errore());
+    m_esito = esito.ValoreOppure({});
+  }));
   m_thread->setStackSize(kStackScript);
   // The text still gathered is handed over when this arrives, before Terminata.
   connect(m_thread.get(), &QThread::finished, this, &EsecuzioneInThread::Conclusa, Qt::QueuedConnection);

@@ -18,6 +18,8 @@
 
 #include <algorithm>
 
+#include "LavoroSenzaEccezioni.h"
+
 namespace lottolab::gui {
 
 namespace {
@@ -216,7 +218,9 @@ void F_StatStrutture::Cerca() {
           this, [this, quota] { m_avanzamento->setValue(static_cast<int>(quota * kScalaAvanzamento)); },
           Qt::QueuedConnection);
     };
-    m_risultato = CercaStruttura(*m_archivio_cercato, richiesta, progresso, m_fermata_chiesta);
+    m_risultato = SenzaEccezioni<RisultatoRicerca>("F_StatStrutture.Cerca", [&] {
+      return CercaStruttura(*m_archivio_cercato, richiesta, progresso, m_fermata_chiesta);
+    });
   });
   connect(m_lavoro, &QThread::finished, this, &F_StatStrutture::Concludi);
   m_lavoro->start();
