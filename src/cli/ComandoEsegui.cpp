@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "Comandi.h"
+#include "app/ErroreInatteso.h"
 #include "app/Percorsi.h"
 #include "archive/ClsEstrazioni.h"
 #include "script/EsecuzioneScript.h"
@@ -186,7 +187,9 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
         return contesto.Fallisci(AvvisoEsclamativo(fmt::format("manca il valore dell'opzione {}", parola)));
       const std::string& valore = parole[++i];
       if (parola == "--html") {
-        pagina = fs::absolute(valore);
+        std::error_code ec;
+        pagina = fs::absolute(valore, ec);
+        if (ec) pagina = valore;
         continue;
       }
       if (parola == "--risposte") {
@@ -215,7 +218,9 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
   if (!contenuto) return contesto.Fallisci(contenuto.Errore());
 
   std::optional<TabellaEstrazioni> archivio;
-  if (fs::exists(contesto.archivio)) {
+  // A path the system will not even look at is left to the load, which says why.
+  std::error_code ec;
+  if (fs::exists(contesto.archivio, ec) || ec) {
     auto tabella = contesto.CaricaTabella();
     if (!tabella) return contesto.Fallisci(tabella.Errore());
     archivio = std::move(tabella).Valore();
@@ -256,8 +261,12 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
 int ComandoNuovoScript(Contesto& contesto, const Parole& parole) {
   if (parole.size() != 1) return contesto.Fallisci(AvvisoEsclamativo("uso: lottolab nuovo-script FILE.ls"));
   const fs::path file = parole[0];
-  if (fs::exists(file))
+  std::error_code ec;
+  if (fs::exists(file, ec))
     return contesto.Fallisci(AvvisoEsclamativo(fmt::format("il file {} esiste già: non lo sovrascrivo", file.string())));
+  if (ec)
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("impossibile controllare il file {}: {}",
+                                                           app::PercorsoPerMessaggio(file.string()), app::DescriviErroreDiSistema(ec))));
   std::ofstream out(file, std::ios::binary);
   out << script::kModelloScript;
   if (!out.flush())

@@ -60,6 +60,8 @@ int ComandoVbs(Contesto& contesto, const Parole& parole, std::ostream& err) {
   fs::path file = parole[i];
   auto contenuto = script::LeggiFileRegolare(file, script::kLimiteFileScript);
   if (!contenuto) return contesto.Fallisci(contenuto.Errore());
+  std::error_code ec;
+  const fs::path assoluto = fs::absolute(file, ec);
 
   vbs::ScriptControl motore;
   UiTerminale ui(contesto.out);
@@ -67,7 +69,7 @@ int ComandoVbs(Contesto& contesto, const Parole& parole, std::ostream& err) {
   (void)motore.SetLanguage("VBScript");
   (void)motore.SetLocale(lcid);
   auto wscript = vbs::MakeRef<WScript>(motore.interpreter(), file.filename().string(),
-                                       fs::absolute(file).string(),
+                                       (ec ? file : assoluto).string(),
                                        std::vector<std::string>(parole.begin() + static_cast<std::ptrdiff_t>(i) + 1,
                                                                 parole.end()),
                                        contesto.out, err);
