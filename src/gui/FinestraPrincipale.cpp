@@ -18,6 +18,7 @@
 #include "Finestre.h"
 #include "Impostazioni.h"
 #include "ScriptRecenti.h"
+#include "StruttureModello.h"
 #include "SegnalatoreGui.h"
 
 namespace lottolab::gui {
@@ -144,9 +145,12 @@ void FinestraPrincipale::ApriScriptScelto() {
 }
 
 void FinestraPrincipale::ApriStrutturaScelta() {
-  const QString file =
-      QFileDialog::getOpenFileName(this, QStringLiteral("Apri struttura"), Percorso(m_contesto.Configurazione().base),
-                                   QStringLiteral("Struttura utente (*.dat)"));
+  // The structures' own folder keeps the archive, another ".dat", out of the list.
+  std::filesystem::path cartella = CartellaStrutture(m_contesto.Configurazione());
+  std::error_code ec;
+  if (!std::filesystem::is_directory(cartella, ec)) cartella = m_contesto.Configurazione().base;
+  const QString file = QFileDialog::getOpenFileName(this, QStringLiteral("Apri struttura"), Percorso(cartella),
+                                                    QStringLiteral("Struttura utente (*.dat)"));
   if (!file.isEmpty()) ApriStruttura(file);
 }
 
