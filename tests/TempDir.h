@@ -7,6 +7,7 @@
 #include <fstream>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lottolab::test {
@@ -48,6 +49,18 @@ inline std::vector<unsigned char> LeggiByte(const std::filesystem::path& file) {
 inline void ScriviByte(const std::filesystem::path& file, const std::vector<unsigned char>& byte) {
   std::ofstream out(file, std::ios::binary | std::ios::trunc);
   out.write(reinterpret_cast<const char*>(byte.data()), static_cast<std::streamsize>(byte.size()));
+}
+
+// The whole file as bytes in a string; empty when it cannot be read.
+inline std::string Leggi(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+// Writes `byte` as the whole file, creating the folders it needs.
+inline void Scrivi(const std::filesystem::path& file, std::string_view byte) {
+  if (file.has_parent_path()) std::filesystem::create_directories(file.parent_path());
+  std::ofstream(file, std::ios::binary | std::ios::trunc) << byte;
 }
 
 }  // namespace lottolab::test

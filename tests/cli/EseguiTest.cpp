@@ -11,17 +11,9 @@ namespace lottolab::cli {
 namespace {
 
 namespace fs = std::filesystem;
-class ComandoEseguiTest : public LottolabDiProva {
- protected:
+using test::Leggi;
 
-  std::string Leggi(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    std::stringstream testo;
-    testo << in.rdbuf();
-    return testo.str();
-  }
-
-};
+class ComandoEseguiTest : public LottolabDiProva {};
 
 TEST_F(ComandoEseguiTest, ANewScriptFromTheTemplateRunsAndAnExistingFileIsKept) {
   const std::string file = (m_base / "nuovo.ls").string();

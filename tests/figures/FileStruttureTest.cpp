@@ -22,6 +22,8 @@ namespace lottolab::figures {
 namespace {
 
 namespace fs = std::filesystem;
+using lottolab::test::Leggi;
+using lottolab::test::Scrivi;
 using lottolab::test::CartellaTemporanea;
 
 // Writes the file's fields by hand, so that the expected bytes never come from the code under test.
@@ -65,12 +67,6 @@ const ClsVertice kModello{.Index = 0, .IdEstrazione = 9, .Riga = 1, .Colonna = 1
 Byte& RecordA(Byte& b) { return b.Vertice(3, 123456, -1, 0, 2, 37, 7, -1, -1, 1, "A    ", -1); }
 Byte& RecordB(Byte& b) { return b.Vertice(4, -70000, 0, -1, -3, 512, 0, 0, 1, -1, " B   ", 0); }
 
-std::string Leggi(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::stringstream byte;
-  byte << in.rdbuf();
-  return byte.str();
-}
 
 // The structure the bytes hold, or the reason they hold none as the test's failure.
 Struttura Decodificata(std::string_view byte) {
@@ -79,9 +75,6 @@ Struttura Decodificata(std::string_view byte) {
   return letta ? *letta : Struttura{};
 }
 
-void Scrivi(const fs::path& file, std::string_view byte) {
-  std::ofstream(file, std::ios::binary | std::ios::trunc) << byte;
-}
 
 TEST(FileStrutture, VerticesWithoutLinesOrConditionsAndNoTemplate) {
   const Struttura struttura{{kModello, kVerticeA, kVerticeB}, {}, {}};

@@ -15,6 +15,8 @@ namespace lottolab::script {
 namespace {
 
 namespace fs = std::filesystem;
+using test::Leggi;
+using test::Scrivi;
 using test::CartellaTemporanea;
 
 class OspiteDiProva final : public InterfacciaScript {
@@ -49,17 +51,7 @@ class OspiteDiProva final : public InterfacciaScript {
   std::vector<Avviso> m_avvisi;
 };
 
-void Scrivi(const fs::path& file, std::string_view testo) {
-  fs::create_directories(file.parent_path());
-  std::ofstream(file, std::ios::binary) << testo;
-}
 
-std::string Leggi(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::stringstream contenuto;
-  contenuto << in.rdbuf();
-  return contenuto.str();
-}
 
 class EsecuzioneScript : public ::testing::Test {
  protected:

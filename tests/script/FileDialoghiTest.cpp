@@ -16,19 +16,11 @@ namespace lottolab::script {
 namespace {
 
 namespace fs = std::filesystem;
+using test::Leggi;
+using test::Scrivi;
 using test::CartellaTemporanea;
 
-std::string Leggi(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::stringstream contenuto;
-  contenuto << in.rdbuf();
-  return contenuto.str();
-}
 
-void Scrivi(const fs::path& file, std::string_view testo) {
-  fs::create_directories(file.parent_path());
-  std::ofstream(file, std::ios::binary) << testo;
-}
 
 // Tuesdays and Thursdays across a year's end, a Saturday, and February.
 TabellaEstrazioni TabellaDatata() {

@@ -7,6 +7,7 @@
 
 #include <fstream>
 
+#include "LibreriaDiProva.h"
 #include "TempDir.h"
 #include "script/EsecuzioneScript.h"
 #include "script/LetturaFile.h"
@@ -19,16 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 using test::CartellaTemporanea;
 
-class OspiteMuto final : public InterfacciaScript {
- public:
-  void Scrivi(const TrattoTesto& tratto) override { testo += tratto.testo; }
-  void Mostra(const Avviso& avviso) override { avvisi.push_back(avviso); }
-  void Messaggio(const std::string&) override {}
-  void Avanzamento(double) override {}
-
-  std::string testo;
-  std::vector<Avviso> avvisi;
-};
 
 class FileOstili : public ::testing::Test {
  protected:
@@ -52,7 +43,7 @@ class FileOstili : public ::testing::Test {
   CartellaTemporanea m_base;
   fs::path m_fifo;
   fs::path m_grande;
-  OspiteMuto m_ospite;
+  OspiteDiProva m_ospite;
   EsecutoreScript m_esecutore{m_ospite};
   OpzioniEsecuzione m_opzioni;
 };

@@ -5,8 +5,8 @@
 #include <sys/stat.h>
 
 #include <fstream>
-#include <sstream>
 
+#include "LibreriaDiProva.h"
 #include "TempDir.h"
 #include "script/AccessoFile.h"
 #include "script/EsecuzioneScript.h"
@@ -17,30 +17,12 @@ namespace lottolab::script {
 namespace {
 
 namespace fs = std::filesystem;
+using test::Leggi;
+using test::Scrivi;
 using test::CartellaTemporanea;
 
-class OspiteMuto final : public InterfacciaScript {
- public:
-  void Scrivi(const TrattoTesto& tratto) override { testo += tratto.testo; }
-  void Mostra(const Avviso& avviso) override { avvisi.push_back(avviso); }
-  void Messaggio(const std::string&) override {}
-  void Avanzamento(double) override {}
 
-  std::string testo;
-  std::vector<Avviso> avvisi;
-};
 
-std::string Leggi(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::stringstream contenuto;
-  contenuto << in.rdbuf();
-  return contenuto.str();
-}
-
-void Scrivi(const fs::path& file, std::string_view testo) {
-  fs::create_directories(file.parent_path());
-  std::ofstream(file, std::ios::binary) << testo;
-}
 
 // A base folder with an archive, the INI, a script of the user's and the output folder, and a
 // folder outside it standing for the user's home. Paths reach the scripts through the globals
@@ -92,7 +74,7 @@ class ModalitaProtetta : public ::testing::Test {
 
   CartellaTemporanea m_base;
   CartellaTemporanea m_fuori;
-  OspiteMuto m_ospite;
+  OspiteDiProva m_ospite;
   EsecutoreScript m_esecutore{m_ospite};
   OpzioniEsecuzione m_opzioni;
 };
