@@ -67,7 +67,8 @@ Esito<FileIni> FileIni::Carica(const fs::path& percorso) {
   switch (letto.Errore().genere) {
     case GuastoFile::Genere::Assente: return FileIni{};
     case GuastoFile::Genere::NonOrdinario: return Errore(letto.Errore().motivo + ", non un file ordinario");
-    case GuastoFile::Genere::TroppoGrande: return Errore(letto.Errore().motivo + ", troppo per un file di configurazione");
+    case GuastoFile::Genere::TroppoGrande:
+      return Errore(letto.Errore().motivo + ", troppo per un file di configurazione");
     case GuastoFile::Genere::Sistema: break;
   }
   return Errore(letto.Errore().motivo);

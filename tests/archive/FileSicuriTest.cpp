@@ -80,7 +80,8 @@ TEST(FileSicuri, LaScritturaSostituisceIlFileVeroENonLasciaAltro) {
 
   auto archivio = SostituisciFile(cartella / "cartella.ini", "x");
   ASSERT_FALSE(archivio);
-  EXPECT_EQ(archivio.Errore().testo, (cartella / "cartella.ini").string() + " è una cartella: serve un file ordinario");
+  EXPECT_EQ(archivio.Errore().testo,
+            (cartella / "cartella.ini").string() + " è una cartella: serve un file ordinario");
 }
 
 }  // namespace

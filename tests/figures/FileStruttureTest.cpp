@@ -343,7 +343,8 @@ TEST(FileStrutture, AFailedSaveLeavesTheOldFileAndNothingElse) {
   salvata = SalvaStruttura(lungo, {{kVerticeB}, {}, {}});
   ASSERT_FALSE(salvata);
   EXPECT_TRUE(salvata.Errore().testo.ends_with(": nome del file troppo lungo")) << salvata.Errore().testo;
-  EXPECT_EQ(CaricaStruttura(lungo).Errore().testo, "File " + lungo.string() + " non valido: non si può leggere: nome del file troppo lungo");
+  EXPECT_EQ(CaricaStruttura(lungo).Errore().testo,
+            "File " + lungo.string() + " non valido: non si può leggere: nome del file troppo lungo");
   salvata = SalvaStruttura(file / "dentro.dat", {{kVerticeB}, {}, {}});
   ASSERT_FALSE(salvata);
   EXPECT_TRUE(salvata.Errore().testo.ends_with(": una parte del percorso non è una cartella")) << salvata.Errore().testo;
