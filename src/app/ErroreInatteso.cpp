@@ -1,9 +1,10 @@
 #include "ErroreInatteso.h"
 
-#include <cerrno>
 #include <filesystem>
 #include <fmt/format.h>
 #include <new>
+
+#include "archive/FileSicuri.h"
 
 namespace lottolab::app {
 
@@ -31,28 +32,8 @@ std::string PercorsoPerMessaggio(const std::string& percorso) {
 }
 
 std::string DescriviErroreDiSistema(const std::error_code& codice) {
-  if (codice.category() == std::generic_category() || codice.category() == std::system_category()) {
-    switch (codice.value()) {
-      case ENOENT: return "il file o la cartella non esiste";
-      case EACCES:
-      case EPERM: return "permesso negato";
-      case ENAMETOOLONG: return "nome troppo lungo";
-      case EISDIR: return "è una cartella";
-      case ENOTDIR: return "una parte del percorso non è una cartella";
-      case ENOSPC: return "spazio su disco esaurito";
-      case EROFS: return "il disco è in sola lettura";
-      case ELOOP: return "troppi collegamenti simbolici";
-      case EEXIST: return "esiste già";
-      case ENOTEMPTY: return "la cartella non è vuota";
-      case EMFILE:
-      case ENFILE: return "troppi file aperti";
-      case EIO: return "errore di lettura o scrittura sul disco";
-      case ENOMEM: return "memoria insufficiente";
-      case EBUSY: return "risorsa occupata";
-      case EXDEV: return "i due percorsi sono su dischi diversi";
-      default: break;
-    }
-  }
+  if (codice.category() == std::generic_category() || codice.category() == std::system_category())
+    return DescrizioneErrore(codice.value());
   return codice.message();
 }
 

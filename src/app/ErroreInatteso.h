@@ -18,8 +18,8 @@ inline constexpr std::string_view kErroreInatteso = "errore inatteso";
 // the middle. Call it inside a catch block: it looks at the exception being handled.
 std::string DescriviEccezioneCorrente();
 
-// The Italian reason for a system error code: "permesso negato", "nome troppo lungo", ...; the
-// system's own text for codes without one.
+// The Italian reason for a system error code (DescrizioneErrore of archive/FileSicuri.h); the
+// code's own text for codes of other categories.
 std::string DescriviErroreDiSistema(const std::error_code& codice);
 
 // A path as a message shows it: whole when short, else its start and end around an ellipsis.

@@ -2,15 +2,10 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cerrno>
-#include <fcntl.h>
 #include <fmt/format.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
-#include "Descrittore.h"
 #include "ErroreInatteso.h"
-#include "FileAtomico.h"
+#include "archive/FileSicuri.h"
 
 namespace lottolab::app {
 
@@ -65,31 +60,18 @@ Esito<FileIni> FileIni::Carica(const fs::path& percorso) {
     return AvvisoEsclamativo(fmt::format("Impossibile leggere il file di configurazione {}: {}",
                                          PercorsoPerMessaggio(percorso.string()), motivo));
   };
-  // Opened without waiting, so that a pipe or a device put in the file's place is refused by the
-  // check below instead of blocking the program before it starts.
-  Descrittore fd(::open(percorso.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-  if (fd.Fd() < 0) {
-    if (errno == ENOENT) return FileIni{};
-    return Errore(DescriviErroreDiSistema(std::error_code(errno, std::generic_category())));
+  // Read without waiting, so that a pipe or a device put in the file's place is refused instead of
+  // blocking the program before it starts.
+  auto letto = LeggiFileOrdinario(percorso, kDimensioneMassima);
+  if (letto) return DaTesto(*letto);
+  switch (letto.Errore().genere) {
+    case GuastoFile::Genere::Assente: return FileIni{};
+    case GuastoFile::Genere::NonOrdinario: return Errore(letto.Errore().motivo + ", non un file ordinario");
+    case GuastoFile::Genere::TroppoGrande:
+      return Errore(letto.Errore().motivo + ", troppo per un file di configurazione");
+    case GuastoFile::Genere::Sistema: break;
   }
-  struct stat stato {};
-  if (::fstat(fd.Fd(), &stato) != 0) return Errore(DescriviErroreDiSistema(std::error_code(errno, std::generic_category())));
-  if (S_ISDIR(stato.st_mode)) return Errore("è una cartella");
-  if (!S_ISREG(stato.st_mode)) return Errore("non è un file normale");
-
-  std::string testo;
-  char blocco[65536];
-  for (;;) {
-    ssize_t letti = ::read(fd.Fd(), blocco, sizeof blocco);
-    if (letti < 0 && errno == EINTR) continue;
-    if (letti < 0) return Errore(DescriviErroreDiSistema(std::error_code(errno, std::generic_category())));
-    if (letti == 0) break;
-    if (testo.size() + static_cast<size_t>(letti) > kDimensioneMassima)
-      return Errore(fmt::format("è più grande di {} KB, non può essere un file di configurazione",
-                                kDimensioneMassima / 1024));
-    testo.append(blocco, static_cast<size_t>(letti));
-  }
-  return DaTesto(testo);
+  return Errore(letto.Errore().motivo);
 }
 
 size_t FileIni::IndiceChiave(std::string_view sezione, std::string_view chiave) const {
@@ -151,8 +133,8 @@ Esito<Fatto> FileIni::Salva(const fs::path& percorso) const {
   std::error_code ec;
   if (percorso.has_parent_path()) fs::create_directories(percorso.parent_path(), ec);
   if (ec) return Errore(DescriviErroreDiSistema(ec));
-  auto scritto = SostituisciFile(percorso, Testo());
-  if (!scritto) return Errore(scritto.Errore().testo);
+  auto scritto = ScriviFileOrdinario(percorso, Testo());
+  if (!scritto) return Errore(scritto.Errore().motivo);
   return Fatto{};
 }
 

@@ -30,7 +30,7 @@ class FileIni {
   void Scrivi(std::string_view sezione, std::string_view chiave, std::string_view valore);
 
   std::string Testo() const;
-  // Replaces the file all at once (see FileAtomico.h): a failed save leaves the old one whole.
+  // Replaces the file all at once (see archive/FileSicuri.h): a failed save leaves the old one whole.
   Esito<Fatto> Salva(const std::filesystem::path& percorso) const;
 
  private:

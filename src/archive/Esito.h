@@ -1,7 +1,8 @@
 #pragma once
 
 // The outcome of a fallible operation: a value, or the message that explains why there is none.
-// Callers decide whether and where to show the message; nothing is thrown across layers.
+// Callers decide whether and where to show the message; nothing is thrown across layers. A layer
+// that leaves the sentence to its callers may fail with a reason of its own type instead.
 
 #include <cassert>
 #include <utility>
@@ -11,11 +12,11 @@
 
 namespace lottolab {
 
-template <typename T>
+template <typename T, typename E = Avviso>
 class [[nodiscard]] Esito {
  public:
   Esito(T valore) : m_stato(std::move(valore)) {}
-  Esito(Avviso avviso) : m_stato(std::move(avviso)) {}
+  Esito(E errore) : m_stato(std::move(errore)) {}
 
   bool Riuscito() const { return std::holds_alternative<T>(m_stato); }
   explicit operator bool() const { return Riuscito(); }
@@ -36,15 +37,15 @@ class [[nodiscard]] Esito {
   const T* operator->() const { return &Valore(); }
   T* operator->() { return &Valore(); }
 
-  const Avviso& Errore() const {
+  const E& Errore() const {
     assert(!Riuscito());
-    return std::get<Avviso>(m_stato);
+    return std::get<E>(m_stato);
   }
 
   T ValoreOppure(T alternativa) const { return Riuscito() ? Valore() : alternativa; }
 
  private:
-  std::variant<T, Avviso> m_stato;
+  std::variant<T, E> m_stato;
 };
 
 // For operations that yield nothing but may fail.

@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <random>
 #include <thread>
 
 namespace lottolab {
@@ -18,24 +19,6 @@ namespace {
 
 constexpr const char* kProceduraLettura = "FileSicuri.LeggiFileRegolare";
 constexpr const char* kProceduraScrittura = "FileSicuri.SostituisciFile";
-
-Avviso ErroreAccesso(const char* procedura, const fs::path& file, int numero) {
-  // 75 is the number of a path/file access error, as users know it from their scripts.
-  return AvvisoCritico(procedura, 75,
-                       fmt::format("Errore di accesso al file {}: {}", file.string(), DescrizioneErrore(numero)));
-}
-
-std::string_view TipoNonRegolare(mode_t modo) {
-  if (S_ISDIR(modo)) return "è una cartella";
-  if (S_ISFIFO(modo)) return "è una FIFO (pipe con nome)";
-  if (S_ISCHR(modo) || S_ISBLK(modo)) return "è un dispositivo";
-  if (S_ISSOCK(modo)) return "è un socket";
-  return "non è un file ordinario";
-}
-
-Avviso NonRegolare(const fs::path& file, mode_t modo) {
-  return AvvisoEsclamativo(fmt::format("{} {}: serve un file ordinario", file.string(), TipoNonRegolare(modo)));
-}
 
 // Closes a descriptor when the scope ends, whatever way it ends.
 class Descrittore {
@@ -48,15 +31,33 @@ class Descrittore {
   Descrittore& operator=(const Descrittore&) = delete;
   int Get() const { return m_fd; }
   // Closes now, reporting the failure that a delayed write error shows only here.
-  int Chiudi() {
-    int esito = ::close(m_fd);
-    m_fd = -1;
-    return esito;
-  }
+  int Chiudi() { return ::close(std::exchange(m_fd, -1)); }
 
  private:
   int m_fd;
 };
+
+GuastoFile Sistema(int numero) {
+  if (numero == ENOENT) return GuastoFile{GuastoFile::Genere::Assente, numero, DescrizioneErrore(numero)};
+  return GuastoFile{GuastoFile::Genere::Sistema, numero, DescrizioneErrore(numero)};
+}
+
+GuastoFile NonOrdinario(mode_t modo) {
+  std::string cosa = S_ISDIR(modo)                    ? "è una cartella"
+                     : S_ISFIFO(modo)                 ? "è una pipe"
+                     : S_ISCHR(modo) || S_ISBLK(modo) ? "è una periferica"
+                     : S_ISSOCK(modo)                 ? "è un socket"
+                                                      : "non è un file ordinario";
+  return GuastoFile{GuastoFile::Genere::NonOrdinario, 0, std::move(cosa)};
+}
+
+GuastoFile TroppoGrande(uintmax_t limite) {
+  constexpr uintmax_t kKB = 1024, kMB = kKB * 1024;
+  std::string misura = limite >= kMB && limite % kMB == 0   ? fmt::format("{} MB", limite / kMB)
+                       : limite >= kKB && limite % kKB == 0 ? fmt::format("{} KB", limite / kKB)
+                                                            : fmt::format("{} byte", limite);
+  return GuastoFile{GuastoFile::Genere::TroppoGrande, 0, "supera " + misura};
+}
 
 bool ScriviTutto(int fd, std::string_view dati) {
   while (!dati.empty()) {
@@ -70,12 +71,6 @@ bool ScriviTutto(int fd, std::string_view dati) {
   return true;
 }
 
-fs::path Accanto(const fs::path& file, std::string_view suffisso) {
-  fs::path accanto = file;
-  accanto += suffisso;
-  return accanto;
-}
-
 // A link is followed, so that the lock and the new file sit beside the real file and the link
 // survives the rename.
 fs::path FileReale(const fs::path& file) {
@@ -83,6 +78,29 @@ fs::path FileReale(const fs::path& file) {
   if (!fs::is_symlink(file, ec)) return file;
   fs::path reale = fs::canonical(file, ec);
   return ec ? file : reale;
+}
+
+// A new hidden file beside `file`, created with O_EXCL under a random name, so that two writers never
+// share one; a new file gets the permissions the umask allows, as any file the user creates.
+std::pair<int, fs::path> CreaTemporaneo(const fs::path& file) {
+  const fs::path cartella = file.has_parent_path() ? file.parent_path() : fs::path(".");
+  std::random_device caso;
+  for (int tentativo = 0; tentativo < 16; ++tentativo) {
+    fs::path temporaneo = cartella / fmt::format(".{}.{:08x}", file.filename().string(), caso());
+    int fd = ::open(temporaneo.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (fd >= 0 || errno != EEXIST) return {fd, temporaneo};
+  }
+  errno = EEXIST;
+  return {-1, {}};
+}
+
+Avviso ErroreAccesso(const char* procedura, const fs::path& file, const GuastoFile& guasto) {
+  if (guasto.genere == GuastoFile::Genere::NonOrdinario)
+    return AvvisoEsclamativo(fmt::format("{} {}: serve un file ordinario", file.string(), guasto.motivo));
+  if (guasto.genere == GuastoFile::Genere::TroppoGrande)
+    return AvvisoEsclamativo(fmt::format("Il file {} è troppo grande: {}", file.string(), guasto.motivo));
+  // 75 is the number of a path/file access error, as users know it from their scripts.
+  return AvvisoCritico(procedura, 75, fmt::format("Errore di accesso al file {}: {}", file.string(), guasto.motivo));
 }
 
 }  // namespace
@@ -115,35 +133,36 @@ std::string DescrizioneErrore(int numero) {
       return "troppi collegamenti simbolici nel percorso";
     case EFBIG:
       return "file troppo grande";
+    case EEXIST:
+      return "esiste già";
+    case ENOTEMPTY:
+      return "la cartella non è vuota";
+    case ENOMEM:
+      return "memoria insufficiente";
+    case EBUSY:
+      return "risorsa occupata";
+    case EXDEV:
+      return "i due percorsi sono su dischi diversi";
     default:
       return fmt::format("errore di sistema {} ({})", numero, std::strerror(numero));
   }
 }
 
-Esito<Fatto> ControllaFileRegolare(const fs::path& file) {
+Esito<Fatto, GuastoFile> VerificaFileOrdinario(const fs::path& file) {
   struct stat stato {};
-  if (::stat(file.c_str(), &stato) != 0) {
-    if (errno == ENOENT) return Fatto{};
-    return ErroreAccesso(kProceduraLettura, file, errno);
-  }
-  if (!S_ISREG(stato.st_mode)) return NonRegolare(file, stato.st_mode);
+  if (::stat(file.c_str(), &stato) != 0) return Sistema(errno);
+  if (!S_ISREG(stato.st_mode)) return NonOrdinario(stato.st_mode);
   return Fatto{};
 }
 
-Esito<std::optional<std::string>> LeggiFileRegolare(const fs::path& file, size_t limite) {
+Esito<std::string, GuastoFile> LeggiFileOrdinario(const fs::path& file, uintmax_t limite) {
   // O_NONBLOCK keeps a FIFO from blocking the open until a writer comes; a regular file ignores it.
-  Descrittore fd(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-  if (fd.Get() < 0) {
-    if (errno == ENOENT) return std::optional<std::string>{};
-    return ErroreAccesso(kProceduraLettura, file, errno);
-  }
+  Descrittore fd(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+  if (fd.Get() < 0) return Sistema(errno);
   struct stat stato {};
-  if (::fstat(fd.Get(), &stato) != 0) return ErroreAccesso(kProceduraLettura, file, errno);
-  if (!S_ISREG(stato.st_mode)) return NonRegolare(file, stato.st_mode);
-  auto TroppoGrande = [&] {
-    return AvvisoEsclamativo(fmt::format("Il file {} è troppo grande: più di {} MB", file.string(), limite >> 20));
-  };
-  if (static_cast<uintmax_t>(stato.st_size) > limite) return TroppoGrande();
+  if (::fstat(fd.Get(), &stato) != 0) return Sistema(errno);
+  if (!S_ISREG(stato.st_mode)) return NonOrdinario(stato.st_mode);
+  if (static_cast<uintmax_t>(stato.st_size) > limite) return TroppoGrande(limite);
 
   // The size is a hint only: the file may grow or shrink while it is read.
   std::string contenuto;
@@ -153,35 +172,33 @@ Esito<std::optional<std::string>> LeggiFileRegolare(const fs::path& file, size_t
     ssize_t letti = ::read(fd.Get(), blocco, sizeof blocco);
     if (letti < 0) {
       if (errno == EINTR) continue;
-      return ErroreAccesso(kProceduraLettura, file, errno);
+      return Sistema(errno);
     }
     if (letti == 0) break;
-    if (contenuto.size() + static_cast<size_t>(letti) > limite) return TroppoGrande();
+    if (contenuto.size() + static_cast<size_t>(letti) > limite) return TroppoGrande(limite);
     contenuto.append(blocco, static_cast<size_t>(letti));
   }
-  return std::optional<std::string>(std::move(contenuto));
+  return contenuto;
 }
 
-Esito<Fatto> SostituisciFile(const fs::path& richiesto, std::string_view contenuto) {
+Esito<Fatto, GuastoFile> ScriviFileOrdinario(const fs::path& richiesto, std::string_view contenuto) {
   const fs::path file = FileReale(richiesto);
-  const fs::path nuovo = Accanto(file, ".nuovo");
-  mode_t permessi = 0666;
   struct stat stato {};
-  bool esiste = ::stat(file.c_str(), &stato) == 0;
-  if (esiste) permessi = stato.st_mode & 07777;
+  const bool esiste = ::stat(file.c_str(), &stato) == 0;
+  if (!esiste && errno != ENOENT) return Sistema(errno);
+  if (esiste && !S_ISREG(stato.st_mode)) return NonOrdinario(stato.st_mode);
 
-  auto Fallisci = [&](int numero) {
-    ::unlink(nuovo.c_str());
-    return ErroreAccesso(kProceduraScrittura, file, numero);
+  auto [aperto, temporaneo] = CreaTemporaneo(file);
+  if (aperto < 0) return Sistema(errno);
+  Descrittore fd(aperto);
+  auto Fallisci = [&temporaneo](int numero) {
+    ::unlink(temporaneo.c_str());
+    return Sistema(numero);
   };
-  {
-    Descrittore fd(::open(nuovo.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-    if (fd.Get() < 0) return ErroreAccesso(kProceduraScrittura, file, errno);
-    if (esiste && ::fchmod(fd.Get(), permessi) != 0) return Fallisci(errno);
-    if (!ScriviTutto(fd.Get(), contenuto) || ::fsync(fd.Get()) != 0) return Fallisci(errno);
-    if (fd.Chiudi() != 0) return Fallisci(errno);
-  }
-  if (::rename(nuovo.c_str(), file.c_str()) != 0) return Fallisci(errno);
+  if (esiste && ::fchmod(fd.Get(), stato.st_mode & 07777) != 0) return Fallisci(errno);
+  if (!ScriviTutto(fd.Get(), contenuto) || ::fsync(fd.Get()) != 0) return Fallisci(errno);
+  if (fd.Chiudi() != 0) return Fallisci(errno);
+  if (::rename(temporaneo.c_str(), file.c_str()) != 0) return Fallisci(errno);
 
   // The rename reaches the disk only with the folder that records it.
   fs::path cartella = file.has_parent_path() ? file.parent_path() : fs::path(".");
@@ -190,8 +207,28 @@ Esito<Fatto> SostituisciFile(const fs::path& richiesto, std::string_view contenu
   return Fatto{};
 }
 
+Esito<Fatto> ControllaFileRegolare(const fs::path& file) {
+  auto verificato = VerificaFileOrdinario(file);
+  if (verificato || verificato.Errore().genere == GuastoFile::Genere::Assente) return Fatto{};
+  return ErroreAccesso(kProceduraLettura, file, verificato.Errore());
+}
+
+Esito<std::optional<std::string>> LeggiFileRegolare(const fs::path& file, size_t limite) {
+  auto letto = LeggiFileOrdinario(file, limite);
+  if (letto) return std::optional<std::string>(std::move(letto).Valore());
+  if (letto.Errore().genere == GuastoFile::Genere::Assente) return std::optional<std::string>{};
+  return ErroreAccesso(kProceduraLettura, file, letto.Errore());
+}
+
+Esito<Fatto> SostituisciFile(const fs::path& file, std::string_view contenuto) {
+  auto scritto = ScriviFileOrdinario(file, contenuto);
+  if (!scritto) return ErroreAccesso(kProceduraScrittura, FileReale(file), scritto.Errore());
+  return Fatto{};
+}
+
 Esito<BloccoScrittura> BloccoScrittura::Acquisisci(const fs::path& file, std::chrono::milliseconds attesa_massima) {
-  const fs::path blocco = Accanto(FileReale(file), ".lock");
+  fs::path blocco = FileReale(file);
+  blocco += ".lock";
   int fd = ::open(blocco.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
   if (fd < 0) {
     return AvvisoCritico(

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "Condizione.h"
-#include "DiscoStrutture.h"
 #include "LimitiStrutture.h"
+#include "archive/FileSicuri.h"
 #include "vbscript/Utf.h"
 
 namespace lottolab::figures {
@@ -196,6 +196,16 @@ Avviso FileNonValido(const fs::path& file, std::string_view motivo) {
   return Avviso{TipoAvviso::Critico, "", fmt::format("File {} non valido: {}", file.string(), motivo)};
 }
 
+std::string MotivoLettura(const GuastoFile& guasto) {
+  switch (guasto.genere) {
+    case GuastoFile::Genere::Assente: return "il file non esiste";
+    case GuastoFile::Genere::NonOrdinario: return guasto.motivo + ", non un file ordinario";
+    case GuastoFile::Genere::TroppoGrande: return guasto.motivo + ", troppo per una struttura";
+    case GuastoFile::Genere::Sistema: break;
+  }
+  return "non si può leggere: " + guasto.motivo;
+}
+
 Avviso ErroreSalvataggio(const fs::path& file, std::string_view motivo) {
   // 75 is the number of a path/file access error, as users know it from their scripts.
   return AvvisoCritico("SalvaStruttura", 75,
@@ -244,8 +254,8 @@ Esito<Fatto> Scrivi(const fs::path& file, const std::string& byte, size_t vertic
                              riletta ? "un'etichetta, una condizione o un numero della struttura forma la parola "
                                        "\"fine\", che nel file chiude la sezione: il file non si rileggerebbe intero"
                                      : riletta.Errore().testo);
-  auto scritto = ScriviFileIntero(file, byte);
-  if (!scritto) return ErroreSalvataggio(file, scritto.Errore().testo);
+  auto scritto = ScriviFileOrdinario(file, byte);
+  if (!scritto) return ErroreSalvataggio(file, scritto.Errore().motivo);
   return Fatto{};
 }
 
@@ -268,15 +278,15 @@ Esito<Fatto> SalvaStrutturaConCondizione(const fs::path& file, const Struttura& 
 }
 
 Esito<Struttura> CaricaStruttura(const fs::path& file) {
-  auto letto = LeggiFileOrdinario(file, kMassimoByteFile, "troppi per una struttura");
-  if (!letto) return FileNonValido(file, letto.Errore().testo);
+  auto letto = LeggiFileOrdinario(file, kMassimoByteFile);
+  if (!letto) return FileNonValido(file, MotivoLettura(letto.Errore()));
   auto struttura = DecodificaStruttura(*letto);
   if (!struttura) return FileNonValido(file, struttura.Errore().testo);
   return std::move(struttura).Valore();
 }
 
 bool FileDiStruttura(const fs::path& file) {
-  auto letto = LeggiFileOrdinario(file, kMassimoByteFile, "");
+  auto letto = LeggiFileOrdinario(file, kMassimoByteFile);
   std::array<Sezione, 3> sezioni = SezioniDelFile();
   return letto && !TrovaSezioni(*letto, sezioni);
 }

@@ -2,7 +2,8 @@
 
 // Reading a whole file that a user or a script named. The name may lead anywhere: to a device that
 // never ends (/dev/zero), a pipe that waits for a writer, a file of many gigabytes. Only regular
-// files are read, without waiting, and only up to a size fit for what they hold.
+// files are read, without waiting, and only up to a size fit for what they hold: the reading is
+// archive/FileSicuri.h's, the sentences the script's.
 
 #include <cstdint>
 #include <filesystem>

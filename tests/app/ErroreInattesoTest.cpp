@@ -29,7 +29,7 @@ TEST(ErroreInatteso, UnaRigaInItalianoPerOgniEccezione) {
   };
   for (const Caso& caso : {
            Caso{Descrivi(std::filesystem::filesystem_error("x", "/base/" + lungo, errore_di_sistema(ENAMETOOLONG))),
-                "errore inatteso: nome troppo lungo (/base/aaaa"},
+                "errore inatteso: nome del file troppo lungo (/base/aaaa"},
            Caso{Descrivi(std::filesystem::filesystem_error("x", "/base", errore_di_sistema(EACCES))),
                 "errore inatteso: permesso negato (/base)"},
            Caso{Descrivi(std::filesystem::filesystem_error("x", "/a", "/b", errore_di_sistema(EXDEV))),

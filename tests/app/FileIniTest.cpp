@@ -79,11 +79,11 @@ TEST(FileIni, RifiutaCioCheNonEUnFileDiConfigurazione) {
     std::string motivo;
   };
   for (const Caso& caso : {Caso{cartella / "cartella.ini", "è una cartella"},
-                           Caso{cartella / "tubo.ini", "non è un file normale"},
-                           Caso{cartella / "dispositivo.ini", "non è un file normale"},
-                           Caso{cartella / "enorme.ini", "è più grande di 1024 KB"},
+                           Caso{cartella / "tubo.ini", "è una pipe, non un file ordinario"},
+                           Caso{cartella / "dispositivo.ini", "è una periferica, non un file ordinario"},
+                           Caso{cartella / "enorme.ini", "supera 1 MB, troppo per un file di configurazione"},
                            Caso{cartella / "file" / "lottolab.ini", "una parte del percorso non è una cartella"},
-                           Caso{cartella / lungo, "nome troppo lungo"}}) {
+                           Caso{cartella / lungo, "nome del file troppo lungo"}}) {
     auto ini = FileIni::Carica(caso.percorso);
     ASSERT_FALSE(ini) << caso.percorso;
     const std::string& testo = ini.Errore().testo;

@@ -198,8 +198,8 @@ TEST(PercorsiCheNonSonoFile, DannoUnMessaggioSenzaBloccarsi) {
     std::filesystem::path percorso;
     std::string tipo;
   };
-  for (const Caso& caso : {Caso{cartella.Percorso(), "è una cartella"}, Caso{"/dev/zero", "è un dispositivo"},
-                           Caso{fifo, "è una FIFO (pipe con nome)"}}) {
+  for (const Caso& caso : {Caso{cartella.Percorso(), "è una cartella"}, Caso{"/dev/zero", "è una periferica"},
+                           Caso{fifo, "è una pipe"}}) {
     const std::string atteso = caso.percorso.string() + " " + caso.tipo + ": serve un file ordinario";
     ClsEstrazioni archivio(caso.percorso);
     auto caricato = archivio.CaricaEstrazioni();

@@ -65,11 +65,10 @@ TEST_F(ComandoStrutturaTest, APathThatIsNoStructureFileIsRefusedAtOnce) {
   }
   const std::string cartella = m_base.Percorso().string();
   const std::pair<std::string, std::string> casi[] = {
-      {cartella, "è una cartella, non un file"},
-      {"/dev/zero", "non è un file ordinario (è un dispositivo, una pipe o un socket)"},
-      {pipe, "non è un file ordinario (è un dispositivo, una pipe o un socket)"},
-      {grande, "è di " + std::to_string(std::filesystem::file_size(grande)) +
-                   " byte, troppi per una struttura (al massimo 1048576)"},
+      {cartella, "è una cartella, non un file ordinario"},
+      {"/dev/zero", "è una periferica, non un file ordinario"},
+      {pipe, "è una pipe, non un file ordinario"},
+      {grande, "supera 1 MB, troppo per una struttura"},
   };
   for (const auto& [percorso, motivo] : casi) {
     for (const char* comando : {"struttura", "cerca-figura"}) {

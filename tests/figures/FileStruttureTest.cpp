@@ -246,11 +246,11 @@ TEST(FileStrutture, WhatIsNoOrdinaryFileOrIsTooBigIsRefusedAtOnce) {
     out << std::string(kMassimoByteFile, ' ');
   }
   const std::pair<fs::path, std::string> casi[] = {
-      {cartella.Percorso(), "è una cartella, non un file"},
-      {"/dev/zero", "non è un file ordinario (è un dispositivo, una pipe o un socket)"},
-      {pipe, "non è un file ordinario (è un dispositivo, una pipe o un socket)"},
+      {cartella.Percorso(), "è una cartella, non un file ordinario"},
+      {"/dev/zero", "è una periferica, non un file ordinario"},
+      {pipe, "è una pipe, non un file ordinario"},
       {cartella / "manca.dat", "il file non esiste"},
-      {grande, "è di " + std::to_string(fs::file_size(grande)) + " byte, troppi per una struttura (al massimo 1048576)"},
+      {grande, "supera 1 MB, troppo per una struttura"},
   };
   for (const auto& [percorso, motivo] : casi) {
     auto caricata = CaricaStruttura(percorso);
@@ -335,8 +335,9 @@ TEST(FileStrutture, AFailedSaveLeavesTheOldFileAndNothingElse) {
   const fs::path lungo = cartella / (std::string(5000, 'n') + ".dat");
   salvata = SalvaStruttura(lungo, {{kVerticeB}, {}, {}});
   ASSERT_FALSE(salvata);
-  EXPECT_TRUE(salvata.Errore().testo.ends_with(": il nome è troppo lungo")) << salvata.Errore().testo;
-  EXPECT_EQ(CaricaStruttura(lungo).Errore().testo, "File " + lungo.string() + " non valido: non si può leggere: il nome è troppo lungo");
+  EXPECT_TRUE(salvata.Errore().testo.ends_with(": nome del file troppo lungo")) << salvata.Errore().testo;
+  EXPECT_EQ(CaricaStruttura(lungo).Errore().testo,
+            "File " + lungo.string() + " non valido: non si può leggere: nome del file troppo lungo");
   salvata = SalvaStruttura(file / "dentro.dat", {{kVerticeB}, {}, {}});
   ASSERT_FALSE(salvata);
   EXPECT_TRUE(salvata.Errore().testo.ends_with(": una parte del percorso non è una cartella")) << salvata.Errore().testo;
