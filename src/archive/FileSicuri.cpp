@@ -188,9 +188,10 @@ Esito<Fatto, GuastoFile> ScriviFileOrdinario(const fs::path& richiesto, std::str
   if (!esiste && errno != ENOENT) return Sistema(errno);
   if (esiste && !S_ISREG(stato.st_mode)) return NonOrdinario(stato.st_mode);
 
-  auto [aperto, temporaneo] = CreaTemporaneo(file);
-  if (aperto < 0) return Sistema(errno);
-  Descrittore fd(aperto);
+  const auto creato = CreaTemporaneo(file);
+  if (creato.first < 0) return Sistema(errno);
+  const fs::path& temporaneo = creato.second;
+  Descrittore fd(creato.first);
   auto Fallisci = [&temporaneo](int numero) {
     ::unlink(temporaneo.c_str());
     return Sistema(numero);
