@@ -1,4 +1,4 @@
-// Runs a fuzz target's entry point over every file of its corpus, so that the everyday build keeps
+// Runs a fuzz target's entry point over every file of its corpus folders, so that the everyday build keeps
 // passing the inputs the fuzzer kept and the ones that once made it fail. A failing input aborts,
 // as under the fuzzer; the name of each file is printed first so that the log says which.
 
@@ -15,18 +15,21 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 
 int main(int argc, char** argv) {
   namespace fs = std::filesystem;
-  if (argc != 2) {
-    std::fprintf(stderr, "uso: %s CARTELLA_CORPUS\n", argv[0]);
+  if (argc < 2) {
+    std::fprintf(stderr, "uso: %s CARTELLA_CORPUS [CARTELLA_CORPUS ...]\n", argv[0]);
     return 2;
   }
   std::vector<fs::path> file;
-  for (const auto& voce : fs::directory_iterator(fs::absolute(argv[1])))
-    if (voce.is_regular_file()) file.push_back(voce.path());
-  std::sort(file.begin(), file.end());
-  if (file.empty()) {
-    std::fprintf(stderr, "corpus vuoto: %s\n", argv[1]);
-    return 1;
+  for (int i = 1; i < argc; ++i) {
+    const size_t prima = file.size();
+    for (const auto& voce : fs::directory_iterator(fs::absolute(argv[i])))
+      if (voce.is_regular_file()) file.push_back(voce.path());
+    if (file.size() == prima) {
+      std::fprintf(stderr, "corpus vuoto: %s\n", argv[i]);
+      return 1;
+    }
   }
+  std::sort(file.begin(), file.end());
   for (const fs::path& percorso : file) {
     std::printf("%s\n", percorso.filename().c_str());
     std::fflush(stdout);

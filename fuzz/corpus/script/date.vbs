@@ -1,6 +1,0 @@
-d = DateSerial(2020, 2, 29)
-e = DateAdd("m", 1, d)
-f = DateDiff("d", d, e)
-g = FormatDateTime(d, 2)
-h = Weekday(d)
-i = CDate("01/03/2020")

@@ -1,2 +1,0 @@
-If x Then
- y = 1

@@ -1,7 +1,0 @@
-Do While True
- Exit Do
-Loop
-Function F
- Exit Function
-End Function
-F
