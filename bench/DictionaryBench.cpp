@@ -8,7 +8,7 @@
 #include <charconv>
 #include <string>
 
-#include "vbscript/Dictionary.h"
+#include "vbscript/objects/Dictionary.h"
 #include "vbscript/ScriptControl.h"
 
 namespace {

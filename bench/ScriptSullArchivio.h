@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "ArchivioReale.h"
-#include "script/EsecuzioneScript.h"
+#include "script/EsecutoreScript.h"
 
 namespace lottolab::script {
 

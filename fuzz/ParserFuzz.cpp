@@ -6,7 +6,7 @@
 #include <cstdlib>
 
 #include "TestoFuzz.h"
-#include "vbscript/Parser.h"
+#include "vbscript/syntax/Parser.h"
 
 namespace {
 

@@ -12,10 +12,10 @@
 #include "app/ErroreInatteso.h"
 #include "app/Percorsi.h"
 #include "archive/ClsEstrazioni.h"
-#include "script/EsecuzioneScript.h"
+#include "script/EsecutoreScript.h"
 #include "script/LetturaFile.h"
-#include "vbscript/Interpreter.h"
-#include "vbscript/Utf.h"
+#include "vbscript/runtime/Interpreter.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::cli {
 

@@ -7,7 +7,7 @@
 #include "WScript.h"
 #include "script/LetturaFile.h"
 #include "vbscript/ScriptControl.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::cli {
 

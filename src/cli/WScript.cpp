@@ -3,7 +3,7 @@
 #include <chrono>
 #include <thread>
 
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::cli {
 

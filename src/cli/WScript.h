@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "vbscript/HostObject.h"
-#include "vbscript/Interpreter.h"
+#include "vbscript/runtime/Interpreter.h"
 
 namespace lottolab::cli {
 

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::figures {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <fmt/format.h>
 
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

@@ -5,7 +5,7 @@
 #include "ArgomentiLotto.h"
 #include "Famiglia.h"
 #include "stats/Numeri.h"
-#include "vbscript/SafeArray.h"
+#include "vbscript/value/SafeArray.h"
 
 namespace lottolab::script {
 

@@ -4,9 +4,9 @@
 #include <cctype>
 #include <unordered_map>
 
-#include "vbscript/ErrorTable.h"
-#include "vbscript/Interpreter.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/ErrorTable.h"
+#include "vbscript/runtime/Interpreter.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

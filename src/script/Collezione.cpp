@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

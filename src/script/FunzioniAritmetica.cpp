@@ -7,7 +7,7 @@
 #include "ArgomentiLotto.h"
 #include "Famiglia.h"
 #include "stats/Numeri.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

@@ -17,9 +17,9 @@
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
 #include "stats/Numeri.h"
-#include "vbscript/Interpreter.h"
-#include "vbscript/SafeArray.h"
-#include "vbscript/Utf.h"
+#include "vbscript/runtime/Interpreter.h"
+#include "vbscript/value/SafeArray.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

@@ -7,7 +7,7 @@
 
 #include "Collezione.h"
 #include "Famiglia.h"
-#include "vbscript/Operators.h"
+#include "vbscript/value/Operators.h"
 
 namespace lottolab::script {
 

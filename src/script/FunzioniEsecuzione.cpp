@@ -5,7 +5,7 @@
 #include <fmt/format.h>
 
 #include "Famiglia.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

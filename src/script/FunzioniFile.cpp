@@ -23,8 +23,8 @@
 #include "LetturaFile.h"
 #include "archive/DateEstrazione.h"
 #include "archive/ImportaRisultati.h"
-#include "vbscript/SafeArray.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/SafeArray.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

@@ -16,7 +16,7 @@
 #include "TabelleEsecuzione.h"
 #include "stats/Numeri.h"
 #include "stats/Ritardi.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

@@ -19,7 +19,7 @@
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
 #include "RitardoConRegola.h"
-#include "vbscript/SafeArray.h"
+#include "vbscript/value/SafeArray.h"
 
 namespace lottolab::script {
 

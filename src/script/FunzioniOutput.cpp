@@ -1,7 +1,7 @@
 // The script's text output: to the output box (with colours) and to the run's HTML page.
 
 #include "Famiglia.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

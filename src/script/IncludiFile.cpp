@@ -4,7 +4,7 @@
 #include <fmt/format.h>
 
 #include "LetturaFile.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

@@ -7,7 +7,7 @@
 
 #include "Famiglia.h"
 #include "OutputHtml.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

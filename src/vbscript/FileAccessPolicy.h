@@ -12,7 +12,7 @@
 #include <filesystem>
 #include <string_view>
 
-#include "Result.h"
+#include "vbscript/value/Result.h"
 
 namespace vbs {
 

@@ -1,6 +1,6 @@
 #include "HostObject.h"
 
-#include "Interpreter.h"
+#include "vbscript/runtime/Interpreter.h"
 
 namespace vbs {
 

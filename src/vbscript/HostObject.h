@@ -13,11 +13,11 @@
 #include <span>
 #include <string_view>
 
-#include "AllocationFailure.h"
-#include "Coercion.h"
-#include "Locale.h"
-#include "Object.h"
-#include "Utf.h"
+#include "vbscript/value/AllocationFailure.h"
+#include "vbscript/value/Coercion.h"
+#include "vbscript/value/Locale.h"
+#include "vbscript/value/Object.h"
+#include "vbscript/value/Utf.h"
 
 namespace vbs {
 

@@ -1,8 +1,8 @@
 #include "ScriptControl.h"
 
-#include "AllocationFailure.h"
-#include "Compiler.h"
-#include "Parser.h"
+#include "vbscript/value/AllocationFailure.h"
+#include "vbscript/compile/Compiler.h"
+#include "vbscript/syntax/Parser.h"
 
 namespace vbs {
 

@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-#include "Interpreter.h"
+#include "vbscript/runtime/Interpreter.h"
 
 namespace vbs {
 

@@ -10,7 +10,7 @@
 
 #include "LibreriaDiProva.h"
 #include "TempDir.h"
-#include "script/EsecuzioneScript.h"
+#include "script/EsecutoreScript.h"
 
 namespace lottolab::script {
 namespace {

@@ -9,10 +9,10 @@
 
 #include "LibreriaDiProva.h"
 #include "TempDir.h"
-#include "script/EsecuzioneScript.h"
+#include "script/EsecutoreScript.h"
 #include "script/LetturaFile.h"
 #include "script/OutputHtml.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 namespace {

@@ -11,7 +11,7 @@
 
 #include "script/ClsFunctionsGeodoScript.h"
 #include "vbscript/ScriptControl.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

@@ -9,9 +9,9 @@
 #include "LibreriaDiProva.h"
 #include "TempDir.h"
 #include "script/AccessoFile.h"
-#include "script/EsecuzioneScript.h"
+#include "script/EsecutoreScript.h"
 #include "script/LetturaFile.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 namespace {

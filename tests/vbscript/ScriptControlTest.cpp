@@ -4,9 +4,9 @@
 #include <thread>
 
 #include "vbscript/HostObject.h"
-#include "vbscript/SafeArray.h"
+#include "vbscript/value/SafeArray.h"
 #include "vbscript/ScriptControl.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace vbs {
 namespace {

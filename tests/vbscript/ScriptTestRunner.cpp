@@ -19,7 +19,7 @@
 
 #include "vbscript/HostObject.h"
 #include "vbscript/ScriptControl.h"
-#include "vbscript/Utf.h"
+#include "vbscript/value/Utf.h"
 
 namespace fs = std::filesystem;
 

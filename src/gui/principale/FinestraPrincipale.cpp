@@ -1,0 +1,221 @@
+#include "gui/principale/FinestraPrincipale.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QStyle>
+#include <QTimer>
+#include <QToolBar>
+
+#include "gui/archivio/AvvioAggiornamento.h"
+#include "gui/principale/DialogoImpostazioni.h"
+#include "gui/principale/Finestre.h"
+#include "gui/principale/Impostazioni.h"
+#include "gui/script/ScriptRecenti.h"
+#include "gui/strutture/StruttureModello.h"
+#include "gui/principale/SegnalatoreGui.h"
+
+namespace lottolab::gui {
+
+namespace {
+
+QString Percorso(const std::filesystem::path& percorso) { return QString::fromStdString(percorso.string()); }
+
+// Each kind of window carries the icon of the action that opens it, in the toolbar and on its frame.
+constexpr QStyle::StandardPixmap kIconaArchivio = QStyle::SP_FileDialogDetailedView;
+constexpr QStyle::StandardPixmap kIconaTabellone = QStyle::SP_FileDialogListView;
+constexpr QStyle::StandardPixmap kIconaScript = QStyle::SP_FileIcon;
+constexpr QStyle::StandardPixmap kIconaStrutture = QStyle::SP_FileDialogContentsView;
+
+}  // namespace
+
+FinestraPrincipale::FinestraPrincipale(ContestoGui& contesto, QWidget* parent)
+    : QMainWindow(parent),
+      m_contesto(contesto),
+      m_area(new QMdiArea),
+      m_stato_archivio(new QLabel),
+      m_interlocutore(std::make_unique<InterlocutoreGui>(this)) {
+  // Qt's default hides the scroll bars, which makes the area as large as its largest window and
+  // pushes the main window past the screen; scrolling keeps the main window's size the user's.
+  m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  setCentralWidget(m_area);
+  m_stato_archivio->setObjectName(QStringLiteral("statoArchivio"));
+  statusBar()->addPermanentWidget(m_stato_archivio);
+  CreaMenu();
+  connect(&m_contesto, &ContestoGui::ArchivioCambiato, this, &FinestraPrincipale::ArchivioRicaricato);
+  MostraArchivio();
+  // The archive loaded before the window existed is told about once the window is on screen.
+  QTimer::singleShot(0, this, [this] { AvvisaArchivioCaricato(m_contesto, *m_interlocutore); });
+}
+
+void FinestraPrincipale::CreaMenu() {
+  auto azione = [this](QMenu* menu, const QString& testo, const char* nome, auto&& eseguire) {
+    QAction* nuova = menu->addAction(testo);
+    nuova->setObjectName(QString::fromLatin1(nome));
+    connect(nuova, &QAction::triggered, this, std::forward<decltype(eseguire)>(eseguire));
+    return nuova;
+  };
+
+  QMenu* archivio = menuBar()->addMenu(QStringLiteral("&Archivio"));
+  QAction* estrazioni = azione(archivio, QStringLiteral("&Estrazioni"), "azioneEstrazioni",
+                               [this] { AggiungiFinestra(NuovaFinestraArchivio(m_contesto), Icona(kIconaArchivio)); });
+  estrazioni->setIcon(Icona(kIconaArchivio));
+  QAction* aggiorna = azione(archivio, QStringLiteral("&Aggiorna archivio..."), "azioneAggiornaArchivio",
+                             [this] { AvviaAggiornamentoArchivio(m_contesto, this); });
+  aggiorna->setIcon(Icona(QStyle::SP_BrowserReload));
+  archivio->addSeparator();
+  azione(archivio, QStringLiteral("&Impostazioni..."), "azioneImpostazioni", [this] { ApriImpostazioni(); });
+  archivio->addSeparator();
+  azione(archivio, QStringLiteral("E&sci"), "azioneEsci", [this] { close(); })->setShortcut(QKeySequence::Quit);
+
+  QMenu* statistiche = menuBar()->addMenu(QStringLiteral("&Statistiche"));
+  QAction* tabellone = azione(statistiche, QStringLiteral("&Tabellone"), "azioneTabellone",
+                              [this] { AggiungiFinestra(NuovoTabellone(m_contesto), Icona(kIconaTabellone)); });
+  tabellone->setIcon(Icona(kIconaTabellone));
+
+  QMenu* script = menuBar()->addMenu(QStringLiteral("S&cript"));
+  QAction* nuovo_script = azione(script, QStringLiteral("&Nuovo script"), "azioneNuovoScript",
+                                 [this] { AggiungiFinestra(NuovaFinestraScript(m_contesto), Icona(kIconaScript)); });
+  nuovo_script->setIcon(Icona(kIconaScript));
+  nuovo_script->setShortcut(QKeySequence::New);
+  QAction* apri_script =
+      azione(script, QStringLiteral("&Apri script..."), "azioneApriScript", [this] { ApriScriptScelto(); });
+  apri_script->setIcon(Icona(QStyle::SP_DialogOpenButton));
+  apri_script->setShortcut(QKeySequence::Open);
+  m_script_recenti = script->addMenu(QStringLiteral("Script &recenti"));
+  connect(m_script_recenti, &QMenu::aboutToShow, this, &FinestraPrincipale::CompilaScriptRecenti);
+
+  QMenu* figure = menuBar()->addMenu(QStringLiteral("&Figure"));
+  QAction* editor = azione(figure, QStringLiteral("&Editor strutture"), "azioneEditorStrutture",
+                           [this] { AggiungiFinestra(NuovoEditorStrutture(m_contesto), Icona(kIconaStrutture)); });
+  editor->setIcon(Icona(kIconaStrutture));
+  azione(figure, QStringLiteral("&Apri struttura..."), "azioneApriStruttura", [this] { ApriStrutturaScelta(); });
+
+  m_finestre = menuBar()->addMenu(QStringLiteral("Fi&nestre"));
+  connect(m_finestre, &QMenu::aboutToShow, this, &FinestraPrincipale::CompilaFinestre);
+  CompilaFinestre();
+
+  QMenu* aiuto = menuBar()->addMenu(QStringLiteral("A&iuto"));
+  azione(aiuto, QStringLiteral("&Informazioni"), "azioneInformazioni", [this] { MostraInformazioni(); });
+
+  QToolBar* barra = addToolBar(QStringLiteral("Strumenti"));
+  barra->setObjectName(QStringLiteral("barraStrumenti"));
+  barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  barra->setMovable(false);
+  barra->addActions({estrazioni, aggiorna});
+  barra->addSeparator();
+  barra->addAction(tabellone);
+  barra->addSeparator();
+  barra->addActions({nuovo_script, apri_script});
+  barra->addSeparator();
+  barra->addAction(editor);
+}
+
+QIcon FinestraPrincipale::Icona(QStyle::StandardPixmap icona) const { return style()->standardIcon(icona); }
+
+void FinestraPrincipale::AggiungiFinestra(QWidget* finestra, const QIcon& icona) {
+  QMdiSubWindow* sotto = m_area->addSubWindow(finestra);
+  sotto->setAttribute(Qt::WA_DeleteOnClose);
+  sotto->setWindowIcon(icona);
+  // A window opens large enough to be used at once, never larger than the area that holds it.
+  sotto->resize(sotto->sizeHint().expandedTo(m_area->size() * 3 / 4).boundedTo(m_area->size()));
+  sotto->show();
+}
+
+void FinestraPrincipale::ApriScript(const QString& file) {
+  AggiungiFinestra(NuovaFinestraScript(m_contesto, file), Icona(kIconaScript));
+  app::FileIni ini = m_contesto.Configurazione().ini;
+  AggiungiScriptRecente(ini, QFileInfo(file).absoluteFilePath().toStdString());
+  if (auto salvato = SalvaConfigurazione(m_contesto, std::move(ini)); !salvato)
+    SegnalatoreGui(this).Mostra(salvato.Errore());
+}
+
+void FinestraPrincipale::ApriScriptScelto() {
+  const QString file = QFileDialog::getOpenFileName(this, QStringLiteral("Apri script"),
+                                                    Percorso(CartellaScript(m_contesto.Configurazione())),
+                                                    QStringLiteral("File script (*.ls);;Tutti (*.*)"));
+  if (!file.isEmpty()) ApriScript(file);
+}
+
+void FinestraPrincipale::ApriStrutturaScelta() {
+  // The structures' own folder keeps the archive, another ".dat", out of the list.
+  std::filesystem::path cartella = CartellaStrutture(m_contesto.Configurazione());
+  std::error_code ec;
+  if (!std::filesystem::is_directory(cartella, ec)) cartella = m_contesto.Configurazione().base;
+  const QString file = QFileDialog::getOpenFileName(this, QStringLiteral("Apri struttura"), Percorso(cartella),
+                                                    QStringLiteral("Struttura utente (*.dat)"));
+  if (!file.isEmpty()) ApriStruttura(file);
+}
+
+void FinestraPrincipale::ApriStruttura(const QString& file) {
+  AggiungiFinestra(NuovoEditorStrutture(m_contesto, file), Icona(kIconaStrutture));
+}
+
+void FinestraPrincipale::ApriImpostazioni() {
+  DialogoImpostazioni dialogo(m_contesto, this);
+  // The archive file may have changed even when it could not be loaded: the title says which it is.
+  if (dialogo.exec() == QDialog::Accepted) MostraArchivio();
+}
+
+void FinestraPrincipale::MostraInformazioni() {
+  QMessageBox::about(this, QStringLiteral("Informazioni su lottolab"),
+                     QStringLiteral("<h3>lottolab</h3><p>Banco di lavoro per le statistiche del Lotto: archivio delle "
+                                    "estrazioni, ritardi e frequenze, script e figure.</p>"
+                                    "<p>Cartella di base: %1</p>")
+                         .arg(Percorso(m_contesto.Configurazione().base).toHtmlEscaped()));
+}
+
+void FinestraPrincipale::MostraArchivio() {
+  setWindowTitle(QStringLiteral("lottolab - %1").arg(Percorso(m_contesto.Configurazione().ArchivioLotto().filename())));
+  m_stato_archivio->setText(QString::fromStdString(TestoStatoArchivio(m_contesto)));
+}
+
+void FinestraPrincipale::ArchivioRicaricato() {
+  MostraArchivio();
+  AvvisaArchivioCaricato(m_contesto, *m_interlocutore);
+}
+
+void FinestraPrincipale::CompilaScriptRecenti() {
+  m_script_recenti->clear();
+  const std::vector<std::string> recenti = LeggiScriptRecenti(m_contesto.Configurazione().ini);
+  if (recenti.empty()) m_script_recenti->addAction(QStringLiteral("(nessuno)"))->setEnabled(false);
+  int posizione = 1;
+  for (const std::string& recente : recenti) {
+    const QString file = QString::fromStdString(recente);
+    QAction* voce = m_script_recenti->addAction(QStringLiteral("&%1 %2").arg(posizione++).arg(file));
+    connect(voce, &QAction::triggered, this, [this, file] {
+      if (QFileInfo::exists(file))
+        ApriScript(file);
+      else
+        SegnalatoreGui(this).Mostra(AvvisoEsclamativo("Lo script " + file.toStdString() + " non esiste più."));
+    });
+  }
+}
+
+void FinestraPrincipale::CompilaFinestre() {
+  m_finestre->clear();
+  m_finestre->addAction(QStringLiteral("&Affianca"), m_area, &QMdiArea::tileSubWindows);
+  m_finestre->addAction(QStringLiteral("A &cascata"), m_area, &QMdiArea::cascadeSubWindows);
+  const QList<QMdiSubWindow*> aperte = m_area->subWindowList();
+  if (aperte.isEmpty()) return;
+  m_finestre->addSeparator();
+  int posizione = 1;
+  for (QMdiSubWindow* aperta : aperte) {
+    // The title's "[*]" is where Qt marks unsaved changes: the list marks them the same way.
+    QString titolo = aperta->windowTitle();
+    titolo.replace(QStringLiteral("[*]"), aperta->isWindowModified() ? QStringLiteral("*") : QString());
+    QAction* voce = m_finestre->addAction(QStringLiteral("&%1 %2").arg(posizione++).arg(titolo));
+    voce->setCheckable(true);
+    voce->setChecked(aperta == m_area->activeSubWindow());
+    connect(voce, &QAction::triggered, m_area, [this, aperta] { m_area->setActiveSubWindow(aperta); });
+  }
+}
+
+}  // namespace lottolab::gui

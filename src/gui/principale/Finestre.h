@@ -1,0 +1,22 @@
+#pragma once
+
+// The windows the main window opens in its multi-document area. Each is an ordinary widget that
+// knows only the shared context, so it can be opened, and tested, on its own.
+
+#include <QString>
+#include <QWidget>
+
+#include "gui/principale/ContestoGui.h"
+
+namespace lottolab::gui {
+
+// The list of the archive's draws, with a draw's detail, a jump to a date and the update.
+QWidget* NuovaFinestraArchivio(ContestoGui& contesto, QWidget* parent = nullptr);
+// The script window; with a file, the script read from it.
+QWidget* NuovaFinestraScript(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);
+// The delay table of the 90 numbers on the chosen wheels.
+QWidget* NuovoTabellone(ContestoGui& contesto, QWidget* parent = nullptr);
+// The editor of user figures; with a file, the structure read from it.
+QWidget* NuovoEditorStrutture(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);
+
+}  // namespace lottolab::gui

@@ -1,0 +1,12 @@
+#include "gui/script/F_Script.h"
+#include "gui/principale/Finestre.h"
+
+namespace lottolab::gui {
+
+QWidget* NuovaFinestraScript(ContestoGui& contesto, const QString& file, QWidget* parent) {
+  auto* finestra = new F_Script(contesto, nullptr, parent);
+  if (!file.isEmpty()) finestra->ApriFile(file);
+  return finestra;
+}
+
+}  // namespace lottolab::gui

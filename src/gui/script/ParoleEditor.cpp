@@ -1,0 +1,108 @@
+#include "gui/script/ParoleEditor.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "script/ClsFunctionsGeodoScript.h"
+#include "vbscript/builtins/Builtins.h"
+
+namespace lottolab::gui {
+
+namespace {
+
+// The lexer keeps its table of reserved words to itself; the editor's test checks that the lexer
+// takes every word here as reserved.
+constexpr std::string_view kParoleChiave[] = {
+    "And",    "ByRef",   "ByVal",    "Call",     "Case",    "Class",   "Const",    "Default",  "Dim",
+    "Do",     "Each",    "Else",     "ElseIf",   "Empty",   "End",     "Eqv",      "Erase",    "Error",
+    "Exit",   "Explicit", "False",   "For",      "Function", "Get",    "GoTo",     "If",       "Imp",
+    "In",     "Is",      "Let",      "Loop",     "Me",      "Mod",     "New",      "Next",     "Not",
+    "Nothing", "Null",   "On",       "Option",   "Or",      "Preserve", "Private", "Property", "Public",
+    "ReDim",  "Rem",     "Resume",   "Select",   "Set",     "Step",    "Stop",     "Sub",      "Then",
+    "To",     "True",    "Until",    "Wend",     "While",   "With",    "Xor",
+};
+
+std::string Minuscolo(std::string_view testo) {
+  std::string minuscolo(testo);
+  std::transform(minuscolo.begin(), minuscolo.end(), minuscolo.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return minuscolo;
+}
+
+bool MinoreSenzaMaiuscole(const std::string& a, const std::string& b) { return Minuscolo(a) < Minuscolo(b); }
+
+// The engine's rows read "Len(string): what it does"; what comes before the colon is the tip, since
+// what follows is written for the engine's developers.
+ParolaEditor DaBuiltin(const vbs::Builtin& builtin) {
+  const size_t due_punti = builtin.description.find(": ");
+  return {std::string(builtin.name), std::string(builtin.description.substr(0, due_punti))};
+}
+
+// The library's rows read "Arguments: what it does", or only what it does for a name with none.
+ParolaEditor DaFunzione(const script::ClsFunctionsGeodoScript::Funzione& funzione) {
+  const std::string nome(funzione.nome);
+  const std::string_view descrizione = funzione.descrizione;
+  const size_t due_punti = descrizione.find(": ");
+  if (funzione.max_args == 0 || due_punti == std::string_view::npos)
+    return {nome, nome + ": " + std::string(descrizione)};
+  return {nome, nome + "(" + std::string(descrizione.substr(0, due_punti)) + ")\n" +
+                    std::string(descrizione.substr(due_punti + 2))};
+}
+
+}  // namespace
+
+const ParoleEditor& ParoleEditor::Tutte() {
+  static const ParoleEditor parole;
+  return parole;
+}
+
+ParoleEditor::ParoleEditor() {
+  m_parole_chiave.assign(std::begin(kParoleChiave), std::end(kParoleChiave));
+  for (auto famiglia : {vbs::CoreBuiltins(), vbs::CodeBuiltins(), vbs::StringBuiltins(), vbs::MathBuiltins(),
+                        vbs::DateBuiltins(), vbs::FormatBuiltins(), vbs::ConversionBuiltins(),
+                        vbs::InteractionBuiltins()})
+    for (const vbs::Builtin& builtin : famiglia) m_funzioni_vbscript.push_back(DaBuiltin(builtin));
+  for (const auto& funzione : script::ClsFunctionsGeodoScript::Funzioni())
+    if (!funzione.descrizione.starts_with("(host)")) m_funzioni_libreria.push_back(DaFunzione(funzione));
+
+  m_tutti_i_nomi = m_parole_chiave;
+  for (const auto* parole : {&m_funzioni_vbscript, &m_funzioni_libreria})
+    for (const ParolaEditor& parola : *parole) m_tutti_i_nomi.push_back(parola.nome);
+  std::sort(m_tutti_i_nomi.begin(), m_tutti_i_nomi.end(), MinoreSenzaMaiuscole);
+  m_tutti_i_nomi.erase(std::unique(m_tutti_i_nomi.begin(), m_tutti_i_nomi.end(),
+                                   [](const std::string& a, const std::string& b) { return Minuscolo(a) == Minuscolo(b); }),
+                       m_tutti_i_nomi.end());
+}
+
+std::vector<std::string> ParoleEditor::Completamenti(std::string_view prefisso) const {
+  const std::string cercato = Minuscolo(prefisso);
+  std::vector<std::string> nomi;
+  for (const std::string& nome : m_tutti_i_nomi)
+    if (Minuscolo(nome).starts_with(cercato)) nomi.push_back(nome);
+  return nomi;
+}
+
+std::string ParoleEditor::Suggerimento(std::string_view nome) const {
+  const std::string cercato = Minuscolo(nome);
+  for (const auto* parole : {&m_funzioni_libreria, &m_funzioni_vbscript})
+    for (const ParolaEditor& parola : *parole)
+      if (Minuscolo(parola.nome) == cercato) return parola.suggerimento;
+  return {};
+}
+
+std::string ElencoPerLexer(const std::vector<std::string>& nomi) {
+  std::string elenco;
+  for (const std::string& nome : nomi) {
+    if (!elenco.empty()) elenco += ' ';
+    elenco += Minuscolo(nome);
+  }
+  return elenco;
+}
+
+std::string ElencoPerLexer(const std::vector<ParolaEditor>& parole) {
+  std::vector<std::string> nomi;
+  for (const ParolaEditor& parola : parole) nomi.push_back(parola.nome);
+  return ElencoPerLexer(nomi);
+}
+
+}  // namespace lottolab::gui

@@ -1,0 +1,24 @@
+#include "gui/script/ScriptConfigurazione.h"
+
+#include "gui/principale/Impostazioni.h"
+#include "app/Percorsi.h"
+
+namespace lottolab::gui {
+
+script::ImpostazioniLibreria ImpostazioniLibreriaDa(const app::Configurazione& configurazione) {
+  script::ImpostazioniLibreria impostazioni;
+  impostazioni.cartella_base = configurazione.base;
+  impostazioni.cartella_dati_app = configurazione.base;
+  impostazioni.cartella_output = configurazione.base / "scriptOutput";
+  impostazioni.sola_lettura = {configurazione.ArchivioLotto(), configurazione.ArchivioModificabile(),
+                               app::FileConfigurazione(configurazione.base)};
+  const std::string colore = LeggiImpostazioni(configurazione.ini).colore_sfondo_html;
+  if (!colore.empty()) impostazioni.colore_sfondo_html = colore;
+  return impostazioni;
+}
+
+bool MantieniPaginaHtml(const app::Configurazione& configurazione) {
+  return LeggiImpostazioni(configurazione.ini).mantieni_pagina_html;
+}
+
+}  // namespace lottolab::gui

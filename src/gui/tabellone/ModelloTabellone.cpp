@@ -1,0 +1,95 @@
+#include "gui/tabellone/ModelloTabellone.h"
+
+#include <QBrush>
+#include <QString>
+
+#include "gui/tabellone/TabelloneScala.h"
+
+namespace lottolab::gui {
+
+ModelloTabellone::ModelloTabellone(QObject* parent) : QAbstractTableModel(parent) {}
+
+void ModelloTabellone::Calcola(const TabellaEstrazioni& tab, std::span<const int> ruote, int fine) {
+  beginResetModel();
+  m_righe.clear();
+  m_fine = tab.Contiene(fine) ? fine : 0;
+  if (m_fine > 0) {
+    const stats::TabelloneRuote tabellone = stats::CalcolaTabellone(tab, 1, m_fine);
+    m_righe.reserve(ruote.size() * kMassimoNumero);
+    for (int ruota : ruote)
+      for (int numero = 1; numero <= kMassimoNumero; ++numero)
+        m_righe.push_back({ruota, numero, tabellone.Dati(ruota, numero)});
+  }
+  endResetModel();
+}
+
+int ModelloTabellone::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(m_righe.size());
+}
+
+int ModelloTabellone::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : kColonne; }
+
+QVariant ModelloTabellone::Valore(const Riga& riga, int colonna) const {
+  switch (colonna) {
+    case kColonnaRuota: return riga.ruota;
+    case kColonnaNumero: return riga.numero;
+    case kColonnaRitardo: return riga.dati.ritardo;
+    case kColonnaFrequenza: return riga.dati.frequenza;
+    case kColonnaStorico: return riga.dati.storico;
+    default: return {};
+  }
+}
+
+QVariant ModelloTabellone::DatoRitardo(const Riga& riga, int ruolo) const {
+  const double quota = QuotaDelloStorico(riga.dati.ritardo, riga.dati.storico);
+  switch (ruolo) {
+    case Qt::BackgroundRole: return QBrush(SfondoRitardo(quota));
+    case Qt::ForegroundRole: return QBrush(TestoSuSfondo(SfondoRitardo(quota)));
+    case Qt::ToolTipRole:
+      return QString("Ritardo %1 su un massimo storico di %2: il %3%")
+          .arg(riga.dati.ritardo)
+          .arg(riga.dati.storico)
+          .arg(static_cast<int>(quota * 100 + 0.5));
+    default: return {};
+  }
+}
+
+QVariant ModelloTabellone::data(const QModelIndex& indice, int ruolo) const {
+  if (!indice.isValid() || indice.row() >= rowCount()) return {};
+  const Riga& riga = m_righe[static_cast<size_t>(indice.row())];
+  const int colonna = indice.column();
+  if (ruolo == kRuoloOrdinamento) return Valore(riga, colonna);
+  if (ruolo == Qt::DisplayRole)
+    return colonna == kColonnaRuota ? QString::fromUtf8(NomeRuota(riga.ruota)) : Valore(riga, colonna);
+  if (ruolo == Qt::TextAlignmentRole)
+    return colonna == kColonnaRuota ? QVariant(Qt::AlignLeft | Qt::AlignVCenter)
+                                     : QVariant(Qt::AlignRight | Qt::AlignVCenter);
+  if (colonna == kColonnaRitardo) return DatoRitardo(riga, ruolo);
+  return {};
+}
+
+QVariant ModelloTabellone::headerData(int sezione, Qt::Orientation orientamento, int ruolo) const {
+  if (orientamento != Qt::Horizontal) return QAbstractTableModel::headerData(sezione, orientamento, ruolo);
+  if (ruolo == Qt::DisplayRole) {
+    switch (sezione) {
+      case kColonnaRuota: return QString("Ruota");
+      case kColonnaNumero: return QString("Numero");
+      case kColonnaRitardo: return QString("Ritardo");
+      case kColonnaFrequenza: return QString("Frequenza");
+      case kColonnaStorico: return QString("Storico");
+      default: return {};
+    }
+  }
+  if (ruolo == Qt::ToolTipRole) {
+    switch (sezione) {
+      case kColonnaRitardo:
+        return "Estrazioni della ruota trascorse dall'ultima uscita del numero.\n" + DescrizioneScalaRitardo();
+      case kColonnaFrequenza: return QString("Uscite del numero sulla ruota fino all'estrazione scelta");
+      case kColonnaStorico: return QString("Il ritardo più lungo che il numero abbia avuto sulla ruota");
+      default: return {};
+    }
+  }
+  return {};
+}
+
+}  // namespace lottolab::gui

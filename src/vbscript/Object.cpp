@@ -1,7 +1,0 @@
-#include "Object.h"
-
-namespace vbs {
-
-Result<Ref<Enumerator>> Object::Enumerate() { return MakeError(451); }
-
-}  // namespace vbs

@@ -1,7 +1,0 @@
-#include "Result.h"
-
-namespace vbs {
-
-void ErrorDeleter::operator()(ScriptError* error) const { delete error; }
-
-}  // namespace vbs

@@ -1,0 +1,47 @@
+#pragma once
+
+// The language's built-in functions, registered by tables: one family per file, each row a name,
+// its arity, the function and a one-line description. The compiler resolves a name to its row
+// once; a call checks the arity and hands over the argument values.
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "vbscript/value/Result.h"
+#include "vbscript/value/Variant.h"
+
+namespace vbs {
+
+struct Frame;
+
+struct Builtin {
+  std::string_view name;
+  uint8_t min_args;
+  uint8_t max_args;
+  Result<Variant> (*function)(Frame& frame, std::span<Variant> args);
+  std::string_view description;
+  // Functions that see the caller's variables (Eval, Execute) get references to them.
+  bool wants_references = false;
+  // Statements in function form (Randomize): used for a value they are a type mismatch.
+  bool gives_no_value = false;
+};
+
+// Every built-in, for lookup by folded name.
+const Builtin* FindBuiltinFunction(std::string_view folded_name);
+
+// The value of a named constant (vbCrLf, vbLong, vbYes, ...), by folded name.
+std::optional<Variant> NamedConstantValue(std::string_view folded_name);
+
+// The families.
+std::span<const Builtin> CoreBuiltins();
+std::span<const Builtin> CodeBuiltins();
+std::span<const Builtin> StringBuiltins();
+std::span<const Builtin> MathBuiltins();
+std::span<const Builtin> DateBuiltins();
+std::span<const Builtin> FormatBuiltins();
+std::span<const Builtin> ConversionBuiltins();
+std::span<const Builtin> InteractionBuiltins();
+
+}  // namespace vbs

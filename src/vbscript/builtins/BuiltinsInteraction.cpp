@@ -1,0 +1,138 @@
+// Talking to the user and to the host: MsgBox and InputBox through the host's UiHandler, the
+// engine's identity (ScriptEngine and its version), the locale (GetLocale, SetLocale) and RGB.
+//
+// When the host forbids user interface (the script control's AllowUI set to False) or gives no
+// handler, MsgBox and InputBox fail with error 70, "Permission denied", as Windows' script control
+// does when its site refuses to show them: a script that asks a question nobody can answer stops
+// instead of going on with an invented answer.
+
+#include <algorithm>
+#include <string>
+
+#include "vbscript/builtins/BuiltinArgs.h"
+#include "vbscript/builtins/Builtins.h"
+#include "vbscript/value/Coercion.h"
+#include "vbscript/value/Utf.h"
+
+namespace vbs {
+
+namespace {
+
+using namespace builtin;
+
+constexpr int32_t kPermissionDenied = 70;
+
+// A text argument that may be omitted or Null (both give "").
+Result<std::u16string> OptionalText(Frame& frame, Args args, size_t index) {
+  if (!IsGiven(args, index) || IsNull(args[index])) return std::u16string();
+  auto text = TextArg(frame, args[index]);
+  if (!text) return std::move(text).error();
+  return text->ToU16String();
+}
+
+// MsgBox(prompt [, buttons [, title [, helpfile, context]]]): the button pressed (vbOK ... vbNo).
+Result<Variant> MsgBoxFunction(Frame& frame, Args args) {
+  auto prompt = OptionalText(frame, args, 0);
+  if (!prompt) return std::move(prompt).error();
+  int32_t buttons = 0;
+  if (IsGiven(args, 1)) {
+    auto n = LongArg(frame, args[1]);
+    if (!n) return std::move(n).error();
+    buttons = *n;
+  }
+  auto title = OptionalText(frame, args, 2);
+  if (!title) return std::move(title).error();
+  UiHandler* ui = frame.interp.ui();
+  if (!ui) return MakeError(kPermissionDenied);
+  return Variant::Integer(static_cast<int16_t>(ui->MessageBox(*prompt, buttons, *title)));
+}
+
+// InputBox(prompt [, title [, default [, xpos, ypos [, helpfile, context]]]]): the text typed, or
+// Empty when the user cancels (so that IsEmpty tells a cancel from an empty answer).
+Result<Variant> InputBoxFunction(Frame& frame, Args args) {
+  auto prompt = OptionalText(frame, args, 0);
+  if (!prompt) return std::move(prompt).error();
+  auto title = OptionalText(frame, args, 1);
+  if (!title) return std::move(title).error();
+  auto default_text = OptionalText(frame, args, 2);
+  if (!default_text) return std::move(default_text).error();
+  UiHandler* ui = frame.interp.ui();
+  if (!ui) return MakeError(kPermissionDenied);
+  auto answer = ui->InputBox(*prompt, *title, *default_text);
+  if (!answer) return Variant();
+  return Variant::String(*answer);
+}
+
+Result<Variant> ScriptEngineFunction(Frame&, Args) { return Variant::String(u"VBScript"); }
+Result<Variant> MajorVersionFunction(Frame&, Args) { return Variant::Long(5); }
+Result<Variant> MinorVersionFunction(Frame&, Args) { return Variant::Long(8); }
+// The build of the engine that Windows 10 and 11 ship (5.812.10240.16384).
+Result<Variant> BuildVersionFunction(Frame&, Args) { return Variant::Long(16384); }
+
+Result<Variant> GetLocaleFunction(Frame& frame, Args) {
+  return Variant::Long(static_cast<int32_t>(frame.interp.locale().lcid));
+}
+
+// The locale a SetLocale argument names: an LCID (0 for the system's, Italian), or a language tag
+// such as "it-it" or "en-us"; error 5 for one the engine does not know.
+Result<const Locale*> LocaleNamed(Frame& frame, const Variant& value) {
+  auto plain = ValueOf(value);
+  if (!plain) return std::move(plain).error();
+  if (plain->is_string() && !ParseNumber(plain->as_string_view(), frame.interp.locale())) {
+    const std::u16string_view name = plain->as_string_view();
+    for (std::u16string_view tag : {u"it-it", u"it"})
+      if (EqualsIgnoringCase(name, tag)) return &ItalianLocale();
+    for (std::u16string_view tag : {u"en-us", u"en"})
+      if (EqualsIgnoringCase(name, tag)) return &EnglishLocale();
+    return MakeError(err::kInvalidCall);
+  }
+  auto lcid = plain->to_long(frame.interp.locale());
+  if (!lcid) return std::move(lcid).error();
+  if (*lcid == 0) return &ItalianLocale();
+  return LocaleFromLcid(*lcid);
+}
+
+// SetLocale([lcid]): switches how numbers and dates read and print; returns the previous LCID.
+// Without an argument, the system's locale.
+Result<Variant> SetLocaleFunction(Frame& frame, Args args) {
+  const Locale* locale = &ItalianLocale();
+  if (IsGiven(args, 0)) {
+    auto named = LocaleNamed(frame, args[0]);
+    if (!named) return std::move(named).error();
+    locale = *named;
+  }
+  const auto previous = static_cast<int32_t>(frame.interp.locale().lcid);
+  frame.interp.SetLocale(*locale);
+  return Variant::Long(previous);
+}
+
+// RGB(red, green, blue): the colour as a Long, red in the low byte; components above 255 count
+// as 255, negative ones are error 5.
+Result<Variant> RgbFunction(Frame& frame, Args args) {
+  int32_t colour = 0;
+  for (size_t i = 0; i < 3; ++i) {
+    auto n = LongArg(frame, args[i]);
+    if (!n) return std::move(n).error();
+    if (*n < 0) return MakeError(err::kInvalidCall);
+    colour |= std::min(*n, 255) << (8 * i);
+  }
+  return Variant::Long(colour);
+}
+
+const Builtin kInteraction[] = {
+    {"MsgBox", 1, 5, &MsgBoxFunction, "MsgBox(prompt [, buttons [, title]]): shows a message; the button pressed"},
+    {"InputBox", 1, 7, &InputBoxFunction, "InputBox(prompt [, title [, default]]): asks for text; Empty on cancel"},
+    {"ScriptEngine", 0, 0, &ScriptEngineFunction, "ScriptEngine: \"VBScript\""},
+    {"ScriptEngineMajorVersion", 0, 0, &MajorVersionFunction, "ScriptEngineMajorVersion: 5"},
+    {"ScriptEngineMinorVersion", 0, 0, &MinorVersionFunction, "ScriptEngineMinorVersion: 8"},
+    {"ScriptEngineBuildVersion", 0, 0, &BuildVersionFunction, "ScriptEngineBuildVersion: the build number"},
+    {"GetLocale", 0, 0, &GetLocaleFunction, "GetLocale: the LCID of the current locale (1040 Italian, 1033 English)"},
+    {"SetLocale", 0, 1, &SetLocaleFunction, "SetLocale([lcid or tag]): changes the locale; the previous LCID"},
+    {"RGB", 3, 3, &RgbFunction, "RGB(red, green, blue): a colour as a Long"},
+};
+
+}  // namespace
+
+std::span<const Builtin> InteractionBuiltins() { return kInteraction; }
+
+}  // namespace vbs

@@ -1,0 +1,121 @@
+// The mathematical functions and the random numbers. Abs keeps its argument's subtype (widening
+// Integer and Long where the result would not fit); Sgn is an Integer; the others are Doubles.
+// Null gives Null for Abs and error 94 elsewhere; arguments outside a function's domain (Sqr(-1),
+// Log(0)) are error 5 and results too large for a Double error 6.
+
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include "vbscript/builtins/BuiltinArgs.h"
+#include "vbscript/builtins/Builtins.h"
+#include "vbscript/value/Coercion.h"
+#include "vbscript/runtime/RandomGenerator.h"
+
+namespace vbs {
+
+namespace {
+
+using namespace builtin;
+
+Result<Variant> AbsFunction(Frame& frame, Args args) {
+  auto plain = ValueOf(args[0]);
+  if (!plain) return plain;
+  const Variant& v = *plain;
+  switch (v.subtype()) {
+    case Subtype::Null:
+    case Subtype::Byte: return v;
+    case Subtype::Empty: return Variant::Integer(0);
+    case Subtype::Boolean: return Variant::Integer(v.as_boolean() ? 1 : 0);
+    case Subtype::Integer:
+      if (v.as_integer() == std::numeric_limits<int16_t>::min()) return Variant::Long(32768);
+      return Variant::Integer(static_cast<int16_t>(std::abs(v.as_integer())));
+    case Subtype::Long:
+      if (v.as_long() == std::numeric_limits<int32_t>::min()) return Variant::Double(2147483648.0);
+      return Variant::Long(std::abs(v.as_long()));
+    case Subtype::Single: return Variant::Single(std::fabs(v.as_single()));
+    case Subtype::Currency:
+      if (v.as_currency() == std::numeric_limits<int64_t>::min()) return MakeError(err::kOverflow);
+      return Variant::Currency(v.as_currency() < 0 ? -v.as_currency() : v.as_currency());
+    default: {
+      auto real = v.to_double(frame.interp.locale());
+      if (!real) return std::move(real).error();
+      return Variant::Double(std::fabs(*real));
+    }
+  }
+}
+
+Result<Variant> SgnFunction(Frame& frame, Args args) {
+  auto real = DoubleArg(frame, args[0]);
+  if (!real) return std::move(real).error();
+  return Variant::Integer(static_cast<int16_t>(*real > 0 ? 1 : (*real < 0 ? -1 : 0)));
+}
+
+enum class Domain { All, NotNegative, Positive };
+
+// A function of one Double: error 5 outside its domain, 6 when the result overflows.
+template <double (*F)(double), Domain domain>
+Result<Variant> RealFunction(Frame& frame, Args args) {
+  auto x = DoubleArg(frame, args[0]);
+  if (!x) return std::move(x).error();
+  if ((domain == Domain::NotNegative && *x < 0) || (domain == Domain::Positive && *x <= 0))
+    return MakeError(err::kInvalidCall);
+  const double result = F(*x);
+  if (!std::isfinite(result)) return MakeError(err::kOverflow);
+  return Variant::Double(result);
+}
+
+double Atan(double x) { return std::atan(x); }
+double Cosine(double x) { return std::cos(x); }
+double Sine(double x) { return std::sin(x); }
+double Tangent(double x) { return std::tan(x); }
+double Exponential(double x) { return std::exp(x); }
+double NaturalLog(double x) { return std::log(x); }
+double SquareRoot(double x) { return std::sqrt(x); }
+
+// ---- Rnd and Randomize ----
+
+// Rnd([number]): the next number in [0, 1); 0 repeats the last one, a negative number reseeds.
+Result<Variant> RndFunction(Frame& frame, Args args) {
+  float number = 1;
+  if (IsGiven(args, 0)) {
+    auto n = args[0].Deref().to_single(frame.interp.locale());
+    if (!n) return std::move(n).error();
+    number = *n;
+  }
+  // Each engine has its own sequence, restarted by Reset.
+  return Variant::Single(frame.interp.random().Rnd(number));
+}
+
+// Randomize [number]: mixes the number, or the time of day, into the seed.
+Result<Variant> RandomizeFunction(Frame& frame, Args args) {
+  if (IsGiven(args, 0)) {
+    auto n = DoubleArg(frame, args[0]);
+    if (!n) return std::move(n).error();
+    frame.interp.random().Randomize(*n);
+    return Variant();
+  }
+  frame.interp.random().RandomizeFromTimer(SecondsSinceMidnight());
+  return Variant();
+}
+
+const Builtin kMath[] = {
+    {"Abs", 1, 1, &AbsFunction, "Abs(number): the absolute value, of the same subtype"},
+    {"Sgn", 1, 1, &SgnFunction, "Sgn(number): -1, 0 or 1"},
+    {"Atn", 1, 1, &RealFunction<&Atan, Domain::All>, "Atn(number): the arctangent, in radians"},
+    {"Cos", 1, 1, &RealFunction<&Cosine, Domain::All>, "Cos(radians): the cosine"},
+    {"Sin", 1, 1, &RealFunction<&Sine, Domain::All>, "Sin(radians): the sine"},
+    {"Tan", 1, 1, &RealFunction<&Tangent, Domain::All>, "Tan(radians): the tangent"},
+    {"Exp", 1, 1, &RealFunction<&Exponential, Domain::All>, "Exp(number): e raised to the number"},
+    {"Log", 1, 1, &RealFunction<&NaturalLog, Domain::Positive>,
+     "Log(number): the natural logarithm of a positive number"},
+    {"Sqr", 1, 1, &RealFunction<&SquareRoot, Domain::NotNegative>, "Sqr(number): the square root"},
+    {"Rnd", 0, 1, &RndFunction, "Rnd([number]): a pseudo-random Single in [0, 1), Windows' sequence"},
+    {"Randomize", 0, 1, &RandomizeFunction, "Randomize [seed]: seeds Rnd from the number or from Timer", false, true},
+};
+
+}  // namespace
+
+std::span<const Builtin> MathBuiltins() { return kMath; }
+
+}  // namespace vbs

@@ -1,0 +1,341 @@
+#include "vbscript/compile/Compiler.h"
+
+#include <optional>
+
+namespace vbs {
+
+namespace {
+
+bool IsName(const ast::Expr* expr, const std::string& folded) {
+  return expr && expr->kind == ast::ExprKind::Name &&
+         Interpreter::Fold(static_cast<const ast::NameExpr*>(expr)->name) == folded;
+}
+
+std::optional<BinaryOperator> UpdateOperator(ast::BinaryOp op) {
+  switch (op) {
+    case ast::BinaryOp::Add: return BinaryOperator::Add;
+    case ast::BinaryOp::Subtract: return BinaryOperator::Subtract;
+    case ast::BinaryOp::Multiply: return BinaryOperator::Multiply;
+    default: return std::nullopt;
+  }
+}
+
+}  // namespace
+
+uint32_t Compiler::NewSlot(Scope& scope) { return (*scope.slot_count)++; }
+
+Result<BlockNode> Compiler::CompileBlock(ast::Block& block, Scope& scope) {
+  BlockNode node;
+  for (ast::StmtPtr& statement : block) {
+    auto compiled = CompileStatement(*statement, scope);
+    if (!compiled) return std::move(compiled).error();
+    if (*compiled) node.statements.push_back(std::move(*compiled));
+  }
+  return node;
+}
+
+Result<StmtNodePtr> Compiler::CompileAssign(ast::AssignStmt& statement, Scope& scope) {
+  // `s = s & x` on a plain variable appends in place.
+  if (!statement.is_set && statement.target->kind == ast::ExprKind::Name &&
+      statement.value->kind == ast::ExprKind::Binary) {
+    auto& binary = static_cast<ast::BinaryExpr&>(*statement.value);
+    std::string folded = Interpreter::Fold(static_cast<ast::NameExpr&>(*statement.target).name);
+    if (binary.op == ast::BinaryOp::Concat && IsName(binary.left.get(), folded)) {
+      auto target = CompileName(static_cast<ast::NameExpr&>(*statement.target).name, statement.target->pos, nullptr, scope);
+      if (!target) return std::move(target).error();
+      if (auto* variable = dynamic_cast<VariableNode*>(target->get())) {
+        auto value = CompileExpr(*binary.right, scope);
+        if (!value) return std::move(value).error();
+        target->release();
+        return StmtNodePtr(std::make_unique<AppendNode>(statement.pos, std::unique_ptr<VariableNode>(variable),
+                                                        std::move(*value)));
+      }
+    }
+    // `n = n + 1` and its kin on a plain variable update it in place.
+    if (auto op = UpdateOperator(binary.op); op && IsName(binary.left.get(), folded)) {
+      auto target = CompileName(static_cast<ast::NameExpr&>(*statement.target).name, statement.target->pos, nullptr, scope);
+      if (!target) return std::move(target).error();
+      if (DirectOperand(target->get()).IsVariable()) {
+        auto value = CompileExpr(*binary.right, scope);
+        if (!value) return std::move(value).error();
+        return MakeUpdateNode(statement.pos, *op, std::move(*target), std::move(*value));
+      }
+    }
+  }
+  auto target = CompileExpr(*statement.target, scope);
+  if (!target) return std::move(target).error();
+  if (dynamic_cast<ConstantNode*>(target->get())) return StmtNodePtr(std::make_unique<FailNode>(statement.pos, err::kIllegalAssignment));
+  auto value = CompileExpr(*statement.value, scope);
+  if (!value) return std::move(value).error();
+  return StmtNodePtr(std::make_unique<AssignNode>(statement.pos, std::move(*target), std::move(*value), statement.is_set));
+}
+
+Result<StmtNodePtr> Compiler::CompileFor(ast::ForStmt& statement, Scope& scope) {
+  auto counter = CompileExpr(*statement.counter, scope);
+  if (!counter) return std::move(counter).error();
+  auto from = CompileExpr(*statement.from, scope);
+  if (!from) return std::move(from).error();
+  auto to = CompileExpr(*statement.to, scope);
+  if (!to) return std::move(to).error();
+  ExprNodePtr step;
+  if (statement.step) {
+    auto compiled = CompileExpr(*statement.step, scope);
+    if (!compiled) return std::move(compiled).error();
+    step = std::move(*compiled);
+  }
+  uint32_t temp = NewSlot(scope);
+  NewSlot(scope);
+  auto body = CompileBlock(statement.body, scope);
+  if (!body) return std::move(body).error();
+  return StmtNodePtr(std::make_unique<ForNode>(statement.pos, std::move(*counter), std::move(*from), std::move(*to),
+                                               std::move(step), temp, std::move(*body)));
+}
+
+Result<StmtNodePtr> Compiler::CompileGlobalArrays(ast::DimStmt& dim, Scope& scope) {
+  std::vector<DimArrayNode::Item> items;
+  for (ast::VarDecl& var : dim.vars) {
+    if (!var.is_array) continue;
+    const GlobalEntry* entry = m_interp.FindGlobal(Interpreter::Fold(var.name));
+    auto uppers = ConstantBounds(var.bounds, scope);
+    if (!uppers) return std::move(uppers).error();
+    items.push_back(DimArrayNode::Item{entry->storage, std::move(*uppers), !var.bounds.empty()});
+  }
+  if (items.empty()) return StmtNodePtr();
+  return StmtNodePtr(std::make_unique<DimArrayNode>(dim.pos, std::move(items)));
+}
+
+Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scope) {
+  switch (statement.kind) {
+    case ast::StmtKind::Assign:
+      return CompileAssign(static_cast<ast::AssignStmt&>(statement), scope);
+
+    case ast::StmtKind::Call: {
+      auto& call = static_cast<ast::CallStmt&>(statement);
+      while (call.callee->kind == ast::ExprKind::Paren)
+        call.callee = std::move(static_cast<ast::ParenExpr&>(*call.callee).inner);
+      Result<ExprNodePtr> expr = ExprNodePtr();
+      bool has_args = call.call_keyword || !call.args.empty();
+      if (call.callee->kind == ast::ExprKind::Name) {
+        expr = CompileName(static_cast<ast::NameExpr&>(*call.callee).name, call.callee->pos, has_args ? &call.args : nullptr, scope);
+      } else if (call.callee->kind == ast::ExprKind::Member) {
+        expr = CompileMember(static_cast<ast::MemberExpr&>(*call.callee), has_args ? &call.args : nullptr, scope);
+      } else {
+        expr = CompileExpr(*call.callee, scope);
+        if (expr && !call.args.empty()) {
+          auto args = CompileArgs(call.args, scope);
+          if (!args) return std::move(args).error();
+          expr = ExprNodePtr(std::make_unique<ValueIndexNode>(call.pos, std::move(*expr), std::move(*args)));
+        }
+      }
+      if (!expr) return std::move(expr).error();
+      return StmtNodePtr(std::make_unique<ExprStmtNode>(statement.pos, std::move(*expr)));
+    }
+
+    case ast::StmtKind::Dim: {
+      // Inside procedures, Dims were gathered beforehand; in global code they are globals already.
+      // Code that Execute runs inside a procedure keeps its own variables in its own slots.
+      auto& dim = static_cast<ast::DimStmt&>(statement);
+      if (!scope.procedure && !m_outer) return CompileGlobalArrays(dim, scope);
+      if (scope.procedure) return StmtNodePtr();
+      for (ast::VarDecl& var : dim.vars) {
+        std::string folded = Interpreter::Fold(var.name);
+        if (!scope.names.contains(folded)) scope.names[folded] = Name{NewSlot(scope), false, false, {}};
+      }
+      return StmtNodePtr();
+    }
+
+    case ast::StmtKind::Const: {
+      if (!scope.procedure && !m_outer) return StmtNodePtr();
+      auto& constant = static_cast<ast::ConstStmt&>(statement);
+      for (ast::ConstItem& item : constant.items) {
+        auto value = ConstantValue(*item.value, scope);
+        if (!value) return std::move(value).error();
+        scope.names[Interpreter::Fold(item.name)] = Name{0, false, true, std::move(*value)};
+      }
+      return StmtNodePtr();
+    }
+
+    case ast::StmtKind::ReDim: {
+      auto& redim = static_cast<ast::ReDimStmt&>(statement);
+      std::vector<RedimTarget> targets;
+      for (ast::ReDimItem& item : redim.items) {
+        // ReDim also declares: a name not known yet becomes a variable of the current scope.
+        if (item.target->kind == ast::ExprKind::Name) {
+          std::string folded = Interpreter::Fold(static_cast<ast::NameExpr&>(*item.target).name);
+          if (!scope.names.contains(folded) && !m_interp.ResolveGlobal(folded) &&
+              !(scope.class_info && scope.class_info->member_ids.contains(folded))) {
+            if (scope.procedure || m_outer)
+              scope.names[folded] = Name{NewSlot(scope), false, false, {}};
+            else
+              m_interp.DeclareGlobal(folded);
+          }
+        }
+        auto target = CompileExpr(*item.target, scope);
+        if (!target) return std::move(target).error();
+        auto bounds = CompileArgs(item.bounds, scope);
+        if (!bounds) return std::move(bounds).error();
+        targets.push_back(RedimTarget{std::move(*target), std::move(*bounds)});
+      }
+      return StmtNodePtr(std::make_unique<RedimNode>(statement.pos, redim.preserve, std::move(targets)));
+    }
+
+    case ast::StmtKind::Erase: {
+      auto targets = CompileArgs(static_cast<ast::EraseStmt&>(statement).targets, scope);
+      if (!targets) return std::move(targets).error();
+      return StmtNodePtr(std::make_unique<EraseNode>(statement.pos, std::move(*targets)));
+    }
+
+    case ast::StmtKind::If: {
+      auto& s = static_cast<ast::IfStmt&>(statement);
+      std::vector<ConditionalBlock> branches;
+      for (ast::IfBranch& branch : s.branches) {
+        auto condition = CompileExpr(*branch.condition, scope);
+        if (!condition) return std::move(condition).error();
+        auto body = CompileBlock(branch.body, scope);
+        if (!body) return std::move(body).error();
+        branches.push_back(ConditionalBlock{std::move(*condition), std::move(*body)});
+      }
+      auto otherwise = CompileBlock(s.else_body, scope);
+      if (!otherwise) return std::move(otherwise).error();
+      return StmtNodePtr(std::make_unique<IfNode>(statement.pos, std::move(branches), std::move(*otherwise)));
+    }
+
+    case ast::StmtKind::Select: {
+      auto& s = static_cast<ast::SelectStmt&>(statement);
+      auto subject = CompileExpr(*s.subject, scope);
+      if (!subject) return std::move(subject).error();
+      std::vector<CaseBlock> cases;
+      for (ast::CaseClause& clause : s.cases) {
+        auto values = CompileArgs(clause.values, scope);
+        if (!values) return std::move(values).error();
+        auto body = CompileBlock(clause.body, scope);
+        if (!body) return std::move(body).error();
+        cases.push_back(CaseBlock{std::move(*values), std::move(*body)});
+      }
+      auto otherwise = CompileBlock(s.else_body, scope);
+      if (!otherwise) return std::move(otherwise).error();
+      return StmtNodePtr(std::make_unique<SelectNode>(statement.pos, std::move(*subject), std::move(cases), std::move(*otherwise)));
+    }
+
+    case ast::StmtKind::For:
+      return CompileFor(static_cast<ast::ForStmt&>(statement), scope);
+
+    case ast::StmtKind::ForEach: {
+      auto& s = static_cast<ast::ForEachStmt&>(statement);
+      auto element = CompileExpr(*s.element, scope);
+      if (!element) return std::move(element).error();
+      auto collection = CompileExpr(*s.collection, scope);
+      if (!collection) return std::move(collection).error();
+      auto body = CompileBlock(s.body, scope);
+      if (!body) return std::move(body).error();
+      return StmtNodePtr(std::make_unique<ForEachNode>(statement.pos, std::move(*element), std::move(*collection), std::move(*body)));
+    }
+
+    case ast::StmtKind::Do: {
+      auto& s = static_cast<ast::DoStmt&>(statement);
+      ExprNodePtr condition;
+      if (s.condition) {
+        auto compiled = CompileExpr(*s.condition, scope);
+        if (!compiled) return std::move(compiled).error();
+        condition = std::move(*compiled);
+      }
+      auto body = CompileBlock(s.body, scope);
+      if (!body) return std::move(body).error();
+      return StmtNodePtr(std::make_unique<LoopNode>(statement.pos, s.condition_kind, std::move(condition), std::move(*body), false));
+    }
+
+    case ast::StmtKind::While: {
+      auto& s = static_cast<ast::WhileStmt&>(statement);
+      auto condition = CompileExpr(*s.condition, scope);
+      if (!condition) return std::move(condition).error();
+      auto body = CompileBlock(s.body, scope);
+      if (!body) return std::move(body).error();
+      return StmtNodePtr(std::make_unique<LoopNode>(statement.pos, ast::LoopCondition::WhileBefore, std::move(*condition),
+                                                    std::move(*body), true));
+    }
+
+    case ast::StmtKind::Exit: {
+      auto& s = static_cast<ast::ExitStmt&>(statement);
+      Flow flow = s.what == ast::ExitKind::Do ? Flow::ExitDo : s.what == ast::ExitKind::For ? Flow::ExitFor : Flow::ExitProcedure;
+      return StmtNodePtr(std::make_unique<ExitNode>(statement.pos, flow));
+    }
+
+    case ast::StmtKind::With: {
+      auto& s = static_cast<ast::WithStmt&>(statement);
+      auto object = CompileExpr(*s.object, scope);
+      if (!object) return std::move(object).error();
+      uint32_t slot = NewSlot(scope);
+      scope.with_slots.push_back(slot);
+      auto body = CompileBlock(s.body, scope);
+      scope.with_slots.pop_back();
+      if (!body) return std::move(body).error();
+      return StmtNodePtr(std::make_unique<WithNode>(statement.pos, std::move(*object), slot, std::move(*body)));
+    }
+
+    case ast::StmtKind::OnError:
+      return StmtNodePtr(std::make_unique<OnErrorNode>(statement.pos, static_cast<ast::OnErrorStmt&>(statement).resume_next));
+
+    case ast::StmtKind::OptionExplicit:
+    case ast::StmtKind::Procedure:
+    case ast::StmtKind::Class:
+    case ast::StmtKind::Stop:
+      return StmtNodePtr();
+  }
+  return StmtNodePtr();
+}
+
+Result<std::unique_ptr<CompiledProgram>> Compiler::CompileProgram(ast::Program& program) {
+  bool option_explicit = false;
+  for (ast::StmtPtr& statement : program.body)
+    if (statement->kind == ast::StmtKind::OptionExplicit) option_explicit = true;
+
+  auto compiled = std::make_unique<CompiledProgram>();
+  Scope scope;
+  scope.slot_count = &compiled->temp_count;
+  scope.option_explicit = option_explicit;
+  if (m_outer && m_outer->procedure) {
+    scope.class_info = m_outer->procedure->owner;
+    const auto& names = m_outer->procedure->slot_names;
+    for (uint32_t slot = 0; slot < names.size(); ++slot)
+      if (!names[slot].empty()) scope.names[names[slot]] = Name{slot, true, false, {}};
+  }
+  if (m_outer) {
+    // Execute's code sees the procedure's variables; its procedures and classes are global.
+    ast::Program declarations;
+    for (ast::StmtPtr& statement : program.body)
+      if (statement->kind == ast::StmtKind::Procedure || statement->kind == ast::StmtKind::Class)
+        declarations.body.push_back(std::move(statement));
+    VBS_TRY(DeclareGlobals(declarations, option_explicit));
+    std::vector<ast::StmtPtr> rest;
+    for (ast::StmtPtr& statement : program.body)
+      if (statement) rest.push_back(std::move(statement));
+    program.body = std::move(rest);
+    auto body = CompileBlock(program.body, scope);
+    if (!body) return std::move(body).error();
+    compiled->body = std::move(*body);
+    return compiled;
+  }
+  VBS_TRY(DeclareGlobals(program, option_explicit));
+  auto body = CompileBlock(program.body, scope);
+  if (!body) return std::move(body).error();
+  compiled->body = std::move(*body);
+  return compiled;
+}
+
+Result<std::unique_ptr<CompiledProgram>> Compiler::CompileExpression(ast::Expr& expression) {
+  auto compiled = std::make_unique<CompiledProgram>();
+  Scope scope;
+  scope.slot_count = &compiled->temp_count;
+  if (m_outer && m_outer->procedure) {
+    scope.class_info = m_outer->procedure->owner;
+    const auto& names = m_outer->procedure->slot_names;
+    for (uint32_t slot = 0; slot < names.size(); ++slot)
+      if (!names[slot].empty()) scope.names[names[slot]] = Name{slot, true, false, {}};
+  }
+  auto expr = CompileExpr(expression, scope);
+  if (!expr) return std::move(expr).error();
+  compiled->expression = std::move(*expr);
+  return compiled;
+}
+
+}  // namespace vbs

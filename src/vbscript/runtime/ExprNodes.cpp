@@ -1,0 +1,618 @@
+#include "vbscript/runtime/ExprNodes.h"
+
+#include "vbscript/value/AllocationFailure.h"
+#include "vbscript/value/Coercion.h"
+#include "vbscript/runtime/FastArithmetic.h"
+#include "vbscript/value/SafeArray.h"
+#include "vbscript/runtime/ClassInstance.h"
+
+namespace vbs {
+
+// ---- Defaults of ExprNode ----
+
+Result<Variant*> ExprNode::Address(Frame&) { return static_cast<Variant*>(nullptr); }
+
+Status ExprNode::Assign(Frame&, Variant, bool) { return MakeError(err::kIllegalAssignment); }
+
+Status ExprNode::Invoke(Frame& frame) {
+  auto value = Eval(frame);
+  if (!value) return std::move(value).error();
+  return Ok();
+}
+
+// ---- Arguments ----
+
+ArgValues::~ArgValues() {
+  for (Ref<SafeArray>& array : m_locked) array->Unlock();
+}
+
+void ArgValues::Lock(Ref<SafeArray> array) {
+  array->Lock();
+  m_locked.push_back(std::move(array));
+}
+
+void ArgValues::Spill(Variant value) {
+  if (m_count == kInline) {
+    m_more.reserve(kInline * 2);
+    for (Variant& v : m_inline) m_more.push_back(std::move(v));
+  }
+  m_more.push_back(std::move(value));
+  ++m_count;
+}
+
+Status EvalArgs(Frame& frame, std::span<const ExprNodePtr> args, ArgValues& out, bool by_reference) {
+  for (const ExprNodePtr& arg : args) {
+    if (!arg) {
+      out.Add(Variant::Error(err::kParamNotFound));
+      continue;
+    }
+    if (by_reference && !arg->ForcesByVal()) {
+      auto address = arg->AddressForArgument(frame, out);
+      if (!address) return std::move(address).error();
+      if (*address) {
+        out.Add(Variant::Reference(*address));
+        continue;
+      }
+    }
+    auto value = arg->Eval(frame);
+    if (!value) return std::move(value).error();
+    out.Add(std::move(*value));
+  }
+  return Ok();
+}
+
+Result<Variant> LetValue(Variant value) {
+  if (value.IsRef()) value = Variant(value.Deref());
+  if (!value.is_object()) return value;
+  return ValueOf(value);
+}
+
+namespace {
+
+Status StoreInto(Variant& target, Variant value, bool is_set) {
+  if (is_set) {
+    if (value.IsRef()) value = Variant(value.Deref());
+    if (!value.is_object()) return MakeError(err::kObjectRequired);
+    target = std::move(value);
+    return Ok();
+  }
+  auto plain = LetValue(std::move(value));
+  if (!plain) return std::move(plain).error();
+  target = std::move(*plain);
+  return Ok();
+}
+
+// The value a property assignment hands over: for Let the plain value, for Set an object.
+Result<Variant> AssignedValue(Variant value, bool is_set) {
+  if (!is_set) return LetValue(std::move(value));
+  if (!value.Deref().is_object()) return MakeError(err::kObjectRequired);
+  return value;
+}
+
+Status Discard(Result<Variant> result) {
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Result<Object*> RequireObject(const Variant& value) {
+  const Variant& v = value.Deref();
+  if (!v.is_object()) return MakeError(err::kObjectRequired);
+  if (!v.as_object()) return MakeError(err::kObjectNotSet);
+  return v.as_object();
+}
+
+}  // namespace
+
+// ---- Variables ----
+
+Status VariableNode::Assign(Frame& frame, Variant value, bool is_set) {
+  if (!is_set && !value.is_object() && !value.IsRef()) {
+    Storage(frame).Deref() = std::move(value);
+    return Ok();
+  }
+  return StoreInto(Storage(frame).Deref(), std::move(value), is_set);
+}
+
+Status VariableNode::Invoke(Frame& frame) {
+  // A variable named alone as a statement calls the default member of the object it holds.
+  Variant& value = Storage(frame).Deref();
+  if (!value.is_object()) return Ok();
+  auto object = RequireObject(value);
+  if (!object) return std::move(object).error();
+  auto result = (*object)->Invoke(kDefaultMember, InvokeKind::Method, {});
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Variant& FieldNode::Storage(Frame& frame) { return frame.me->field(m_index); }
+
+// ---- Late-bound names ----
+
+const GlobalEntry* LateNameNode::Resolve(Frame& frame) {
+  if (m_generation != frame.interp.generation()) {
+    m_entry = frame.interp.ResolveGlobal(m_name);
+    m_generation = frame.interp.generation();
+  }
+  return m_entry;
+}
+
+Result<Variant*> LateNameNode::ImplicitStorage(Frame& frame) {
+  if (m_explicit) return MakeError(err::kUndefined);
+  if (m_implicit_slot >= 0) return &frame.slots[m_implicit_slot].Deref();
+  return frame.interp.DeclareGlobal(m_name);
+}
+
+Result<Variant> LateNameNode::Eval(Frame& frame) { return CallWith(frame, {}, InvokeKind::Get); }
+
+Result<Variant*> LateNameNode::Address(Frame& frame) {
+  const GlobalEntry* entry = Resolve(frame);
+  if (!entry) return ImplicitStorage(frame);
+  if (entry->kind == GlobalEntry::Kind::Variable) return entry->storage;
+  return static_cast<Variant*>(nullptr);
+}
+
+Status LateNameNode::Assign(Frame& frame, Variant value, bool is_set) { return AssignWith(frame, {}, std::move(value), is_set); }
+
+Status LateNameNode::Invoke(Frame& frame) {
+  // A name called as a statement that names nothing is a call of a missing procedure.
+  if (!Resolve(frame)) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
+  auto result = CallWith(frame, {}, InvokeKind::Method);
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Result<Variant> LateNameNode::CallWith(Frame& frame, const ExprNodes& args, InvokeKind kind) {
+  const GlobalEntry* entry = Resolve(frame);
+  ArgValues values;
+  if (!entry) {
+    if (!args.empty()) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
+    auto storage = ImplicitStorage(frame);
+    if (!storage) return std::move(storage).error();
+    return **storage;
+  }
+  switch (entry->kind) {
+    case GlobalEntry::Kind::Variable:
+    case GlobalEntry::Kind::Constant: {
+      if (args.empty()) return *entry->storage;
+      VBS_TRY(EvalArgs(frame, args, values, false));
+      return IndexValue(*entry->storage, values.span(), frame.interp.locale());
+    }
+    case GlobalEntry::Kind::Procedure:
+      VBS_TRY(EvalArgs(frame, args, values, true));
+      return frame.interp.Call(*entry->procedure, nullptr, values.span());
+    case GlobalEntry::Kind::NamedObject: {
+      Ref<Object> object = frame.interp.named_objects()[entry->object].object;
+      if (args.empty()) return Variant::Object(object);
+      VBS_TRY(EvalArgs(frame, args, values, true));
+      return object->Invoke(kDefaultMember, kind, values.span());
+    }
+    case GlobalEntry::Kind::HostMember: {
+      VBS_TRY(EvalArgs(frame, args, values, true));
+      return frame.interp.named_objects()[entry->object].object->Invoke(entry->member, kind, values.span());
+    }
+    case GlobalEntry::Kind::Class:
+      break;
+  }
+  return MakeError(err::kTypeMismatch);
+}
+
+Status LateNameNode::AssignWith(Frame& frame, const ExprNodes& args, Variant value, bool is_set) {
+  const GlobalEntry* entry = Resolve(frame);
+  ArgValues values;
+  if (!entry) {
+    if (!args.empty()) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
+    auto storage = ImplicitStorage(frame);
+    if (!storage) return std::move(storage).error();
+    return StoreInto(**storage, std::move(value), is_set);
+  }
+  switch (entry->kind) {
+    case GlobalEntry::Kind::Variable:
+      if (args.empty()) return StoreInto(*entry->storage, std::move(value), is_set);
+      VBS_TRY(EvalArgs(frame, args, values, false));
+      return AssignIndexed(*entry->storage, values.span(), std::move(value), is_set, frame.interp.locale());
+    case GlobalEntry::Kind::HostMember: {
+      VBS_TRY(EvalArgs(frame, args, values, true));
+      values.Add(std::move(value));
+      auto result = frame.interp.named_objects()[entry->object].object->Invoke(
+          entry->member, is_set ? InvokeKind::Set : InvokeKind::Let, values.span());
+      if (!result) return std::move(result).error();
+      return Ok();
+    }
+    default:
+      return MakeError(err::kIllegalAssignment);
+  }
+}
+
+// ---- Objects ----
+
+Result<Variant> MeNode::Eval(Frame& frame) {
+  if (!frame.me) return MakeError(err::kObjectRequired);
+  return Variant::Object(Ref<Object>(frame.me));
+}
+
+Result<Variant> NamedObjectNode::Eval(Frame& frame) {
+  return Variant::Object(frame.interp.named_objects()[m_index].object);
+}
+
+Result<Variant> NewNode::Eval(Frame& frame) {
+  // RegExp is built in: New RegExp makes the engine's object even when a script declares a class
+  // of that name.
+  if (m_name == "regexp") {
+    auto object = frame.interp.CreateObject(u"VBScript.RegExp");
+    if (!object) return std::move(object).error();
+    return Variant::Object(*object);
+  }
+  const GlobalEntry* entry = frame.interp.FindGlobal(m_name);
+  if (!entry || entry->kind != GlobalEntry::Kind::Class) return MakeError(err::kNotAClass);
+  auto instance = frame.interp.NewInstance(*entry->class_info);
+  if (!instance) return std::move(instance).error();
+  return Variant::Object(*instance);
+}
+
+// ---- Operators ----
+
+Result<Variant> UnaryNode::Eval(Frame& frame) {
+  auto operand = m_operand->Eval(frame);
+  if (!operand) return operand;
+  switch (m_op) {
+    case ast::UnaryOp::Negate:
+      if (operand->is_long() && operand->as_long() != INT32_MIN) return Variant::Long(-operand->as_long());
+      if (operand->is_double()) return Variant::Double(-operand->as_double());
+      return Negate(*operand, frame.interp.locale());
+    case ast::UnaryOp::Not:
+      return Not(*operand, frame.interp.locale());
+    case ast::UnaryOp::Plus:
+      return operand;
+  }
+  return operand;
+}
+
+DirectOperand::DirectOperand(ExprNode* node) {
+  if (auto* constant = dynamic_cast<ConstantNode*>(node)) {
+    m_kind = Kind::Constant;
+    m_pointer = &constant->value();
+  } else if (auto* local = dynamic_cast<LocalNode*>(node)) {
+    m_kind = Kind::Local;
+    m_slot = local->slot();
+  } else if (auto* global = dynamic_cast<GlobalNode*>(node)) {
+    m_kind = Kind::Global;
+    m_pointer = global->storage();
+  }
+}
+
+Result<Variant> BinaryNode::Eval(Frame& frame) {
+  auto left = m_left->Eval(frame);
+  if (!left) return left;
+  auto right = m_right->Eval(frame);
+  if (!right) return right;
+  return ApplyBinary(m_op, *left, *right, frame.interp.compare_mode(), frame.interp.locale());
+}
+
+template <BinaryOperator Op>
+Result<Variant> ArithmeticNode<Op>::Eval(Frame& frame) {
+  const Variant* a = m_left_direct.Get(frame);
+  const Variant* b = m_right_direct.Get(frame);
+  if (a && b) {
+    Variant out;
+    if (TryFastApply<Op>(*a, *b, out)) [[likely]]
+      return out;
+  }
+  return EvalOperands(frame);
+}
+
+template <BinaryOperator Op>
+Result<Variant> ArithmeticNode<Op>::EvalOperands(Frame& frame) {
+  if (const Variant* a = m_left_direct.Get(frame)) {
+    if (const Variant* b = m_right_direct.Get(frame)) return FastApply<Op>(*a, *b, frame);
+    // Taken now: evaluating the right side may change the variable.
+    const Variant left = *a;
+    auto right = m_right->Eval(frame);
+    if (!right) return right;
+    return FastApply<Op>(left, *right, frame);
+  }
+  auto left = m_left->Eval(frame);
+  if (!left) return left;
+  if (const Variant* b = m_right_direct.Get(frame)) return FastApply<Op>(*left, *b, frame);
+  auto right = m_right->Eval(frame);
+  if (!right) return right;
+  return FastApply<Op>(*left, *right, frame);
+}
+
+ExprNodePtr MakeBinaryNode(SourcePos pos, BinaryOperator op, ExprNodePtr left, ExprNodePtr right) {
+  auto make = [&]<BinaryOperator Op>() -> ExprNodePtr {
+    return std::make_unique<ArithmeticNode<Op>>(pos, std::move(left), std::move(right));
+  };
+  switch (op) {
+    case BinaryOperator::Add: return make.template operator()<BinaryOperator::Add>();
+    case BinaryOperator::Subtract: return make.template operator()<BinaryOperator::Subtract>();
+    case BinaryOperator::Multiply: return make.template operator()<BinaryOperator::Multiply>();
+    case BinaryOperator::Equal: return make.template operator()<BinaryOperator::Equal>();
+    case BinaryOperator::NotEqual: return make.template operator()<BinaryOperator::NotEqual>();
+    case BinaryOperator::Less: return make.template operator()<BinaryOperator::Less>();
+    case BinaryOperator::LessEqual: return make.template operator()<BinaryOperator::LessEqual>();
+    case BinaryOperator::Greater: return make.template operator()<BinaryOperator::Greater>();
+    case BinaryOperator::GreaterEqual: return make.template operator()<BinaryOperator::GreaterEqual>();
+    default: return std::make_unique<BinaryNode>(pos, op, std::move(left), std::move(right));
+  }
+}
+
+Result<Variant> IsNode::Eval(Frame& frame) {
+  auto left = m_left->Eval(frame);
+  if (!left) return left;
+  auto right = m_right->Eval(frame);
+  if (!right) return right;
+  auto same = Is(*left, *right);
+  if (!same) return std::move(same).error();
+  return Variant::Boolean(*same);
+}
+
+Result<Variant> OperatorChainNode::Eval(Frame& frame) {
+  auto value = m_first->Eval(frame);
+  if (!value) return value;
+  Variant accumulated = std::move(*value);
+  for (const Step& step : m_steps) {
+    auto right = step.operand->Eval(frame);
+    if (!right) return right;
+    if (step.is) {
+      auto same = Is(accumulated, *right);
+      if (!same) return std::move(same).error();
+      accumulated = Variant::Boolean(*same);
+      continue;
+    }
+    auto next = ApplyBinary(step.op, accumulated, *right, frame.interp.compare_mode(), frame.interp.locale());
+    if (!next) return next;
+    accumulated = std::move(*next);
+  }
+  return accumulated;
+}
+
+// ---- Calls ----
+
+ProcedureCallNode::ProcedureCallNode(SourcePos pos, const Procedure* procedure, ExprNodes args)
+    : ExprNode(pos), m_procedure(procedure), m_args(std::move(args)) {
+  m_all_direct = true;
+  for (const ExprNodePtr& arg : m_args) {
+    m_direct.emplace_back(arg.get());
+    m_all_direct = m_all_direct && m_direct.back().IsDirect();
+  }
+}
+
+Result<Variant> ProcedureCallNode::Eval(Frame& frame) {
+  if (!m_all_direct) return EvalArgsFirst(frame);
+  if (m_args.size() != m_procedure->param_count) return MakeError(err::kWrongArgs);
+  // Plain variables and constants go straight into the parameter slots.
+  auto callee = frame.interp.OpenFrame(m_procedure->slot_count);
+  if (!callee) return std::move(callee).error();
+  for (size_t i = 0; i < m_args.size(); ++i) {
+    Variant& param = callee->slots[Procedure::kFirstParamSlot + i];
+    Variant* storage = m_direct[i].Storage(frame);
+    if (storage && !m_procedure->param_by_val[i])
+      param = Variant::Reference(storage);
+    else
+      param = *m_direct[i].Get(frame);
+  }
+  return frame.interp.RunFrame(*m_procedure, nullptr, *callee);
+}
+
+Result<Variant> ProcedureCallNode::EvalArgsFirst(Frame& frame) {
+  ArgValues values;
+  for (size_t i = 0; i < m_args.size(); ++i) {
+    if (Variant* storage = m_direct[i].Storage(frame)) {
+      values.Add(Variant::Reference(storage));
+    } else if (const Variant* constant = m_direct[i].Get(frame)) {
+      values.Add(*constant);
+    } else {
+      VBS_TRY(EvalArgs(frame, std::span<const ExprNodePtr>(&m_args[i], 1), values, true));
+    }
+  }
+  return frame.interp.Call(*m_procedure, nullptr, values.span());
+}
+
+Result<Variant> BuiltinCallNode::Eval(Frame& frame) {
+  if (m_builtin->gives_no_value) return MakeError(err::kTypeMismatch);
+  return Call(frame);
+}
+
+Status BuiltinCallNode::Invoke(Frame& frame) { return Discard(Call(frame)); }
+
+Result<Variant> BuiltinCallNode::Call(Frame& frame) {
+  if (m_args.size() < m_builtin->min_args || m_args.size() > m_builtin->max_args) return MakeError(err::kWrongArgs);
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, m_builtin->wants_references));
+  return TrapAllocationFailure([&] { return m_builtin->function(frame, values.span()); });
+}
+
+IndexNode::IndexNode(SourcePos pos, ExprNodePtr holder, ExprNodes args)
+    : ExprNode(pos), m_holder(std::move(holder)), m_args(std::move(args)), m_direct_holder(m_holder.get()) {
+  m_all_direct = !m_args.empty() && m_args.size() <= 8;
+  for (const ExprNodePtr& arg : m_args) {
+    m_direct_args.emplace_back(arg.get());
+    m_all_direct = m_all_direct && m_direct_args.back().IsDirect();
+  }
+}
+
+Variant* IndexNode::DirectElement(Frame& frame, bool for_writing) {
+  if (!m_all_direct) return nullptr;
+  Variant* holder = m_direct_holder.Storage(frame);
+  if (!holder || !holder->is_array()) return nullptr;
+  int32_t indices[8];
+  for (size_t i = 0; i < m_direct_args.size(); ++i) {
+    const Variant* index = m_direct_args[i].Get(frame);
+    if (!index) return nullptr;
+    if (index->is_integer())
+      indices[i] = index->as_integer();
+    else if (index->is_long())
+      indices[i] = index->as_long();
+    else
+      return nullptr;
+  }
+  SafeArray* array = holder->as_array();
+  if (for_writing && array->RefCount() > 1) return nullptr;
+  auto offset = array->Offset(std::span<const int32_t>(indices, m_direct_args.size()));
+  if (!offset) return nullptr;
+  return &array->elements()[*offset];
+}
+
+Result<Variant> IndexNode::Eval(Frame& frame) {
+  if (Variant* element = DirectElement(frame, false)) return *element;
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, false));
+  auto address = m_holder->Address(frame);
+  if (!address) return std::move(address).error();
+  if (*address) return IndexValue(**address, values.span(), frame.interp.locale());
+  auto holder = m_holder->Eval(frame);
+  if (!holder) return holder;
+  return IndexValue(*holder, values.span(), frame.interp.locale());
+}
+
+Result<Variant*> IndexNode::AddressForArgument(Frame& frame, ArgValues& args) {
+  auto holder = m_holder->Address(frame);
+  if (!holder) return holder;
+  if (!*holder || !(*holder)->is_array()) return static_cast<Variant*>(nullptr);
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, false));
+  std::vector<int32_t> indices;
+  for (Variant& index : values.span()) {
+    auto i = index.Deref().to_long(frame.interp.locale());
+    if (!i) return std::move(i).error();
+    indices.push_back(*i);
+  }
+  auto array = MutableArray(**holder);
+  if (!array) return std::move(array).error();
+  auto offset = (*array)->Offset(indices);
+  if (!offset) return std::move(offset).error();
+  args.Lock(Ref<SafeArray>(*array));
+  return &(*array)->elements()[*offset];
+}
+
+Status IndexNode::Assign(Frame& frame, Variant value, bool is_set) {
+  if (!is_set && !value.is_object() && !value.IsRef()) {
+    if (Variant* element = DirectElement(frame, true)) {
+      *element = std::move(value);
+      return Ok();
+    }
+  }
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, false));
+  auto address = m_holder->Address(frame);
+  if (!address) return std::move(address).error();
+  if (*address) return AssignIndexed(**address, values.span(), std::move(value), is_set, frame.interp.locale());
+  auto holder = m_holder->Eval(frame);
+  if (!holder) return std::move(holder).error();
+  if (!holder->is_object()) return MakeError(err::kIllegalAssignment);
+  return AssignIndexed(*holder, values.span(), std::move(value), is_set, frame.interp.locale());
+}
+
+Status LateCallNode::Invoke(Frame& frame) {
+  auto result = m_name->CallWith(frame, m_args, InvokeKind::Method);
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+Result<Variant> MemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) {
+  auto holder = m_object->Eval(frame);
+  if (!holder) return holder;
+  auto object = RequireObject(*holder);
+  if (!object) return std::move(object).error();
+  Object* target = *object;
+  const void* layout = target->MemberLayout();
+  DispId member;
+  if (layout && layout == m_layout) {
+    member = m_member;
+  } else {
+    member = target->FindMember(m_name);
+    if (layout) {
+      m_layout = layout;
+      m_member = member;
+    }
+  }
+  if (member == kUnknownMember) return MakeError(err::kNoMember);
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, true));
+  if (value) values.Add(std::move(*value));
+  // Inside a class, Me.x reaches Private members too.
+  if (frame.me && target == frame.me)
+    return static_cast<ClassInstance*>(target)->InvokeMember(member, kind, values.span());
+  return target->Invoke(member, kind, values.span());
+}
+
+Result<Variant> MemberNode::Eval(Frame& frame) { return Call(frame, InvokeKind::Get, nullptr); }
+
+Status MemberNode::Assign(Frame& frame, Variant value, bool is_set) {
+  auto assigned = AssignedValue(std::move(value), is_set);
+  if (!assigned) return std::move(assigned).error();
+  return Discard(Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &*assigned));
+}
+
+Status MemberNode::Invoke(Frame& frame) { return Discard(Call(frame, InvokeKind::Method, nullptr)); }
+
+Result<Variant> MeMemberNode::Eval(Frame& frame) {
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, true));
+  return frame.me->InvokeMember(m_member, InvokeKind::Get, values.span());
+}
+
+Status MeMemberNode::Assign(Frame& frame, Variant value, bool is_set) {
+  auto assigned = AssignedValue(std::move(value), is_set);
+  if (!assigned) return std::move(assigned).error();
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, true));
+  values.Add(std::move(*assigned));
+  return Discard(frame.me->InvokeMember(m_member, is_set ? InvokeKind::Set : InvokeKind::Let, values.span()));
+}
+
+Status MeMemberNode::Invoke(Frame& frame) {
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, true));
+  auto result = frame.me->InvokeMember(m_member, InvokeKind::Method, values.span());
+  if (!result) return std::move(result).error();
+  return Ok();
+}
+
+HostMemberNode::HostMemberNode(SourcePos pos, uint32_t object, DispId member, ExprNodes args)
+    : ExprNode(pos), m_object(object), m_member(member), m_args(std::move(args)) {
+  for (const ExprNodePtr& arg : m_args) m_direct.emplace_back(arg.get());
+}
+
+Result<Variant> HostMemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) {
+  ArgValues values;
+  for (size_t i = 0; i < m_args.size(); ++i) {
+    if (Variant* storage = m_direct[i].Storage(frame))
+      values.Add(Variant::Reference(storage));
+    else if (const Variant* constant = m_direct[i].Get(frame))
+      values.Add(*constant);
+    else
+      VBS_TRY(EvalArgs(frame, std::span<const ExprNodePtr>(&m_args[i], 1), values, true));
+  }
+  if (value) values.Add(std::move(*value));
+  return frame.interp.named_objects()[m_object].object->Invoke(m_member, kind, values.span());
+}
+
+Result<Variant> HostMemberNode::Eval(Frame& frame) { return Call(frame, InvokeKind::Get, nullptr); }
+
+Status HostMemberNode::Assign(Frame& frame, Variant value, bool is_set) {
+  auto assigned = AssignedValue(std::move(value), is_set);
+  if (!assigned) return std::move(assigned).error();
+  return Discard(Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &*assigned));
+}
+
+Status HostMemberNode::Invoke(Frame& frame) { return Discard(Call(frame, InvokeKind::Method, nullptr)); }
+
+Result<Variant> ValueIndexNode::Eval(Frame& frame) {
+  auto callee = m_callee->Eval(frame);
+  if (!callee) return callee;
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, false));
+  return IndexValue(*callee, values.span(), frame.interp.locale());
+}
+
+Status ValueIndexNode::Assign(Frame& frame, Variant value, bool is_set) {
+  auto callee = m_callee->Eval(frame);
+  if (!callee) return std::move(callee).error();
+  if (!callee->is_object()) return MakeError(err::kIllegalAssignment);
+  ArgValues values;
+  VBS_TRY(EvalArgs(frame, m_args, values, false));
+  return AssignIndexed(*callee, values.span(), std::move(value), is_set, frame.interp.locale());
+}
+
+}  // namespace vbs

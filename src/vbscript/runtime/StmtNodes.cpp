@@ -1,0 +1,390 @@
+#include "vbscript/runtime/StmtNodes.h"
+
+#include "vbscript/value/Coercion.h"
+#include "vbscript/runtime/FastArithmetic.h"
+#include "vbscript/value/SafeArray.h"
+
+namespace vbs {
+
+namespace {
+
+bool IsInterruption(const ScriptError& error) { return error.number == err::kAborted; }
+
+Result<bool> Condition(Frame& frame, ExprNode& condition) {
+  auto value = condition.Eval(frame);
+  if (!value) return std::move(value).error();
+  if (value->is_boolean()) return value->as_boolean();
+  return IsTrue(*value, frame.interp.locale());
+}
+
+// Under "On Error Resume Next" an error in the header of a compound statement resumes with the next
+// statement, which is the first of its body: Windows runs the If branch, the loop body, the With
+// body whose header failed. True when the error was absorbed that way.
+bool ResumeIntoBody(Frame& frame, const ScriptError& error) {
+  if (!frame.resume_next || IsInterruption(error)) return false;
+  frame.interp.SetErr(error);
+  return true;
+}
+
+// What a loop does with the way its body ended: whether to leave, and what to report upwards.
+bool LeavesLoop(Flow flow, Flow own_exit, Flow& report) {
+  if (flow == Flow::Normal) return false;
+  report = flow == own_exit ? Flow::Normal : flow;
+  return true;
+}
+
+}  // namespace
+
+ScriptError BlockNode::Interrupted(Frame& frame, const StmtNode& statement) {
+  ScriptError error = frame.interp.InterruptError();
+  error.pos = statement.pos();
+  error.has_pos = true;
+  return error;
+}
+
+bool BlockNode::Absorbed(Frame& frame, const StmtNode& statement, ScriptError& error) {
+  if (!error.has_pos) {
+    error.pos = statement.pos();
+    error.has_pos = true;
+  }
+  if (!frame.resume_next || IsInterruption(error)) return false;
+  frame.interp.SetErr(error);
+  return true;
+}
+
+Result<Flow> ExprStmtNode::Exec(Frame& frame) {
+  VBS_TRY(m_expr->Invoke(frame));
+  return Flow::Normal;
+}
+
+Result<Flow> AssignNode::Exec(Frame& frame) {
+  auto value = m_value->Eval(frame);
+  if (!value) return std::move(value).error();
+  if (!m_is_set && !value->is_object() && !value->IsRef()) {
+    if (Variant* target = m_direct_target.Storage(frame)) {
+      *target = std::move(*value);
+      return Flow::Normal;
+    }
+  }
+  VBS_TRY(m_target->Assign(frame, std::move(*value), m_is_set));
+  return Flow::Normal;
+}
+
+Result<Flow> AppendNode::Exec(Frame& frame) {
+  auto value = m_value->Eval(frame);
+  if (!value) return std::move(value).error();
+  VBS_TRY(ConcatAssign(m_target->Storage(frame).Deref(), *value, frame.interp.locale()));
+  return Flow::Normal;
+}
+
+template <BinaryOperator Op>
+Result<Flow> UpdateNode<Op>::Exec(Frame& frame) {
+  Variant& target = *m_direct_target.Storage(frame);
+  if (const Variant* value = m_direct_value.Get(frame)) {
+    if (TryFastApply<Op>(target, *value, target)) [[likely]]
+      return Flow::Normal;
+    return Store(target, target, *value, frame);
+  }
+  const Variant current = target;  // taken first: evaluating the right side may change the variable
+  auto value = m_value->Eval(frame);
+  if (!value) return std::move(value).error();
+  if (TryFastApply<Op>(current, *value, target)) [[likely]]
+    return Flow::Normal;
+  return Store(target, current, *value, frame);
+}
+
+template <BinaryOperator Op>
+Result<Flow> UpdateNode<Op>::Store(Variant& target, const Variant& current, const Variant& value, Frame& frame) {
+  auto result = ApplyBinary(Op, current, value, frame.interp.compare_mode(), frame.interp.locale());
+  if (!result) return std::move(result).error();
+  target = std::move(*result);
+  return Flow::Normal;
+}
+
+StmtNodePtr MakeUpdateNode(SourcePos pos, BinaryOperator op, ExprNodePtr target, ExprNodePtr value) {
+  assert(DirectOperand(target.get()).IsVariable());
+  switch (op) {
+    case BinaryOperator::Add:
+      return std::make_unique<UpdateNode<BinaryOperator::Add>>(pos, std::move(target), std::move(value));
+    case BinaryOperator::Subtract:
+      return std::make_unique<UpdateNode<BinaryOperator::Subtract>>(pos, std::move(target), std::move(value));
+    default:
+      assert(op == BinaryOperator::Multiply);
+      return std::make_unique<UpdateNode<BinaryOperator::Multiply>>(pos, std::move(target), std::move(value));
+  }
+}
+
+Result<Flow> RedimNode::Exec(Frame& frame) {
+  for (RedimTarget& item : m_targets) {
+    auto address = item.target->Address(frame);
+    if (!address) return std::move(address).error();
+    if (!*address) return MakeError(err::kTypeMismatch);
+    // Without Preserve a fixed array refuses before its new bounds are even looked at; with
+    // Preserve the bounds are read first, as Windows does.
+    if (!m_preserve && (*address)->IsFixedArray()) return MakeError(err::kFixedArray);
+    std::vector<ArrayBound> bounds;
+    for (ExprNodePtr& bound : item.bounds) {
+      auto value = bound->Eval(frame);
+      if (!value) return std::move(value).error();
+      auto upper = value->to_long(frame.interp.locale());
+      if (!upper) return std::move(upper).error();
+      bounds.push_back({0, *upper});
+    }
+    VBS_TRY(Redim(**address, bounds, m_preserve ? RedimMode::Preserve : RedimMode::Discard));
+  }
+  return Flow::Normal;
+}
+
+Result<Flow> EraseNode::Exec(Frame& frame) {
+  for (ExprNodePtr& target : m_targets) {
+    auto address = target->Address(frame);
+    if (!address) return std::move(address).error();
+    if (!*address) return MakeError(err::kTypeMismatch);
+    VBS_TRY(Erase(**address));
+  }
+  return Flow::Normal;
+}
+
+Result<Flow> IfNode::Exec(Frame& frame) {
+  for (ConditionalBlock& branch : m_branches) {
+    auto holds = Condition(frame, *branch.condition);
+    if (!holds && !ResumeIntoBody(frame, holds.error())) return std::move(holds).error();
+    if (!holds || *holds) return branch.body.Exec(frame);
+  }
+  return m_else.Exec(frame);
+}
+
+Result<Flow> SelectNode::Exec(Frame& frame) {
+  auto subject = m_subject->Eval(frame);
+  if (!subject) return std::move(subject).error();
+  for (CaseBlock& block : m_cases) {
+    for (ExprNodePtr& candidate : block.values) {
+      auto value = candidate->Eval(frame);
+      if (!value) {
+        if (ResumeIntoBody(frame, value.error())) return block.body.Exec(frame);
+        return std::move(value).error();
+      }
+      auto equal = Compare(BinaryOperator::Equal, *subject, *value, frame.interp.compare_mode(), frame.interp.locale());
+      if (!equal) return std::move(equal).error();
+      if (equal->is_boolean() && equal->as_boolean()) return block.body.Exec(frame);
+    }
+  }
+  return m_else.Exec(frame);
+}
+
+Result<Flow> ForNode::Exec(Frame& frame) {
+  const Locale& locale = frame.interp.locale();
+  // A header that fails under "On Error Resume Next" runs the body once; its Next then finds the
+  // loop uninitialised (error 92) and resumes after it.
+  auto header_failed = [&](const ScriptError& error) -> Result<Flow> {
+    if (!ResumeIntoBody(frame, error)) return error;
+    auto flow = m_body.Exec(frame);
+    if (!flow) return flow;
+    frame.interp.SetErr(MakeError(err::kForNotInitialised));
+    return *flow == Flow::ExitFor ? Flow::Normal : *flow;
+  };
+  auto from = m_from->Eval(frame);
+  if (!from) return header_failed(from.error());
+  auto to = m_to->Eval(frame);
+  if (!to) return header_failed(to.error());
+  Variant step = Variant::Integer(1);
+  if (m_step) {
+    auto value = m_step->Eval(frame);
+    if (!value) return header_failed(value.error());
+    step = std::move(*value);
+  }
+  auto plain_from = LetValue(std::move(*from));
+  if (!plain_from) return std::move(plain_from).error();
+  auto plain_to = LetValue(std::move(*to));
+  if (!plain_to) return std::move(plain_to).error();
+  auto plain_step = LetValue(std::move(step));
+  if (!plain_step) return std::move(plain_step).error();
+  Variant& limit = frame.slots[m_temp];
+  Variant& increment = frame.slots[m_temp + 1];
+  limit = std::move(*plain_to);
+  increment = std::move(*plain_step);
+  auto step_value = increment.to_double(locale);
+  if (!step_value) return std::move(step_value).error();
+  const BinaryOperator keep_going = *step_value >= 0 ? BinaryOperator::LessEqual : BinaryOperator::GreaterEqual;
+
+  VBS_TRY(m_counter->Assign(frame, std::move(*plain_from), false));
+  Flow report = Flow::Normal;
+  auto step_counter = [&]() -> Status {
+    auto current = m_counter->Eval(frame);
+    if (!current) return std::move(current).error();
+    auto next = Add(*current, increment, locale);
+    if (!next) return std::move(next).error();
+    return m_counter->Assign(frame, std::move(*next), false);
+  };
+  bool body_ran = false;  // set when the fast loop hands over right after a run of the body
+
+  // Whole-number loops on a plain variable, the common case, count in a machine integer; the
+  // counter keeps the subtype that adding the step would give it (Integer, widening to Long).
+  VariableNode* variable = m_variable;
+  auto whole = [](const Variant& v) { return v.is_integer() || v.is_long(); };
+  if (variable && whole(limit) && whole(increment)) {
+    const int64_t last = limit.as_whole();
+    const int64_t by = increment.as_whole();
+    // The variable's storage stays where it is for the whole loop (a slot, a global, the target of
+    // a ByRef parameter).
+    Variant& counter = variable->Storage(frame).Deref();
+    // The body looks for a stop before each statement; an empty one has no statement to look.
+    const bool check_here = m_body.statements.empty();
+    for (;;) {
+      if (!whole(counter)) break;
+      const int64_t current = counter.as_whole();
+      if (by >= 0 ? current > last : current < last) return Flow::Normal;
+      if (check_here) VBS_TRY(frame.interp.CheckInterrupt());
+      auto flow = m_body.Exec(frame);
+      if (!flow) return flow;
+      if (LeavesLoop(*flow, Flow::ExitFor, report)) return report;
+      if (!whole(counter)) {
+        body_ran = true;
+        break;
+      }
+      const int64_t next = counter.as_whole() + by;
+      if (counter.is_integer() && increment.is_integer() && next >= INT16_MIN && next <= INT16_MAX)
+        counter.AssignPlain(Variant::Integer(static_cast<int16_t>(next)));
+      else if (next >= INT32_MIN && next <= INT32_MAX)
+        counter.AssignPlain(Variant::Long(static_cast<int32_t>(next)));
+      else
+        counter.AssignPlain(Variant::Double(static_cast<double>(next)));
+    }
+  }
+  if (body_ran) VBS_TRY(step_counter());
+  for (;;) {
+    auto counter = m_counter->Eval(frame);
+    if (!counter) return std::move(counter).error();
+    auto within = Compare(keep_going, *counter, limit, CompareMode::Binary, locale);
+    if (!within) return std::move(within).error();
+    if (!within->is_boolean() || !within->as_boolean()) break;
+    VBS_TRY(frame.interp.CheckInterrupt());
+    auto flow = m_body.Exec(frame);
+    if (!flow) return flow;
+    if (LeavesLoop(*flow, Flow::ExitFor, report)) return report;
+    VBS_TRY(step_counter());
+  }
+  return Flow::Normal;
+}
+
+namespace {
+
+// Keeps an array from being resized while For Each walks it.
+class ArrayLock {
+ public:
+  explicit ArrayLock(Ref<SafeArray> array) : m_array(std::move(array)) { m_array->Lock(); }
+  ~ArrayLock() { m_array->Unlock(); }
+  ArrayLock(const ArrayLock&) = delete;
+  ArrayLock& operator=(const ArrayLock&) = delete;
+
+ private:
+  Ref<SafeArray> m_array;
+};
+
+}  // namespace
+
+Result<Flow> ForEachNode::Exec(Frame& frame) {
+  auto collection = m_collection->Eval(frame);
+  if (!collection) {
+    if (!ResumeIntoBody(frame, collection.error())) return std::move(collection).error();
+    return m_body.Exec(frame);
+  }
+  Flow report = Flow::Normal;
+  auto visit = [&](Variant element) -> Result<bool> {
+    VBS_TRY(frame.interp.CheckInterrupt());
+    bool is_object = element.is_object();
+    VBS_TRY(m_element->Assign(frame, std::move(element), is_object));
+    auto flow = m_body.Exec(frame);
+    if (!flow) return std::move(flow).error();
+    return LeavesLoop(*flow, Flow::ExitFor, report);
+  };
+
+  if (collection->is_array()) {
+    Ref<SafeArray> array(collection->as_array());
+    ArrayLock lock(array);
+    for (size_t i = 0; i < array->size(); ++i) {
+      auto leave = visit(array->elements()[i]);
+      if (!leave) return std::move(leave).error();
+      if (*leave) return report;
+    }
+    return Flow::Normal;
+  }
+  if (!collection->is_object() || !collection->as_object()) {
+    if (!ResumeIntoBody(frame, MakeError(err::kNotCollection))) return MakeError(err::kNotCollection);
+    auto flow = m_body.Exec(frame);
+    if (!flow) return flow;
+    return LeavesLoop(*flow, Flow::ExitFor, report) ? report : Flow::Normal;
+  }
+  auto enumerator = collection->as_object()->Enumerate();
+  if (!enumerator) return std::move(enumerator).error();
+  for (;;) {
+    Variant element;
+    auto more = (*enumerator)->Next(element);
+    if (!more) return std::move(more).error();
+    if (!*more) break;
+    auto leave = visit(std::move(element));
+    if (!leave) return std::move(leave).error();
+    if (*leave) return report;
+  }
+  // A collection walked to its end leaves the loop variable Empty, as Windows does.
+  VBS_TRY(m_element->Assign(frame, Variant(), false));
+  return Flow::Normal;
+}
+
+Result<Flow> LoopNode::Exec(Frame& frame) {
+  const bool check_before = m_kind == ast::LoopCondition::WhileBefore || m_kind == ast::LoopCondition::UntilBefore;
+  const bool until = m_kind == ast::LoopCondition::UntilBefore || m_kind == ast::LoopCondition::UntilAfter;
+  Flow report = Flow::Normal;
+  for (;;) {
+    // An empty body has no statement at which to notice a stop: the loop itself looks.
+    VBS_TRY(frame.interp.CheckInterrupt());
+    if (check_before) {
+      auto holds = Condition(frame, *m_condition);
+      if (!holds && !ResumeIntoBody(frame, holds.error())) return std::move(holds).error();
+      if (holds && *holds == until) break;
+    }
+    auto flow = m_body.Exec(frame);
+    if (!flow) return flow;
+    if (m_while_wend ? *flow != Flow::Normal : LeavesLoop(*flow, Flow::ExitDo, report))
+      return m_while_wend ? *flow : report;
+    if (m_condition && !check_before) {
+      auto holds = Condition(frame, *m_condition);
+      if (!holds) return std::move(holds).error();
+      if (*holds == until) break;
+    }
+  }
+  return Flow::Normal;
+}
+
+Result<Flow> WithNode::Exec(Frame& frame) {
+  auto object = m_object->Eval(frame);
+  if (!object && !ResumeIntoBody(frame, object.error())) return std::move(object).error();
+  frame.slots[m_slot] = object ? std::move(*object) : Variant();
+  auto flow = m_body.Exec(frame);
+  frame.slots[m_slot] = Variant();
+  return flow;
+}
+
+Result<Flow> DimArrayNode::Exec(Frame&) {
+  for (Item& item : m_items) {
+    if (!item.fixed) {
+      *item.storage = Variant::Array(SafeArray::CreateUndimensioned());
+      continue;
+    }
+    std::vector<ArrayBound> bounds;
+    for (int32_t upper : item.uppers) bounds.push_back({0, upper});
+    auto array = SafeArray::Create(bounds);
+    if (!array) return std::move(array).error();
+    *item.storage = Variant::Array(*array);
+    item.storage->MarkFixedArray();
+  }
+  return Flow::Normal;
+}
+
+Result<Flow> OnErrorNode::Exec(Frame& frame) {
+  frame.resume_next = m_resume_next;
+  frame.interp.err() = ErrState{};
+  return Flow::Normal;
+}
+
+}  // namespace vbs

@@ -1,0 +1,7 @@
+#include "vbscript/value/Object.h"
+
+namespace vbs {
+
+Result<Ref<Enumerator>> Object::Enumerate() { return MakeError(451); }
+
+}  // namespace vbs

@@ -1,0 +1,107 @@
+#pragma once
+
+// Script errors travel as return values, never as C++ exceptions: "On Error Resume Next" then costs
+// a test of a flag, and an error can cross the host boundary without unwinding anything.
+
+#include <cassert>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "vbscript/value/Source.h"
+
+namespace vbs {
+
+// A runtime or syntax error as the script sees it through the Err object and the host through the
+// engine's error: the VBScript error number, and a description only when it differs from the
+// standard text for that number (raised by a script, or coming from a host object).
+struct ScriptError {
+  int32_t number = 0;
+  std::u16string description;  // empty: the standard text of `number` in the engine's language
+  std::u16string source;       // empty: the engine's own name for runtime/compile errors
+  SourcePos pos;
+  bool has_pos = false;
+};
+
+// Frees an error; out of line, so that the success path, which only tests the pointer, stays small.
+struct ErrorDeleter {
+  void operator()(ScriptError* error) const;
+};
+using ErrorPtr = std::unique_ptr<ScriptError, ErrorDeleter>;
+
+// A failed Result's error on its way to another Result: passing a failure up the call chain moves
+// one pointer, with no new allocation. It turns into the ScriptError itself where one is wanted.
+class [[nodiscard]] Failure {
+ public:
+  explicit Failure(ErrorPtr error) : m_error(std::move(error)) {}
+  operator ScriptError() && { return std::move(*m_error); }
+  ScriptError* operator->() { return m_error.get(); }
+  ErrorPtr Release() && { return std::move(m_error); }
+
+ private:
+  ErrorPtr m_error;
+};
+
+// The value and, only when something failed, the error on the heap: the success path, which is
+// nearly every evaluation of every expression, moves a plain value and tests one pointer.
+template <typename T>
+class [[nodiscard]] Result {
+ public:
+  Result(T value) : m_value(std::move(value)) {}
+  Result(ScriptError error) : m_error(new ScriptError(std::move(error))) {}
+  Result(Failure failure) : m_error(std::move(failure).Release()) {}
+
+  bool ok() const { return m_error == nullptr; }
+  explicit operator bool() const { return ok(); }
+
+  T& value() & {
+    assert(ok());
+    return m_value;
+  }
+  const T& value() const& {
+    assert(ok());
+    return m_value;
+  }
+  T&& value() && {
+    assert(ok());
+    return std::move(m_value);
+  }
+  T& operator*() & { return value(); }
+  const T& operator*() const& { return value(); }
+  T* operator->() { return &value(); }
+  const T* operator->() const { return &value(); }
+
+  ScriptError& error() & {
+    assert(!ok());
+    return *m_error;
+  }
+  const ScriptError& error() const& {
+    assert(!ok());
+    return *m_error;
+  }
+  Failure error() && {
+    assert(!ok());
+    return Failure(std::move(m_error));
+  }
+
+ private:
+  T m_value{};
+  ErrorPtr m_error;
+};
+
+struct Unit {};
+using Status = Result<Unit>;
+inline Status Ok() { return Unit{}; }
+
+inline ScriptError MakeError(int32_t number) { return ScriptError{number, {}, {}, {}, false}; }
+inline ScriptError MakeError(int32_t number, SourcePos pos) { return ScriptError{number, {}, {}, pos, true}; }
+
+// Propagates a failed Result out of the calling function.
+#define VBS_TRY(expr)                                   \
+  do {                                                  \
+    auto&& vbs_try_result_ = (expr);                    \
+    if (!vbs_try_result_) return std::move(vbs_try_result_).error(); \
+  } while (0)
+
+}  // namespace vbs

@@ -1,0 +1,214 @@
+#include <QBrush>
+#include <QChart>
+#include <QSortFilterProxyModel>
+#include <QTest>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <initializer_list>
+#include <vector>
+
+#include "archive/TabellaEstrazioni.h"
+#include "gui/tabellone/GraficoRitardi.h"
+#include "gui/tabellone/ModelloTabellone.h"
+#include "gui/tabellone/TabelloneScala.h"
+
+namespace lottolab::gui {
+namespace {
+
+struct NumeriRuota {
+  int ruota;
+  std::array<int, kNumeriPerRuota> numeri;
+};
+
+// Twelve draws written by hand. Every wheel not written out holds 81..85; Nazionale is drawn from
+// draw 5 on and Firenze is missing from draw 10.
+//   7 on Bari      out in draws 3 and 8
+//   7 on Firenze   out in draw 2
+//   7 on Nazionale out in draw 6
+//   40             never out
+TabellaEstrazioni ArchivioAMano() {
+  std::vector<Estrazione> estrazioni;
+  auto aggiungi = [&](std::initializer_list<NumeriRuota> scritte) {
+    Estrazione estrazione;
+    estrazione.id_estr = static_cast<int>(estrazioni.size()) + 1;
+    for (int ruota = 1; ruota <= kNumeroRuote; ++ruota) {
+      if (ruota == NZ && estrazione.id_estr < 5) continue;
+      if (ruota == FI && estrazione.id_estr == 10) continue;
+      for (int p = 1; p <= kNumeriPerRuota; ++p) estrazione.ImpostaNumero(ruota, p, 80 + p);
+    }
+    for (const NumeriRuota& scritta : scritte)
+      for (int p = 1; p <= kNumeriPerRuota; ++p) estrazione.ImpostaNumero(scritta.ruota, p, scritta.numeri[p - 1]);
+    estrazioni.push_back(estrazione);
+  };
+  aggiungi({});
+  aggiungi({{FI, {1, 2, 3, 4, 7}}});
+  aggiungi({{BA, {7, 1, 2, 3, 4}}});
+  aggiungi({});
+  aggiungi({});
+  aggiungi({{NZ, {5, 6, 7, 8, 9}}});
+  aggiungi({});
+  aggiungi({{BA, {1, 2, 3, 7, 4}}});
+  for (int id = 9; id <= 12; ++id) aggiungi({});
+  return TabellaEstrazioni(std::move(estrazioni));
+}
+
+constexpr std::array kRuoteScelte{int{BA}, int{FI}, int{NZ}};
+
+struct Figure {
+  int ritardo;
+  int frequenza;
+  int storico;
+};
+
+// The figures shown for `numero` on the i-th chosen wheel: the rows go wheel by wheel, 1..90.
+Figure FigureMostrate(const ModelloTabellone& modello, size_t i, int numero) {
+  const int riga = static_cast<int>(i) * kMassimoNumero + numero - 1;
+  auto valore = [&](int colonna) { return modello.data(modello.index(riga, colonna)).toInt(); };
+  return {valore(ModelloTabellone::kColonnaRitardo), valore(ModelloTabellone::kColonnaFrequenza),
+          valore(ModelloTabellone::kColonnaStorico)};
+}
+
+void ConfrontaFigure(const Figure& mostrate, const Figure& attese) {
+  QCOMPARE(mostrate.ritardo, attese.ritardo);
+  QCOMPARE(mostrate.frequenza, attese.frequenza);
+  QCOMPARE(mostrate.storico, attese.storico);
+}
+
+}  // namespace
+
+class TabelloneTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void LeRigheSonoINumeriDelleRuoteScelteInOrdine() {
+    ModelloTabellone modello;
+    modello.Calcola(ArchivioAMano(), kRuoteScelte, 12);
+    QCOMPARE(modello.rowCount(), 3 * kMassimoNumero);
+    QCOMPARE(modello.columnCount(), 5);
+    QCOMPARE(modello.data(modello.index(0, ModelloTabellone::kColonnaRuota)).toString(), QString("Bari"));
+    QCOMPARE(modello.data(modello.index(kMassimoNumero, ModelloTabellone::kColonnaRuota)).toString(),
+             QString("Firenze"));
+    QCOMPARE(modello.data(modello.index(3 * kMassimoNumero - 1, ModelloTabellone::kColonnaNumero)).toInt(), 90);
+    QCOMPARE(modello.Ruota(2 * kMassimoNumero + 6), int{NZ});
+    QCOMPARE(modello.Numero(2 * kMassimoNumero + 6), 7);
+  }
+
+  void LeFigureSonoQuelleContateAMano() {
+    ModelloTabellone modello;
+    modello.Calcola(ArchivioAMano(), kRuoteScelte, 12);
+    QCOMPARE(modello.Fine(), 12);
+    // Bari: absences of 2, 4 and 4 (open) draws.
+    ConfrontaFigure(FigureMostrate(modello, 0, 7), {4, 2, 4});
+    // Firenze: out in draw 2, then ten draws of which draw 10 lacks the wheel.
+    ConfrontaFigure(FigureMostrate(modello, 1, 7), {9, 1, 9});
+    // Nazionale: drawn eight times, out in the second of them.
+    ConfrontaFigure(FigureMostrate(modello, 2, 7), {6, 1, 6});
+    ConfrontaFigure(FigureMostrate(modello, 0, 40), {12, 0, 12});
+    ConfrontaFigure(FigureMostrate(modello, 2, 40), {8, 0, 8});
+  }
+
+  void LUltimaEstrazioneSceltaCambiaLeFigure() {
+    ModelloTabellone modello;
+    modello.Calcola(ArchivioAMano(), kRuoteScelte, 5);
+    QCOMPARE(modello.Fine(), 5);
+    ConfrontaFigure(FigureMostrate(modello, 0, 7), {2, 1, 2});
+    ConfrontaFigure(FigureMostrate(modello, 1, 7), {3, 1, 3});
+    ConfrontaFigure(FigureMostrate(modello, 2, 7), {1, 0, 1});
+    ConfrontaFigure(FigureMostrate(modello, 0, 40), {5, 0, 5});
+
+    modello.Calcola(ArchivioAMano(), kRuoteScelte, 13);
+    QCOMPARE(modello.rowCount(), 0);
+    QCOMPARE(modello.Fine(), 0);
+  }
+
+  void OrdinarePerRitardoSegueIlValoreNonIlTesto() {
+    ModelloTabellone modello;
+    modello.Calcola(ArchivioAMano(), kRuoteScelte, 12);
+    QSortFilterProxyModel ordinamento;
+    ordinamento.setSourceModel(&modello);
+    ordinamento.setSortRole(ModelloTabellone::kRuoloOrdinamento);
+    ordinamento.sort(ModelloTabellone::kColonnaRitardo, Qt::AscendingOrder);
+
+    std::vector<int> ritardi;
+    for (int riga = 0; riga < ordinamento.rowCount(); ++riga)
+      ritardi.push_back(ordinamento.data(ordinamento.index(riga, ModelloTabellone::kColonnaRitardo)).toInt());
+    QVERIFY(std::is_sorted(ritardi.begin(), ritardi.end()));
+    // As text "12" would come before "4".
+    QCOMPARE(ritardi.front(), 0);
+    QCOMPARE(ritardi.back(), 12);
+
+    ordinamento.sort(ModelloTabellone::kColonnaRuota, Qt::DescendingOrder);
+    QCOMPARE(ordinamento.data(ordinamento.index(0, ModelloTabellone::kColonnaRuota)).toString(), QString("Nazionale"));
+  }
+
+  void IlColoreDelRitardoLoMisuraSulloStorico() {
+    ModelloTabellone modello;
+    modello.Calcola(ArchivioAMano(), kRuoteScelte, 10);
+    auto colore = [&](int riga, int ruolo) {
+      return modello.data(modello.index(riga, ModelloTabellone::kColonnaRitardo), ruolo).value<QBrush>().color();
+    };
+    // 81 on Bari came out in draw 10, 7 on Bari has a delay of 2 against a longest absence of 4,
+    // 40 on Bari has never come out: its delay is its maximum.
+    const int riga_81 = 81 - 1;
+    const int riga_7 = 7 - 1;
+    const int riga_40 = 40 - 1;
+    QCOMPARE(colore(riga_81, Qt::BackgroundRole), QColor(Qt::white));
+    QCOMPARE(colore(riga_81, Qt::ForegroundRole), QColor(Qt::black));
+    const QColor a_meta = colore(riga_7, Qt::BackgroundRole);
+    const QColor al_massimo = colore(riga_40, Qt::BackgroundRole);
+    QCOMPARE(a_meta, SfondoRitardo(0.5));
+    QCOMPARE(al_massimo, SfondoRitardo(1.0));
+    QVERIFY(al_massimo.red() > al_massimo.green() + 100);
+    QVERIFY(a_meta.green() < 255 && a_meta.green() > al_massimo.green());
+    QCOMPARE(colore(riga_40, Qt::ForegroundRole), QColor(Qt::white));
+  }
+
+  // The text must stay readable at every step of the scale: a contrast ratio of at least 4.5, the
+  // accessibility guidelines' threshold for normal text.
+  void IlTestoSiLeggeSuOgniSfondo() {
+    auto luminanza = [](const QColor& c) {
+      auto lineare = [](double v) { return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+      return 0.2126 * lineare(c.redF()) + 0.7152 * lineare(c.greenF()) + 0.0722 * lineare(c.blueF());
+    };
+    for (int passo = 0; passo <= 100; ++passo) {
+      const QColor sfondo = SfondoRitardo(passo / 100.0);
+      const double a = luminanza(sfondo);
+      const double b = luminanza(TestoSuSfondo(sfondo));
+      const double contrasto = (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+      QVERIFY2(contrasto >= 4.5, qPrintable(QString("contrasto %1 al %2%").arg(contrasto).arg(passo)));
+    }
+  }
+
+  void IlGraficoHaUnPuntoPerEstrazioneConIlRitardoDopoDiEssa() {
+    const TabellaEstrazioni tab = ArchivioAMano();
+    struct Caso {
+      int ruota;
+      std::vector<int> ritardi;
+    };
+    // Nazionale neither counts nor breaks a run before draw 5, Firenze in draw 10.
+    const std::vector<Caso> casi{
+        {BA, {1, 2, 0, 1, 2, 3, 4, 0, 1, 2, 3, 4}},
+        {FI, {1, 0, 1, 2, 3, 4, 5, 6, 7, 7, 8, 9}},
+        {NZ, {0, 0, 0, 0, 1, 0, 1, 2, 3, 4, 5, 6}},
+    };
+    for (const Caso& caso : casi) {
+      const GraficoRitardi grafico(tab, caso.ruota, 7, 12);
+      const QList<QPointF> punti = grafico.Serie().points();
+      QCOMPARE(punti.size(), 12);
+      for (int k = 1; k <= 12; ++k) {
+        QCOMPARE(punti[k - 1].x(), static_cast<double>(k));
+        QCOMPARE(punti[k - 1].y(), static_cast<double>(caso.ritardi[static_cast<size_t>(k - 1)]));
+      }
+    }
+    const GraficoRitardi fino_alla_sesta(tab, NZ, 7, 6);
+    QCOMPARE(fino_alla_sesta.Serie().points().size(), 6);
+    QCOMPARE(fino_alla_sesta.chart()->title(), QString("Ritardo del 7 su Nazionale"));
+  }
+};
+
+}  // namespace lottolab::gui
+
+QTEST_MAIN(lottolab::gui::TabelloneTest)
+#include "TabelloneTest.moc"
