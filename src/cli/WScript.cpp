@@ -16,9 +16,8 @@ namespace {
 Result<std::string> TestoDi(const Variant& valore, const vbs::Locale& locale) {
   const Variant& v = valore.Deref();
   if (v.is_null()) return std::string("Null");
-  auto testo = v.to_string(locale);
-  if (!testo) return std::move(testo).error();
-  return vbs::Utf16ToUtf8(testo->view());
+  VBS_TRY_ASSIGN(auto testo, v.to_string(locale));
+  return vbs::Utf16ToUtf8(testo.view());
 }
 
 }  // namespace
@@ -39,24 +38,21 @@ class FlussoTesto final : public vbs::HostObject<FlussoTesto> {
 
  private:
   Result<Variant> Write(CallArgs& args) {
-    auto testo = TestoDi(args[0], args.locale());
-    if (!testo) return std::move(testo).error();
-    m_flusso << *testo << std::flush;
+    VBS_TRY_ASSIGN(auto testo, TestoDi(args[0], args.locale()));
+    m_flusso << testo << std::flush;
     return Variant();
   }
   Result<Variant> WriteLine(CallArgs& args) {
     if (args.size() > 0) {
-      auto testo = TestoDi(args[0], args.locale());
-      if (!testo) return std::move(testo).error();
-      m_flusso << *testo;
+      VBS_TRY_ASSIGN(auto testo, TestoDi(args[0], args.locale()));
+      m_flusso << testo;
     }
     m_flusso << '\n' << std::flush;
     return Variant();
   }
   Result<Variant> WriteBlankLines(CallArgs& args) {
-    auto righe = args.Long(0);
-    if (!righe) return std::move(righe).error();
-    for (int32_t i = 0; i < *righe; ++i) m_flusso << '\n';
+    VBS_TRY_ASSIGN(auto righe, args.Long(0));
+    for (int32_t i = 0; i < righe; ++i) m_flusso << '\n';
     return Variant();
   }
 
@@ -97,10 +93,9 @@ class ArgomentiScript final : public vbs::HostObject<ArgomentiScript> {
 
  private:
   Result<Variant> Item(CallArgs& args) {
-    auto indice = args.Long(0);
-    if (!indice) return std::move(indice).error();
-    if (*indice < 0 || static_cast<size_t>(*indice) >= m_argomenti.size()) return vbs::MakeError(vbs::err::kSubscript);
-    return Variant::String(vbs::Utf8ToUtf16(m_argomenti[*indice]));
+    VBS_TRY_ASSIGN(auto indice, args.Long(0));
+    if (indice < 0 || static_cast<size_t>(indice) >= m_argomenti.size()) return vbs::MakeError(vbs::err::kSubscript);
+    return Variant::String(vbs::Utf8ToUtf16(m_argomenti[indice]));
   }
   Result<Variant> Count(CallArgs&) { return Variant::Long(static_cast<int32_t>(m_argomenti.size())); }
 
@@ -132,28 +127,25 @@ std::span<const WScript::Member> WScript::Members() {
 Result<Variant> WScript::Echo(CallArgs& args) {
   std::string riga;
   for (size_t i = 0; i < args.size(); ++i) {
-    auto testo = TestoDi(args[i], m_interp.locale());
-    if (!testo) return std::move(testo).error();
+    VBS_TRY_ASSIGN(auto testo, TestoDi(args[i], m_interp.locale()));
     if (i) riga += ' ';
-    riga += *testo;
+    riga += testo;
   }
   m_out << riga << '\n' << std::flush;
   return Variant();
 }
 
 Result<Variant> WScript::Quit(CallArgs& args) {
-  auto codice = args.Long(0, 0);
-  if (!codice) return std::move(codice).error();
-  m_codice_uscita = *codice;
+  VBS_TRY_ASSIGN(auto codice, args.Long(0, 0));
+  m_codice_uscita = codice;
   // Ends the script at once, past any "On Error Resume Next".
   m_interp.RequestAbort();
   return vbs::MakeError(vbs::err::kAborted);
 }
 
 Result<Variant> WScript::Sleep(CallArgs& args) {
-  auto millisecondi = args.Long(0);
-  if (!millisecondi) return std::move(millisecondi).error();
-  if (*millisecondi > 0) std::this_thread::sleep_for(std::chrono::milliseconds(*millisecondi));
+  VBS_TRY_ASSIGN(auto millisecondi, args.Long(0));
+  if (millisecondi > 0) std::this_thread::sleep_for(std::chrono::milliseconds(millisecondi));
   return Variant();
 }
 

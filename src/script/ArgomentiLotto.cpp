@@ -23,20 +23,17 @@ std::optional<int> RuotaScambiata(std::u16string_view testo) {
 // them from 1, so the Empty elements they leave hold no value and are passed over.
 template <typename T, typename Converti>
 vbs::Result<std::vector<T>> Elementi(const vbs::CallArgs& args, size_t i, Converti converti) {
-  auto valore = args.Value(i);
-  if (!valore) return std::move(valore).error();
+  VBS_TRY_ASSIGN(auto valore, args.Value(i));
   std::vector<T> elementi;
-  if (!valore->is_array()) {
-    auto convertito = converti(*valore);
-    if (!convertito) return std::move(convertito).error();
-    elementi.push_back(*convertito);
+  if (!valore.is_array()) {
+    VBS_TRY_ASSIGN(auto convertito, converti(valore));
+    elementi.push_back(convertito);
     return elementi;
   }
-  for (const vbs::Variant& elemento : valore->as_array()->elements()) {
+  for (const vbs::Variant& elemento : valore.as_array()->elements()) {
     if (elemento.is_empty()) continue;
-    auto convertito = converti(elemento);
-    if (!convertito) return std::move(convertito).error();
-    elementi.push_back(*convertito);
+    VBS_TRY_ASSIGN(auto convertito, converti(elemento));
+    elementi.push_back(convertito);
   }
   return elementi;
 }
@@ -55,22 +52,18 @@ std::optional<int> RuotaIntera(const vbs::Variant& valore) {
 
 vbs::Result<int> RuotaTabella(const vbs::Variant& valore, const vbs::Locale& locale) {
   if (auto ruota = RuotaIntera(valore)) return *ruota;
-  auto testo = valore.to_string(locale);
-  if (!testo) return std::move(testo).error();
-  if (auto scambiata = RuotaScambiata(testo->view())) return *scambiata;
-  auto ruota = valore.to_integer(locale);
-  if (!ruota) return std::move(ruota).error();
-  return int{*ruota};
+  VBS_TRY_ASSIGN(auto testo, valore.to_string(locale));
+  if (auto scambiata = RuotaScambiata(testo.view())) return *scambiata;
+  VBS_TRY_ASSIGN(auto ruota, valore.to_integer(locale));
+  return int{ruota};
 }
 
 vbs::Result<int> RuotaTabella(const vbs::CallArgs& args, size_t i) {
   if (auto ruota = RuotaIntera(args[i])) return *ruota;
-  auto testo = args.String(i);
-  if (!testo) return std::move(testo).error();
-  if (auto scambiata = RuotaScambiata(*testo)) return *scambiata;
-  auto ruota = args.Integer(i);
-  if (!ruota) return std::move(ruota).error();
-  return int{*ruota};
+  VBS_TRY_ASSIGN(auto testo, args.String(i));
+  if (auto scambiata = RuotaScambiata(testo)) return *scambiata;
+  VBS_TRY_ASSIGN(auto ruota, args.Integer(i));
+  return int{ruota};
 }
 
 vbs::Result<std::vector<int>> RuoteArgomento(const vbs::CallArgs& args, size_t i) {
@@ -83,23 +76,21 @@ vbs::Result<std::vector<double>> ValoriArgomento(const vbs::CallArgs& args, size
 
 vbs::Result<std::vector<int>> NumeriArgomento(const vbs::CallArgs& args, size_t i) {
   return Elementi<int>(args, i, [&args](const vbs::Variant& v) -> vbs::Result<int> {
-    auto numero = v.to_double(args.locale());
-    if (!numero) return std::move(numero).error();
-    return int{stats::Fuori90(*numero)};
+    VBS_TRY_ASSIGN(auto numero, v.to_double(args.locale()));
+    return int{stats::Fuori90(numero)};
   });
 }
 
 vbs::Result<vbs::Variant> ArrayEstrazione(const Estrazione& estrazione) {
   const vbs::ArrayBound limiti[] = {{1, kNumeroRuote}, {1, kNumeriPerRuota}};
-  auto array = vbs::SafeArray::Create(limiti);
-  if (!array) return std::move(array).error();
-  auto elementi = (*array)->elements();
+  VBS_TRY_ASSIGN(auto array, vbs::SafeArray::Create(limiti));
+  auto elementi = (array)->elements();
   // The first index varies fastest in storage.
   for (int ruota = 1; ruota <= kNumeroRuote; ++ruota) {
     for (int posizione = 1; posizione <= kNumeriPerRuota; ++posizione)
       elementi[(ruota - 1) + (posizione - 1) * kNumeroRuote] = vbs::Variant::Integer(estrazione.Numero(ruota, posizione));
   }
-  return vbs::Variant::Array(std::move(*array));
+  return vbs::Variant::Array(std::move(array));
 }
 
 vbs::Variant ArrayDaUno(std::vector<vbs::Variant> valori) {

@@ -23,102 +23,87 @@ Result<int> RuotaValida(int ruota, int ultima) {
 }  // namespace
 
 Result<std::vector<int>> RuoteGiocate(const CallArgs& args, size_t i) {
-  auto ruote = RuoteArgomento(args, i);
-  if (!ruote) return std::move(ruote).error();
-  if (ruote->empty()) return ArgomentoNonValido("Nessuna ruota indicata");
-  for (int ruota : *ruote) {
-    auto valida = RuotaValida(ruota, kTutteLeRuote);
-    if (!valida) return std::move(valida).error();
+  VBS_TRY_ASSIGN(auto ruote, RuoteArgomento(args, i));
+  if (ruote.empty()) return ArgomentoNonValido("Nessuna ruota indicata");
+  for (int ruota : ruote) {
+    VBS_TRY(RuotaValida(ruota, kTutteLeRuote));
   }
   return ruote;
 }
 
 Result<int> RuotaArgomento(const CallArgs& args, size_t i, int ultima) {
-  auto ruota = RuotaTabella(args, i);
-  if (!ruota) return std::move(ruota).error();
-  return RuotaValida(*ruota, ultima);
+  VBS_TRY_ASSIGN(auto ruota, RuotaTabella(args, i));
+  return RuotaValida(ruota, ultima);
 }
 
 Result<int> NumeroArgomento(const CallArgs& args, size_t i) {
-  auto numero = args.Double(i);
-  if (!numero) return std::move(numero).error();
-  return int{stats::Fuori90(*numero)};
+  VBS_TRY_ASSIGN(auto numero, args.Double(i));
+  return int{stats::Fuori90(numero)};
 }
 
 Result<int> InteroTra(const CallArgs& args, size_t i, int da, int a, std::string_view nome) {
-  auto valore = args.Long(i);
-  if (!valore) return std::move(valore).error();
-  if (*valore < da || *valore > a)
-    return ArgomentoNonValido(fmt::format("{} non valida: {} (da {} a {})", nome, *valore, da, a));
-  return *valore;
+  VBS_TRY_ASSIGN(auto valore, args.Long(i));
+  if (valore < da || valore > a)
+    return ArgomentoNonValido(fmt::format("{} non valida: {} (da {} a {})", nome, valore, da, a));
+  return valore;
 }
 
 Result<int> SorteArgomento(const CallArgs& args, size_t i) { return InteroTra(args, i, 1, kNumeriPerRuota, "Sorte"); }
 
 Result<int> EstrazioneArgomento(const TabellaEstrazioni& tab, const CallArgs& args, size_t i, int se_omesso,
                                 std::string_view nome) {
-  auto id_estr = args.Long(i, se_omesso);
-  if (!id_estr) return std::move(id_estr).error();
-  if (!tab.Contiene(*id_estr)) {
+  VBS_TRY_ASSIGN(auto id_estr, args.Long(i, se_omesso));
+  if (!tab.Contiene(id_estr)) {
     return ArgomentoNonValido(fmt::format("{} fuori dall'archivio: {} (le estrazioni vanno da 1 a {})", nome,
-                                          *id_estr, tab.EstrazioniArchivio()));
+                                          id_estr, tab.EstrazioniArchivio()));
   }
-  return *id_estr;
+  return id_estr;
 }
 
 Result<Intervallo> IntervalloArgomento(const TabellaEstrazioni& tab, const CallArgs& args,
                                        std::optional<size_t> i_inizio, size_t i_fine) {
-  auto inizio = i_inizio ? EstrazioneArgomento(tab, args, *i_inizio, 1, "Inizio") : Result<int>(1);
-  if (!inizio) return std::move(inizio).error();
-  auto fine = EstrazioneArgomento(tab, args, i_fine, tab.EstrazioniArchivio(), "Fine");
-  if (!fine) return std::move(fine).error();
-  if (*inizio > *fine) return ArgomentoNonValido(fmt::format("Inizio ({}) dopo Fine ({})", *inizio, *fine));
-  return Intervallo{*inizio, *fine};
+  VBS_TRY_ASSIGN(auto inizio, i_inizio ? EstrazioneArgomento(tab, args, *i_inizio, 1, "Inizio") : Result<int>(1));
+  VBS_TRY_ASSIGN(auto fine, EstrazioneArgomento(tab, args, i_fine, tab.EstrazioniArchivio(), "Fine"));
+  if (inizio > fine) return ArgomentoNonValido(fmt::format("Inizio ({}) dopo Fine ({})", inizio, fine));
+  return Intervallo{inizio, fine};
 }
 
 namespace {
 
 Result<std::vector<int>> NumeriGiocati(const CallArgs& args, size_t i) {
-  auto numeri = NumeriArgomento(args, i);
-  if (!numeri) return std::move(numeri).error();
-  if (numeri->empty()) return ArgomentoNonValido("Nessun numero indicato");
+  VBS_TRY_ASSIGN(auto numeri, NumeriArgomento(args, i));
+  if (numeri.empty()) return ArgomentoNonValido("Nessun numero indicato");
   return numeri;
 }
 
 // The flags are read at indices 1..5, whatever the array's lower bound, as scripts fill them.
 Result<stats::Posizioni> PosizioniGiocate(const CallArgs& args, std::optional<size_t> i) {
   if (!i || !args.Has(*i)) return stats::kTuttePosizioni;
-  auto valore = args.Value(*i);
-  if (!valore) return std::move(valore).error();
+  VBS_TRY_ASSIGN(auto valore, args.Value(*i));
   constexpr std::string_view kForma = "Le posizioni vanno date in un array con gli indici da 1 a 5";
-  if (!valore->is_array()) return ArgomentoNonValido(std::string(kForma));
+  if (!valore.is_array()) return ArgomentoNonValido(std::string(kForma));
   stats::Posizioni posizioni{};
   for (int32_t p = 1; p <= kNumeriPerRuota; ++p) {
-    auto flag = vbs::ReadElement(*valore, std::span<const int32_t>(&p, 1));
+    auto flag = vbs::ReadElement(valore, std::span<const int32_t>(&p, 1));
     if (!flag) return ArgomentoNonValido(std::string(kForma));
-    auto attiva = flag->to_boolean(args.locale());
-    if (!attiva) return std::move(attiva).error();
-    posizioni[static_cast<size_t>(p - 1)] = *attiva;
+    VBS_TRY_ASSIGN(auto attiva, flag->to_boolean(args.locale()));
+    posizioni[static_cast<size_t>(p - 1)] = attiva;
   }
   return posizioni;
 }
 
 // The archive, the range and the positions, once the combination is read.
 Result<Misura> Completa(const Libreria& lib, const CallArgs& args, Giocata giocata, PostiFacoltativi posti) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
   Misura misura;
-  misura.tab = *archivio;
+  misura.tab = archivio;
   misura.giocata = std::move(giocata);
-  auto inizio = EstrazioneArgomento(*misura.tab, args, posti.inizio, 1, "Inizio");
-  if (!inizio) return std::move(inizio).error();
-  misura.inizio = *inizio;
-  auto fine = EstrazioneArgomento(*misura.tab, args, posti.fine, misura.tab->EstrazioniArchivio(), "Fine");
-  if (!fine) return std::move(fine).error();
-  misura.fine = *fine;
-  auto posizioni = PosizioniGiocate(args, posti.posizioni);
-  if (!posizioni) return std::move(posizioni).error();
-  misura.posizioni = *posizioni;
+  VBS_TRY_ASSIGN(auto inizio, EstrazioneArgomento(*misura.tab, args, posti.inizio, 1, "Inizio"));
+  misura.inizio = inizio;
+  VBS_TRY_ASSIGN(auto fine, EstrazioneArgomento(*misura.tab, args, posti.fine, misura.tab->EstrazioniArchivio(), "Fine"));
+  misura.fine = fine;
+  VBS_TRY_ASSIGN(auto posizioni, PosizioniGiocate(args, posti.posizioni));
+  misura.posizioni = posizioni;
   return misura;
 }
 
@@ -126,27 +111,22 @@ Result<Misura> Completa(const Libreria& lib, const CallArgs& args, Giocata gioca
 
 Result<Misura> MisuraGruppo(const Libreria& lib, const CallArgs& args, PostiFacoltativi posti) {
   Giocata giocata;
-  auto ruote = RuoteGiocate(args, 0);
-  if (!ruote) return std::move(ruote).error();
-  giocata.ruote = std::move(*ruote);
-  auto numeri = NumeriGiocati(args, 1);
-  if (!numeri) return std::move(numeri).error();
-  giocata.numeri = std::move(*numeri);
-  auto sorte = SorteArgomento(args, 2);
-  if (!sorte) return std::move(sorte).error();
-  giocata.sorte = *sorte;
+  VBS_TRY_ASSIGN(auto ruote, RuoteGiocate(args, 0));
+  giocata.ruote = std::move(ruote);
+  VBS_TRY_ASSIGN(auto numeri, NumeriGiocati(args, 1));
+  giocata.numeri = std::move(numeri);
+  VBS_TRY_ASSIGN(auto sorte, SorteArgomento(args, 2));
+  giocata.sorte = sorte;
   return Completa(lib, args, std::move(giocata), posti);
 }
 
 Result<Misura> MisuraSuRuota(const Libreria& lib, const CallArgs& args, int quanti_numeri, PostiFacoltativi posti) {
   Giocata giocata;
-  auto ruote = RuoteGiocate(args, 0);
-  if (!ruote) return std::move(ruote).error();
-  giocata.ruote = std::move(*ruote);
+  VBS_TRY_ASSIGN(auto ruote, RuoteGiocate(args, 0));
+  giocata.ruote = std::move(ruote);
   for (size_t i = 1; i <= static_cast<size_t>(quanti_numeri); ++i) {
-    auto numero = NumeroArgomento(args, i);
-    if (!numero) return std::move(numero).error();
-    giocata.numeri.push_back(*numero);
+    VBS_TRY_ASSIGN(auto numero, NumeroArgomento(args, i));
+    giocata.numeri.push_back(numero);
   }
   giocata.sorte = quanti_numeri;
   return Completa(lib, args, std::move(giocata), posti);

@@ -71,9 +71,8 @@ Result<size_t> Collezione::Posto(const Variant& indice) const {
     if (it == m_per_chiave.end()) return vbs::MakeError(kArgomentoNonValido);
     return static_cast<size_t>(std::find(m_voci.begin(), m_voci.end(), it->second) - m_voci.begin());
   }
-  auto numero = valore.to_double(locale());
-  if (!numero) return std::move(numero).error();
-  const double posto = std::nearbyint(*numero);
+  VBS_TRY_ASSIGN(auto numero, valore.to_double(locale()));
+  const double posto = std::nearbyint(numero);
   if (!(posto >= 1 && posto <= static_cast<double>(m_voci.size()))) return vbs::MakeError(kArgomentoNonValido);
   return static_cast<size_t>(posto) - 1;
 }
@@ -86,25 +85,22 @@ void Collezione::Riordina(const std::vector<size_t>& ordine) {
 }
 
 Result<Variant> Collezione::Item(CallArgs& args) {
-  auto posto = Posto(args[0]);
-  if (!posto) return std::move(posto).error();
-  return m_voci[*posto]->valore;
+  VBS_TRY_ASSIGN(auto posto, Posto(args[0]));
+  return m_voci[posto]->valore;
 }
 
 Result<Variant> Collezione::Add(CallArgs& args) {
   std::u16string chiave;
   if (args.Has(1)) {
-    auto testo = args.String(1);
-    if (!testo) return std::move(testo).error();
-    chiave = std::move(*testo);
+    VBS_TRY_ASSIGN(auto testo, args.String(1));
+    chiave = std::move(testo);
   }
   if (args.Has(2) && args.Has(3)) return vbs::MakeError(kArgomentoNonValido);
   std::optional<size_t> dove;
   if (args.Has(2) || args.Has(3)) {
     const bool dopo = args.Has(3);
-    auto posto = Posto(args[dopo ? 3 : 2]);
-    if (!posto) return std::move(posto).error();
-    dove = *posto + (dopo ? 1 : 0);
+    VBS_TRY_ASSIGN(auto posto, Posto(args[dopo ? 3 : 2]));
+    dove = posto + (dopo ? 1 : 0);
   }
   if (auto aggiunta = Aggiungi(args[0], chiave); !aggiunta) return std::move(aggiunta).error();
   if (dove) std::rotate(m_voci.begin() + static_cast<std::ptrdiff_t>(*dove), m_voci.end() - 1, m_voci.end());
@@ -112,10 +108,9 @@ Result<Variant> Collezione::Add(CallArgs& args) {
 }
 
 Result<Variant> Collezione::Remove(CallArgs& args) {
-  auto posto = Posto(args[0]);
-  if (!posto) return std::move(posto).error();
-  if (!m_voci[*posto]->chiave.empty()) m_per_chiave.erase(m_voci[*posto]->chiave);
-  m_voci.erase(m_voci.begin() + static_cast<std::ptrdiff_t>(*posto));
+  VBS_TRY_ASSIGN(auto posto, Posto(args[0]));
+  if (!m_voci[posto]->chiave.empty()) m_per_chiave.erase(m_voci[posto]->chiave);
+  m_voci.erase(m_voci.begin() + static_cast<std::ptrdiff_t>(posto));
   return Variant();
 }
 

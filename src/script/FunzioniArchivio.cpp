@@ -18,95 +18,77 @@ using namespace famiglia;
 // Argument i as the index of a draw of the table. An index outside it is a subscript out of range,
 // as for an array, because scripts walk the archive like one.
 Result<int> IdEstrArgomento(const TabellaEstrazioni& tab, const CallArgs& args, size_t i) {
-  auto id_estr = args.Long(i);
-  if (!id_estr) return std::move(id_estr).error();
-  if (!tab.Contiene(*id_estr)) return vbs::MakeError(vbs::err::kSubscript);
-  return *id_estr;
+  VBS_TRY_ASSIGN(auto id_estr, args.Long(i));
+  if (!tab.Contiene(id_estr)) return vbs::MakeError(vbs::err::kSubscript);
+  return id_estr;
 }
 
 Result<const Estrazione*> EstrazioneArgomento(const Libreria& lib, const CallArgs& args, size_t i) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto id_estr = IdEstrArgomento(**archivio, args, i);
-  if (!id_estr) return std::move(id_estr).error();
-  return &(**archivio)[*id_estr];
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto id_estr, IdEstrArgomento(*archivio, args, i));
+  return &(*archivio)[id_estr];
 }
 
 Result<Variant> Estratto(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto id_estr = args.Long(0);
-  if (!id_estr) return std::move(id_estr).error();
-  auto ruota = RuotaTabella(args, 1);
-  if (!ruota) return std::move(ruota).error();
-  auto posizione = args.Long(2);
-  if (!posizione) return std::move(posizione).error();
-  auto numero = (*archivio)->Estratto(*id_estr, *ruota, *posizione);
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto id_estr, args.Long(0));
+  VBS_TRY_ASSIGN(auto ruota, RuotaTabella(args, 1));
+  VBS_TRY_ASSIGN(auto posizione, args.Long(2));
+  auto numero = (archivio)->Estratto(id_estr, ruota, posizione);
   if (!numero) return vbs::MakeError(vbs::err::kSubscript);
   return Variant::Integer(static_cast<int16_t>(*numero));
 }
 
 Result<Variant> DataEstrazione(Libreria& lib, CallArgs& args) {
-  auto estrazione = EstrazioneArgomento(lib, args, 0);
-  if (!estrazione) return std::move(estrazione).error();
-  auto anno_breve = args.Boolean(1, false);
-  if (!anno_breve) return std::move(anno_breve).error();
-  return Variant::String(vbs::Utf8ToUtf16(FormattaData((*estrazione)->data, *anno_breve)));
+  VBS_TRY_ASSIGN(auto estrazione, EstrazioneArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto anno_breve, args.Boolean(1, false));
+  return Variant::String(vbs::Utf8ToUtf16(FormattaData((estrazione)->data, anno_breve)));
 }
 
 // A field of the draw's date group, as an Integer.
 template <int16_t GruppoData::*Campo>
 Result<Variant> CampoData(Libreria& lib, CallArgs& args) {
-  auto estrazione = EstrazioneArgomento(lib, args, 0);
-  if (!estrazione) return std::move(estrazione).error();
-  return Variant::Integer((*estrazione)->data.*Campo);
+  VBS_TRY_ASSIGN(auto estrazione, EstrazioneArgomento(lib, args, 0));
+  return Variant::Integer((estrazione)->data.*Campo);
 }
 
 bool StessoMese(const GruppoData& a, const GruppoData& b) { return a.anno == b.anno && a.mese == b.mese; }
 
 // Counted over the table rather than stored: the archive keeps only the annual index.
 Result<Variant> IndiceMensile(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  const TabellaEstrazioni& tab = **archivio;
-  auto id_estr = IdEstrArgomento(tab, args, 0);
-  if (!id_estr) return std::move(id_estr).error();
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  const TabellaEstrazioni& tab = *archivio;
+  VBS_TRY_ASSIGN(auto id_estr, IdEstrArgomento(tab, args, 0));
   int16_t indice = 1;
-  for (int id = *id_estr - 1; id >= 1 && StessoMese(tab[id].data, tab[*id_estr].data); --id) ++indice;
+  for (int id = id_estr - 1; id >= 1 && StessoMese(tab[id].data, tab[id_estr].data); --id) ++indice;
   return Variant::Integer(indice);
 }
 
 Result<Variant> GetEstrazioneCompleta(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto id_estr = args.Long(0);
-  if (!id_estr) return std::move(id_estr).error();
-  if (!(*archivio)->Contiene(*id_estr)) return Variant::Boolean(false);
-  auto numeri = ArrayEstrazione((**archivio)[*id_estr]);
-  if (!numeri) return std::move(numeri).error();
-  args.Out(1) = std::move(*numeri);
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto id_estr, args.Long(0));
+  if (!(archivio)->Contiene(id_estr)) return Variant::Boolean(false);
+  VBS_TRY_ASSIGN(auto numeri, ArrayEstrazione((*archivio)[id_estr]));
+  args.Out(1) = std::move(numeri);
   return Variant::Boolean(true);
 }
 
 Result<Variant> EstrazioniArchivio(Libreria& lib, CallArgs&) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  return Variant::Long((*archivio)->EstrazioniArchivio());
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  return Variant::Long((archivio)->EstrazioniArchivio());
 }
 
 // A text that is not a date is the user's mistake, not the script's: it is explained and the
 // script goes on with no draw.
 Result<Variant> DataEstrToIdEstr(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto testo = args.String(0);
-  if (!testo) return std::move(testo).error();
-  auto data = LeggiData(vbs::Utf16ToUtf8(*testo));
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto testo, args.String(0));
+  auto data = LeggiData(vbs::Utf16ToUtf8(testo));
   if (!data) {
     lib.ospite().Mostra(data.Errore());
     return Variant::Long(0);
   }
-  const TabellaEstrazioni& tab = **archivio;
+  const TabellaEstrazioni& tab = *archivio;
   const int id_estr = tab.UltimaEstrazioneEntro(*data);
   const bool trovata = id_estr > 0 && ConfrontaDate(tab[id_estr].data, *data) == 0;
   return Variant::Long(trovata ? id_estr : 0);
@@ -114,11 +96,10 @@ Result<Variant> DataEstrToIdEstr(Libreria& lib, CallArgs& args) {
 
 // Argument i as one wheel of the table (1..11); all the wheels together (TU_) is no single wheel.
 Result<int> RuotaSingola(const CallArgs& args, size_t i) {
-  auto ruota = RuotaTabella(args, i);
-  if (!ruota) return std::move(ruota).error();
-  if (*ruota < 1 || *ruota > kNumeroRuote)
+  VBS_TRY_ASSIGN(auto ruota, RuotaTabella(args, i));
+  if (ruota < 1 || ruota > kNumeroRuote)
     return ArgomentoNonValido("Serve una ruota sola: da BA_ a VE_ o NZ_");
-  return *ruota;
+  return ruota;
 }
 
 // The draw of argument 0 and the single wheel of argument 1.
@@ -128,11 +109,9 @@ struct RuotaDiEstrazione {
 };
 
 Result<RuotaDiEstrazione> RuotaDiEstrazioneArgomenti(const Libreria& lib, const CallArgs& args) {
-  auto estrazione = EstrazioneArgomento(lib, args, 0);
-  if (!estrazione) return std::move(estrazione).error();
-  auto ruota = RuotaSingola(args, 1);
-  if (!ruota) return std::move(ruota).error();
-  return RuotaDiEstrazione{*estrazione, *ruota};
+  VBS_TRY_ASSIGN(auto estrazione, EstrazioneArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto ruota, RuotaSingola(args, 1));
+  return RuotaDiEstrazione{estrazione, ruota};
 }
 
 // The position 1..5 of the number on the wheel, 0 when it was not drawn there.
@@ -143,43 +122,36 @@ int PosizioneSuRuota(const Estrazione& estrazione, int ruota, int numero) {
 }
 
 Result<Variant> Posizione(Libreria& lib, CallArgs& args) {
-  auto punto = RuotaDiEstrazioneArgomenti(lib, args);
-  if (!punto) return std::move(punto).error();
-  auto numero = args.Long(2);
-  if (!numero) return std::move(numero).error();
-  return Variant::Integer(static_cast<int16_t>(PosizioneSuRuota(*punto->estrazione, punto->ruota, *numero)));
+  VBS_TRY_ASSIGN(auto punto, RuotaDiEstrazioneArgomenti(lib, args));
+  VBS_TRY_ASSIGN(auto numero, args.Long(2));
+  return Variant::Integer(static_cast<int16_t>(PosizioneSuRuota(*punto.estrazione, punto.ruota, numero)));
 }
 
 Result<Variant> IsNumeroPresenteInEstrazione(Libreria& lib, CallArgs& args) {
-  auto estrazione = EstrazioneArgomento(lib, args, 0);
-  if (!estrazione) return std::move(estrazione).error();
-  auto ruota = RuotaTabella(args, 1);
-  if (!ruota) return std::move(ruota).error();
-  auto numero = args.Long(2);
-  if (!numero) return std::move(numero).error();
-  if (*ruota == kTutteLeRuote) {
+  VBS_TRY_ASSIGN(auto estrazione, EstrazioneArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto ruota, RuotaTabella(args, 1));
+  VBS_TRY_ASSIGN(auto numero, args.Long(2));
+  if (ruota == kTutteLeRuote) {
     for (int r = 1; r <= kNumeroRuote; ++r)
-      if (PosizioneSuRuota(**estrazione, r, *numero) != 0) return Variant::Boolean(true);
+      if (PosizioneSuRuota(*estrazione, r, numero) != 0) return Variant::Boolean(true);
     return Variant::Boolean(false);
   }
-  if (*ruota < 1 || *ruota > kNumeroRuote) return ArgomentoNonValido("Ruota non valida: da BA_ a VE_, TU_ o NZ_");
-  return Variant::Boolean(PosizioneSuRuota(**estrazione, *ruota, *numero) != 0);
+  if (ruota < 1 || ruota > kNumeroRuote) return ArgomentoNonValido("Ruota non valida: da BA_ a VE_, TU_ o NZ_");
+  return Variant::Boolean(PosizioneSuRuota(*estrazione, ruota, numero) != 0);
 }
 
 Result<Variant> SommaEstratti(Libreria& lib, CallArgs& args) {
-  auto punto = RuotaDiEstrazioneArgomenti(lib, args);
-  if (!punto) return std::move(punto).error();
+  VBS_TRY_ASSIGN(auto punto, RuotaDiEstrazioneArgomenti(lib, args));
   int32_t somma = 0;
-  for (int p = 1; p <= kNumeriPerRuota; ++p) somma += punto->estrazione->Numero(punto->ruota, p);
+  for (int p = 1; p <= kNumeriPerRuota; ++p) somma += punto.estrazione->Numero(punto.ruota, p);
   return Variant::Long(somma);
 }
 
 Result<Variant> GetArrayNumeriRuota(Libreria& lib, CallArgs& args) {
-  auto punto = RuotaDiEstrazioneArgomenti(lib, args);
-  if (!punto) return std::move(punto).error();
-  if (!punto->estrazione->RuotaEstratta(punto->ruota)) return Variant::Boolean(false);
+  VBS_TRY_ASSIGN(auto punto, RuotaDiEstrazioneArgomenti(lib, args));
+  if (!punto.estrazione->RuotaEstratta(punto.ruota)) return Variant::Boolean(false);
   std::vector<int> numeri;
-  for (int p = 1; p <= kNumeriPerRuota; ++p) numeri.push_back(punto->estrazione->Numero(punto->ruota, p));
+  for (int p = 1; p <= kNumeriPerRuota; ++p) numeri.push_back(punto.estrazione->Numero(punto.ruota, p));
   args.Out(2) = ArrayDaUno(numeri);
   return Variant::Boolean(true);
 }
@@ -194,10 +166,9 @@ Result<Variant> InteroValido(Libreria&, CallArgs& args) {
 
 // A question about the archive, so no archive loaded is simply a "no".
 Result<Variant> isIdEstrValido(Libreria& lib, CallArgs& args) {
-  auto id_estr = args.Long(0);
-  if (!id_estr) return std::move(id_estr).error();
+  VBS_TRY_ASSIGN(auto id_estr, args.Long(0));
   const TabellaEstrazioni* archivio = lib.impostazioni().archivio;
-  return Variant::Boolean(archivio && archivio->Contiene(*id_estr));
+  return Variant::Boolean(archivio && archivio->Contiene(id_estr));
 }
 
 const Libreria::Funzione kArchivio[] = {

@@ -20,25 +20,21 @@ using DiDueNumeri = int16_t (*)(double, double);
 
 template <DiUnNumero Funzione>
 Result<Variant> NumeroComeDato(Libreria&, CallArgs& args) {
-  auto n = args.Double(0);
-  if (!n) return std::move(n).error();
-  return Variant::Integer(Funzione(*n));
+  VBS_TRY_ASSIGN(auto n, args.Double(0));
+  return Variant::Integer(Funzione(n));
 }
 
 template <DiUnNumero Funzione>
 Result<Variant> NumeroRidotto(Libreria&, CallArgs& args) {
-  auto n = args.Double(0);
-  if (!n) return std::move(n).error();
-  return Variant::Integer(Funzione(stats::Fuori90(*n)));
+  VBS_TRY_ASSIGN(auto n, args.Double(0));
+  return Variant::Integer(Funzione(stats::Fuori90(n)));
 }
 
 template <DiDueNumeri Funzione>
 Result<Variant> DueNumeri(Libreria&, CallArgs& args) {
-  auto a = args.Double(0);
-  if (!a) return std::move(a).error();
-  auto b = args.Double(1);
-  if (!b) return std::move(b).error();
-  return Variant::Integer(Funzione(*a, *b));
+  VBS_TRY_ASSIGN(auto a, args.Double(0));
+  VBS_TRY_ASSIGN(auto b, args.Double(1));
+  return Variant::Integer(Funzione(a, b));
 }
 
 // A number too large to reduce is told to the user, who would otherwise see the base come back
@@ -53,57 +49,46 @@ Variant Riduci(Libreria& lib, double n, int16_t base) {
 }
 
 Result<Variant> FuoriX(Libreria& lib, CallArgs& args) {
-  auto n = args.Double(0);
-  if (!n) return std::move(n).error();
-  auto base = args.Integer(1);
-  if (!base) return std::move(base).error();
-  return Riduci(lib, *n, *base);
+  VBS_TRY_ASSIGN(auto n, args.Double(0));
+  VBS_TRY_ASSIGN(auto base, args.Integer(1));
+  return Riduci(lib, n, base);
 }
 
 template <int16_t Base>
 Result<Variant> FuoriBase(Libreria& lib, CallArgs& args) {
-  auto n = args.Double(0);
-  if (!n) return std::move(n).error();
-  return Riduci(lib, *n, Base);
+  VBS_TRY_ASSIGN(auto n, args.Double(0));
+  return Riduci(lib, n, Base);
 }
 
 Result<Variant> DiffCiclometricaX(Libreria&, CallArgs& args) {
-  auto a = args.Double(0);
-  if (!a) return std::move(a).error();
-  auto b = args.Double(1);
-  if (!b) return std::move(b).error();
-  auto x = args.Integer(2);
-  if (!x) return std::move(x).error();
-  return Variant::Integer(stats::DiffCiclometricaX(*a, *b, *x));
+  VBS_TRY_ASSIGN(auto a, args.Double(0));
+  VBS_TRY_ASSIGN(auto b, args.Double(1));
+  VBS_TRY_ASSIGN(auto x, args.Integer(2));
+  return Variant::Integer(stats::DiffCiclometricaX(a, b, x));
 }
 
 Result<Variant> ComplAdX(Libreria&, CallArgs& args) {
-  auto n = args.Double(0);
-  if (!n) return std::move(n).error();
-  auto x = args.Integer(1);
-  if (!x) return std::move(x).error();
-  return Variant::Integer(stats::ComplAdX(*n, *x));
+  VBS_TRY_ASSIGN(auto n, args.Double(0));
+  VBS_TRY_ASSIGN(auto x, args.Integer(1));
+  return Variant::Integer(stats::ComplAdX(n, x));
 }
 
 // The wheel pairs are symmetric in both numberings, so the index goes through as the script gave it.
 template <int16_t (*Funzione)(int16_t)>
 Result<Variant> RuotaAbbinata(Libreria&, CallArgs& args) {
-  auto ruota = args.Integer(0);
-  if (!ruota) return std::move(ruota).error();
-  return Variant::Integer(Funzione(*ruota));
+  VBS_TRY_ASSIGN(auto ruota, args.Integer(0));
+  return Variant::Integer(Funzione(ruota));
 }
 
 template <std::string_view (*Funzione)(int)>
 Result<Variant> TestoRuota(Libreria&, CallArgs& args) {
-  auto ruota = RuotaTabella(args, 0);
-  if (!ruota) return std::move(ruota).error();
-  return Variant::String(vbs::Utf8ToUtf16(Funzione(*ruota)));
+  VBS_TRY_ASSIGN(auto ruota, RuotaTabella(args, 0));
+  return Variant::String(vbs::Utf8ToUtf16(Funzione(ruota)));
 }
 
 Result<Variant> Piramide(Libreria&, CallArgs& args) {
-  auto numeri = ValoriArgomento(args, 0);
-  if (!numeri) return std::move(numeri).error();
-  return Variant::Integer(stats::Piramide(*numeri));
+  VBS_TRY_ASSIGN(auto numeri, ValoriArgomento(args, 0));
+  return Variant::Integer(stats::Piramide(numeri));
 }
 
 const Libreria::Funzione kAritmetica[] = {

@@ -61,53 +61,46 @@ Result<std::vector<int>> NumeriDa1a90(std::span<const double> valori) {
 
 // A 1-based array of 90 Booleans, True at the index of each number present.
 Result<Variant> PresenzeDi(std::span<const double> valori) {
-  auto numeri = NumeriDa1a90(valori);
-  if (!numeri) return std::move(numeri).error();
+  VBS_TRY_ASSIGN(auto numeri, NumeriDa1a90(valori));
   std::vector<Variant> presenze(kNumeri, Variant::Boolean(false));
-  for (int numero : *numeri) presenze[numero - 1] = Variant::Boolean(true);
+  for (int numero : numeri) presenze[numero - 1] = Variant::Boolean(true);
   return ArrayDaUno(std::move(presenze));
 }
 
 template <Result<std::vector<double>> (*Leggi)(const CallArgs&)>
 Result<Variant> Presenze(Libreria&, CallArgs& args) {
-  auto valori = Leggi(args);
-  if (!valori) return std::move(valori).error();
-  return PresenzeDi(*valori);
+  VBS_TRY_ASSIGN(auto valori, Leggi(args));
+  return PresenzeDi(valori);
 }
 
 Result<std::vector<double>> ValoriPrimoArgomento(const CallArgs& args) { return ValoriArgomento(args, 0); }
 
 // The indices 1..90 of a one-dimensional array whose element is true, whatever its bounds.
 Result<std::vector<double>> NumeriPresenti(const CallArgs& args, size_t i) {
-  auto valore = args.Value(i);
-  if (!valore) return std::move(valore).error();
-  if (!valore->is_array() || valore->as_array()->DimensionCount() != 1)
+  VBS_TRY_ASSIGN(auto valore, args.Value(i));
+  if (!valore.is_array() || valore.as_array()->DimensionCount() != 1)
     return ArgomentoNonValido("Serve un vettore di valori Vero/Falso indicizzato dai numeri");
-  const vbs::SafeArray& array = *valore->as_array();
+  const vbs::SafeArray& array = *valore.as_array();
   const int32_t inferiore = array.bounds()[0].lower;
   std::vector<double> numeri;
   for (int32_t numero = std::max(1, inferiore); numero <= std::min(kNumeri, array.bounds()[0].upper); ++numero) {
-    auto vero = array.elements()[numero - inferiore].to_boolean(args.locale());
-    if (!vero) return std::move(vero).error();
-    if (*vero) numeri.push_back(numero);
+    VBS_TRY_ASSIGN(auto vero, array.elements()[numero - inferiore].to_boolean(args.locale()));
+    if (vero) numeri.push_back(numero);
   }
   return numeri;
 }
 
 Result<Variant> ArrayBNumToArrayNum(Libreria&, CallArgs& args) {
-  auto numeri = NumeriPresenti(args, 0);
-  if (!numeri) return std::move(numeri).error();
-  return ArrayDiNumeri(*numeri);
+  VBS_TRY_ASSIGN(auto numeri, NumeriPresenti(args, 0));
+  return ArrayDiNumeri(numeri);
 }
 
 Result<Variant> ArrayBToString(Libreria&, CallArgs& args) {
-  auto numeri = NumeriPresenti(args, 0);
-  if (!numeri) return std::move(numeri).error();
-  auto separatore = args.String(1, u".");
-  if (!separatore) return std::move(separatore).error();
+  VBS_TRY_ASSIGN(auto numeri, NumeriPresenti(args, 0));
+  VBS_TRY_ASSIGN(auto separatore, args.String(1, u"."));
   std::string testo;
-  for (double numero : *numeri) {
-    if (!testo.empty()) testo += vbs::Utf16ToUtf8(*separatore);
+  for (double numero : numeri) {
+    if (!testo.empty()) testo += vbs::Utf16ToUtf8(separatore);
     testo += fmt::format("{:02}", static_cast<int>(numero));
   }
   return Variant::String(vbs::Utf8ToUtf16(testo));
@@ -127,13 +120,11 @@ std::vector<std::u16string_view> Pezzi(std::u16string_view testo, std::u16string
 }
 
 Result<std::vector<double>> NumeriDelTesto(const CallArgs& args) {
-  auto testo = args.String(0);
-  if (!testo) return std::move(testo).error();
-  auto separatore = args.String(1, u".");
-  if (!separatore) return std::move(separatore).error();
-  if (separatore->empty()) return ArgomentoNonValido("Il separatore non può essere vuoto");
+  VBS_TRY_ASSIGN(auto testo, args.String(0));
+  VBS_TRY_ASSIGN(auto separatore, args.String(1, u"."));
+  if (separatore.empty()) return ArgomentoNonValido("Il separatore non può essere vuoto");
   std::vector<double> numeri;
-  for (std::u16string_view pezzo : Pezzi(*testo, *separatore)) {
+  for (std::u16string_view pezzo : Pezzi(testo, separatore)) {
     if (pezzo.find_first_not_of(u' ') == std::u16string_view::npos) continue;
     auto numero = Variant::String(pezzo).to_double(args.locale());
     if (!numero) return ArgomentoNonValido(fmt::format("\"{}\" non è un numero", vbs::Utf16ToUtf8(pezzo)));
@@ -143,55 +134,46 @@ Result<std::vector<double>> NumeriDelTesto(const CallArgs& args) {
 }
 
 Result<Variant> StringaNumeriToArray(Libreria&, CallArgs& args) {
-  auto numeri = NumeriDelTesto(args);
-  if (!numeri) return std::move(numeri).error();
-  return ArrayDiNumeri(*numeri);
+  VBS_TRY_ASSIGN(auto numeri, NumeriDelTesto(args));
+  return ArrayDiNumeri(numeri);
 }
 
 Result<Variant> SplitByChar(Libreria&, CallArgs& args) {
-  auto testo = args.String(0);
-  if (!testo) return std::move(testo).error();
-  auto carattere = args.String(1);
-  if (!carattere) return std::move(carattere).error();
-  if (carattere->empty()) return ArgomentoNonValido("Il carattere di separazione non può essere vuoto");
+  VBS_TRY_ASSIGN(auto testo, args.String(0));
+  VBS_TRY_ASSIGN(auto carattere, args.String(1));
+  if (carattere.empty()) return ArgomentoNonValido("Il carattere di separazione non può essere vuoto");
   std::vector<Variant> pezzi;
-  for (std::u16string_view pezzo : Pezzi(*testo, *carattere)) pezzi.push_back(Variant::String(pezzo));
+  for (std::u16string_view pezzo : Pezzi(testo, carattere)) pezzi.push_back(Variant::String(pezzo));
   const auto quanti = static_cast<int32_t>(pezzi.size());
   args.Out(2) = ArrayDaUno(std::move(pezzi));
   return Variant::Long(quanti);
 }
 
 Result<Variant> MidX(Libreria&, CallArgs& args) {
-  auto testo = args.String(0);
-  if (!testo) return std::move(testo).error();
-  auto inizio = args.Long(1);
-  if (!inizio) return std::move(inizio).error();
-  auto lunghezza = args.Long(2, -1);
-  if (!lunghezza) return std::move(lunghezza).error();
-  const size_t da = static_cast<size_t>(std::max(*inizio, 1) - 1);
-  if (da >= testo->size()) return Variant::String(u"");
-  const size_t quanti = *lunghezza < 0 ? std::u16string::npos : static_cast<size_t>(*lunghezza);
-  return Variant::String(std::u16string_view(*testo).substr(da, quanti));
+  VBS_TRY_ASSIGN(auto testo, args.String(0));
+  VBS_TRY_ASSIGN(auto inizio, args.Long(1));
+  VBS_TRY_ASSIGN(auto lunghezza, args.Long(2, -1));
+  const size_t da = static_cast<size_t>(std::max(inizio, 1) - 1);
+  if (da >= testo.size()) return Variant::String(u"");
+  const size_t quanti = lunghezza < 0 ? std::u16string::npos : static_cast<size_t>(lunghezza);
+  return Variant::String(std::u16string_view(testo).substr(da, quanti));
 }
 
 Result<Variant> RimuoviLastChr(Libreria&, CallArgs& args) {
-  auto testo = args.String(0);
-  if (!testo) return std::move(testo).error();
-  auto carattere = args.String(1, u"");
-  if (!carattere) return std::move(carattere).error();
-  std::u16string_view resto(*testo);
-  if (!resto.empty() && (carattere->empty() || resto.ends_with(*carattere)))
-    resto.remove_suffix(carattere->empty() ? 1 : carattere->size());
+  VBS_TRY_ASSIGN(auto testo, args.String(0));
+  VBS_TRY_ASSIGN(auto carattere, args.String(1, u""));
+  std::u16string_view resto(testo);
+  if (!resto.empty() && (carattere.empty() || resto.ends_with(carattere)))
+    resto.remove_suffix(carattere.empty() ? 1 : carattere.size());
   return Variant::String(resto);
 }
 
 // The elements of a one- or two-dimensional array row by row (the first index is the row), Empty
 // ones left out.
 Result<Variant> MatriceNumToVetNum(Libreria&, CallArgs& args) {
-  auto valore = args.Value(0);
-  if (!valore) return std::move(valore).error();
-  if (!valore->is_array()) return ArrayDaUno(std::vector<Variant>{*valore});
-  const vbs::SafeArray& array = *valore->as_array();
+  VBS_TRY_ASSIGN(auto valore, args.Value(0));
+  if (!valore.is_array()) return ArrayDaUno(std::vector<Variant>{valore});
+  const vbs::SafeArray& array = *valore.as_array();
   if (array.DimensionCount() > 2) return ArgomentoNonValido("Serve un vettore o una matrice di due dimensioni");
   const size_t righe = array.DimensionCount() == 0 ? 0 : static_cast<size_t>(array.bounds()[0].count());
   const size_t colonne = righe == 0 ? 0 : array.size() / righe;
@@ -206,10 +188,9 @@ Result<Variant> MatriceNumToVetNum(Libreria&, CallArgs& args) {
 
 template <bool (*Scelto)(double)>
 Result<Variant> NumeriScelti(Libreria&, CallArgs& args) {
-  auto valori = ValoriArgomento(args, 0);
-  if (!valori) return std::move(valori).error();
+  VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, 0));
   std::vector<double> scelti;
-  std::copy_if(valori->begin(), valori->end(), std::back_inserter(scelti), Scelto);
+  std::copy_if(valori.begin(), valori.end(), std::back_inserter(scelti), Scelto);
   if (args.Has(1)) args.Out(1) = ArrayDiNumeri(scelti);
   return Variant::Long(static_cast<int32_t>(scelti.size()));
 }
@@ -228,69 +209,59 @@ std::vector<double> SenzaRipetuti(std::span<const double> valori) {
 }
 
 Result<Variant> EliminaRipetuti(Libreria&, CallArgs& args) {
-  auto valori = ValoriArgomento(args, 0);
-  if (!valori) return std::move(valori).error();
-  return ArrayDiNumeri(SenzaRipetuti(*valori));
+  VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, 0));
+  return ArrayDiNumeri(SenzaRipetuti(valori));
 }
 
 Result<Variant> NumeriRipetuti(Libreria&, CallArgs& args) {
-  auto valori = ValoriArgomento(args, 0);
-  if (!valori) return std::move(valori).error();
+  VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, 0));
   std::vector<double> ripetuti;
-  for (double valore : SenzaRipetuti(*valori))
-    if (std::count(valori->begin(), valori->end(), valore) > 1) ripetuti.push_back(valore);
+  for (double valore : SenzaRipetuti(valori))
+    if (std::count(valori.begin(), valori.end(), valore) > 1) ripetuti.push_back(valore);
   if (args.Has(1)) args.Out(1) = ArrayDiNumeri(ripetuti);
   return Variant::Long(static_cast<int32_t>(ripetuti.size()));
 }
 
 Result<Variant> Ripetizioni(Libreria&, CallArgs& args) {
-  auto valori = ValoriArgomento(args, 0);
-  if (!valori) return std::move(valori).error();
-  auto numero = args.Double(1);
-  if (!numero) return std::move(numero).error();
-  return Variant::Long(static_cast<int32_t>(std::count(valori->begin(), valori->end(), *numero)));
+  VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, 0));
+  VBS_TRY_ASSIGN(auto numero, args.Double(1));
+  return Variant::Long(static_cast<int32_t>(std::count(valori.begin(), valori.end(), numero)));
 }
 
 Result<Variant> Differenza(Libreria&, CallArgs& args) {
-  auto primi = ValoriArgomento(args, 0);
-  if (!primi) return std::move(primi).error();
-  auto secondi = ValoriArgomento(args, 1);
-  if (!secondi) return std::move(secondi).error();
+  VBS_TRY_ASSIGN(auto primi, ValoriArgomento(args, 0));
+  VBS_TRY_ASSIGN(auto secondi, ValoriArgomento(args, 1));
   std::vector<double> differenza;
-  for (double valore : *primi)
-    if (!Contiene(*secondi, valore)) differenza.push_back(valore);
+  for (double valore : primi)
+    if (!Contiene(secondi, valore)) differenza.push_back(valore);
   args.Out(2) = ArrayDiNumeri(differenza);
   return Variant::Long(static_cast<int32_t>(differenza.size()));
 }
 
 template <bool Massimo>
 Result<Variant> Estremo(Libreria&, CallArgs& args) {
-  auto valori = ValoriArgomento(args, 0);
-  if (!valori) return std::move(valori).error();
-  if (valori->empty()) return ArgomentoNonValido("Nessun valore fra cui cercare");
-  return Numero(Massimo ? *std::max_element(valori->begin(), valori->end())
-                        : *std::min_element(valori->begin(), valori->end()));
+  VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, 0));
+  if (valori.empty()) return ArgomentoNonValido("Nessun valore fra cui cercare");
+  return Numero(Massimo ? *std::max_element(valori.begin(), valori.end())
+                        : *std::min_element(valori.begin(), valori.end()));
 }
 
 // Where Estremo's value is, counted as the values are read; the first of equal ones.
 template <bool Massimo>
 Result<Variant> PosizioneEstremo(Libreria&, CallArgs& args) {
-  auto valori = ValoriArgomento(args, 0);
-  if (!valori) return std::move(valori).error();
-  if (valori->empty()) return Variant::Long(0);
-  const auto estremo = Massimo ? std::max_element(valori->begin(), valori->end())
-                               : std::min_element(valori->begin(), valori->end());
-  return Variant::Long(static_cast<int32_t>(estremo - valori->begin()) + 1);
+  VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, 0));
+  if (valori.empty()) return Variant::Long(0);
+  const auto estremo = Massimo ? std::max_element(valori.begin(), valori.end())
+                               : std::min_element(valori.begin(), valori.end());
+  return Variant::Long(static_cast<int32_t>(estremo - valori.begin()) + 1);
 }
 
 Result<Variant> NumeriRipetutiRilevatiV(Libreria&, CallArgs& args) {
-  auto primi = ValoriArgomento(args, 0);
-  if (!primi) return std::move(primi).error();
-  auto secondi = ValoriArgomento(args, 1);
-  if (!secondi) return std::move(secondi).error();
+  VBS_TRY_ASSIGN(auto primi, ValoriArgomento(args, 0));
+  VBS_TRY_ASSIGN(auto secondi, ValoriArgomento(args, 1));
   std::vector<double> comuni;
-  for (double valore : SenzaRipetuti(*primi))
-    if (Contiene(*secondi, valore)) comuni.push_back(valore);
+  for (double valore : SenzaRipetuti(primi))
+    if (Contiene(secondi, valore)) comuni.push_back(valore);
   args.Out(2) = ArrayDiNumeri(comuni);
   return Variant::Long(static_cast<int32_t>(comuni.size()));
 }
@@ -305,13 +276,10 @@ struct RuotaDiEstrazione {
 
 // IdEstr and Ruota as arguments 0 and 1; all the wheels together (TU_) is no single wheel.
 Result<RuotaDiEstrazione> RuotaDiEstrazioneArgomenti(const Libreria& lib, const CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto id_estr = EstrazioneArgomento(**archivio, args, 0, 0, "IdEstr");
-  if (!id_estr) return std::move(id_estr).error();
-  auto ruota = RuotaArgomento(args, 1, kNumeroRuote);
-  if (!ruota) return std::move(ruota).error();
-  return RuotaDiEstrazione{*archivio, *id_estr, *ruota};
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto id_estr, EstrazioneArgomento(*archivio, args, 0, 0, "IdEstr"));
+  VBS_TRY_ASSIGN(auto ruota, RuotaArgomento(args, 1, kNumeroRuote));
+  return RuotaDiEstrazione{archivio, id_estr, ruota};
 }
 
 // The five numbers in the order drawn; none when the wheel was not drawn.
@@ -324,9 +292,8 @@ std::vector<int> NumeriDellaRuota(const Estrazione& estrazione, int ruota) {
 
 template <bool Massimo>
 Result<Variant> EstremoEstratto(Libreria& lib, CallArgs& args) {
-  auto punto = RuotaDiEstrazioneArgomenti(lib, args);
-  if (!punto) return std::move(punto).error();
-  const std::vector<int> numeri = NumeriDellaRuota((*punto->tab)[punto->id_estr], punto->ruota);
+  VBS_TRY_ASSIGN(auto punto, RuotaDiEstrazioneArgomenti(lib, args));
+  const std::vector<int> numeri = NumeriDellaRuota((*punto.tab)[punto.id_estr], punto.ruota);
   if (numeri.empty()) return Variant::Integer(0);
   return Variant::Integer(static_cast<int16_t>(Massimo ? std::ranges::max(numeri) : std::ranges::min(numeri)));
 }
@@ -334,13 +301,12 @@ Result<Variant> EstremoEstratto(Libreria& lib, CallArgs& args) {
 // The draw compared with is the last earlier one in which the wheel was drawn, so Nazionale's years
 // without it, and records holding no draw, are passed over.
 Result<Variant> NumeriRipetutiRilevatiE(Libreria& lib, CallArgs& args) {
-  auto punto = RuotaDiEstrazioneArgomenti(lib, args);
-  if (!punto) return std::move(punto).error();
-  const TabellaEstrazioni& tab = *punto->tab;
-  const std::vector<int> numeri = NumeriDellaRuota(tab[punto->id_estr], punto->ruota);
+  VBS_TRY_ASSIGN(auto punto, RuotaDiEstrazioneArgomenti(lib, args));
+  const TabellaEstrazioni& tab = *punto.tab;
+  const std::vector<int> numeri = NumeriDellaRuota(tab[punto.id_estr], punto.ruota);
   std::vector<int> precedenti;
-  for (int id = punto->id_estr - 1; !numeri.empty() && precedenti.empty() && id >= 1; --id)
-    precedenti = NumeriDellaRuota(tab[id], punto->ruota);
+  for (int id = punto.id_estr - 1; !numeri.empty() && precedenti.empty() && id >= 1; --id)
+    precedenti = NumeriDellaRuota(tab[id], punto.ruota);
   std::vector<int> ripetuti;
   std::ranges::copy_if(numeri, std::back_inserter(ripetuti),
                        [&](int numero) { return std::ranges::find(precedenti, numero) != precedenti.end(); });
@@ -364,9 +330,8 @@ struct Chiave {
 Result<Chiave> ChiaveDi(const Variant& valore, const vbs::Locale& locale) {
   if (valore.is_string()) return Chiave{true, 0, valore.as_string_view()};
   if (valore.is_number() || valore.is_boolean() || valore.is_date()) {
-    auto numero = valore.to_double(locale);
-    if (!numero) return std::move(numero).error();
-    return Chiave{false, *numero, {}};
+    VBS_TRY_ASSIGN(auto numero, valore.to_double(locale));
+    return Chiave{false, numero, {}};
   }
   return ArgomentoNonValido("La matrice contiene valori che non si possono ordinare");
 }
@@ -380,41 +345,36 @@ struct Disposizione {
 Result<Disposizione> DisposizioneDa(const vbs::SafeArray& array, const CallArgs& args) {
   if (array.DimensionCount() == 1) return Disposizione{array.size(), 1, 0};
   if (array.DimensionCount() != 2) return ArgomentoNonValido("Serve un vettore o una matrice di due dimensioni");
-  auto colonna = args.Long(2, 1);
-  if (!colonna) return std::move(colonna).error();
+  VBS_TRY_ASSIGN(auto colonna, args.Long(2, 1));
   const vbs::ArrayBound& colonne = array.bounds()[1];
-  if (*colonna < colonne.lower || *colonna > colonne.upper)
+  if (colonna < colonne.lower || colonna > colonne.upper)
     return ArgomentoNonValido(
-        fmt::format("Colonna {} fuori dai limiti della matrice ({} .. {})", *colonna, colonne.lower, colonne.upper));
+        fmt::format("Colonna {} fuori dai limiti della matrice ({} .. {})", colonna, colonne.lower, colonne.upper));
   return Disposizione{static_cast<size_t>(array.bounds()[0].count()), static_cast<size_t>(colonne.count()),
-                      static_cast<size_t>(*colonna - colonne.lower)};
+                      static_cast<size_t>(colonna - colonne.lower)};
 }
 
 // Rows whose key is Empty stay where they are, so that the unused element 0 of a script's array
 // does not move into the middle of the numbers; the other rows are sorted, stably, among their places.
 Result<Variant> OrdinaMatrice(Libreria&, CallArgs& args) {
-  auto ordine = args.Long(1, 1);
-  if (!ordine) return std::move(ordine).error();
-  if (*ordine != 1 && *ordine != -1) return ArgomentoNonValido("Ordine deve essere 1 (crescente) o -1 (decrescente)");
+  VBS_TRY_ASSIGN(auto ordine, args.Long(1, 1));
+  if (ordine != 1 && ordine != -1) return ArgomentoNonValido("Ordine deve essere 1 (crescente) o -1 (decrescente)");
   if (!args.Out(0).is_array()) return ArgomentoNonValido("Serve un vettore o una matrice da ordinare");
-  auto array = vbs::MutableArray(args.Out(0));
-  if (!array) return std::move(array).error();
-  auto disposizione = DisposizioneDa(**array, args);
-  if (!disposizione) return std::move(disposizione).error();
-  const auto [righe, colonne, colonna] = *disposizione;
-  auto celle = (*array)->elements();
+  VBS_TRY_ASSIGN(auto array, vbs::MutableArray(args.Out(0)));
+  VBS_TRY_ASSIGN(auto disposizione, DisposizioneDa(*array, args));
+  const auto [righe, colonne, colonna] = disposizione;
+  auto celle = (array)->elements();
 
   std::vector<size_t> posti;
   std::vector<std::pair<Chiave, size_t>> chiavi;
   for (size_t r = 0; r < righe; ++r) {
     const Variant& cella = celle[r + colonna * righe];
     if (cella.is_empty()) continue;
-    auto chiave = ChiaveDi(cella, args.locale());
-    if (!chiave) return std::move(chiave).error();
+    VBS_TRY_ASSIGN(auto chiave, ChiaveDi(cella, args.locale()));
     posti.push_back(r);
-    chiavi.emplace_back(*chiave, r);
+    chiavi.emplace_back(chiave, r);
   }
-  const bool crescente = *ordine == 1;
+  const bool crescente = ordine == 1;
   std::stable_sort(chiavi.begin(), chiavi.end(), [crescente](const auto& a, const auto& b) {
     return crescente ? a.first < b.first : b.first < a.first;
   });
@@ -427,9 +387,8 @@ Result<Variant> OrdinaMatrice(Libreria&, CallArgs& args) {
 // ---- The script's own helpers ----
 
 Result<Variant> Iif(Libreria&, CallArgs& args) {
-  auto condizione = args.Boolean(0);
-  if (!condizione) return std::move(condizione).error();
-  return args.Value(*condizione ? 1 : 2);
+  VBS_TRY_ASSIGN(auto condizione, args.Boolean(0));
+  return args.Value(condizione ? 1 : 2);
 }
 
 Result<Variant> Scambia(Libreria&, CallArgs& args) {
@@ -438,10 +397,9 @@ Result<Variant> Scambia(Libreria&, CallArgs& args) {
 }
 
 Result<Variant> CopiaArray(Libreria&, CallArgs& args) {
-  auto origine = args.Value(0);
-  if (!origine) return std::move(origine).error();
-  if (!origine->is_array()) return ArgomentoNonValido("aOrigine non è un array");
-  args.Out(1) = std::move(*origine);
+  VBS_TRY_ASSIGN(auto origine, args.Value(0));
+  if (!origine.is_array()) return ArgomentoNonValido("aOrigine non è un array");
+  args.Out(1) = std::move(origine);
   return Variant();
 }
 

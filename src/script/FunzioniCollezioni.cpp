@@ -27,21 +27,18 @@ Result<Variant> GetNewCollection(Libreria& lib, CallArgs&) {
 }
 
 Result<Variant> AddItemColl(Libreria&, CallArgs& args) {
-  auto collezione = CollezioneArgomento(args);
-  if (!collezione) return std::move(collezione).error();
-  auto chiave = args.String(2, u"");
-  if (!chiave) return std::move(chiave).error();
-  if (auto aggiunta = (*collezione)->Aggiungi(args[1], *chiave); !aggiunta)
-    return ArgomentoNonValido(fmt::format("La chiave \"{}\" è già nella collezione", vbs::Utf16ToUtf8(*chiave)));
-  return Variant::Long(static_cast<int32_t>((*collezione)->size()));
+  VBS_TRY_ASSIGN(auto collezione, CollezioneArgomento(args));
+  VBS_TRY_ASSIGN(auto chiave, args.String(2, u""));
+  if (auto aggiunta = (collezione)->Aggiungi(args[1], chiave); !aggiunta)
+    return ArgomentoNonValido(fmt::format("La chiave \"{}\" è già nella collezione", vbs::Utf16ToUtf8(chiave)));
+  return Variant::Long(static_cast<int32_t>((collezione)->size()));
 }
 
 Result<Variant> GetItemCollection(Libreria&, CallArgs& args) {
-  auto collezione = CollezioneArgomento(args);
-  if (!collezione) return std::move(collezione).error();
-  auto posto = (*collezione)->Posto(args[1]);
+  VBS_TRY_ASSIGN(auto collezione, CollezioneArgomento(args));
+  auto posto = (collezione)->Posto(args[1]);
   if (!posto) return ArgomentoNonValido("Nessun elemento della collezione ha questo indice o questa chiave");
-  return (**collezione)[*posto];
+  return (*collezione)[*posto];
 }
 
 // What an item is sorted by: the item itself, or for an object the property named.
@@ -59,28 +56,24 @@ Result<Variant> ChiaveDOrdine(const Variant& elemento, const std::string& propri
 
 // Sorted stably with the script's own "<", so numbers come before texts as in a comparison.
 Result<Variant> OrdinaItemCollection(Libreria& lib, CallArgs& args) {
-  auto collezione = CollezioneArgomento(args);
-  if (!collezione) return std::move(collezione).error();
-  auto ordine = args.Long(1, 1);
-  if (!ordine) return std::move(ordine).error();
-  if (*ordine != 1 && *ordine != -1) return ArgomentoNonValido("Ordine deve essere 1 (crescente) o -1 (decrescente)");
-  auto proprieta = args.String(2, u"");
-  if (!proprieta) return std::move(proprieta).error();
-  const std::string nome = vbs::Utf16ToUtf8(*proprieta);
+  VBS_TRY_ASSIGN(auto collezione, CollezioneArgomento(args));
+  VBS_TRY_ASSIGN(auto ordine, args.Long(1, 1));
+  if (ordine != 1 && ordine != -1) return ArgomentoNonValido("Ordine deve essere 1 (crescente) o -1 (decrescente)");
+  VBS_TRY_ASSIGN(auto proprieta, args.String(2, u""));
+  const std::string nome = vbs::Utf16ToUtf8(proprieta);
 
-  Collezione& c = **collezione;
+  Collezione& c = *collezione;
   std::vector<Variant> chiavi;
   chiavi.reserve(c.size());
   for (size_t i = 0; i < c.size(); ++i) {
-    auto chiave = ChiaveDOrdine(c[i], nome);
-    if (!chiave) return std::move(chiave).error();
-    if (chiave->is_object() || chiave->is_array() || chiave->is_null())
+    VBS_TRY_ASSIGN(auto chiave, ChiaveDOrdine(c[i], nome));
+    if (chiave.is_object() || chiave.is_array() || chiave.is_null())
       return ArgomentoNonValido(fmt::format("L'elemento {} della collezione non si può ordinare", i + 1));
-    chiavi.push_back(std::move(*chiave));
+    chiavi.push_back(std::move(chiave));
   }
   std::vector<size_t> ordinati(c.size());
   for (size_t i = 0; i < ordinati.size(); ++i) ordinati[i] = i;
-  const bool crescente = *ordine == 1;
+  const bool crescente = ordine == 1;
   std::stable_sort(ordinati.begin(), ordinati.end(), [&](size_t a, size_t b) {
     auto minore = vbs::Compare(vbs::BinaryOperator::Less, chiavi[crescente ? a : b], chiavi[crescente ? b : a],
                                vbs::CompareMode::Binary, lib.locale());

@@ -49,51 +49,44 @@ Variant Conteggio(double conteggio) {
 // The elements of an array argument as given, Empty ones (the unused element 0 of scripts' arrays)
 // left out; a single value is a group of one.
 Result<std::vector<Variant>> ElementiArgomento(const CallArgs& args, size_t i) {
-  auto valore = args.Value(i);
-  if (!valore) return std::move(valore).error();
-  if (!valore->is_array()) return std::vector<Variant>{*valore};
+  VBS_TRY_ASSIGN(auto valore, args.Value(i));
+  if (!valore.is_array()) return std::vector<Variant>{valore};
   std::vector<Variant> elementi;
-  for (const Variant& elemento : valore->as_array()->elements())
+  for (const Variant& elemento : valore.as_array()->elements())
     if (!elemento.is_empty()) elementi.push_back(elemento);
   return elementi;
 }
 
 Result<int> ClasseArgomento(const CallArgs& args, size_t i, size_t quanti) {
-  auto classe = args.Long(i);
-  if (!classe) return std::move(classe).error();
-  if (*classe < 1 || static_cast<size_t>(*classe) > quanti)
+  VBS_TRY_ASSIGN(auto classe, args.Long(i));
+  if (classe < 1 || static_cast<size_t>(classe) > quanti)
     return ArgomentoNonValido(
-        fmt::format("Classe {} non valida: deve essere compresa tra 1 e {}, i numeri da sviluppare", *classe, quanti));
-  return *classe;
+        fmt::format("Classe {} non valida: deve essere compresa tra 1 e {}, i numeri da sviluppare", classe, quanti));
+  return classe;
 }
 
 // ---- Counts ----
 
 Result<Variant> Combinazioni(Libreria&, CallArgs& args) {
-  auto n = args.Long(0);
-  if (!n) return std::move(n).error();
-  auto k = args.Long(1);
-  if (!k) return std::move(k).error();
-  if (*n < 0 || *k < 0) return ArgomentoNonValido("N e K non possono essere negativi");
-  return Conteggio(stats::Combinazioni(*n, *k));
+  VBS_TRY_ASSIGN(auto n, args.Long(0));
+  VBS_TRY_ASSIGN(auto k, args.Long(1));
+  if (n < 0 || k < 0) return ArgomentoNonValido("N e K non possono essere negativi");
+  return Conteggio(stats::Combinazioni(n, k));
 }
 
 Result<Variant> Permutazioni(Libreria&, CallArgs& args) {
-  auto n = args.Long(0);
-  if (!n) return std::move(n).error();
-  auto k = args.Long(1, *n);
-  if (!k) return std::move(k).error();
-  if (*n < 0 || *k < 0) return ArgomentoNonValido("N e K non possono essere negativi");
-  return Conteggio(stats::Disposizioni(*n, *k));
+  VBS_TRY_ASSIGN(auto n, args.Long(0));
+  VBS_TRY_ASSIGN(auto k, args.Long(1, n));
+  if (n < 0 || k < 0) return ArgomentoNonValido("N e K non possono essere negativi");
+  return Conteggio(stats::Disposizioni(n, k));
 }
 
 // 170! is the largest factorial a Double holds.
 Result<Variant> Fattoriale(Libreria&, CallArgs& args) {
-  auto n = args.Long(0);
-  if (!n) return std::move(n).error();
-  if (*n < 0 || *n > 170)
-    return ArgomentoNonValido(fmt::format("Fattoriale di {}: N deve essere compreso tra 0 e 170", *n));
-  return Variant::Double(stats::Fattoriale(*n));
+  VBS_TRY_ASSIGN(auto n, args.Long(0));
+  if (n < 0 || n > 170)
+    return ArgomentoNonValido(fmt::format("Fattoriale di {}: N deve essere compreso tra 0 e 170", n));
+  return Variant::Double(stats::Fattoriale(n));
 }
 
 // ---- Developments ----
@@ -114,12 +107,10 @@ using SviluppoDi = Sviluppo<Motore> StatoSviluppi::*;
 
 template <typename Motore>
 Result<Sviluppo<Motore>> NuovoSviluppo(const CallArgs& args) {
-  auto elementi = ElementiArgomento(args, 0);
-  if (!elementi) return std::move(elementi).error();
-  auto classe = ClasseArgomento(args, 1, elementi->size());
-  if (!classe) return std::move(classe).error();
-  const int n = static_cast<int>(elementi->size());
-  return Sviluppo<Motore>{std::move(*elementi), Motore(n, *classe)};
+  VBS_TRY_ASSIGN(auto elementi, ElementiArgomento(args, 0));
+  VBS_TRY_ASSIGN(auto classe, ClasseArgomento(args, 1, elementi.size()));
+  const int n = static_cast<int>(elementi.size());
+  return Sviluppo<Motore>{std::move(elementi), Motore(n, classe)};
 }
 
 template <typename Motore>
@@ -131,10 +122,9 @@ std::vector<Variant> GruppoCorrente(const Sviluppo<Motore>& sviluppo) {
 
 template <typename Motore, SviluppoDi<Motore> Membro>
 Result<Variant> InitSviluppo(Libreria& lib, CallArgs& args) {
-  auto sviluppo = NuovoSviluppo<Motore>(args);
-  if (!sviluppo) return std::move(sviluppo).error();
+  VBS_TRY_ASSIGN(auto sviluppo, NuovoSviluppo<Motore>(args));
   Sviluppo<Motore>& stato = lib.Stato<StatoSviluppi>().*Membro;
-  stato = std::move(*sviluppo);
+  stato = std::move(sviluppo);
   return Conteggio(stato.motore->Totale());
 }
 
@@ -148,30 +138,26 @@ Result<Sviluppo<Motore>*> SviluppoAvviato(Libreria& lib) {
 
 template <typename Motore, SviluppoDi<Motore> Membro>
 Result<Variant> ProssimoGruppo(Libreria& lib, CallArgs& args) {
-  auto sviluppo = SviluppoAvviato<Motore, Membro>(lib);
-  if (!sviluppo) return std::move(sviluppo).error();
-  if (!(*sviluppo)->motore->Avanza()) return Variant::Boolean(false);
-  args.Out(0) = ArrayDaUno(GruppoCorrente(**sviluppo));
+  VBS_TRY_ASSIGN(auto sviluppo, SviluppoAvviato<Motore, Membro>(lib));
+  if (!(sviluppo)->motore->Avanza()) return Variant::Boolean(false);
+  args.Out(0) = ArrayDaUno(GruppoCorrente(*sviluppo));
   return Variant::Boolean(true);
 }
 
 Result<Variant> GetCombSviluppate(Libreria& lib, CallArgs&) {
-  auto sviluppo = SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib);
-  if (!sviluppo) return std::move(sviluppo).error();
-  return Conteggio((*sviluppo)->motore->Sviluppati());
+  VBS_TRY_ASSIGN(auto sviluppo, SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib));
+  return Conteggio((sviluppo)->motore->Sviluppati());
 }
 
 Result<Variant> GetNumPerSviluppo(Libreria& lib, CallArgs& args) {
-  auto sviluppo = SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib);
-  if (!sviluppo) return std::move(sviluppo).error();
-  args.Out(0) = ArrayDaUno((*sviluppo)->elementi);
-  return Variant::Long(static_cast<int32_t>((*sviluppo)->elementi.size()));
+  VBS_TRY_ASSIGN(auto sviluppo, SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib));
+  args.Out(0) = ArrayDaUno((sviluppo)->elementi);
+  return Variant::Long(static_cast<int32_t>((sviluppo)->elementi.size()));
 }
 
 Result<Variant> GetPercCombSviluppate(Libreria& lib, CallArgs&) {
-  auto sviluppo = SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib);
-  if (!sviluppo) return std::move(sviluppo).error();
-  const auto& motore = *(*sviluppo)->motore;
+  VBS_TRY_ASSIGN(auto sviluppo, SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib));
+  const auto& motore = *(sviluppo)->motore;
   return Variant::Double(100 * motore.Sviluppati() / motore.Totale());
 }
 
@@ -179,9 +165,10 @@ Result<Variant> GetPercCombSviluppate(Libreria& lib, CallArgs&) {
 // group g sits at (g - 1) + (j - 1) * groups.
 template <typename Motore>
 Result<Variant> SviluppoCompleto(Libreria& lib, CallArgs& args) {
-  auto sviluppo = NuovoSviluppo<Motore>(args);
-  if (!sviluppo) return std::move(sviluppo).error();
-  Motore& motore = *sviluppo->motore;
+  auto nuovo = NuovoSviluppo<Motore>(args);
+  VBS_TRY(nuovo);
+  Sviluppo<Motore>& sviluppo = *nuovo;
+  Motore& motore = *sviluppo.motore;
   const size_t classe = motore.Gruppo().size();
   if (motore.Totale() * static_cast<double>(classe) > kMassimoElementiMatrice)
     return ArgomentoNonValido(fmt::format(
@@ -190,15 +177,14 @@ Result<Variant> SviluppoCompleto(Libreria& lib, CallArgs& args) {
         motore.Totale(), classe));
   const auto gruppi = static_cast<int32_t>(motore.Totale());
   const vbs::ArrayBound limiti[] = {{1, gruppi}, {1, static_cast<int32_t>(classe)}};
-  auto matrice = vbs::SafeArray::Create(limiti);
-  if (!matrice) return std::move(matrice).error();
-  auto celle = (*matrice)->elements();
+  VBS_TRY_ASSIGN(auto matrice, vbs::SafeArray::Create(limiti));
+  auto celle = (matrice)->elements();
   for (size_t g = 0; motore.Avanza(); ++g) {
     if (g % kGruppiTraControlli == 0) VBS_TRY(lib.ControllaInterruzione());
     auto gruppo = motore.Gruppo();
-    for (size_t j = 0; j < classe; ++j) celle[g + j * gruppi] = sviluppo->elementi[gruppo[j]];
+    for (size_t j = 0; j < classe; ++j) celle[g + j * gruppi] = sviluppo.elementi[gruppo[j]];
   }
-  args.Out(2) = Variant::Array(std::move(*matrice));
+  args.Out(2) = Variant::Array(std::move(matrice));
   return Variant::Long(gruppi);
 }
 
@@ -210,31 +196,27 @@ using Ambo = std::pair<int, int>;
 Result<Variant> MatriceDiAmbi(std::span<const Ambo> ambi) {
   const auto quanti = static_cast<int32_t>(ambi.size());
   const vbs::ArrayBound limiti[] = {{1, quanti}, {1, 2}};
-  auto matrice = vbs::SafeArray::Create(limiti);
-  if (!matrice) return std::move(matrice).error();
-  auto celle = (*matrice)->elements();
+  VBS_TRY_ASSIGN(auto matrice, vbs::SafeArray::Create(limiti));
+  auto celle = (matrice)->elements();
   for (size_t a = 0; a < ambi.size(); ++a) {
     celle[a] = Variant::Long(ambi[a].first);
     celle[a + ambi.size()] = Variant::Long(ambi[a].second);
   }
-  return Variant::Array(std::move(*matrice));
+  return Variant::Array(std::move(matrice));
 }
 
 // Every ambo of the group, its numbers in the order they were given, that satisfies the test with
 // the value of argument 1; aRet receives the ambi, the count is returned.
 template <bool (*Scelto)(int, int, double)>
 Result<Variant> AmbiScelti(Libreria&, CallArgs& args) {
-  auto numeri = NumeriArgomento(args, 0);
-  if (!numeri) return std::move(numeri).error();
-  auto valore = args.Double(1);
-  if (!valore) return std::move(valore).error();
+  VBS_TRY_ASSIGN(auto numeri, NumeriArgomento(args, 0));
+  VBS_TRY_ASSIGN(auto valore, args.Double(1));
   std::vector<Ambo> ambi;
-  for (size_t i = 0; i < numeri->size(); ++i)
-    for (size_t j = i + 1; j < numeri->size(); ++j)
-      if (Scelto((*numeri)[i], (*numeri)[j], *valore)) ambi.emplace_back((*numeri)[i], (*numeri)[j]);
-  auto matrice = MatriceDiAmbi(ambi);
-  if (!matrice) return std::move(matrice).error();
-  args.Out(2) = std::move(*matrice);
+  for (size_t i = 0; i < numeri.size(); ++i)
+    for (size_t j = i + 1; j < numeri.size(); ++j)
+      if (Scelto((numeri)[i], (numeri)[j], valore)) ambi.emplace_back((numeri)[i], (numeri)[j]);
+  VBS_TRY_ASSIGN(auto matrice, MatriceDiAmbi(ambi));
+  args.Out(2) = std::move(matrice);
   return Variant::Long(static_cast<int32_t>(ambi.size()));
 }
 
@@ -291,68 +273,58 @@ std::vector<AmboUguale> AmbiUguali(const Estrazione& estrazione, bool isotopi) {
 Result<Variant> MatriceDiAmbiUguali(std::span<const AmboUguale> ambi) {
   const auto quanti = static_cast<int32_t>(ambi.size());
   const vbs::ArrayBound limiti[] = {{1, quanti}, {1, 4}};
-  auto matrice = vbs::SafeArray::Create(limiti);
-  if (!matrice) return std::move(matrice).error();
-  auto celle = (*matrice)->elements();
+  VBS_TRY_ASSIGN(auto matrice, vbs::SafeArray::Create(limiti));
+  auto celle = (matrice)->elements();
   for (size_t k = 0; k < ambi.size(); ++k) {
     const AmboUguale& ambo = ambi[k];
     const int colonne[] = {ambo.numero1, ambo.numero2, RuotaScript(ambo.ruota_a), RuotaScript(ambo.ruota_b)};
     for (size_t c = 0; c < std::size(colonne); ++c) celle[k + c * ambi.size()] = Variant::Long(colonne[c]);
   }
-  return Variant::Array(std::move(*matrice));
+  return Variant::Array(std::move(matrice));
 }
 
 // IdEstr, then the value of the test when there is one, then aRet; the equal ambi that satisfy the
 // test go to aRet and their count is returned.
 template <bool Isotopi, bool (*Scelto)(int, int, double) = &Qualsiasi>
 Result<Variant> AmbiUgualiScelti(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto id_estr = EstrazioneArgomento(**archivio, args, 0, 0, "IdEstr");
-  if (!id_estr) return std::move(id_estr).error();
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto id_estr, EstrazioneArgomento(*archivio, args, 0, 0, "IdEstr"));
   constexpr bool kConValore = Scelto != &Qualsiasi;
-  auto valore = kConValore ? args.Double(1) : Result<double>(0.0);
-  if (!valore) return std::move(valore).error();
-  std::vector<AmboUguale> ambi = AmbiUguali((**archivio)[*id_estr], Isotopi);
-  std::erase_if(ambi, [&](const AmboUguale& ambo) { return !Scelto(ambo.numero1, ambo.numero2, *valore); });
-  auto matrice = MatriceDiAmbiUguali(ambi);
-  if (!matrice) return std::move(matrice).error();
-  args.Out(kConValore ? 2 : 1) = std::move(*matrice);
+  VBS_TRY_ASSIGN(auto valore, kConValore ? args.Double(1) : Result<double>(0.0));
+  std::vector<AmboUguale> ambi = AmbiUguali((*archivio)[id_estr], Isotopi);
+  std::erase_if(ambi, [&](const AmboUguale& ambo) { return !Scelto(ambo.numero1, ambo.numero2, valore); });
+  VBS_TRY_ASSIGN(auto matrice, MatriceDiAmbiUguali(ambi));
+  args.Out(kConValore ? 2 : 1) = std::move(matrice);
   return Variant::Long(static_cast<int32_t>(ambi.size()));
 }
 
 // ---- Theoretical probabilities ----
 
 Result<double> ProbabilitaArgomenti(const CallArgs& args, size_t i_sorte, size_t i_quantita) {
-  auto sorte = args.Long(i_sorte);
-  if (!sorte) return std::move(sorte).error();
-  auto quantita = args.Long(i_quantita);
-  if (!quantita) return std::move(quantita).error();
-  if (*sorte < 1 || *sorte > stats::kEstrattiPerRuota)
-    return ArgomentoNonValido(fmt::format("Sorte {} non valida: deve essere compresa tra 1 e 5", *sorte));
-  if (*quantita < *sorte || *quantita > stats::kNumeriLotto)
+  VBS_TRY_ASSIGN(auto sorte, args.Long(i_sorte));
+  VBS_TRY_ASSIGN(auto quantita, args.Long(i_quantita));
+  if (sorte < 1 || sorte > stats::kEstrattiPerRuota)
+    return ArgomentoNonValido(fmt::format("Sorte {} non valida: deve essere compresa tra 1 e 5", sorte));
+  if (quantita < sorte || quantita > stats::kNumeriLotto)
     return ArgomentoNonValido(fmt::format(
-        "Quantità di numeri {} non valida: deve essere compresa tra la sorte ({}) e 90", *quantita, *sorte));
-  return stats::ProbabilitaSorte(*sorte, *quantita);
+        "Quantità di numeri {} non valida: deve essere compresa tra la sorte ({}) e 90", quantita, sorte));
+  return stats::ProbabilitaSorte(sorte, quantita);
 }
 
 Result<Variant> Prob(Libreria&, CallArgs& args) {
-  auto probabilita = ProbabilitaArgomenti(args, 0, 1);
-  if (!probabilita) return std::move(probabilita).error();
-  return Variant::Double(*probabilita);
+  VBS_TRY_ASSIGN(auto probabilita, ProbabilitaArgomenti(args, 0, 1));
+  return Variant::Double(probabilita);
 }
 
 Result<Variant> CicloTeorico(Libreria&, CallArgs& args) {
-  auto probabilita = ProbabilitaArgomenti(args, 0, 1);
-  if (!probabilita) return std::move(probabilita).error();
-  return Variant::Double(1 / *probabilita);
+  VBS_TRY_ASSIGN(auto probabilita, ProbabilitaArgomenti(args, 0, 1));
+  return Variant::Double(1 / probabilita);
 }
 
 Result<int32_t> RitardoArgomento(const CallArgs& args, size_t i) {
-  auto ritardo = args.Long(i);
-  if (!ritardo) return std::move(ritardo).error();
-  if (*ritardo < 0) return ArgomentoNonValido(fmt::format("Ritardo {} non valido: non può essere negativo", *ritardo));
-  return *ritardo;
+  VBS_TRY_ASSIGN(auto ritardo, args.Long(i));
+  if (ritardo < 0) return ArgomentoNonValido(fmt::format("Ritardo {} non valido: non può essere negativo", ritardo));
+  return ritardo;
 }
 
 // The expected number of the 90 numbers' combinations of the class, each won with probability p
@@ -360,36 +332,30 @@ Result<int32_t> RitardoArgomento(const CallArgs& args, size_t i) {
 // the sorte after one with it, probability p (1 - p)^r, so the range sums to
 // (1 - p)^minimo - (1 - p)^(massimo + 1).
 Result<Variant> QuantitaTeorica(const CallArgs& args, int32_t minimo, std::optional<int32_t> massimo) {
-  auto classe = args.Long(0);
-  if (!classe) return std::move(classe).error();
-  auto probabilita = ProbabilitaArgomenti(args, 1, 0);
-  if (!probabilita) return std::move(probabilita).error();
-  const double mancata = 1 - *probabilita;
+  VBS_TRY_ASSIGN(auto classe, args.Long(0));
+  VBS_TRY_ASSIGN(auto probabilita, ProbabilitaArgomenti(args, 1, 0));
+  const double mancata = 1 - probabilita;
   const double oltre_massimo = massimo ? std::pow(mancata, *massimo + 1.0) : 0;
-  return Variant::Double(stats::Combinazioni(stats::kNumeriLotto, *classe) *
+  return Variant::Double(stats::Combinazioni(stats::kNumeriLotto, classe) *
                          (std::pow(mancata, minimo) - oltre_massimo));
 }
 
 Result<Variant> QuantitaTeoricaCombAlRitX(Libreria&, CallArgs& args) {
-  auto ritardo = RitardoArgomento(args, 2);
-  if (!ritardo) return std::move(ritardo).error();
-  return QuantitaTeorica(args, *ritardo, *ritardo);
+  VBS_TRY_ASSIGN(auto ritardo, RitardoArgomento(args, 2));
+  return QuantitaTeorica(args, ritardo, ritardo);
 }
 
 Result<Variant> QuantitaTeoricaCombMagUgAlRitX(Libreria&, CallArgs& args) {
-  auto ritardo = RitardoArgomento(args, 2);
-  if (!ritardo) return std::move(ritardo).error();
-  return QuantitaTeorica(args, *ritardo, std::nullopt);
+  VBS_TRY_ASSIGN(auto ritardo, RitardoArgomento(args, 2));
+  return QuantitaTeorica(args, ritardo, std::nullopt);
 }
 
 Result<Variant> QuantitaTeoricaCombCompreseTraRit(Libreria&, CallArgs& args) {
-  auto minimo = RitardoArgomento(args, 2);
-  if (!minimo) return std::move(minimo).error();
-  auto massimo = RitardoArgomento(args, 3);
-  if (!massimo) return std::move(massimo).error();
-  if (*massimo < *minimo)
-    return ArgomentoNonValido(fmt::format("Ritardo massimo {} minore del minimo {}", *massimo, *minimo));
-  return QuantitaTeorica(args, *minimo, *massimo);
+  VBS_TRY_ASSIGN(auto minimo, RitardoArgomento(args, 2));
+  VBS_TRY_ASSIGN(auto massimo, RitardoArgomento(args, 3));
+  if (massimo < minimo)
+    return ArgomentoNonValido(fmt::format("Ritardo massimo {} minore del minimo {}", massimo, minimo));
+  return QuantitaTeorica(args, minimo, massimo);
 }
 
 // ---- Random numbers ----
@@ -403,34 +369,29 @@ struct StatoCasuale {
 
 Result<std::pair<int32_t, int32_t>> IntervalloArgomenti(const CallArgs& args, size_t i, int32_t minimo_mancante,
                                                         int32_t massimo_mancante) {
-  auto minimo = args.Long(i, minimo_mancante);
-  if (!minimo) return std::move(minimo).error();
-  auto massimo = args.Long(i + 1, massimo_mancante);
-  if (!massimo) return std::move(massimo).error();
-  if (*massimo < *minimo) return ArgomentoNonValido(fmt::format("Massimo {} minore del minimo {}", *massimo, *minimo));
-  return std::pair{*minimo, *massimo};
+  VBS_TRY_ASSIGN(auto minimo, args.Long(i, minimo_mancante));
+  VBS_TRY_ASSIGN(auto massimo, args.Long(i + 1, massimo_mancante));
+  if (massimo < minimo) return ArgomentoNonValido(fmt::format("Massimo {} minore del minimo {}", massimo, minimo));
+  return std::pair{minimo, massimo};
 }
 
 Result<Variant> NumeroCasuale(Libreria& lib, CallArgs& args) {
-  auto intervallo = IntervalloArgomenti(args, 0, 1, 90);
-  if (!intervallo) return std::move(intervallo).error();
-  std::uniform_int_distribution<int32_t> distribuzione(intervallo->first, intervallo->second);
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloArgomenti(args, 0, 1, 90));
+  std::uniform_int_distribution<int32_t> distribuzione(intervallo.first, intervallo.second);
   return Variant::Long(distribuzione(lib.Stato<StatoCasuale>().generatore));
 }
 
 Result<Variant> GetColonnaCasuale(Libreria& lib, CallArgs& args) {
-  auto quanti = args.Long(0);
-  if (!quanti) return std::move(quanti).error();
-  auto massimo = args.Long(2, stats::kNumeriLotto);
-  if (!massimo) return std::move(massimo).error();
-  if (*massimo < 1 || *massimo > kMassimoIntervalloCasuale)
+  VBS_TRY_ASSIGN(auto quanti, args.Long(0));
+  VBS_TRY_ASSIGN(auto massimo, args.Long(2, stats::kNumeriLotto));
+  if (massimo < 1 || massimo > kMassimoIntervalloCasuale)
     return ArgomentoNonValido(
-        fmt::format("Massimo {} non valido: deve essere compreso tra 1 e {}", *massimo, kMassimoIntervalloCasuale));
-  if (*quanti < 1 || *quanti > *massimo)
+        fmt::format("Massimo {} non valido: deve essere compreso tra 1 e {}", massimo, kMassimoIntervalloCasuale));
+  if (quanti < 1 || quanti > massimo)
     return ArgomentoNonValido(
-        fmt::format("Quantità {} non valida: deve essere compresa tra 1 e {}", *quanti, *massimo));
-  std::vector<int> colonna(static_cast<size_t>(*quanti));
-  std::ranges::sample(std::views::iota(1, *massimo + 1), colonna.begin(), *quanti,
+        fmt::format("Quantità {} non valida: deve essere compresa tra 1 e {}", quanti, massimo));
+  std::vector<int> colonna(static_cast<size_t>(quanti));
+  std::ranges::sample(std::views::iota(1, massimo + 1), colonna.begin(), quanti,
                       lib.Stato<StatoCasuale>().generatore);
   std::ranges::sort(colonna);
   args.Out(1) = ArrayDaUno(colonna);
@@ -438,9 +399,8 @@ Result<Variant> GetColonnaCasuale(Libreria& lib, CallArgs& args) {
 }
 
 Result<Variant> InitGenNumUnivoci(Libreria& lib, CallArgs& args) {
-  auto intervallo = IntervalloArgomenti(args, 0, 1, 90);
-  if (!intervallo) return std::move(intervallo).error();
-  const auto [minimo, massimo] = *intervallo;
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloArgomenti(args, 0, 1, 90));
+  const auto [minimo, massimo] = intervallo;
   if (int64_t{massimo} - minimo >= kMassimoIntervalloCasuale)
     return ArgomentoNonValido(fmt::format("Intervallo troppo ampio: al massimo {} numeri", kMassimoIntervalloCasuale));
   StatoCasuale& stato = lib.Stato<StatoCasuale>();

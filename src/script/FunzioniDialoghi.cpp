@@ -26,9 +26,8 @@ vbs::ScriptError RispostaNonValida(const std::string& titolo) {
 }
 
 Result<std::string> TitoloArgomento(const CallArgs& args, size_t i, std::u16string_view predefinito) {
-  auto titolo = args.String(i, predefinito);
-  if (!titolo) return std::move(titolo).error();
-  return vbs::Utf16ToUtf8(*titolo);
+  VBS_TRY_ASSIGN(auto titolo, args.String(i, predefinito));
+  return vbs::Utf16ToUtf8(titolo);
 }
 
 bool SenzaRipetizioni(std::vector<int> valori) {
@@ -50,9 +49,8 @@ Result<std::optional<std::vector<int>>> Voci(Libreria& lib, const std::string& t
 
 // One item: its position from 0, or -1 when the user cancelled or chose nothing.
 Result<int> Voce(Libreria& lib, const std::string& titolo, const std::vector<std::string>& voci) {
-  auto scelte = Voci(lib, titolo, voci, false);
-  if (!scelte) return std::move(scelte).error();
-  return *scelte && !(*scelte)->empty() ? (**scelte)[0] : -1;
+  VBS_TRY_ASSIGN(auto scelte, Voci(lib, titolo, voci, false));
+  return scelte && !(scelte)->empty() ? (*scelte)[0] : -1;
 }
 
 // The host's numbers, checked: at most `quanti`, each from 1 to `massimo` and once.
@@ -77,95 +75,76 @@ std::vector<std::string> NomiDelleRuote() {
 int RuotaScript(int k) { return k + 1 == NZ ? kNazionaleScript : k + 1; }
 
 Result<Variant> ScegliNumeri(Libreria& lib, CallArgs& args) {
-  auto titolo = TitoloArgomento(args, 0, u"Scegli i numeri");
-  if (!titolo) return std::move(titolo).error();
-  auto quanti = args.Long(1, kMassimoNumero);
-  if (!quanti) return std::move(quanti).error();
-  if (*quanti < 1 || *quanti > kMassimoNumero)
-    return ArgomentoNonValido(fmt::format("Quanti numeri scegliere: da 1 a {}, non {}", kMassimoNumero, *quanti));
-  auto numeri = Numeri(lib, *titolo, *quanti, kMassimoNumero, {});
-  if (!numeri) return std::move(numeri).error();
-  return ArrayDaUno(numeri->value_or(std::vector<int>{}));
+  VBS_TRY_ASSIGN(auto titolo, TitoloArgomento(args, 0, u"Scegli i numeri"));
+  VBS_TRY_ASSIGN(auto quanti, args.Long(1, kMassimoNumero));
+  if (quanti < 1 || quanti > kMassimoNumero)
+    return ArgomentoNonValido(fmt::format("Quanti numeri scegliere: da 1 a {}, non {}", kMassimoNumero, quanti));
+  VBS_TRY_ASSIGN(auto numeri, Numeri(lib, titolo, quanti, kMassimoNumero, {}));
+  return ArrayDaUno(numeri.value_or(std::vector<int>{}));
 }
 
 Result<Variant> ScegliRuota(Libreria& lib, CallArgs& args) {
-  auto titolo = TitoloArgomento(args, 0, u"Scegli la ruota");
-  if (!titolo) return std::move(titolo).error();
+  VBS_TRY_ASSIGN(auto titolo, TitoloArgomento(args, 0, u"Scegli la ruota"));
   std::vector<std::string> voci = NomiDelleRuote();
   voci.emplace_back("Tutte le ruote");
-  auto scelta = Voce(lib, *titolo, voci);
-  if (!scelta) return std::move(scelta).error();
-  if (*scelta < 0) return Variant::Integer(0);
-  return Variant::Integer(static_cast<int16_t>(*scelta == kNumeroRuote ? kRuotaTutteScript : RuotaScript(*scelta)));
+  VBS_TRY_ASSIGN(auto scelta, Voce(lib, titolo, voci));
+  if (scelta < 0) return Variant::Integer(0);
+  return Variant::Integer(static_cast<int16_t>(scelta == kNumeroRuote ? kRuotaTutteScript : RuotaScript(scelta)));
 }
 
 Result<Variant> ScegliRuote(Libreria& lib, CallArgs& args) {
-  auto titolo = TitoloArgomento(args, 0, u"Scegli le ruote");
-  if (!titolo) return std::move(titolo).error();
-  auto scelte = Voci(lib, *titolo, NomiDelleRuote(), true);
-  if (!scelte) return std::move(scelte).error();
-  std::vector<int> ruote = scelte->value_or(std::vector<int>{});
+  VBS_TRY_ASSIGN(auto titolo, TitoloArgomento(args, 0, u"Scegli le ruote"));
+  VBS_TRY_ASSIGN(auto scelte, Voci(lib, titolo, NomiDelleRuote(), true));
+  std::vector<int> ruote = scelte.value_or(std::vector<int>{});
   std::sort(ruote.begin(), ruote.end());
   std::transform(ruote.begin(), ruote.end(), ruote.begin(), RuotaScript);
   return ArrayDaUno(ruote);
 }
 
 Result<Variant> ScegliEsito(Libreria& lib, CallArgs& args) {
-  auto titolo = TitoloArgomento(args, 0, u"Scegli la sorte");
-  if (!titolo) return std::move(titolo).error();
-  auto scelta = Voce(lib, *titolo, {"Ambata", "Ambo", "Terno", "Quaterna", "Cinquina"});
-  if (!scelta) return std::move(scelta).error();
-  return Variant::Integer(static_cast<int16_t>(*scelta + 1));
+  VBS_TRY_ASSIGN(auto titolo, TitoloArgomento(args, 0, u"Scegli la sorte"));
+  VBS_TRY_ASSIGN(auto scelta, Voce(lib, titolo, {"Ambata", "Ambo", "Terno", "Quaterna", "Cinquina"}));
+  return Variant::Integer(static_cast<int16_t>(scelta + 1));
 }
 
 // The items of a one-dimensional array, each as the script would print it.
 Result<std::vector<std::string>> VociDellArray(const vbs::SafeArray& array, const vbs::Locale& locale) {
   std::vector<std::string> voci;
   for (const Variant& elemento : array.elements()) {
-    auto testo = elemento.to_string(locale);
-    if (!testo) return std::move(testo).error();
-    voci.push_back(vbs::Utf16ToUtf8(testo->view()));
+    VBS_TRY_ASSIGN(auto testo, elemento.to_string(locale));
+    voci.push_back(vbs::Utf16ToUtf8(testo.view()));
   }
   return voci;
 }
 
 Result<Variant> ScegliDaLista(Libreria& lib, CallArgs& args) {
-  auto lista = args.Value(0);
-  if (!lista) return std::move(lista).error();
-  if (!lista->is_array() || lista->as_array()->DimensionCount() != 1)
+  VBS_TRY_ASSIGN(auto lista, args.Value(0));
+  if (!lista.is_array() || lista.as_array()->DimensionCount() != 1)
     return ArgomentoNonValido("Le voci da scegliere vanno date in un array a una dimensione");
-  auto voci = VociDellArray(*lista->as_array(), args.locale());
-  if (!voci) return std::move(voci).error();
-  auto titolo = TitoloArgomento(args, 1, u"Scegli una voce");
-  if (!titolo) return std::move(titolo).error();
-  auto scelta = Voce(lib, *titolo, *voci);
-  if (!scelta) return std::move(scelta).error();
-  if (*scelta < 0) return Variant::Long(-1);
-  return Variant::Long(lista->as_array()->bounds()[0].lower + *scelta);
+  VBS_TRY_ASSIGN(auto voci, VociDellArray(*lista.as_array(), args.locale()));
+  VBS_TRY_ASSIGN(auto titolo, TitoloArgomento(args, 1, u"Scegli una voce"));
+  VBS_TRY_ASSIGN(auto scelta, Voce(lib, titolo, voci));
+  if (scelta < 0) return Variant::Long(-1);
+  return Variant::Long(lista.as_array()->bounds()[0].lower + scelta);
 }
 
 Result<Variant> ScegliOpzioneMenu(Libreria& lib, CallArgs& args) {
-  auto titolo = TitoloArgomento(args, 0, u"");
-  if (!titolo) return std::move(titolo).error();
+  VBS_TRY_ASSIGN(auto titolo, TitoloArgomento(args, 0, u""));
   std::vector<std::string> opzioni;
   for (size_t i = 1; i < args.size(); ++i) {
-    auto opzione = args.String(i);
-    if (!opzione) return std::move(opzione).error();
-    opzioni.push_back(vbs::Utf16ToUtf8(*opzione));
+    VBS_TRY_ASSIGN(auto opzione, args.String(i));
+    opzioni.push_back(vbs::Utf16ToUtf8(opzione));
   }
-  auto scelta = Voce(lib, *titolo, opzioni);
-  if (!scelta) return std::move(scelta).error();
-  return Variant::Long(*scelta + 1);
+  VBS_TRY_ASSIGN(auto scelta, Voce(lib, titolo, opzioni));
+  return Variant::Long(scelta + 1);
 }
 
 template <bool kCartella>
 Result<Variant> ScegliPercorso(Libreria& lib, CallArgs& args) {
-  auto titolo = TitoloArgomento(args, 0, kCartella ? u"Scegli la cartella" : u"Scegli il file");
-  if (!titolo) return std::move(titolo).error();
+  VBS_TRY_ASSIGN(auto titolo, TitoloArgomento(args, 0, kCartella ? u"Scegli la cartella" : u"Scegli il file"));
   const std::string base = lib.impostazioni().cartella_base.string();
-  auto proposto = args.String(1, kCartella ? vbs::Utf8ToUtf16(base) : u"");
-  if (!proposto) return std::move(proposto).error();
-  auto percorso = lib.ospite().ScegliPercorso(*titolo, vbs::Utf16ToUtf8(*proposto), kCartella);
+  VBS_TRY_ASSIGN(auto proposto, args.String(1, kCartella ? vbs::Utf8ToUtf16(base) : u""));
+  auto percorso = lib.ospite().ScegliPercorso(titolo, vbs::Utf16ToUtf8(proposto), kCartella);
   return Variant::String(vbs::Utf8ToUtf16(percorso.value_or("")));
 }
 
@@ -178,16 +157,13 @@ std::vector<int> RangeProposto(const CallArgs& args, int estrazioni) {
 }
 
 Result<Variant> ScegliRange(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto titolo = TitoloArgomento(args, 2, u"Scegli la prima e l'ultima estrazione");
-  if (!titolo) return std::move(titolo).error();
-  const int estrazioni = (*archivio)->EstrazioniArchivio();
-  auto scelte = Numeri(lib, *titolo, 2, estrazioni, RangeProposto(args, estrazioni));
-  if (!scelte) return std::move(scelte).error();
-  if (!*scelte) return Variant::Boolean(false);
-  std::vector<int> range = **scelte;
-  if (range.size() != 2) return RispostaNonValida(*titolo);
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto titolo, TitoloArgomento(args, 2, u"Scegli la prima e l'ultima estrazione"));
+  const int estrazioni = (archivio)->EstrazioniArchivio();
+  VBS_TRY_ASSIGN(auto scelte, Numeri(lib, titolo, 2, estrazioni, RangeProposto(args, estrazioni)));
+  if (!scelte) return Variant::Boolean(false);
+  std::vector<int> range = *scelte;
+  if (range.size() != 2) return RispostaNonValida(titolo);
   std::sort(range.begin(), range.end());
   args.Out(0) = Variant::Long(range[0]);
   args.Out(1) = Variant::Long(range[1]);
@@ -208,24 +184,21 @@ Result<std::vector<double>> PosteProposte(const CallArgs& args) {
   for (int sorte = 1; sorte <= kNumeriPerRuota; ++sorte) {
     const int32_t indice = sorte - inizio;
     if (indice < 0 || static_cast<size_t>(indice) >= array.size() || array.elements()[indice].is_empty()) continue;
-    auto posta = array.elements()[indice].to_double(args.locale());
-    if (!posta) return std::move(posta).error();
-    poste[sorte - 1] = *posta;
+    VBS_TRY_ASSIGN(auto posta, array.elements()[indice].to_double(args.locale()));
+    poste[sorte - 1] = posta;
   }
   return poste;
 }
 
 Result<Variant> ScegliPoste(Libreria& lib, CallArgs& args) {
-  auto proposte = PosteProposte(args);
-  if (!proposte) return std::move(proposte).error();
-  auto titolo = TitoloArgomento(args, 1, u"Scegli le poste");
-  if (!titolo) return std::move(titolo).error();
-  auto poste = lib.ospite().ScegliImporti(*titolo, {"Estratto", "Ambo", "Terno", "Quaterna", "Cinquina"}, *proposte);
+  VBS_TRY_ASSIGN(auto proposte, PosteProposte(args));
+  VBS_TRY_ASSIGN(auto titolo, TitoloArgomento(args, 1, u"Scegli le poste"));
+  auto poste = lib.ospite().ScegliImporti(titolo, {"Estratto", "Ambo", "Terno", "Quaterna", "Cinquina"}, proposte);
   if (!poste) return Variant::Boolean(false);
   const bool valide = poste->size() == kNumeriPerRuota &&
                       std::all_of(poste->begin(), poste->end(), [](double p) { return p >= 0 && p <= kPostaMassima; }) &&
                       std::any_of(poste->begin(), poste->end(), [](double p) { return p > 0; });
-  if (!valide) return RispostaNonValida(*titolo);
+  if (!valide) return RispostaNonValida(titolo);
   std::vector<Variant> elementi;
   for (double posta : *poste) elementi.push_back(Variant::Double(posta));
   args.Out(0) = ArrayDaUno(std::move(elementi));

@@ -64,85 +64,67 @@ std::array<int, kMassimoNumero> Classifica(const RitardiNumeri& ritardi) {
 // What the ranking functions share: the wheel at 0 and an optional Fine at i_fine.
 template <Calcolo calcolo>
 Result<std::array<int, kMassimoNumero>> ClassificaArgomenti(Libreria& lib, const CallArgs& args, size_t i_fine) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto ruota = RuotaArgomento(args, 0, kTutteLeRuote);
-  if (!ruota) return std::move(ruota).error();
-  auto intervallo = IntervalloArgomento(**archivio, args, std::nullopt, i_fine);
-  if (!intervallo) return std::move(intervallo).error();
-  return Classifica(Ritardi<calcolo>(lib, **archivio, *ruota, *intervallo));
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto ruota, RuotaArgomento(args, 0, kTutteLeRuote));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloArgomento(*archivio, args, std::nullopt, i_fine));
+  return Classifica(Ritardi<calcolo>(lib, *archivio, ruota, intervallo));
 }
 
 template <Calcolo calcolo>
 Result<Variant> ElencoRitardi(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto ruota = RuotaArgomento(args, 0, kTutteLeRuote);
-  if (!ruota) return std::move(ruota).error();
-  auto intervallo = IntervalloArgomento(**archivio, args, 2, 3);
-  if (!intervallo) return std::move(intervallo).error();
-  const RitardiNumeri ritardi = Ritardi<calcolo>(lib, **archivio, *ruota, *intervallo);
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto ruota, RuotaArgomento(args, 0, kTutteLeRuote));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloArgomento(*archivio, args, 2, 3));
+  const RitardiNumeri ritardi = Ritardi<calcolo>(lib, *archivio, ruota, intervallo);
   args.Out(1) = ArrayDaUno(std::span<const int>(ritardi).subspan(1));
   return Variant();
 }
 
 template <Calcolo calcolo>
 Result<Variant> PiuRitardatario(Libreria& lib, CallArgs& args) {
-  auto classifica = ClassificaArgomenti<calcolo>(lib, args, 1);
-  if (!classifica) return std::move(classifica).error();
-  return Variant::Integer(static_cast<int16_t>(classifica->front()));
+  VBS_TRY_ASSIGN(auto classifica, ClassificaArgomenti<calcolo>(lib, args, 1));
+  return Variant::Integer(static_cast<int16_t>(classifica.front()));
 }
 
 template <Calcolo calcolo>
 Result<Variant> PiuRitardatari(Libreria& lib, CallArgs& args) {
-  auto quanti = InteroTra(args, 1, 1, kMassimoNumero, "Quantita'");
-  if (!quanti) return std::move(quanti).error();
-  auto classifica = ClassificaArgomenti<calcolo>(lib, args, 3);
-  if (!classifica) return std::move(classifica).error();
-  args.Out(2) = ArrayDaUno(std::span<const int>(*classifica).first(static_cast<size_t>(*quanti)));
+  VBS_TRY_ASSIGN(auto quanti, InteroTra(args, 1, 1, kMassimoNumero, "Quantita'"));
+  VBS_TRY_ASSIGN(auto classifica, ClassificaArgomenti<calcolo>(lib, args, 3));
+  args.Out(2) = ArrayDaUno(std::span<const int>(classifica).first(static_cast<size_t>(quanti)));
   return Variant();
 }
 
 template <Calcolo calcolo>
 Result<Variant> PosNumeroRit(Libreria& lib, CallArgs& args) {
-  auto numero = NumeroArgomento(args, 1);
-  if (!numero) return std::move(numero).error();
-  auto classifica = ClassificaArgomenti<calcolo>(lib, args, 2);
-  if (!classifica) return std::move(classifica).error();
-  const auto posto = std::find(classifica->begin(), classifica->end(), *numero);
-  return Variant::Integer(static_cast<int16_t>(posto - classifica->begin() + 1));
+  VBS_TRY_ASSIGN(auto numero, NumeroArgomento(args, 1));
+  VBS_TRY_ASSIGN(auto classifica, ClassificaArgomenti<calcolo>(lib, args, 2));
+  const auto posto = std::find(classifica.begin(), classifica.end(), numero);
+  return Variant::Integer(static_cast<int16_t>(posto - classifica.begin() + 1));
 }
 
 template <Calcolo calcolo>
 Result<Variant> NumeroPosRit(Libreria& lib, CallArgs& args) {
-  auto posizione = InteroTra(args, 1, 1, kMassimoNumero, "Posizione in classifica");
-  if (!posizione) return std::move(posizione).error();
-  auto classifica = ClassificaArgomenti<calcolo>(lib, args, 2);
-  if (!classifica) return std::move(classifica).error();
-  return Variant::Integer(static_cast<int16_t>((*classifica)[static_cast<size_t>(*posizione - 1)]));
+  VBS_TRY_ASSIGN(auto posizione, InteroTra(args, 1, 1, kMassimoNumero, "Posizione in classifica"));
+  VBS_TRY_ASSIGN(auto classifica, ClassificaArgomenti<calcolo>(lib, args, 2));
+  return Variant::Integer(static_cast<int16_t>((classifica)[static_cast<size_t>(posizione - 1)]));
 }
 
 template <Calcolo calcolo>
 Result<Variant> RitPos(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  const TabellaEstrazioni& tab = **archivio;
-  auto ruota = RuotaArgomento(args, 0, kTutteLeRuote);
-  if (!ruota) return std::move(ruota).error();
-  auto numero = NumeroArgomento(args, 1);
-  if (!numero) return std::move(numero).error();
-  auto posizione = InteroTra(args, 2, 1, kNumeriPerRuota, "Posizione");
-  if (!posizione) return std::move(posizione).error();
-  auto intervallo = IntervalloArgomento(tab, args, 3, 4);
-  if (!intervallo) return std::move(intervallo).error();
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  const TabellaEstrazioni& tab = *archivio;
+  VBS_TRY_ASSIGN(auto ruota, RuotaArgomento(args, 0, kTutteLeRuote));
+  VBS_TRY_ASSIGN(auto numero, NumeroArgomento(args, 1));
+  VBS_TRY_ASSIGN(auto posizione, InteroTra(args, 2, 1, kNumeriPerRuota, "Posizione"));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloArgomento(tab, args, 3, 4));
   if constexpr (calcolo == Calcolo::Turbo) {
     return Variant::Long(
-        IndiceDellEsecuzione(lib, tab).Ritardo(*ruota, *numero, *posizione, intervallo->inizio, intervallo->fine));
+        IndiceDellEsecuzione(lib, tab).Ritardo(ruota, numero, posizione, intervallo.inizio, intervallo.fine));
   } else {
-    const int ruote[] = {*ruota};
-    const int numeri[] = {*numero};
-    return Variant::Long(stats::RitardoCombinazione(tab, ruote, numeri, 1, intervallo->fine, SoloPosizione(*posizione),
-                                                    intervallo->inizio));
+    const int ruote[] = {ruota};
+    const int numeri[] = {numero};
+    return Variant::Long(stats::RitardoCombinazione(tab, ruote, numeri, 1, intervallo.fine, SoloPosizione(posizione),
+                                                    intervallo.inizio));
   }
 }
 
@@ -153,11 +135,9 @@ struct NumeroInPosizione {
 
 // Numero at i and its position at i + 1, which the message calls `nome_posizione`.
 Result<NumeroInPosizione> NumeroInPosizioneArgomento(const CallArgs& args, size_t i, std::string_view nome_posizione) {
-  auto numero = NumeroArgomento(args, i);
-  if (!numero) return std::move(numero).error();
-  auto posizione = InteroTra(args, i + 1, 1, kNumeriPerRuota, nome_posizione);
-  if (!posizione) return std::move(posizione).error();
-  return NumeroInPosizione{*numero, *posizione};
+  VBS_TRY_ASSIGN(auto numero, NumeroArgomento(args, i));
+  VBS_TRY_ASSIGN(auto posizione, InteroTra(args, i + 1, 1, kNumeriPerRuota, nome_posizione));
+  return NumeroInPosizione{numero, posizione};
 }
 
 // Whether one wheel of the draw holds every number in its own position.
@@ -170,22 +150,17 @@ bool InPosizione(const Estrazione& estrazione, std::span<const int> ruote, std::
 }
 
 Result<Variant> AmboPosRit(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto ruota = RuotaArgomento(args, 0, kTutteLeRuote);
-  if (!ruota) return std::move(ruota).error();
-  auto primo = NumeroInPosizioneArgomento(args, 1, "Posizione1");
-  if (!primo) return std::move(primo).error();
-  auto secondo = NumeroInPosizioneArgomento(args, 3, "Posizione2");
-  if (!secondo) return std::move(secondo).error();
-  if (primo->numero == secondo->numero || primo->posizione == secondo->posizione)
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto ruota, RuotaArgomento(args, 0, kTutteLeRuote));
+  VBS_TRY_ASSIGN(auto primo, NumeroInPosizioneArgomento(args, 1, "Posizione1"));
+  VBS_TRY_ASSIGN(auto secondo, NumeroInPosizioneArgomento(args, 3, "Posizione2"));
+  if (primo.numero == secondo.numero || primo.posizione == secondo.posizione)
     return ArgomentoNonValido("Un ambo posizionale vuole due numeri diversi in due posizioni diverse");
-  auto intervallo = IntervalloArgomento(**archivio, args, 5, 6);
-  if (!intervallo) return std::move(intervallo).error();
-  const int ruote[] = {*ruota};
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloArgomento(*archivio, args, 5, 6));
+  const int ruote[] = {ruota};
   const std::vector<int> singole = RuoteSingole(ruote);
-  const NumeroInPosizione posti[] = {*primo, *secondo};
-  return Variant::Long(RitardoConRegola(**archivio, singole, intervallo->inizio, intervallo->fine,
+  const NumeroInPosizione posti[] = {primo, secondo};
+  return Variant::Long(RitardoConRegola(*archivio, singole, intervallo.inizio, intervallo.fine,
                                         [&](const Estrazione& estrazione) {
                                           return InPosizione(estrazione, singole, posti);
                                         }));
@@ -193,19 +168,15 @@ Result<Variant> AmboPosRit(Libreria& lib, CallArgs& args) {
 
 // Every run between two outings in order, then the open run, so that the last element is RitPos.
 Result<Variant> RitPosCrono(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto ruota = RuotaArgomento(args, 0, kTutteLeRuote);
-  if (!ruota) return std::move(ruota).error();
-  auto posto = NumeroInPosizioneArgomento(args, 1, "Posizione");
-  if (!posto) return std::move(posto).error();
-  auto intervallo = IntervalloArgomento(**archivio, args, 4, 5);
-  if (!intervallo) return std::move(intervallo).error();
-  const int ruote[] = {*ruota};
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto ruota, RuotaArgomento(args, 0, kTutteLeRuote));
+  VBS_TRY_ASSIGN(auto posto, NumeroInPosizioneArgomento(args, 1, "Posizione"));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloArgomento(*archivio, args, 4, 5));
+  const int ruote[] = {ruota};
   const std::vector<int> singole = RuoteSingole(ruote);
-  const NumeroInPosizione posti[] = {*posto};
+  const NumeroInPosizione posti[] = {posto};
   const std::vector<int> ritardi =
-      CronologiaConRegola(**archivio, singole, intervallo->inizio, intervallo->fine,
+      CronologiaConRegola(*archivio, singole, intervallo.inizio, intervallo.fine,
                           [&](const Estrazione& estrazione) { return InPosizione(estrazione, singole, posti); });
   args.Out(3) = ArrayDaUno(ritardi);
   return Variant::Long(static_cast<int32_t>(ritardi.size()));
@@ -213,21 +184,18 @@ Result<Variant> RitPosCrono(Libreria& lib, CallArgs& args) {
 
 // The delays are taken over the draws before IdEstr, so the first draw's numbers have none: 0.
 Result<Variant> GetRitardoEstratti(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  const TabellaEstrazioni& tab = **archivio;
-  auto id_estr = EstrazioneArgomento(tab, args, 0, 0, "IdEstr");
-  if (!id_estr) return std::move(id_estr).error();
-  auto ruota = RuotaArgomento(args, 1, kNumeroRuote);
-  if (!ruota) return std::move(ruota).error();
-  const Estrazione& estrazione = tab[*id_estr];
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  const TabellaEstrazioni& tab = *archivio;
+  VBS_TRY_ASSIGN(auto id_estr, EstrazioneArgomento(tab, args, 0, 0, "IdEstr"));
+  VBS_TRY_ASSIGN(auto ruota, RuotaArgomento(args, 1, kNumeroRuote));
+  const Estrazione& estrazione = tab[id_estr];
   std::array<int, kNumeriPerRuota> ritardi{};
   for (int p = 1; p <= kNumeriPerRuota; ++p) {
-    const int numero = estrazione.Numero(*ruota, p);
+    const int numero = estrazione.Numero(ruota, p);
     if (!estrazione.Presente() || numero < 1 || numero > kMassimoNumero) return Variant::Boolean(false);
-    const int ruote[] = {*ruota};
+    const int ruote[] = {ruota};
     const int numeri[] = {numero};
-    ritardi[static_cast<size_t>(p - 1)] = stats::RitardoCombinazione(tab, ruote, numeri, 1, *id_estr - 1);
+    ritardi[static_cast<size_t>(p - 1)] = stats::RitardoCombinazione(tab, ruote, numeri, 1, id_estr - 1);
   }
   args.Out(2) = ArrayDaUno(ritardi);
   return Variant::Boolean(true);

@@ -48,19 +48,16 @@ Result<Variant> ScriptInterrotto(Libreria& lib, CallArgs&) { return Variant::Boo
 
 // A record with the same first two values is updated; any other is added at the end.
 Result<Variant> ImpostaInterruzioni(Libreria& lib, CallArgs& args) {
-  auto primo = args.Long(0);
-  if (!primo) return std::move(primo).error();
-  auto secondo = args.Long(1);
-  if (!secondo) return std::move(secondo).error();
-  auto terzo = args.Integer(2);
-  if (!terzo) return std::move(terzo).error();
+  VBS_TRY_ASSIGN(auto primo, args.Long(0));
+  VBS_TRY_ASSIGN(auto secondo, args.Long(1));
+  VBS_TRY_ASSIGN(auto terzo, args.Integer(2));
   for (Interruzione& record : lib.interruzioni()) {
-    if (record.primo == *primo && record.secondo == *secondo) {
-      record.terzo = *terzo;
+    if (record.primo == primo && record.secondo == secondo) {
+      record.terzo = terzo;
       return Variant();
     }
   }
-  lib.interruzioni().push_back({*primo, *secondo, *terzo});
+  lib.interruzioni().push_back({primo, secondo, terzo});
   return Variant();
 }
 
@@ -70,22 +67,17 @@ Result<Variant> AvanzamentoElab(Libreria& lib, CallArgs& args) {
   double fine = 0;
   double valore = 0;
   if (args.Has(2)) {
-    auto a = args.Double(0);
-    if (!a) return std::move(a).error();
-    auto b = args.Double(1);
-    if (!b) return std::move(b).error();
-    auto c = args.Double(2);
-    if (!c) return std::move(c).error();
-    inizio = *a;
-    fine = *b;
-    valore = *c;
+    VBS_TRY_ASSIGN(auto a, args.Double(0));
+    VBS_TRY_ASSIGN(auto b, args.Double(1));
+    VBS_TRY_ASSIGN(auto c, args.Double(2));
+    inizio = a;
+    fine = b;
+    valore = c;
   } else {
-    auto a = args.Double(0);
-    if (!a) return std::move(a).error();
-    auto b = args.Double(1);
-    if (!b) return std::move(b).error();
-    valore = *a;
-    fine = *b;
+    VBS_TRY_ASSIGN(auto a, args.Double(0));
+    VBS_TRY_ASSIGN(auto b, args.Double(1));
+    valore = a;
+    fine = b;
   }
   const double ampiezza = fine - inizio;
   const double percentuale = ampiezza > 0 ? (valore - inizio) * 100.0 / ampiezza : 100.0;
@@ -138,16 +130,14 @@ Result<Variant> NienteDaRilasciare(Libreria&, CallArgs&) { return Variant(); }
 Result<Variant> setFromScript(Libreria&, CallArgs&) { return Variant(); }
 
 Result<Variant> SetNomeFileHtmlOut(Libreria& lib, CallArgs& args) {
-  auto nome = args.String(0);
-  if (!nome) return std::move(nome).error();
-  lib.SetNomeFileHtmlOut(vbs::Utf16ToUtf8(*nome));
+  VBS_TRY_ASSIGN(auto nome, args.String(0));
+  lib.SetNomeFileHtmlOut(vbs::Utf16ToUtf8(nome));
   return Variant();
 }
 
 Result<Variant> SetFlagSalvaPrevisioniInCorso(Libreria& lib, CallArgs& args) {
-  auto attivo = args.Boolean(0, true);
-  if (!attivo) return std::move(attivo).error();
-  lib.SetFlagSalvaPrevisioniInCorso(*attivo);
+  VBS_TRY_ASSIGN(auto attivo, args.Boolean(0, true));
+  lib.SetFlagSalvaPrevisioniInCorso(attivo);
   return Variant();
 }
 

@@ -29,38 +29,32 @@ std::vector<bool>& Flag(Libreria& lib, const TabellaEstrazioni& archivio) {
 }
 
 Result<int> IdEstrArgomento(const TabellaEstrazioni& archivio, const CallArgs& args, size_t i) {
-  auto id_estr = args.Long(i);
-  if (!id_estr) return std::move(id_estr).error();
-  if (!archivio.Contiene(*id_estr)) return vbs::MakeError(vbs::err::kSubscript);
-  return *id_estr;
+  VBS_TRY_ASSIGN(auto id_estr, args.Long(i));
+  if (!archivio.Contiene(id_estr)) return vbs::MakeError(vbs::err::kSubscript);
+  return id_estr;
 }
 
 Result<Variant> ImpostaEstrazione(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto id_estr = IdEstrArgomento(**archivio, args, 0);
-  if (!id_estr) return std::move(id_estr).error();
-  auto attiva = args.Boolean(1, true);
-  if (!attiva) return std::move(attiva).error();
-  Flag(lib, **archivio)[static_cast<size_t>(*id_estr)] = *attiva;
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto id_estr, IdEstrArgomento(*archivio, args, 0));
+  VBS_TRY_ASSIGN(auto attiva, args.Boolean(1, true));
+  Flag(lib, *archivio)[static_cast<size_t>(id_estr)] = attiva;
   return Variant();
 }
 
 Result<Variant> ImpostaNessunaEstrazione(Libreria& lib, CallArgs&) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  std::vector<bool>& attive = Flag(lib, **archivio);
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  std::vector<bool>& attive = Flag(lib, *archivio);
   attive.assign(attive.size(), false);
   return Variant();
 }
 
 // A question about the archive: a draw it does not hold is simply not active.
 Result<Variant> EstrazioneAttivata(Libreria& lib, CallArgs& args) {
-  auto id_estr = args.Long(0);
-  if (!id_estr) return std::move(id_estr).error();
+  VBS_TRY_ASSIGN(auto id_estr, args.Long(0));
   const TabellaEstrazioni* archivio = lib.impostazioni().archivio;
-  if (!archivio || !archivio->Contiene(*id_estr)) return Variant::Boolean(false);
-  return Variant::Boolean(Flag(lib, *archivio)[static_cast<size_t>(*id_estr)]);
+  if (!archivio || !archivio->Contiene(id_estr)) return Variant::Boolean(false);
+  return Variant::Boolean(Flag(lib, *archivio)[static_cast<size_t>(id_estr)]);
 }
 
 int GiornoDellaSettimana(const GruppoData& data) {
@@ -70,34 +64,28 @@ int GiornoDellaSettimana(const GruppoData& data) {
 }
 
 Result<int> FiltroArgomento(const CallArgs& args, size_t i, int massimo, std::string_view cosa) {
-  auto valore = args.Long(i, 0);
-  if (!valore) return std::move(valore).error();
-  if (*valore < 0 || *valore > massimo)
-    return ArgomentoNonValido(fmt::format("{} deve essere da 1 a {}, o 0 per tutti: non {}", cosa, massimo, *valore));
-  return *valore;
+  VBS_TRY_ASSIGN(auto valore, args.Long(i, 0));
+  if (valore < 0 || valore > massimo)
+    return ArgomentoNonValido(fmt::format("{} deve essere da 1 a {}, o 0 per tutti: non {}", cosa, massimo, valore));
+  return valore;
 }
 
 Result<Variant> EstrazioniRicerca(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  const TabellaEstrazioni& tab = **archivio;
-  auto inizio = IdEstrArgomento(tab, args, 0);
-  if (!inizio) return std::move(inizio).error();
-  auto fine = IdEstrArgomento(tab, args, 1);
-  if (!fine) return std::move(fine).error();
-  if (*inizio > *fine)
-    return ArgomentoNonValido(fmt::format("L'estrazione iniziale ({}) viene dopo la finale ({})", *inizio, *fine));
-  auto mese = FiltroArgomento(args, 2, kMesi, "Il mese");
-  if (!mese) return std::move(mese).error();
-  auto giorno = FiltroArgomento(args, 3, kGiorniSettimana, "Il giorno della settimana");
-  if (!giorno) return std::move(giorno).error();
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  const TabellaEstrazioni& tab = *archivio;
+  VBS_TRY_ASSIGN(auto inizio, IdEstrArgomento(tab, args, 0));
+  VBS_TRY_ASSIGN(auto fine, IdEstrArgomento(tab, args, 1));
+  if (inizio > fine)
+    return ArgomentoNonValido(fmt::format("L'estrazione iniziale ({}) viene dopo la finale ({})", inizio, fine));
+  VBS_TRY_ASSIGN(auto mese, FiltroArgomento(args, 2, kMesi, "Il mese"));
+  VBS_TRY_ASSIGN(auto giorno, FiltroArgomento(args, 3, kGiorniSettimana, "Il giorno della settimana"));
 
   std::vector<bool>& attive = Flag(lib, tab);
   attive.assign(attive.size(), false);
   int32_t trovate = 0;
-  for (int id = *inizio; id <= *fine; ++id) {
+  for (int id = inizio; id <= fine; ++id) {
     const GruppoData& data = tab[id].data;
-    const bool scelta = (*mese == 0 || data.mese == *mese) && (*giorno == 0 || GiornoDellaSettimana(data) == *giorno);
+    const bool scelta = (mese == 0 || data.mese == mese) && (giorno == 0 || GiornoDellaSettimana(data) == giorno);
     attive[static_cast<size_t>(id)] = scelta;
     trovate += scelta;
   }

@@ -62,9 +62,8 @@ Result<Variant> NonRiuscito(Libreria& lib, std::string_view funzione, std::strin
 
 // Argument i as a path: backslashes become '/', a relative name starts from the base folder.
 Result<fs::path> PercorsoArgomento(const Libreria& lib, const CallArgs& args, size_t i) {
-  auto nome = args.String(i);
-  if (!nome) return std::move(nome).error();
-  std::string testo = vbs::Utf16ToUtf8(*nome);
+  VBS_TRY_ASSIGN(auto nome, args.String(i));
+  std::string testo = vbs::Utf16ToUtf8(nome);
   if (testo.empty()) return ArgomentoNonValido("Nome del file o della cartella mancante");
   std::replace(testo.begin(), testo.end(), '\\', '/');
   fs::path percorso(testo);
@@ -121,40 +120,35 @@ Result<Variant> ChiudiERiferisci(Libreria& lib, std::string_view funzione, const
 // The first line written to a file in a run opens it: appending to what it holds, or emptying it
 // first when the script asks.
 Result<Variant> ScriviFile(Libreria& lib, CallArgs& args) {
-  auto file = PercorsoArgomento(lib, args, 0);
-  if (!file) return std::move(file).error();
-  auto testo = args.String(1);
-  if (!testo) return std::move(testo).error();
-  auto aggiungi = args.Boolean(2, true);
-  if (!aggiungi) return std::move(aggiungi).error();
-  auto chiudi = args.Boolean(3, false);
-  if (!chiudi) return std::move(chiudi).error();
+  VBS_TRY_ASSIGN(auto file, PercorsoArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto testo, args.String(1));
+  VBS_TRY_ASSIGN(auto aggiungi, args.Boolean(2, true));
+  VBS_TRY_ASSIGN(auto chiudi, args.Boolean(3, false));
 
   auto& aperti = lib.Stato<StatoFile>().aperti;
-  auto it = aperti.find(*file);
+  auto it = aperti.find(file);
   if (it == aperti.end()) {
-    VBS_TRY(lib.Consenti(vbs::FileAccess::Write, *file, "ScriviFile"));
+    VBS_TRY(lib.Consenti(vbs::FileAccess::Write, file, "ScriviFile"));
     // Opening a pipe to write waits for a reader, and a device is nobody's text file.
     std::error_code ec;
-    if (fs::exists(*file, ec) && !FileEsiste(*file))
-      return NonRiuscito(lib, "ScriviFile", fmt::format("{} non è un file: non viene scritto", file->string()));
-    std::ofstream out(*file, std::ios::binary | (*aggiungi ? std::ios::app : std::ios::trunc));
-    if (!out) return NonRiuscito(lib, "ScriviFile", fmt::format("Impossibile aprire in scrittura il file {}", file->string()));
-    it = aperti.emplace(*file, std::move(out)).first;
+    if (fs::exists(file, ec) && !FileEsiste(file))
+      return NonRiuscito(lib, "ScriviFile", fmt::format("{} non è un file: non viene scritto", file.string()));
+    std::ofstream out(file, std::ios::binary | (aggiungi ? std::ios::app : std::ios::trunc));
+    if (!out) return NonRiuscito(lib, "ScriviFile", fmt::format("Impossibile aprire in scrittura il file {}", file.string()));
+    it = aperti.emplace(file, std::move(out)).first;
   }
-  it->second << vbs::Utf16ToUtf8(*testo) << '\n';
+  it->second << vbs::Utf16ToUtf8(testo) << '\n';
   if (!it->second) {
     aperti.erase(it);
-    return NonRiuscito(lib, "ScriviFile", MotivoChiusura(*file));
+    return NonRiuscito(lib, "ScriviFile", MotivoChiusura(file));
   }
-  if (*chiudi) return ChiudiERiferisci(lib, "ScriviFile", *file);
+  if (chiudi) return ChiudiERiferisci(lib, "ScriviFile", file);
   return Variant::Boolean(true);
 }
 
 Result<Variant> CloseFileHandle(Libreria& lib, CallArgs& args) {
-  auto file = PercorsoArgomento(lib, args, 0);
-  if (!file) return std::move(file).error();
-  return ChiudiERiferisci(lib, "CloseFileHandle", *file);
+  VBS_TRY_ASSIGN(auto file, PercorsoArgomento(lib, args, 0));
+  return ChiudiERiferisci(lib, "CloseFileHandle", file);
 }
 
 Result<Variant> CloseAllFileHandle(Libreria& lib, CallArgs&) {
@@ -180,14 +174,13 @@ std::vector<Variant> Righe(std::u16string_view testo) {
 }
 
 Result<Variant> LeggiRigheFileDiTesto(Libreria& lib, CallArgs& args) {
-  auto file = PercorsoArgomento(lib, args, 0);
-  if (!file) return std::move(file).error();
-  VBS_TRY(lib.Consenti(vbs::FileAccess::Read, *file, "LeggiRigheFileDiTesto"));
-  ScaricaSeAperto(lib, *file);
+  VBS_TRY_ASSIGN(auto file, PercorsoArgomento(lib, args, 0));
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Read, file, "LeggiRigheFileDiTesto"));
+  ScaricaSeAperto(lib, file);
   std::error_code ec;
-  if (!fs::exists(*file, ec))
-    return NonRiuscito(lib, "LeggiRigheFileDiTesto", fmt::format("Il file {} non esiste", file->string()), Variant::Long(0));
-  auto contenuto = LeggiFileRegolare(*file, kLimiteFileTesto);
+  if (!fs::exists(file, ec))
+    return NonRiuscito(lib, "LeggiRigheFileDiTesto", fmt::format("Il file {} non esiste", file.string()), Variant::Long(0));
+  auto contenuto = LeggiFileRegolare(file, kLimiteFileTesto);
   if (!contenuto) return NonRiuscito(lib, "LeggiRigheFileDiTesto", contenuto.Errore().testo, Variant::Long(0));
   std::vector<Variant> righe = Righe(vbs::DecodeScriptFile(*contenuto));
   const auto quante = static_cast<int32_t>(righe.size());
@@ -197,77 +190,69 @@ Result<Variant> LeggiRigheFileDiTesto(Libreria& lib, CallArgs& args) {
 
 template <bool (*Esiste)(const fs::path&)>
 Result<Variant> Esistente(Libreria& lib, CallArgs& args) {
-  auto percorso = PercorsoArgomento(lib, args, 0);
-  if (!percorso) return std::move(percorso).error();
-  return Variant::Boolean(Esiste(*percorso));
+  VBS_TRY_ASSIGN(auto percorso, PercorsoArgomento(lib, args, 0));
+  return Variant::Boolean(Esiste(percorso));
 }
 
 Result<Variant> CreaDirectory(Libreria& lib, CallArgs& args) {
-  auto cartella = PercorsoArgomento(lib, args, 0);
-  if (!cartella) return std::move(cartella).error();
-  VBS_TRY(lib.Consenti(vbs::FileAccess::Write, *cartella, "CreaDirectory"));
+  VBS_TRY_ASSIGN(auto cartella, PercorsoArgomento(lib, args, 0));
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Write, cartella, "CreaDirectory"));
   std::error_code ec;
-  fs::create_directories(*cartella, ec);
-  if (!CartellaEsiste(*cartella))
-    return NonRiuscito(lib, "CreaDirectory", fmt::format("Impossibile creare la cartella {}", cartella->string()));
+  fs::create_directories(cartella, ec);
+  if (!CartellaEsiste(cartella))
+    return NonRiuscito(lib, "CreaDirectory", fmt::format("Impossibile creare la cartella {}", cartella.string()));
   return Variant::Boolean(true);
 }
 
 Result<Variant> CopiaFile(Libreria& lib, CallArgs& args) {
-  auto origine = PercorsoArgomento(lib, args, 0);
-  if (!origine) return std::move(origine).error();
-  auto destinazione = PercorsoArgomento(lib, args, 1);
-  if (!destinazione) return std::move(destinazione).error();
-  auto sovrascrivi = args.Boolean(2, false);
-  if (!sovrascrivi) return std::move(sovrascrivi).error();
-  VBS_TRY(lib.Consenti(vbs::FileAccess::Read, *origine, "CopiaFile"));
-  VBS_TRY(lib.Consenti(vbs::FileAccess::Write, *destinazione, "CopiaFile"));
+  VBS_TRY_ASSIGN(auto origine, PercorsoArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto destinazione, PercorsoArgomento(lib, args, 1));
+  VBS_TRY_ASSIGN(auto sovrascrivi, args.Boolean(2, false));
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Read, origine, "CopiaFile"));
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Write, destinazione, "CopiaFile"));
   std::error_code ec;
-  if (!FileEsiste(*origine))
-    return NonRiuscito(lib, "CopiaFile", fmt::format("Il file {} non esiste", origine->string()));
-  if (fs::exists(*destinazione, ec) && !*sovrascrivi)
+  if (!FileEsiste(origine))
+    return NonRiuscito(lib, "CopiaFile", fmt::format("Il file {} non esiste", origine.string()));
+  if (fs::exists(destinazione, ec) && !sovrascrivi)
     return NonRiuscito(lib, "CopiaFile",
-                       fmt::format("Il file {} esiste già: non viene sovrascritto", destinazione->string()));
-  ScaricaSeAperto(lib, *origine);
-  ChiudiSeAperto(lib, *destinazione);
-  const auto opzioni = *sovrascrivi ? fs::copy_options::overwrite_existing : fs::copy_options::none;
-  if (!fs::copy_file(*origine, *destinazione, opzioni, ec) || ec)
+                       fmt::format("Il file {} esiste già: non viene sovrascritto", destinazione.string()));
+  ScaricaSeAperto(lib, origine);
+  ChiudiSeAperto(lib, destinazione);
+  const auto opzioni = sovrascrivi ? fs::copy_options::overwrite_existing : fs::copy_options::none;
+  if (!fs::copy_file(origine, destinazione, opzioni, ec) || ec)
     return NonRiuscito(lib, "CopiaFile",
-                       fmt::format("Impossibile copiare il file {} in {}", origine->string(), destinazione->string()));
+                       fmt::format("Impossibile copiare il file {} in {}", origine.string(), destinazione.string()));
   return Variant::Boolean(true);
 }
 
 Result<Variant> EliminaFile(Libreria& lib, CallArgs& args) {
-  auto file = PercorsoArgomento(lib, args, 0);
-  if (!file) return std::move(file).error();
-  VBS_TRY(lib.Consenti(vbs::FileAccess::Delete, *file, "EliminaFile"));
+  VBS_TRY_ASSIGN(auto file, PercorsoArgomento(lib, args, 0));
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Delete, file, "EliminaFile"));
   std::error_code ec;
-  if (!FileEsiste(*file))
-    return NonRiuscito(lib, "EliminaFile", fmt::format("Il file {} non esiste", file->string()));
-  ChiudiSeAperto(lib, *file);
-  if (!fs::remove(*file, ec))
-    return NonRiuscito(lib, "EliminaFile", fmt::format("Impossibile eliminare il file {}", file->string()));
+  if (!FileEsiste(file))
+    return NonRiuscito(lib, "EliminaFile", fmt::format("Il file {} non esiste", file.string()));
+  ChiudiSeAperto(lib, file);
+  if (!fs::remove(file, ec))
+    return NonRiuscito(lib, "EliminaFile", fmt::format("Impossibile eliminare il file {}", file.string()));
   return Variant::Boolean(true);
 }
 
 Result<Variant> RinominaFile(Libreria& lib, CallArgs& args) {
-  auto origine = PercorsoArgomento(lib, args, 0);
-  if (!origine) return std::move(origine).error();
-  auto destinazione = PercorsoArgomento(lib, args, 1);
-  if (!destinazione) return std::move(destinazione).error();
-  VBS_TRY(lib.Consenti(vbs::FileAccess::Delete, *origine, "RinominaFile"));
-  VBS_TRY(lib.Consenti(vbs::FileAccess::Write, *destinazione, "RinominaFile"));
+  VBS_TRY_ASSIGN(auto origine, PercorsoArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto destinazione, PercorsoArgomento(lib, args, 1));
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Delete, origine, "RinominaFile"));
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Write, destinazione, "RinominaFile"));
   std::error_code ec;
-  if (!FileEsiste(*origine))
-    return NonRiuscito(lib, "RinominaFile", fmt::format("Il file {} non esiste", origine->string()));
-  if (fs::exists(*destinazione, ec))
+  if (!FileEsiste(origine))
+    return NonRiuscito(lib, "RinominaFile", fmt::format("Il file {} non esiste", origine.string()));
+  if (fs::exists(destinazione, ec))
     return NonRiuscito(lib, "RinominaFile",
-                       fmt::format("Il file {} esiste già: non viene sostituito", destinazione->string()));
-  ChiudiSeAperto(lib, *origine);
-  fs::rename(*origine, *destinazione, ec);
+                       fmt::format("Il file {} esiste già: non viene sostituito", destinazione.string()));
+  ChiudiSeAperto(lib, origine);
+  fs::rename(origine, destinazione, ec);
   if (ec)
     return NonRiuscito(lib, "RinominaFile",
-                       fmt::format("Impossibile rinominare il file {} in {}", origine->string(), destinazione->string()));
+                       fmt::format("Impossibile rinominare il file {} in {}", origine.string(), destinazione.string()));
   return Variant::Boolean(true);
 }
 
@@ -305,24 +290,22 @@ bool CorrispondeAlFiltro(std::u16string_view nome, std::u16string_view filtro) {
 }
 
 Result<Variant> ElencoFileInDirectory(Libreria& lib, CallArgs& args) {
-  auto cartella = PercorsoArgomento(lib, args, 0);
-  if (!cartella) return std::move(cartella).error();
-  auto filtro = args.String(2, u"*.*");
-  if (!filtro) return std::move(filtro).error();
-  VBS_TRY(lib.Consenti(vbs::FileAccess::Read, *cartella, "ElencoFileInDirectory"));
+  VBS_TRY_ASSIGN(auto cartella, PercorsoArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto filtro, args.String(2, u"*.*"));
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Read, cartella, "ElencoFileInDirectory"));
   std::error_code ec;
-  if (!CartellaEsiste(*cartella))
-    return NonRiuscito(lib, "ElencoFileInDirectory", fmt::format("La cartella {} non esiste", cartella->string()),
+  if (!CartellaEsiste(cartella))
+    return NonRiuscito(lib, "ElencoFileInDirectory", fmt::format("La cartella {} non esiste", cartella.string()),
                        Variant::Long(0));
   std::vector<std::u16string> nomi;
-  for (fs::directory_iterator it(*cartella, ec), fine; !ec && it != fine; it.increment(ec)) {
+  for (fs::directory_iterator it(cartella, ec), fine; !ec && it != fine; it.increment(ec)) {
     std::error_code tipo;
     if (!it->is_regular_file(tipo)) continue;
     std::u16string nome = vbs::Utf8ToUtf16(it->path().filename().string());
-    if (CorrispondeAlFiltro(nome, *filtro)) nomi.push_back(std::move(nome));
+    if (CorrispondeAlFiltro(nome, filtro)) nomi.push_back(std::move(nome));
   }
   if (ec)
-    return NonRiuscito(lib, "ElencoFileInDirectory", fmt::format("Impossibile leggere la cartella {}", cartella->string()),
+    return NonRiuscito(lib, "ElencoFileInDirectory", fmt::format("Impossibile leggere la cartella {}", cartella.string()),
                        Variant::Long(0));
   std::sort(nomi.begin(), nomi.end());
   std::vector<Variant> valori;
@@ -356,16 +339,15 @@ bool AvviaApertura(const fs::path& file) {
 }
 
 Result<Variant> LanciaFile(Libreria& lib, CallArgs& args) {
-  auto file = PercorsoArgomento(lib, args, 0);
-  if (!file) return std::move(file).error();
-  VBS_TRY(lib.Consenti(vbs::FileAccess::Launch, *file, "LanciaFile"));
+  VBS_TRY_ASSIGN(auto file, PercorsoArgomento(lib, args, 0));
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Launch, file, "LanciaFile"));
   std::error_code ec;
-  if (!fs::exists(*file, ec)) return NonRiuscito(lib, "LanciaFile", fmt::format("Il file {} non esiste", file->string()));
+  if (!fs::exists(file, ec)) return NonRiuscito(lib, "LanciaFile", fmt::format("Il file {} non esiste", file.string()));
   if (!DesktopDisponibile())
-    return NonRiuscito(lib, "LanciaFile", fmt::format("Nessun desktop su cui aprire il file {}", file->string()));
-  ScaricaSeAperto(lib, *file);
-  if (!AvviaApertura(*file))
-    return NonRiuscito(lib, "LanciaFile", fmt::format("Impossibile aprire il file {} (xdg-open)", file->string()));
+    return NonRiuscito(lib, "LanciaFile", fmt::format("Nessun desktop su cui aprire il file {}", file.string()));
+  ScaricaSeAperto(lib, file);
+  if (!AvviaApertura(file))
+    return NonRiuscito(lib, "LanciaFile", fmt::format("Impossibile aprire il file {} (xdg-open)", file.string()));
   return Variant::Boolean(true);
 }
 
@@ -401,26 +383,20 @@ Result<const std::vector<Estrazione>*> EstrazioniDelFile(Libreria& lib, std::str
 }
 
 Result<Variant> QuantitaEstrazioniInFile(Libreria& lib, CallArgs& args) {
-  auto file = PercorsoArgomento(lib, args, 0);
-  if (!file) return std::move(file).error();
-  auto estrazioni = EstrazioniDelFile(lib, "QuantitaEstrazioniInFile", *file);
-  if (!estrazioni) return std::move(estrazioni).error();
-  return Variant::Long(*estrazioni ? static_cast<int32_t>((*estrazioni)->size()) : 0);
+  VBS_TRY_ASSIGN(auto file, PercorsoArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto estrazioni, EstrazioniDelFile(lib, "QuantitaEstrazioniInFile", file));
+  return Variant::Long(estrazioni ? static_cast<int32_t>((estrazioni)->size()) : 0);
 }
 
 Result<Variant> LeggiEstrazioneDaFile(Libreria& lib, CallArgs& args) {
-  auto file = PercorsoArgomento(lib, args, 0);
-  if (!file) return std::move(file).error();
-  auto indice = args.Long(1);
-  if (!indice) return std::move(indice).error();
-  auto letta = EstrazioniDelFile(lib, "LeggiEstrazioneDaFile", *file);
-  if (!letta) return std::move(letta).error();
-  const auto* estrazioni = *letta;
-  if (!estrazioni || *indice < 1 || static_cast<size_t>(*indice) > estrazioni->size()) return Variant::Boolean(false);
-  const Estrazione& estrazione = (*estrazioni)[static_cast<size_t>(*indice) - 1];
-  auto numeri = ArrayEstrazione(estrazione);
-  if (!numeri) return std::move(numeri).error();
-  args.Out(2) = std::move(*numeri);
+  VBS_TRY_ASSIGN(auto file, PercorsoArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto indice, args.Long(1));
+  VBS_TRY_ASSIGN(auto letta, EstrazioniDelFile(lib, "LeggiEstrazioneDaFile", file));
+  const auto* estrazioni = letta;
+  if (!estrazioni || indice < 1 || static_cast<size_t>(indice) > estrazioni->size()) return Variant::Boolean(false);
+  const Estrazione& estrazione = (*estrazioni)[static_cast<size_t>(indice) - 1];
+  VBS_TRY_ASSIGN(auto numeri, ArrayEstrazione(estrazione));
+  args.Out(2) = std::move(numeri);
   if (args.Has(3)) args.Out(3) = Variant::String(vbs::Utf8ToUtf16(FormattaData(estrazione.data)));
   return Variant::Boolean(true);
 }

@@ -36,86 +36,74 @@ void AggiungiNumero(std::vector<int>& formazione, int numero) {
 }
 
 Result<std::vector<int>> NumeriNonVuoti(const CallArgs& args, size_t i) {
-  auto numeri = NumeriArgomento(args, i);
-  if (!numeri) return std::move(numeri).error();
-  if (numeri->empty()) return ArgomentoNonValido("Nessun numero indicato");
+  VBS_TRY_ASSIGN(auto numeri, NumeriArgomento(args, i));
+  if (numeri.empty()) return ArgomentoNonValido("Nessun numero indicato");
   return numeri;
 }
 
 // Argument i as the index of a formation built in this run.
 Result<std::vector<int>*> FormazioneArgomento(Libreria& lib, const CallArgs& args, size_t i) {
-  auto indice = args.Long(i);
-  if (!indice) return std::move(indice).error();
+  VBS_TRY_ASSIGN(auto indice, args.Long(i));
   auto& formazioni = Formazioni(lib);
-  if (*indice < 1 || static_cast<size_t>(*indice) > formazioni.size()) {
+  if (indice < 1 || static_cast<size_t>(indice) > formazioni.size()) {
     return ArgomentoNonValido(
-        fmt::format("Formazione inesistente: {} (le formazioni vanno da 1 a {})", *indice, formazioni.size()));
+        fmt::format("Formazione inesistente: {} (le formazioni vanno da 1 a {})", indice, formazioni.size()));
   }
-  return &formazioni[static_cast<size_t>(*indice - 1)];
+  return &formazioni[static_cast<size_t>(indice - 1)];
 }
 
 Variant IndiceUltima(Libreria& lib) { return Variant::Long(static_cast<int32_t>(Formazioni(lib).size())); }
 
 // A new formation for index 0; otherwise the number joins formation IdFormazione.
 Result<Variant> AddItemFormazione(Libreria& lib, CallArgs& args) {
-  auto indice = args.Long(0);
-  if (!indice) return std::move(indice).error();
-  auto numero = args.Double(1);
-  if (!numero) return std::move(numero).error();
-  if (*indice == 0) {
-    Formazioni(lib).push_back({stats::Fuori90(*numero)});
+  VBS_TRY_ASSIGN(auto indice, args.Long(0));
+  VBS_TRY_ASSIGN(auto numero, args.Double(1));
+  if (indice == 0) {
+    Formazioni(lib).push_back({stats::Fuori90(numero)});
     return IndiceUltima(lib);
   }
-  auto formazione = FormazioneArgomento(lib, args, 0);
-  if (!formazione) return std::move(formazione).error();
-  AggiungiNumero(**formazione, stats::Fuori90(*numero));
-  return Variant::Long(*indice);
+  VBS_TRY_ASSIGN(auto formazione, FormazioneArgomento(lib, args, 0));
+  AggiungiNumero(*formazione, stats::Fuori90(numero));
+  return Variant::Long(indice);
 }
 
 Result<Variant> AddItemFormazioneMultipla(Libreria& lib, CallArgs& args) {
-  auto numeri = NumeriNonVuoti(args, 0);
-  if (!numeri) return std::move(numeri).error();
+  VBS_TRY_ASSIGN(auto numeri, NumeriNonVuoti(args, 0));
   std::vector<int> formazione;
-  for (int numero : *numeri) AggiungiNumero(formazione, numero);
+  for (int numero : numeri) AggiungiNumero(formazione, numero);
   Formazioni(lib).push_back(std::move(formazione));
   return IndiceUltima(lib);
 }
 
 Result<Variant> AddNumeriToGruppoStatistico(Libreria& lib, CallArgs& args) {
-  auto numeri = NumeriNonVuoti(args, 0);
-  if (!numeri) return std::move(numeri).error();
-  for (int numero : *numeri) Formazioni(lib).push_back({numero});
+  VBS_TRY_ASSIGN(auto numeri, NumeriNonVuoti(args, 0));
+  for (int numero : numeri) Formazioni(lib).push_back({numero});
   return IndiceUltima(lib);
 }
 
 Result<Variant> GetItemFormazione(Libreria& lib, CallArgs& args) {
-  auto formazione = FormazioneArgomento(lib, args, 0);
-  if (!formazione) return std::move(formazione).error();
-  auto posto = args.Long(1);
-  if (!posto) return std::move(posto).error();
-  const std::vector<int>& numeri = **formazione;
-  if (*posto < 1 || static_cast<size_t>(*posto) > numeri.size()) {
-    return ArgomentoNonValido(fmt::format("Elemento inesistente: {} (la formazione ne ha {})", *posto, numeri.size()));
+  VBS_TRY_ASSIGN(auto formazione, FormazioneArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto posto, args.Long(1));
+  const std::vector<int>& numeri = *formazione;
+  if (posto < 1 || static_cast<size_t>(posto) > numeri.size()) {
+    return ArgomentoNonValido(fmt::format("Elemento inesistente: {} (la formazione ne ha {})", posto, numeri.size()));
   }
-  return Variant::Integer(static_cast<int16_t>(numeri[static_cast<size_t>(*posto - 1)]));
+  return Variant::Integer(static_cast<int16_t>(numeri[static_cast<size_t>(posto - 1)]));
 }
 
 Result<Variant> GetElementiFormazione(Libreria& lib, CallArgs& args) {
-  auto formazione = FormazioneArgomento(lib, args, 0);
-  if (!formazione) return std::move(formazione).error();
-  return ArrayDaUno(**formazione);
+  VBS_TRY_ASSIGN(auto formazione, FormazioneArgomento(lib, args, 0));
+  return ArrayDaUno(*formazione);
 }
 
 Result<Variant> GetQElemFormazione(Libreria& lib, CallArgs& args) {
-  auto formazione = FormazioneArgomento(lib, args, 0);
-  if (!formazione) return std::move(formazione).error();
-  return Variant::Long(static_cast<int32_t>((*formazione)->size()));
+  VBS_TRY_ASSIGN(auto formazione, FormazioneArgomento(lib, args, 0));
+  return Variant::Long(static_cast<int32_t>((formazione)->size()));
 }
 
 Result<Variant> GetClasseFormazione(Libreria& lib, CallArgs& args) {
-  auto formazione = FormazioneArgomento(lib, args, 0);
-  if (!formazione) return std::move(formazione).error();
-  return Variant::Integer(static_cast<int16_t>(std::min<size_t>((*formazione)->size(), kNumeriPerRuota)));
+  VBS_TRY_ASSIGN(auto formazione, FormazioneArgomento(lib, args, 0));
+  return Variant::Integer(static_cast<int16_t>(std::min<size_t>((formazione)->size(), kNumeriPerRuota)));
 }
 
 // ---- Statistics of a formation played as a whole ----
@@ -130,16 +118,13 @@ struct Gioco {
 // The wheels at i, the sorte after them and the range at i_inizio, i_inizio + 1.
 Result<Gioco> GiocoArgomenti(const TabellaEstrazioni& tab, const CallArgs& args, size_t i, size_t i_inizio) {
   Gioco gioco;
-  auto ruote = RuoteGiocate(args, i);
-  if (!ruote) return std::move(ruote).error();
-  gioco.ruote = std::move(*ruote);
-  auto sorte = SorteArgomento(args, i + 1);
-  if (!sorte) return std::move(sorte).error();
-  gioco.sorte = *sorte;
-  auto intervallo = IntervalloArgomento(tab, args, i_inizio, i_inizio + 1);
-  if (!intervallo) return std::move(intervallo).error();
-  gioco.inizio = intervallo->inizio;
-  gioco.fine = intervallo->fine;
+  VBS_TRY_ASSIGN(auto ruote, RuoteGiocate(args, i));
+  gioco.ruote = std::move(ruote);
+  VBS_TRY_ASSIGN(auto sorte, SorteArgomento(args, i + 1));
+  gioco.sorte = sorte;
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloArgomento(tab, args, i_inizio, i_inizio + 1));
+  gioco.inizio = intervallo.inizio;
+  gioco.fine = intervallo.fine;
   return gioco;
 }
 
@@ -156,13 +141,10 @@ stats::StatisticaNumero StatisticaDi(Libreria& lib, const TabellaEstrazioni& tab
 
 template <bool kTurbo>
 Result<Variant> StatisticaFormazione(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto numeri = NumeriNonVuoti(args, 0);
-  if (!numeri) return std::move(numeri).error();
-  auto gioco = GiocoArgomenti(**archivio, args, 1, 7);
-  if (!gioco) return std::move(gioco).error();
-  const stats::StatisticaNumero statistica = StatisticaDi<kTurbo>(lib, **archivio, *numeri, *gioco);
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto numeri, NumeriNonVuoti(args, 0));
+  VBS_TRY_ASSIGN(auto gioco, GiocoArgomenti(*archivio, args, 1, 7));
+  const stats::StatisticaNumero statistica = StatisticaDi<kTurbo>(lib, *archivio, numeri, gioco);
   args.Out(3) = Variant::Long(statistica.ritardo);
   args.Out(4) = Variant::Long(statistica.storico);
   args.Out(5) = Variant::Long(statistica.incr_storico);
@@ -178,16 +160,14 @@ std::string NumeriInTesto(const std::vector<int>& numeri) {
 
 template <bool kTurbo>
 Result<Variant> StatisticaGruppoFormazioni(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto gioco = GiocoArgomenti(**archivio, args, 0, 2);
-  if (!gioco) return std::move(gioco).error();
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto gioco, GiocoArgomenti(*archivio, args, 0, 2));
   const auto& formazioni = Formazioni(lib);
   if (formazioni.empty()) return ArgomentoNonValido("Nessuna formazione nel gruppo statistico");
   constexpr std::string_view kRiga = "{:>10} {:>8} {:>8} {:>8} {:>8}  {}\n";
   lib.Scrivi(fmt::format(kRiga, "Formazione", "Rit", "RitMax", "IncrMax", "Freq", "Numeri"), lib.colore_testo(), true);
   for (size_t i = 0; i < formazioni.size(); ++i) {
-    const stats::StatisticaNumero s = StatisticaDi<kTurbo>(lib, **archivio, formazioni[i], *gioco);
+    const stats::StatisticaNumero s = StatisticaDi<kTurbo>(lib, *archivio, formazioni[i], gioco);
     lib.Scrivi(fmt::format(kRiga, i + 1, s.ritardo, s.storico, s.incr_storico, s.frequenza, NumeriInTesto(formazioni[i])),
                lib.colore_testo(), false);
   }

@@ -185,9 +185,8 @@ Result<Variant> Matrice(const Sviluppo& sviluppo, std::span<const int64_t> scelt
                         int classe) {
   const int32_t righe = static_cast<int32_t>(scelti.size());
   const vbs::ArrayBound limiti[] = {{1, righe}, {1, classe + 1}};
-  auto array = vbs::SafeArray::Create(limiti);
-  if (!array) return std::move(array).error();
-  auto elementi = (*array)->elements();
+  VBS_TRY_ASSIGN(auto array, vbs::SafeArray::Create(limiti));
+  auto elementi = (array)->elements();
   // The first index varies fastest in storage.
   const auto elemento = [&](int32_t riga, int colonna) -> Variant& {
     return elementi[static_cast<size_t>(riga + colonna * righe)];
@@ -199,50 +198,41 @@ Result<Variant> Matrice(const Sviluppo& sviluppo, std::span<const int64_t> scelt
       elemento(riga, colonna) = Variant::Long(numeri[static_cast<size_t>(colonna)]);
     elemento(riga, classe) = Variant::Long(ritardi[static_cast<size_t>(indice)]);
   }
-  return Variant::Array(std::move(*array));
+  return Variant::Array(std::move(array));
 }
 
 Result<Variant> GetLunghettePiuRitardate(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto numeri = NumeriArgomento(args, 0);
-  if (!numeri) return std::move(numeri).error();
-  if (numeri->empty()) return ArgomentoNonValido("Nessun numero indicato");
-  std::sort(numeri->begin(), numeri->end());
-  numeri->erase(std::unique(numeri->begin(), numeri->end()), numeri->end());
-  auto classe = InteroTra(args, 1, 1, static_cast<int>(numeri->size()), "Classe");
-  if (!classe) return std::move(classe).error();
-  const Sviluppo sviluppo(std::move(*numeri), *classe);
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto numeri, NumeriArgomento(args, 0));
+  if (numeri.empty()) return ArgomentoNonValido("Nessun numero indicato");
+  std::sort(numeri.begin(), numeri.end());
+  numeri.erase(std::unique(numeri.begin(), numeri.end()), numeri.end());
+  VBS_TRY_ASSIGN(auto classe, InteroTra(args, 1, 1, static_cast<int>(numeri.size()), "Classe"));
+  const Sviluppo sviluppo(std::move(numeri), classe);
   if (sviluppo.Gruppi() > kMassimoLunghette) {
     return ArgomentoNonValido(fmt::format("Troppe lunghette: {} numeri in classe {} superano 1.000.000 combinazioni",
-                                          sviluppo.Numeri(), *classe));
+                                          sviluppo.Numeri(), classe));
   }
-  auto ruote = RuoteGiocate(args, 2);
-  if (!ruote) return std::move(ruote).error();
-  auto sorte = SorteArgomento(args, 3);
-  if (!sorte) return std::move(sorte).error();
-  if (*sorte > *classe)
-    return ArgomentoNonValido(fmt::format("La sorte {} supera la classe {} delle lunghette", *sorte, *classe));
-  auto quante = args.Long(4);
-  if (!quante) return std::move(quante).error();
-  if (*quante < 1) return ArgomentoNonValido(fmt::format("Quante non valida: {} (almeno 1)", *quante));
-  auto intervallo = IntervalloArgomento(**archivio, args, std::nullopt, 6);
-  if (!intervallo) return std::move(intervallo).error();
+  VBS_TRY_ASSIGN(auto ruote, RuoteGiocate(args, 2));
+  VBS_TRY_ASSIGN(auto sorte, SorteArgomento(args, 3));
+  if (sorte > classe)
+    return ArgomentoNonValido(fmt::format("La sorte {} supera la classe {} delle lunghette", sorte, classe));
+  VBS_TRY_ASSIGN(auto quante, args.Long(4));
+  if (quante < 1) return ArgomentoNonValido(fmt::format("Quante non valida: {} (almeno 1)", quante));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloArgomento(*archivio, args, std::nullopt, 6));
 
-  auto calcolati = RitardiGruppi(lib, **archivio, sviluppo, RuoteSingole(*ruote), *sorte, intervallo->fine);
-  if (!calcolati) return std::move(calcolati).error();
-  const std::vector<int>& ritardi = *calcolati;
+  VBS_TRY_ASSIGN(auto calcolati, RitardiGruppi(lib, *archivio, sviluppo, RuoteSingole(ruote), sorte, intervallo.fine));
+  const std::vector<int>& ritardi = calcolati;
   std::vector<int64_t> ordine(ritardi.size());
   std::iota(ordine.begin(), ordine.end(), 0);
-  const auto righe = static_cast<ptrdiff_t>(std::min<int64_t>(*quante, sviluppo.Gruppi()));
+  const auto righe = static_cast<ptrdiff_t>(std::min<int64_t>(quante, sviluppo.Gruppi()));
   std::partial_sort(ordine.begin(), ordine.begin() + righe, ordine.end(), [&](int64_t a, int64_t b) {
     const int ra = ritardi[static_cast<size_t>(a)];
     const int rb = ritardi[static_cast<size_t>(b)];
     return ra != rb ? ra > rb : a > b;
   });
-  auto matrice = Matrice(sviluppo, std::span(ordine).first(static_cast<size_t>(righe)), ritardi, *classe);
-  if (!matrice) return std::move(matrice).error();
-  args.Out(5) = std::move(*matrice);
+  VBS_TRY_ASSIGN(auto matrice, Matrice(sviluppo, std::span(ordine).first(static_cast<size_t>(righe)), ritardi, classe));
+  args.Out(5) = std::move(matrice);
   return Variant::Long(static_cast<int32_t>(righe));
 }
 

@@ -17,56 +17,47 @@ struct StatoOutput {
 // The text of an argument as the script would print it (numbers in the engine's locale); an omitted
 // argument is empty.
 Result<std::string> Testo(const CallArgs& args, size_t i) {
-  auto testo = args.String(i, u"");
-  if (!testo) return std::move(testo).error();
-  return vbs::Utf16ToUtf8(*testo);
+  VBS_TRY_ASSIGN(auto testo, args.String(i, u""));
+  return vbs::Utf16ToUtf8(testo);
 }
 
 Result<Variant> ScriviTesto(Libreria& lib, CallArgs& args, size_t i_testo, size_t i_grassetto, size_t i_a_capo,
                             int16_t colore) {
-  auto testo = Testo(args, i_testo);
-  if (!testo) return std::move(testo).error();
-  auto grassetto = args.Boolean(i_grassetto, false);
-  if (!grassetto) return std::move(grassetto).error();
-  auto a_capo = args.Boolean(i_a_capo, lib.Stato<StatoOutput>().a_capo);
-  if (!a_capo) return std::move(a_capo).error();
-  if (*a_capo) *testo += '\n';
-  lib.Scrivi(std::move(*testo), colore, *grassetto);
+  VBS_TRY_ASSIGN(auto testo, Testo(args, i_testo));
+  VBS_TRY_ASSIGN(auto grassetto, args.Boolean(i_grassetto, false));
+  VBS_TRY_ASSIGN(auto a_capo, args.Boolean(i_a_capo, lib.Stato<StatoOutput>().a_capo));
+  if (a_capo) testo += '\n';
+  lib.Scrivi(std::move(testo), colore, grassetto);
   return Variant();
 }
 
 // Scrivi [Testo], [Grassetto], [ACapo], [ColoreSfondo], [ColoreTesto], [Dimensione]
 Result<Variant> Scrivi(Libreria& lib, CallArgs& args) {
-  auto colore = args.Has(4) ? args.Integer(4) : Result<int16_t>(lib.colore_testo());
-  if (!colore) return std::move(colore).error();
-  return ScriviTesto(lib, args, 0, 1, 2, *colore);
+  VBS_TRY_ASSIGN(auto colore, args.Has(4) ? args.Integer(4) : Result<int16_t>(lib.colore_testo()));
+  return ScriviTesto(lib, args, 0, 1, 2, colore);
 }
 
 // ScriviConColori Testo, ColoreTesto, [Grassetto], [ACapo]
 Result<Variant> ScriviConColori(Libreria& lib, CallArgs& args) {
-  auto colore = args.Integer(1);
-  if (!colore) return std::move(colore).error();
-  return ScriviTesto(lib, args, 0, 2, 3, *colore);
+  VBS_TRY_ASSIGN(auto colore, args.Integer(1));
+  return ScriviTesto(lib, args, 0, 2, 3, colore);
 }
 
 Result<Variant> ColoreTesto(Libreria& lib, CallArgs& args) {
-  auto colore = args.Integer(0);
-  if (!colore) return std::move(colore).error();
-  lib.colore_testo() = *colore;
+  VBS_TRY_ASSIGN(auto colore, args.Integer(0));
+  lib.colore_testo() = colore;
   return Variant();
 }
 
 Result<Variant> SetComportamentoACapo(Libreria& lib, CallArgs& args) {
-  auto a_capo = args.Boolean(0);
-  if (!a_capo) return std::move(a_capo).error();
-  lib.Stato<StatoOutput>().a_capo = *a_capo;
+  VBS_TRY_ASSIGN(auto a_capo, args.Boolean(0));
+  lib.Stato<StatoOutput>().a_capo = a_capo;
   return Variant();
 }
 
 Result<Variant> Messaggio(Libreria& lib, CallArgs& args) {
-  auto testo = Testo(args, 0);
-  if (!testo) return std::move(testo).error();
-  lib.ospite().Messaggio(*testo);
+  VBS_TRY_ASSIGN(auto testo, Testo(args, 0));
+  lib.ospite().Messaggio(testo);
   return Variant();
 }
 

@@ -22,15 +22,13 @@ Variant Ritardo(const Misura& m) {
 }
 
 Result<Variant> RitardoCombinazione(Libreria& lib, CallArgs& args) {
-  auto misura = MisuraGruppo(lib, args, {.inizio = 5, .fine = 3, .posizioni = 4});
-  if (!misura) return std::move(misura).error();
-  return Ritardo(*misura);
+  VBS_TRY_ASSIGN(auto misura, MisuraGruppo(lib, args, {.inizio = 5, .fine = 3, .posizioni = 4}));
+  return Ritardo(misura);
 }
 
 Result<Variant> RitardoSuRuota(Libreria& lib, CallArgs& args, int quanti_numeri) {
-  auto misura = MisuraSuRuota(lib, args, quanti_numeri, PostiDopoINumeri(quanti_numeri));
-  if (!misura) return std::move(misura).error();
-  return Ritardo(*misura);
+  VBS_TRY_ASSIGN(auto misura, MisuraSuRuota(lib, args, quanti_numeri, PostiDopoINumeri(quanti_numeri)));
+  return Ritardo(misura);
 }
 
 Result<Variant> EstrattoRitardo(Libreria& lib, CallArgs& args) { return RitardoSuRuota(lib, args, 1); }
@@ -39,29 +37,27 @@ Result<Variant> AmboRitardo(Libreria& lib, CallArgs& args) { return RitardoSuRuo
 
 // Level 1 is the plain delay; each level above asks for one more wheel winning in the same draw.
 Result<Variant> RitSincDiLiv(Libreria& lib, CallArgs& args) {
-  auto misura = MisuraGruppo(lib, args, {.inizio = 4, .fine = 5, .posizioni = std::nullopt});
-  if (!misura) return std::move(misura).error();
-  const std::vector<int> ruote = RuoteSingole(misura->giocata.ruote);
+  VBS_TRY_ASSIGN(auto misura, MisuraGruppo(lib, args, {.inizio = 4, .fine = 5, .posizioni = std::nullopt}));
+  const std::vector<int> ruote = RuoteSingole(misura.giocata.ruote);
   const int quante_ruote = static_cast<int>(ruote.size());
-  auto livello = args.Long(3);
-  if (!livello) return std::move(livello).error();
-  if (*livello < 1 || *livello > quante_ruote) {
+  VBS_TRY_ASSIGN(auto livello, args.Long(3));
+  if (livello < 1 || livello > quante_ruote) {
     return ArgomentoNonValido(
-        fmt::format("Livello non valido: {} (da 1 a {}, quante sono le ruote giocate)", *livello, quante_ruote));
+        fmt::format("Livello non valido: {} (da 1 a {}, quante sono le ruote giocate)", livello, quante_ruote));
   }
   // A flag for every value a byte of a draw can hold, so that a damaged record reads no further.
   std::array<bool, 256> giocato{};
-  for (int numero : misura->giocata.numeri) giocato[static_cast<size_t>(numero)] = true;
-  const int sorte = misura->giocata.sorte;
+  for (int numero : misura.giocata.numeri) giocato[static_cast<size_t>(numero)] = true;
+  const int sorte = misura.giocata.sorte;
   const auto vince = [&](const Estrazione& estrazione) {
     const int vincenti = static_cast<int>(std::count_if(ruote.begin(), ruote.end(), [&](int ruota) {
       int colpi = 0;
       for (int p = 1; p <= kNumeriPerRuota; ++p) colpi += giocato[estrazione.Numero(ruota, p)] ? 1 : 0;
       return colpi >= sorte;
     }));
-    return vincenti >= *livello;
+    return vincenti >= livello;
   };
-  return Variant::Long(RitardoConRegola(*misura->tab, ruote, misura->inizio, misura->fine, vince));
+  return Variant::Long(RitardoConRegola(*misura.tab, ruote, misura.inizio, misura.fine, vince));
 }
 
 const Libreria::Funzione kRitardi[] = {

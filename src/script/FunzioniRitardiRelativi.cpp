@@ -62,37 +62,32 @@ TabellaEstrazioni EstrazioniVincenti(const TabellaEstrazioni& tab, const GruppoR
 
 Result<GruppoRelativo> GruppoArgomenti(const TabellaEstrazioni& tab, const CallArgs& args) {
   GruppoRelativo gruppo;
-  auto ruote = RuoteGiocate(args, 0);
-  if (!ruote) return std::move(ruote).error();
-  gruppo.ruote = std::move(*ruote);
-  auto numeri = NumeriArgomento(args, 1);
-  if (!numeri) return std::move(numeri).error();
-  std::sort(numeri->begin(), numeri->end());
-  numeri->erase(std::unique(numeri->begin(), numeri->end()), numeri->end());
-  gruppo.numeri = std::move(*numeri);
-  auto sorte = SorteArgomento(args, 2);
-  if (!sorte) return std::move(sorte).error();
-  gruppo.sorte = *sorte;
+  VBS_TRY_ASSIGN(auto ruote, RuoteGiocate(args, 0));
+  gruppo.ruote = std::move(ruote);
+  VBS_TRY_ASSIGN(auto numeri, NumeriArgomento(args, 1));
+  std::sort(numeri.begin(), numeri.end());
+  numeri.erase(std::unique(numeri.begin(), numeri.end()), numeri.end());
+  gruppo.numeri = std::move(numeri);
+  VBS_TRY_ASSIGN(auto sorte, SorteArgomento(args, 2));
+  gruppo.sorte = sorte;
   if (static_cast<int>(gruppo.numeri.size()) < gruppo.sorte) {
     return ArgomentoNonValido(
         fmt::format("Il gruppo ha {} numeri diversi, meno della sorte {}", gruppo.numeri.size(), gruppo.sorte));
   }
-  auto intervallo = IntervalloArgomento(tab, args, 3, 4);
-  if (!intervallo) return std::move(intervallo).error();
-  gruppo.eventi = EstrazioniVincenti(tab, gruppo, *intervallo);
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloArgomento(tab, args, 3, 4));
+  gruppo.eventi = EstrazioniVincenti(tab, gruppo, intervallo);
   return gruppo;
 }
 
 // The combination of argument 0: exactly Sorte different numbers of the group, sorted.
 Result<std::vector<int>> CombinazioneArgomento(const CallArgs& args, const GruppoRelativo& gruppo) {
-  auto numeri = NumeriArgomento(args, 0);
-  if (!numeri) return std::move(numeri).error();
-  std::sort(numeri->begin(), numeri->end());
-  const bool diversi = std::adjacent_find(numeri->begin(), numeri->end()) == numeri->end();
-  if (static_cast<int>(numeri->size()) != gruppo.sorte || !diversi) {
+  VBS_TRY_ASSIGN(auto numeri, NumeriArgomento(args, 0));
+  std::sort(numeri.begin(), numeri.end());
+  const bool diversi = std::adjacent_find(numeri.begin(), numeri.end()) == numeri.end();
+  if (static_cast<int>(numeri.size()) != gruppo.sorte || !diversi) {
     return ArgomentoNonValido(fmt::format("La combinazione deve avere {} numeri diversi", gruppo.sorte));
   }
-  for (int numero : *numeri) {
+  for (int numero : numeri) {
     if (!std::binary_search(gruppo.numeri.begin(), gruppo.numeri.end(), numero))
       return ArgomentoNonValido(fmt::format("Il numero {} non fa parte del gruppo", numero));
   }
@@ -104,12 +99,10 @@ vbs::ScriptError GruppoNonPreparato(std::string_view init) {
 }
 
 Result<Variant> InitCalcoloRitRel(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto gruppo = GruppoArgomenti(**archivio, args);
-  if (!gruppo) return std::move(gruppo).error();
-  const int eventi = gruppo->eventi.EstrazioniArchivio();
-  lib.Stato<StatoRitardiRelativi>().semplice = std::move(*gruppo);
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto gruppo, GruppoArgomenti(*archivio, args));
+  const int eventi = gruppo.eventi.EstrazioniArchivio();
+  lib.Stato<StatoRitardiRelativi>().semplice = std::move(gruppo);
   return Variant::Long(eventi);
 }
 
@@ -118,9 +111,8 @@ template <int (*Statistica)(const TabellaEstrazioni&, std::span<const int>, std:
 Result<Variant> RitardoRelativo(Libreria& lib, CallArgs& args) {
   const auto& gruppo = lib.Stato<StatoRitardiRelativi>().semplice;
   if (!gruppo) return GruppoNonPreparato("InitCalcoloRitRel");
-  auto combinazione = CombinazioneArgomento(args, *gruppo);
-  if (!combinazione) return std::move(combinazione).error();
-  return Variant::Long(Statistica(gruppo->eventi, gruppo->ruote, *combinazione, gruppo->sorte,
+  VBS_TRY_ASSIGN(auto combinazione, CombinazioneArgomento(args, *gruppo));
+  return Variant::Long(Statistica(gruppo->eventi, gruppo->ruote, combinazione, gruppo->sorte,
                                   gruppo->eventi.EstrazioniArchivio(), stats::kTuttePosizioni, 1));
 }
 
@@ -217,17 +209,15 @@ TabellaRelativa CalcolaTabellaRelativa(GruppoRelativo gruppo, int64_t combinazio
 }
 
 Result<Variant> InitCalcoloRitRelTurbo(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto gruppo = GruppoArgomenti(**archivio, args);
-  if (!gruppo) return std::move(gruppo).error();
-  const int64_t combinazioni = Combinazioni(static_cast<int>(gruppo->numeri.size()), gruppo->sorte);
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto gruppo, GruppoArgomenti(*archivio, args));
+  const int64_t combinazioni = Combinazioni(static_cast<int>(gruppo.numeri.size()), gruppo.sorte);
   if (combinazioni > kMassimoCombinazioniTurbo) {
     return ArgomentoNonValido(
         fmt::format("Troppe combinazioni per la tabella Turbo (al massimo {})", kMassimoCombinazioniTurbo));
   }
-  const int eventi = gruppo->eventi.EstrazioniArchivio();
-  lib.Stato<StatoRitardiRelativi>().turbo = CalcolaTabellaRelativa(std::move(*gruppo), combinazioni);
+  const int eventi = gruppo.eventi.EstrazioniArchivio();
+  lib.Stato<StatoRitardiRelativi>().turbo = CalcolaTabellaRelativa(std::move(gruppo), combinazioni);
   return Variant::Long(eventi);
 }
 
@@ -236,10 +226,9 @@ Result<Variant> RitardoRelativoTurbo(Libreria& lib, CallArgs& args) {
   const auto& tabella = lib.Stato<StatoRitardiRelativi>().turbo;
   if (!tabella) return GruppoNonPreparato("InitCalcoloRitRelTurbo");
   const std::vector<int>& numeri = tabella->gruppo.numeri;
-  auto combinazione = CombinazioneArgomento(args, tabella->gruppo);
-  if (!combinazione) return std::move(combinazione).error();
+  VBS_TRY_ASSIGN(auto combinazione, CombinazioneArgomento(args, tabella->gruppo));
   std::vector<int> posti;
-  for (int numero : *combinazione)
+  for (int numero : combinazione)
     posti.push_back(static_cast<int>(std::lower_bound(numeri.begin(), numeri.end(), numero) - numeri.begin()));
   return Variant::Long(((*tabella).*Figura)[static_cast<size_t>(CombinazioneIndice(posti))]);
 }

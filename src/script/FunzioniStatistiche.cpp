@@ -56,10 +56,9 @@ StatisticaNumero StatisticaGruppo(Libreria& lib, const Misura& m, Calcolo calcol
 // Ruota and kNumeri numbers, [Inizio], [Fine], [aPosizioni]: one figure.
 template <int kNumeri, Figura kFigura, Calcolo kCalcolo>
 Result<Variant> FiguraSuRuota(Libreria& lib, CallArgs& args) {
-  auto misura = MisuraSuRuota(lib, args, kNumeri, PostiDopoINumeri(kNumeri));
-  if (!misura) return std::move(misura).error();
-  if (kFigura == kRitardo) return Variant::Long(RitardoGruppo(lib, *misura, kCalcolo));
-  return Variant::Long(StatisticaGruppo(lib, *misura, kCalcolo).*kFigura);
+  VBS_TRY_ASSIGN(auto misura, MisuraSuRuota(lib, args, kNumeri, PostiDopoINumeri(kNumeri)));
+  if (kFigura == kRitardo) return Variant::Long(RitardoGruppo(lib, misura, kCalcolo));
+  return Variant::Long(StatisticaGruppo(lib, misura, kCalcolo).*kFigura);
 }
 
 // The four figures into the variables RetRit, RetRitMax, RetIncrRitMax, RetFreq from argument i on.
@@ -74,17 +73,15 @@ void RestituisciFigure(CallArgs& args, size_t i, const StatisticaNumero& dati) {
 template <int kNumeri, Calcolo kCalcolo>
 Result<Variant> StatSuRuota(Libreria& lib, CallArgs& args) {
   constexpr size_t kInizio = kNumeri + 1;
-  auto misura = MisuraSuRuota(lib, args, kNumeri, {.inizio = kInizio, .fine = kInizio + 1, .posizioni = {}});
-  if (!misura) return std::move(misura).error();
-  RestituisciFigure(args, kInizio + 2, StatisticaGruppo(lib, *misura, kCalcolo));
+  VBS_TRY_ASSIGN(auto misura, MisuraSuRuota(lib, args, kNumeri, {.inizio = kInizio, .fine = kInizio + 1, .posizioni = {}}));
+  RestituisciFigure(args, kInizio + 2, StatisticaGruppo(lib, misura, kCalcolo));
   return Variant();
 }
 
 // aRuote, aNumeri, Sorte, [Inizio], [Fine], then the four variables that receive the figures.
 Result<Variant> StatFrzTurbo(Libreria& lib, CallArgs& args) {
-  auto misura = MisuraGruppo(lib, args, {.inizio = 3, .fine = 4, .posizioni = {}});
-  if (!misura) return std::move(misura).error();
-  RestituisciFigure(args, 5, StatisticaGruppo(lib, *misura, Calcolo::kTurbo));
+  VBS_TRY_ASSIGN(auto misura, MisuraGruppo(lib, args, {.inizio = 3, .fine = 4, .posizioni = {}}));
+  RestituisciFigure(args, 5, StatisticaGruppo(lib, misura, Calcolo::kTurbo));
   return Variant();
 }
 
@@ -93,22 +90,19 @@ constexpr PostiFacoltativi kPostiSerie{.inizio = 3, .fine = 4, .posizioni = 5};
 // aRuote, aNumeri, Sorte, [Inizio], [Fine], [aPosizioni]: one figure of the group.
 template <Figura kFigura, Calcolo kCalcolo>
 Result<Variant> FiguraSerie(Libreria& lib, CallArgs& args) {
-  auto misura = MisuraGruppo(lib, args, kPostiSerie);
-  if (!misura) return std::move(misura).error();
-  return Variant::Long(StatisticaGruppo(lib, *misura, kCalcolo).*kFigura);
+  VBS_TRY_ASSIGN(auto misura, MisuraGruppo(lib, args, kPostiSerie));
+  return Variant::Long(StatisticaGruppo(lib, misura, kCalcolo).*kFigura);
 }
 
 template <Calcolo kCalcolo>
 Result<Variant> SerieRitardo(Libreria& lib, CallArgs& args) {
-  auto misura = MisuraGruppo(lib, args, kPostiSerie);
-  if (!misura) return std::move(misura).error();
-  return Variant::Long(RitardoGruppo(lib, *misura, kCalcolo));
+  VBS_TRY_ASSIGN(auto misura, MisuraGruppo(lib, args, kPostiSerie));
+  return Variant::Long(RitardoGruppo(lib, misura, kCalcolo));
 }
 
 Result<Variant> RitardoCombinazioneTurbo(Libreria& lib, CallArgs& args) {
-  auto misura = MisuraGruppo(lib, args, {.inizio = 5, .fine = 3, .posizioni = 4});
-  if (!misura) return std::move(misura).error();
-  return Variant::Long(RitardoGruppo(lib, *misura, Calcolo::kTurbo));
+  VBS_TRY_ASSIGN(auto misura, MisuraGruppo(lib, args, {.inizio = 5, .fine = 3, .posizioni = 4}));
+  return Variant::Long(RitardoGruppo(lib, misura, Calcolo::kTurbo));
 }
 
 // The draw at element i of a series over Inizio..Fine; 0 for no element.
@@ -118,9 +112,8 @@ using Serie = std::vector<int> (*)(const TabellaEstrazioni&, std::span<const int
 
 template <Serie kSerie, Scelta kScelta>
 Result<Variant> EstrazioneDellaSerie(Libreria& lib, CallArgs& args) {
-  auto misura = MisuraGruppo(lib, args, kPostiSerie);
-  if (!misura) return std::move(misura).error();
-  const Misura& m = *misura;
+  VBS_TRY_ASSIGN(auto misura, MisuraGruppo(lib, args, kPostiSerie));
+  const Misura& m = misura;
   const std::vector<int> serie =
       kSerie(*m.tab, m.giocata.ruote, m.giocata.numeri, m.giocata.sorte, m.fine, m.posizioni, m.inizio);
   const std::optional<size_t> elemento = kScelta(serie);

@@ -42,40 +42,35 @@ Result<TabellaOutput*> TabellaIniziata(Libreria& lib) {
 }
 
 Result<std::string> TestoCella(const Variant& valore, const vbs::Locale& locale) {
-  auto testo = valore.to_string(locale);
-  if (!testo) return std::move(testo).error();
-  return vbs::Utf16ToUtf8(testo->view());
+  VBS_TRY_ASSIGN(auto testo, valore.to_string(locale));
+  return vbs::Utf16ToUtf8(testo.view());
 }
 
 // Argument i as the texts of a row: one value, or the elements of a one-dimensional array. Scripts
 // often declare an array from 0 and fill it from 1: an Empty element 0 is then no cell.
 Result<std::vector<Cella>> CelleArgomento(const CallArgs& args, size_t i) {
-  auto valore = args.Value(i);
-  if (!valore) return std::move(valore).error();
+  VBS_TRY_ASSIGN(auto valore, args.Value(i));
   std::vector<Cella> celle;
-  if (!valore->is_array()) {
-    auto testo = TestoCella(*valore, args.locale());
-    if (!testo) return std::move(testo).error();
-    celle.push_back({std::move(*testo), {}});
+  if (!valore.is_array()) {
+    VBS_TRY_ASSIGN(auto testo, TestoCella(valore, args.locale()));
+    celle.push_back({std::move(testo), {}});
     return celle;
   }
-  const vbs::SafeArray& array = *valore->as_array();
+  const vbs::SafeArray& array = *valore.as_array();
   if (array.DimensionCount() != 1) return ArgomentoNonValido("I valori della riga vanno dati in un array a una dimensione");
   auto elementi = array.elements();
   if (!elementi.empty() && array.bounds()[0].lower == 0 && elementi[0].is_empty()) elementi = elementi.subspan(1);
   for (const Variant& elemento : elementi) {
-    auto testo = TestoCella(elemento, args.locale());
-    if (!testo) return std::move(testo).error();
-    celle.push_back({std::move(*testo), {}});
+    VBS_TRY_ASSIGN(auto testo, TestoCella(elemento, args.locale()));
+    celle.push_back({std::move(testo), {}});
   }
   return celle;
 }
 
 // An HTML width: pixels ("600", 600) or a percentage ("80%"); 0 lets the page choose.
 Result<std::string> LarghezzaArgomento(const CallArgs& args, size_t i) {
-  auto testo = args.String(i);
-  if (!testo) return std::move(testo).error();
-  std::string larghezza = vbs::Utf16ToUtf8(*testo);
+  VBS_TRY_ASSIGN(auto testo, args.String(i));
+  std::string larghezza = vbs::Utf16ToUtf8(testo);
   std::string_view cifre = larghezza;
   if (cifre.ends_with('%')) cifre.remove_suffix(1);
   const bool valida = !cifre.empty() && std::all_of(cifre.begin(), cifre.end(), [](char c) {
@@ -92,83 +87,66 @@ Result<std::string> LarghezzaArgomento(const CallArgs& args, size_t i) {
 template <size_t N>
 Result<Variant> InitTabella(Libreria& lib, CallArgs& args) {
   RigaTabella titoli;
-  auto celle = CelleArgomento(args, 0);
-  if (!celle) return std::move(celle).error();
-  if (celle->empty()) return ArgomentoNonValido("Nessun titolo per le colonne della tabella");
-  titoli.celle = std::move(*celle);
-  auto sfondo = ColoreFacoltativo(args, 1);
-  if (!sfondo) return std::move(sfondo).error();
-  auto allineamento = AllineamentoArgomento(args, 2, Allineamento::Centro);
-  if (!allineamento) return std::move(allineamento).error();
-  auto bordo = args.Long(3, 1);
-  if (!bordo) return std::move(bordo).error();
-  if (*bordo < 0) return ArgomentoNonValido(fmt::format("Bordo non valido: {} (0 per nessun bordo)", *bordo));
-  auto larghezza = args.Has(4) ? LarghezzaArgomento(args, 4) : Result<std::string>(std::string());
-  if (!larghezza) return std::move(larghezza).error();
-  auto testo = ColoreFacoltativo(args, 5);
-  if (!testo) return std::move(testo).error();
-  titoli.colori = {*sfondo, *testo};
-  titoli.allineamento = *allineamento;
+  VBS_TRY_ASSIGN(auto celle, CelleArgomento(args, 0));
+  if (celle.empty()) return ArgomentoNonValido("Nessun titolo per le colonne della tabella");
+  titoli.celle = std::move(celle);
+  VBS_TRY_ASSIGN(auto sfondo, ColoreFacoltativo(args, 1));
+  VBS_TRY_ASSIGN(auto allineamento, AllineamentoArgomento(args, 2, Allineamento::Centro));
+  VBS_TRY_ASSIGN(auto bordo, args.Long(3, 1));
+  if (bordo < 0) return ArgomentoNonValido(fmt::format("Bordo non valido: {} (0 per nessun bordo)", bordo));
+  VBS_TRY_ASSIGN(auto larghezza, args.Has(4) ? LarghezzaArgomento(args, 4) : Result<std::string>(std::string()));
+  VBS_TRY_ASSIGN(auto testo, ColoreFacoltativo(args, 5));
+  titoli.colori = {sfondo, testo};
+  titoli.allineamento = allineamento;
 
   std::optional<TabellaOutput>& tabella = lib.Stato<StatoTabelle>().tabelle[N];
-  tabella.emplace(std::move(titoli), *bordo);
-  tabella->ImpostaLarghezza(std::move(*larghezza));
+  tabella.emplace(std::move(titoli), bordo);
+  tabella->ImpostaLarghezza(std::move(larghezza));
   return Variant();
 }
 
 // AddRigaTabella aValori, [ColoreSfondo], [Allineamento], [ColoreTesto]
 template <size_t N>
 Result<Variant> AddRigaTabella(Libreria& lib, CallArgs& args) {
-  auto tabella = TabellaIniziata<N>(lib);
-  if (!tabella) return std::move(tabella).error();
+  VBS_TRY_ASSIGN(auto tabella, TabellaIniziata<N>(lib));
   RigaTabella riga;
-  auto celle = CelleArgomento(args, 0);
-  if (!celle) return std::move(celle).error();
-  if (celle->size() > (*tabella)->Colonne()) {
+  VBS_TRY_ASSIGN(auto celle, CelleArgomento(args, 0));
+  if (celle.size() > (tabella)->Colonne()) {
     return ArgomentoNonValido(
-        fmt::format("La riga ha {} valori e la tabella {} colonne", celle->size(), (*tabella)->Colonne()));
+        fmt::format("La riga ha {} valori e la tabella {} colonne", celle.size(), (tabella)->Colonne()));
   }
-  riga.celle = std::move(*celle);
-  auto sfondo = ColoreFacoltativo(args, 1);
-  if (!sfondo) return std::move(sfondo).error();
-  auto allineamento = AllineamentoArgomento(args, 2, Allineamento::Sinistra);
-  if (!allineamento) return std::move(allineamento).error();
-  auto testo = ColoreFacoltativo(args, 3);
-  if (!testo) return std::move(testo).error();
-  riga.colori = {*sfondo, *testo};
-  riga.allineamento = *allineamento;
-  (*tabella)->AggiungiRiga(std::move(riga));
+  riga.celle = std::move(celle);
+  VBS_TRY_ASSIGN(auto sfondo, ColoreFacoltativo(args, 1));
+  VBS_TRY_ASSIGN(auto allineamento, AllineamentoArgomento(args, 2, Allineamento::Sinistra));
+  VBS_TRY_ASSIGN(auto testo, ColoreFacoltativo(args, 3));
+  riga.colori = {sfondo, testo};
+  riga.allineamento = allineamento;
+  (tabella)->AggiungiRiga(std::move(riga));
   return Variant();
 }
 
 // SetColoreCella Colonna, ColoreSfondo, [ColoreTesto]
 template <size_t N>
 Result<Variant> SetColoreCella(Libreria& lib, CallArgs& args) {
-  auto tabella = TabellaIniziata<N>(lib);
-  if (!tabella) return std::move(tabella).error();
-  RigaTabella* riga = (*tabella)->UltimaRiga();
+  VBS_TRY_ASSIGN(auto tabella, TabellaIniziata<N>(lib));
+  RigaTabella* riga = (tabella)->UltimaRiga();
   if (!riga) return ArgomentoNonValido("La tabella non ha ancora righe da colorare");
-  auto colonna = args.Long(0);
-  if (!colonna) return std::move(colonna).error();
-  if (*colonna < 1 || static_cast<size_t>(*colonna) > riga->celle.size()) {
+  VBS_TRY_ASSIGN(auto colonna, args.Long(0));
+  if (colonna < 1 || static_cast<size_t>(colonna) > riga->celle.size()) {
     return ArgomentoNonValido(
-        fmt::format("Colonna non valida: {} (la tabella ha le colonne da 1 a {})", *colonna, riga->celle.size()));
+        fmt::format("Colonna non valida: {} (la tabella ha le colonne da 1 a {})", colonna, riga->celle.size()));
   }
-  auto sfondo = ColoreArgomento(args, 1);
-  if (!sfondo) return std::move(sfondo).error();
-  auto testo = ColoreFacoltativo(args, 2);
-  if (!testo) return std::move(testo).error();
-  riga->celle[static_cast<size_t>(*colonna - 1)].colori = {*sfondo, *testo};
+  VBS_TRY_ASSIGN(auto sfondo, ColoreArgomento(args, 1));
+  VBS_TRY_ASSIGN(auto testo, ColoreFacoltativo(args, 2));
+  riga->celle[static_cast<size_t>(colonna - 1)].colori = {sfondo, testo};
   return Variant();
 }
 
 template <size_t N>
 Result<Variant> SetTableWidth(Libreria& lib, CallArgs& args) {
-  auto tabella = TabellaIniziata<N>(lib);
-  if (!tabella) return std::move(tabella).error();
-  auto larghezza = LarghezzaArgomento(args, 0);
-  if (!larghezza) return std::move(larghezza).error();
-  (*tabella)->ImpostaLarghezza(std::move(*larghezza));
+  VBS_TRY_ASSIGN(auto tabella, TabellaIniziata<N>(lib));
+  VBS_TRY_ASSIGN(auto larghezza, LarghezzaArgomento(args, 0));
+  (tabella)->ImpostaLarghezza(std::move(larghezza));
   return Variant();
 }
 
@@ -188,38 +166,33 @@ void ScriviNellaPagina(Libreria& lib, const TabellaOutput& tabella, bool ordinab
 // The table stays as it is after being written: GetTabella still gives it.
 template <size_t N, bool Ordinabile>
 Result<Variant> CreaTabella(Libreria& lib, CallArgs&) {
-  auto tabella = TabellaIniziata<N>(lib);
-  if (!tabella) return std::move(tabella).error();
-  ScriviNellaPagina(lib, **tabella, Ordinabile);
-  for (const TrattoTesto& tratto : (*tabella)->Testo()) lib.ospite().Scrivi(tratto);
+  VBS_TRY_ASSIGN(auto tabella, TabellaIniziata<N>(lib));
+  ScriviNellaPagina(lib, *tabella, Ordinabile);
+  for (const TrattoTesto& tratto : (tabella)->Testo()) lib.ospite().Scrivi(tratto);
   return Variant();
 }
 
 template <size_t N>
 Result<Variant> GetTabella(Libreria& lib, CallArgs&) {
-  auto tabella = TabellaIniziata<N>(lib);
-  if (!tabella) return std::move(tabella).error();
-  return Variant::String(vbs::Utf8ToUtf16((*tabella)->Html(false)));
+  VBS_TRY_ASSIGN(auto tabella, TabellaIniziata<N>(lib));
+  return Variant::String(vbs::Utf8ToUtf16((tabella)->Html(false)));
 }
 
 // The pyramid of a draw's numbers on one wheel: the five numbers as drawn, then each row the sums,
 // brought into 1..90, of neighbours in the row above, down to one number. Each cell shows the
 // number and its delay on the wheel at that draw, as students of the pyramid read it.
 Result<Variant> CreaPiramideRitardi(Libreria& lib, CallArgs& args) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  const TabellaEstrazioni& tab = **archivio;
-  auto id_estr = EstrazioneArgomento(tab, args, 0, tab.EstrazioniArchivio(), "IdEstr");
-  if (!id_estr) return std::move(id_estr).error();
-  auto ruota = RuotaTabella(args, 1);
-  if (!ruota) return std::move(ruota).error();
-  if (*ruota < 1 || *ruota > kNumeroRuote) return ArgomentoNonValido("Ruota deve essere una sola ruota, BA_ .. NZ_");
-  const Estrazione& estrazione = tab[*id_estr];
-  if (!estrazione.RuotaEstratta(*ruota))
-    return ArgomentoNonValido(fmt::format("La ruota {} non è stata estratta nell'estrazione {}", NomeRuota(*ruota), *id_estr));
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  const TabellaEstrazioni& tab = *archivio;
+  VBS_TRY_ASSIGN(auto id_estr, EstrazioneArgomento(tab, args, 0, tab.EstrazioniArchivio(), "IdEstr"));
+  VBS_TRY_ASSIGN(auto ruota, RuotaTabella(args, 1));
+  if (ruota < 1 || ruota > kNumeroRuote) return ArgomentoNonValido("Ruota deve essere una sola ruota, BA_ .. NZ_");
+  const Estrazione& estrazione = tab[id_estr];
+  if (!estrazione.RuotaEstratta(ruota))
+    return ArgomentoNonValido(fmt::format("La ruota {} non è stata estratta nell'estrazione {}", NomeRuota(ruota), id_estr));
 
   std::vector<int> riga;
-  for (int posizione = 1; posizione <= kNumeriPerRuota; ++posizione) riga.push_back(estrazione.Numero(*ruota, posizione));
+  for (int posizione = 1; posizione <= kNumeriPerRuota; ++posizione) riga.push_back(estrazione.Numero(ruota, posizione));
   RigaTabella titoli;
   for (int colonna = 1; colonna <= kNumeriPerRuota; ++colonna) titoli.celle.push_back({fmt::format("{}", colonna), {}});
   TabellaOutput tabella(std::move(titoli), 1);
@@ -227,7 +200,7 @@ Result<Variant> CreaPiramideRitardi(Libreria& lib, CallArgs& args) {
     RigaTabella celle;
     celle.allineamento = Allineamento::Centro;
     for (int numero : riga)
-      celle.celle.push_back({fmt::format("{:02} ({})", numero, stats::EstrattoRitardo(tab, *ruota, numero, 1, *id_estr)), {}});
+      celle.celle.push_back({fmt::format("{:02} ({})", numero, stats::EstrattoRitardo(tab, ruota, numero, 1, id_estr)), {}});
     tabella.AggiungiRiga(std::move(celle));
     for (size_t i = 0; i + 1 < riga.size(); ++i) riga[i] = stats::Fuori90(riga[i] + riga[i + 1]);
     riga.pop_back();

@@ -23,37 +23,32 @@ using namespace famiglia;
 Variant Stringa(std::string_view testo) { return Variant::String(vbs::Utf8ToUtf16(testo)); }
 
 Result<std::string> TestoArgomento(const CallArgs& args, size_t i, std::u16string_view se_omesso) {
-  auto testo = args.String(i, se_omesso);
-  if (!testo) return std::move(testo).error();
-  return vbs::Utf16ToUtf8(*testo);
+  VBS_TRY_ASSIGN(auto testo, args.String(i, se_omesso));
+  return vbs::Utf16ToUtf8(testo);
 }
 
 Result<const Estrazione*> EstrazioneArgomento(const Libreria& lib, const CallArgs& args, size_t i) {
-  auto archivio = lib.Archivio();
-  if (!archivio) return std::move(archivio).error();
-  auto id_estr = args.Long(i);
-  if (!id_estr) return std::move(id_estr).error();
-  if (!(*archivio)->Contiene(*id_estr)) {
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto id_estr, args.Long(i));
+  if (!(archivio)->Contiene(id_estr)) {
     return ArgomentoNonValido(fmt::format("Estrazione fuori dall'archivio: {} (le estrazioni vanno da 1 a {})",
-                                          *id_estr, (*archivio)->EstrazioniArchivio()));
+                                          id_estr, (archivio)->EstrazioniArchivio()));
   }
-  return &(**archivio)[*id_estr];
+  return &(*archivio)[id_estr];
 }
 
 Result<int> RuotaSingola(const CallArgs& args, size_t i) {
-  auto ruota = RuotaTabella(args, i);
-  if (!ruota) return std::move(ruota).error();
-  if (*ruota < 1 || *ruota > kNumeroRuote)
-    return ArgomentoNonValido(fmt::format("Ruota non valida: {} (una sola ruota, da BA_ a NZ_)", *ruota));
-  return *ruota;
+  VBS_TRY_ASSIGN(auto ruota, RuotaTabella(args, i));
+  if (ruota < 1 || ruota > kNumeroRuote)
+    return ArgomentoNonValido(fmt::format("Ruota non valida: {} (una sola ruota, da BA_ a NZ_)", ruota));
+  return ruota;
 }
 
 // Argument i as table wheels, TU_ standing for all eleven, as does an omitted argument.
 Result<std::vector<int>> RuoteElencate(const CallArgs& args, size_t i) {
-  auto ruote = args.Has(i) ? RuoteArgomento(args, i) : Result<std::vector<int>>(std::vector<int>{kTutteLeRuote});
-  if (!ruote) return std::move(ruote).error();
+  VBS_TRY_ASSIGN(auto ruote, args.Has(i) ? RuoteArgomento(args, i) : Result<std::vector<int>>(std::vector<int>{kTutteLeRuote}));
   std::vector<int> elencate;
-  for (int ruota : *ruote) {
+  for (int ruota : ruote) {
     if (ruota < 1 || ruota > kTutteLeRuote)
       return ArgomentoNonValido(fmt::format("Ruota non valida: {} (da 1 a 12, TU_ per tutte)", ruota));
     if (ruota != kTutteLeRuote) {
@@ -87,17 +82,15 @@ std::string NumeriRuota(const Estrazione& estrazione, int ruota, std::string_vie
 
 // The wheels not drawn in that draw are left out, and the names are as wide as the widest written.
 Result<Variant> ScriviEstrazione(Libreria& lib, CallArgs& args) {
-  auto estrazione = EstrazioneArgomento(lib, args, 0);
-  if (!estrazione) return std::move(estrazione).error();
-  auto ruote = RuoteElencate(args, 1);
-  if (!ruote) return std::move(ruote).error();
-  std::erase_if(*ruote, [&](int ruota) { return !(*estrazione)->RuotaEstratta(ruota); });
+  VBS_TRY_ASSIGN(auto estrazione, EstrazioneArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto ruote, RuoteElencate(args, 1));
+  std::erase_if(ruote, [&](int ruota) { return !(estrazione)->RuotaEstratta(ruota); });
   size_t larghezza_nome = 0;
-  for (int ruota : *ruote) larghezza_nome = std::max(larghezza_nome, NomeRuota(ruota).size());
-  std::string testo = fmt::format("Estrazione del {}\n", FormattaData((*estrazione)->data));
-  for (int ruota : *ruote) {
+  for (int ruota : ruote) larghezza_nome = std::max(larghezza_nome, NomeRuota(ruota).size());
+  std::string testo = fmt::format("Estrazione del {}\n", FormattaData((estrazione)->data));
+  for (int ruota : ruote) {
     testo += fmt::format("{} {}\n", Allinea(NomeRuota(ruota), larghezza_nome, Allineamento::Sinistra),
-                         NumeriRuota(**estrazione, ruota, " "));
+                         NumeriRuota(*estrazione, ruota, " "));
   }
   lib.Scrivi(std::move(testo), lib.colore_testo(), false);
   return Variant();
@@ -146,18 +139,16 @@ class Matrice {
 
 // Numbers to the right of their column, anything else to the left.
 Result<Variant> ScriviMatrice(Libreria& lib, CallArgs& args) {
-  auto valore = args.Value(0);
-  if (!valore) return std::move(valore).error();
-  if (!valore->is_array() || valore->as_array()->DimensionCount() < 1 || valore->as_array()->DimensionCount() > 2)
+  VBS_TRY_ASSIGN(auto valore, args.Value(0));
+  if (!valore.is_array() || valore.as_array()->DimensionCount() < 1 || valore.as_array()->DimensionCount() > 2)
     return ArgomentoNonValido("ScriviMatrice vuole un array a una o due dimensioni");
-  const auto elementi = Matrice(*valore->as_array()).Righe();
+  const auto elementi = Matrice(*valore.as_array()).Righe();
   std::vector<std::vector<std::string>> testi;
   for (const auto& riga : elementi) {
     testi.emplace_back();
     for (const Variant* elemento : riga) {
-      auto testo = elemento->to_string(args.locale());
-      if (!testo) return std::move(testo).error();
-      testi.back().push_back(vbs::Utf16ToUtf8(testo->view()));
+      VBS_TRY_ASSIGN(auto testo, elemento->to_string(args.locale()));
+      testi.back().push_back(vbs::Utf16ToUtf8(testo.view()));
     }
   }
   const std::vector<size_t> larghezze = LarghezzeColonne(testi);
@@ -178,102 +169,84 @@ Result<Variant> ScriviMatrice(Libreria& lib, CallArgs& args) {
 
 // A wheel not drawn in that draw gives an empty text.
 Result<Variant> StringaEstratti(Libreria& lib, CallArgs& args) {
-  auto estrazione = EstrazioneArgomento(lib, args, 0);
-  if (!estrazione) return std::move(estrazione).error();
-  auto ruota = RuotaSingola(args, 1);
-  if (!ruota) return std::move(ruota).error();
-  auto separatore = TestoArgomento(args, 2, u".");
-  if (!separatore) return std::move(separatore).error();
-  if (!(*estrazione)->RuotaEstratta(*ruota)) return Stringa("");
-  return Stringa(NumeriRuota(**estrazione, *ruota, *separatore));
+  VBS_TRY_ASSIGN(auto estrazione, EstrazioneArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto ruota, RuotaSingola(args, 1));
+  VBS_TRY_ASSIGN(auto separatore, TestoArgomento(args, 2, u"."));
+  if (!(estrazione)->RuotaEstratta(ruota)) return Stringa("");
+  return Stringa(NumeriRuota(*estrazione, ruota, separatore));
 }
 
 // The values as whole numbers joined by the Separatore of argument i, each of at least two digits
 // unless the DueCifre of argument i + 1 is False.
 Result<Variant> NumeriUniti(std::span<const double> valori, const CallArgs& args, size_t i) {
-  auto separatore = TestoArgomento(args, i, u".");
-  if (!separatore) return std::move(separatore).error();
-  auto due_cifre = args.Boolean(i + 1, true);
-  if (!due_cifre) return std::move(due_cifre).error();
+  VBS_TRY_ASSIGN(auto separatore, TestoArgomento(args, i, u"."));
+  VBS_TRY_ASSIGN(auto due_cifre, args.Boolean(i + 1, true));
   std::vector<std::string> numeri;
   for (double valore : valori) {
-    auto numero = Intero(valore);
-    if (!numero) return std::move(numero).error();
-    numeri.push_back(*due_cifre ? DueCifre(*numero) : std::to_string(*numero));
+    VBS_TRY_ASSIGN(auto numero, Intero(valore));
+    numeri.push_back(due_cifre ? DueCifre(numero) : std::to_string(numero));
   }
-  return Stringa(fmt::format("{}", fmt::join(numeri, *separatore)));
+  return Stringa(fmt::format("{}", fmt::join(numeri, separatore)));
 }
 
 Result<Variant> StringaNumeri(Libreria&, CallArgs& args) {
-  auto valori = ValoriArgomento(args, 0);
-  if (!valori) return std::move(valori).error();
-  return NumeriUniti(*valori, args, 1);
+  VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, 0));
+  return NumeriUniti(valori, args, 1);
 }
 
 // The cells of row Riga (argument 1) of a two-dimensional matrix, in column order; the Empty ones,
 // such as the column 0 that scripts leave unused, hold no number.
 Result<std::vector<double>> RigaDellaMatrice(const CallArgs& args) {
-  auto valore = args.Value(0);
-  if (!valore) return std::move(valore).error();
-  if (!valore->is_array() || valore->as_array()->DimensionCount() != 2)
+  VBS_TRY_ASSIGN(auto valore, args.Value(0));
+  if (!valore.is_array() || valore.as_array()->DimensionCount() != 2)
     return ArgomentoNonValido("Serve una matrice a due dimensioni");
-  const vbs::SafeArray& matrice = *valore->as_array();
-  auto riga = args.Long(1);
-  if (!riga) return std::move(riga).error();
+  const vbs::SafeArray& matrice = *valore.as_array();
+  VBS_TRY_ASSIGN(auto riga, args.Long(1));
   const vbs::ArrayBound righe = matrice.bounds()[0];
-  if (*riga < righe.lower || *riga > righe.upper)
+  if (riga < righe.lower || riga > righe.upper)
     return ArgomentoNonValido(
-        fmt::format("Riga {} fuori dai limiti della matrice ({} .. {})", *riga, righe.lower, righe.upper));
+        fmt::format("Riga {} fuori dai limiti della matrice ({} .. {})", riga, righe.lower, righe.upper));
   std::vector<double> numeri;
   // The first index varies fastest in storage.
   for (int64_t colonna = 0; colonna < matrice.bounds()[1].count(); ++colonna) {
-    const Variant& cella = matrice.elements()[static_cast<size_t>(*riga - righe.lower + colonna * righe.count())];
+    const Variant& cella = matrice.elements()[static_cast<size_t>(riga - righe.lower + colonna * righe.count())];
     if (cella.is_empty()) continue;
-    auto numero = cella.to_double(args.locale());
-    if (!numero) return std::move(numero).error();
-    numeri.push_back(*numero);
+    VBS_TRY_ASSIGN(auto numero, cella.to_double(args.locale()));
+    numeri.push_back(numero);
   }
   return numeri;
 }
 
 Result<Variant> StringaNumeriDaMatrice(Libreria&, CallArgs& args) {
-  auto numeri = RigaDellaMatrice(args);
-  if (!numeri) return std::move(numeri).error();
-  return NumeriUniti(*numeri, args, 2);
+  VBS_TRY_ASSIGN(auto numeri, RigaDellaMatrice(args));
+  return NumeriUniti(numeri, args, 2);
 }
 
 Result<Variant> StringaRuote(Libreria&, CallArgs& args) {
-  auto ruote = RuoteArgomento(args, 0);
-  if (!ruote) return std::move(ruote).error();
-  auto separatore = TestoArgomento(args, 1, u".");
-  if (!separatore) return std::move(separatore).error();
+  VBS_TRY_ASSIGN(auto ruote, RuoteArgomento(args, 0));
+  VBS_TRY_ASSIGN(auto separatore, TestoArgomento(args, 1, u"."));
   std::vector<std::string_view> sigle;
-  for (int ruota : *ruote) {
+  for (int ruota : ruote) {
     if (ruota < 1 || ruota > kTutteLeRuote)
       return ArgomentoNonValido(fmt::format("Ruota non valida: {} (da 1 a 12, TU_ per tutte)", ruota));
     sigle.push_back(SiglaRuota(ruota));
   }
-  return Stringa(fmt::format("{}", fmt::join(sigle, *separatore)));
+  return Stringa(fmt::format("{}", fmt::join(sigle, separatore)));
 }
 
 Result<Variant> FormatSpace(Libreria&, CallArgs& args) {
-  auto testo = TestoArgomento(args, 0, u"");
-  if (!testo) return std::move(testo).error();
-  auto lunghezza = args.Long(1);
-  if (!lunghezza) return std::move(lunghezza).error();
-  if (*lunghezza < 0) return ArgomentoNonValido(fmt::format("Lunghezza non valida: {}", *lunghezza));
-  auto a_destra = args.Boolean(2, false);
-  if (!a_destra) return std::move(a_destra).error();
-  return Stringa(Allinea(*testo, static_cast<size_t>(*lunghezza),
-                         *a_destra ? Allineamento::Destra : Allineamento::Sinistra));
+  VBS_TRY_ASSIGN(auto testo, TestoArgomento(args, 0, u""));
+  VBS_TRY_ASSIGN(auto lunghezza, args.Long(1));
+  if (lunghezza < 0) return ArgomentoNonValido(fmt::format("Lunghezza non valida: {}", lunghezza));
+  VBS_TRY_ASSIGN(auto a_destra, args.Boolean(2, false));
+  return Stringa(Allinea(testo, static_cast<size_t>(lunghezza),
+                         a_destra ? Allineamento::Destra : Allineamento::Sinistra));
 }
 
 Result<Variant> Format2(Libreria&, CallArgs& args) {
-  auto valore = args.Double(0);
-  if (!valore) return std::move(valore).error();
-  auto numero = Intero(*valore);
-  if (!numero) return std::move(numero).error();
-  return Stringa(DueCifre(*numero));
+  VBS_TRY_ASSIGN(auto valore, args.Double(0));
+  VBS_TRY_ASSIGN(auto numero, Intero(valore));
+  return Stringa(DueCifre(numero));
 }
 
 // A pattern of digit places: "0" always shows a digit, "#" only a significant one; a "." starts the
@@ -323,24 +296,20 @@ std::string Formatta(double valore, const FormatoNumero& formato, std::string_vi
 }
 
 Result<Variant> FormattaStringa(Libreria&, CallArgs& args) {
-  auto valore = args.Double(0);
-  if (!valore) return std::move(valore).error();
-  auto testo_formato = TestoArgomento(args, 1, u"");
-  if (!testo_formato) return std::move(testo_formato).error();
-  auto formato = LeggiFormato(*testo_formato);
-  if (!formato) return std::move(formato).error();
+  VBS_TRY_ASSIGN(auto valore, args.Double(0));
+  VBS_TRY_ASSIGN(auto testo_formato, TestoArgomento(args, 1, u""));
+  VBS_TRY_ASSIGN(auto formato, LeggiFormato(testo_formato));
   const std::string separatore = vbs::Utf16ToUtf8(std::u16string(1, args.locale().decimal_separator));
-  return Stringa(Formatta(*valore, *formato, separatore));
+  return Stringa(Formatta(valore, formato, separatore));
 }
 
 // A name from a list numbered from 1.
 template <size_t N>
 Result<Variant> NomeNumerato(const CallArgs& args, const std::array<std::string_view, N>& nomi, std::string_view cosa) {
-  auto numero = args.Long(0);
-  if (!numero) return std::move(numero).error();
-  if (*numero < 1 || static_cast<size_t>(*numero) > N)
-    return ArgomentoNonValido(fmt::format("{} non valido: {} (da 1 a {})", cosa, *numero, N));
-  return Stringa(nomi[static_cast<size_t>(*numero - 1)]);
+  VBS_TRY_ASSIGN(auto numero, args.Long(0));
+  if (numero < 1 || static_cast<size_t>(numero) > N)
+    return ArgomentoNonValido(fmt::format("{} non valido: {} (da 1 a {})", cosa, numero, N));
+  return Stringa(nomi[static_cast<size_t>(numero - 1)]);
 }
 
 Result<Variant> NomeSorte(Libreria&, CallArgs& args) {
@@ -358,9 +327,8 @@ Result<Variant> MeseNome(Libreria&, CallArgs& args) {
 }
 
 Result<Variant> GetColoreHtml(Libreria&, CallArgs& args) {
-  auto colore = ColoreArgomento(args, 0);
-  if (!colore) return std::move(colore).error();
-  return Stringa(ColoreHtml(*colore));
+  VBS_TRY_ASSIGN(auto colore, ColoreArgomento(args, 0));
+  return Stringa(ColoreHtml(colore));
 }
 
 Result<Variant> GetPathFileHtml(Libreria& lib, CallArgs&) { return Stringa(lib.html().Percorso().string()); }

@@ -173,24 +173,21 @@ std::vector<size_t> LarghezzeColonne(const std::vector<std::vector<std::string>>
 
 
 vbs::Result<int16_t> ColoreArgomento(const vbs::CallArgs& args, size_t i) {
-  auto colore = args.Integer(i);
-  if (!colore) return std::move(colore).error();
-  if (*colore < kNero || *colore > kMagenta)
-    return ArgomentoNonValido(fmt::format("Colore non valido: {} (da 0, Nero_, a 7, Magenta_)", *colore));
-  return *colore;
+  VBS_TRY_ASSIGN(auto colore, args.Integer(i));
+  if (colore < kNero || colore > kMagenta)
+    return ArgomentoNonValido(fmt::format("Colore non valido: {} (da 0, Nero_, a 7, Magenta_)", colore));
+  return colore;
 }
 
 vbs::Result<std::optional<int16_t>> ColoreFacoltativo(const vbs::CallArgs& args, size_t i) {
   if (!args.Has(i)) return std::optional<int16_t>();
-  auto colore = ColoreArgomento(args, i);
-  if (!colore) return std::move(colore).error();
-  return std::optional<int16_t>(*colore);
+  VBS_TRY_ASSIGN(auto colore, ColoreArgomento(args, i));
+  return std::optional<int16_t>(colore);
 }
 
 vbs::Result<Allineamento> AllineamentoArgomento(const vbs::CallArgs& args, size_t i, Allineamento se_omesso) {
   if (!args.Has(i)) return se_omesso;
-  auto testo = args.String(i);
-  if (!testo) return std::move(testo).error();
+  VBS_TRY_ASSIGN(auto testo, args.String(i));
   struct Nome {
     std::string_view nome;
     Allineamento allineamento;
@@ -201,11 +198,11 @@ vbs::Result<Allineamento> AllineamentoArgomento(const vbs::CallArgs& args, size_
                                               {"center", Allineamento::Centro},
                                               {"destra", Allineamento::Destra},
                                               {"right", Allineamento::Destra}}};
-  const std::string nome = Minuscolo(*testo);
+  const std::string nome = Minuscolo(testo);
   for (const Nome& noto : kNomi)
     if (noto.nome == nome) return noto.allineamento;
   return ArgomentoNonValido(
-      fmt::format("Allineamento non valido: \"{}\" (sinistra, centro o destra)", vbs::Utf16ToUtf8(*testo)));
+      fmt::format("Allineamento non valido: \"{}\" (sinistra, centro o destra)", vbs::Utf16ToUtf8(testo)));
 }
 
 }  // namespace lottolab::script

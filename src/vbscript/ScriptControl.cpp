@@ -57,9 +57,8 @@ void ScriptControl::SetAllowUI(bool allow) {
 }
 
 Status ScriptControl::SetLocale(int32_t lcid) {
-  auto locale = LocaleFromLcid(lcid);
-  if (!locale) return std::move(locale).error();
-  m_interp->SetLocale(**locale);
+  VBS_TRY_ASSIGN(auto locale, LocaleFromLcid(lcid));
+  m_interp->SetLocale(*locale);
   return Ok();
 }
 
@@ -107,9 +106,8 @@ Status ScriptControl::AddCode(std::u16string_view code, std::string source_name)
     uint32_t source = m_interp->sources().Add(source_name, std::u16string(code));
     ParseResult parsed = ParseProgram(m_interp->sources(), source);
     if (!parsed.errors.empty()) return parsed.errors.front();
-    auto program = Compiler(*m_interp, nullptr).CompileProgram(parsed.program);
-    if (!program) return std::move(program).error();
-    return m_interp->RunProgram(m_interp->Keep(std::move(*program)));
+    VBS_TRY_ASSIGN(auto program, Compiler(*m_interp, nullptr).CompileProgram(parsed.program));
+    return m_interp->RunProgram(m_interp->Keep(std::move(program)));
   }));
 }
 
@@ -121,11 +119,9 @@ Result<Variant> ScriptControl::Eval(std::u16string_view expression) {
   // Like the script's own Eval: one shared source entry, and the code freed once it has run.
   return Guard(Contained(*m_interp, [&]() -> Result<Variant> {
     uint32_t source = m_interp->sources().Reuse("Eval", std::u16string(expression));
-    auto parsed = ParseExpression(m_interp->sources(), source);
-    if (!parsed) return std::move(parsed).error();
-    auto program = Compiler(*m_interp, nullptr).CompileExpression(**parsed);
-    if (!program) return std::move(program).error();
-    return m_interp->EvalProgram(**program);
+    VBS_TRY_ASSIGN(auto parsed, ParseExpression(m_interp->sources(), source));
+    VBS_TRY_ASSIGN(auto program, Compiler(*m_interp, nullptr).CompileExpression(*parsed));
+    return m_interp->EvalProgram(*program);
   }));
 }
 

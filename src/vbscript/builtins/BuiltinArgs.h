@@ -38,10 +38,9 @@ inline Result<bool> BooleanArg(Frame& frame, const Variant& value) {
 // The compare argument at `index` (binary when omitted): 0 binary, 1 text, anything else error 5.
 inline Result<CompareMode> CompareArg(Frame& frame, Args args, size_t index) {
   if (!IsGiven(args, index)) return CompareMode::Binary;
-  auto mode = LongArg(frame, args[index]);
-  if (!mode) return std::move(mode).error();
-  if (*mode == 0) return CompareMode::Binary;
-  if (*mode == 1) return CompareMode::Text;
+  VBS_TRY_ASSIGN(auto mode, LongArg(frame, args[index]));
+  if (mode == 0) return CompareMode::Binary;
+  if (mode == 1) return CompareMode::Text;
   return MakeError(err::kInvalidCall);
 }
 

@@ -23,30 +23,24 @@ Frame* ProcedureFrame(Frame& frame) {
 // is owned by the engine, not by the code. A loop calling Eval a million times thus runs in flat
 // memory.
 Result<uint32_t> SourceOf(Frame& frame, const Variant& code, std::string_view name) {
-  auto text = code.Deref().to_string(frame.interp.locale());
-  if (!text) return std::move(text).error();
-  return frame.interp.sources().Reuse(name, text->ToU16String());
+  VBS_TRY_ASSIGN(auto text, code.Deref().to_string(frame.interp.locale()));
+  return frame.interp.sources().Reuse(name, text.ToU16String());
 }
 
 Result<Variant> EvalFunction(Frame& frame, Args args) {
-  auto source = SourceOf(frame, args[0], "Eval");
-  if (!source) return std::move(source).error();
-  auto expression = ParseExpression(frame.interp.sources(), *source);
-  if (!expression) return std::move(expression).error();
+  VBS_TRY_ASSIGN(auto source, SourceOf(frame, args[0], "Eval"));
+  VBS_TRY_ASSIGN(auto expression, ParseExpression(frame.interp.sources(), source));
   Frame* scope = ProcedureFrame(frame);
-  auto program = Compiler(frame.interp, scope).CompileExpression(**expression);
-  if (!program) return std::move(program).error();
-  return frame.interp.EvalProgram(**program, scope);
+  VBS_TRY_ASSIGN(auto program, Compiler(frame.interp, scope).CompileExpression(*expression));
+  return frame.interp.EvalProgram(*program, scope);
 }
 
 Result<Variant> Run(Frame& frame, const Variant& code, Frame* scope, std::string_view name) {
-  auto source = SourceOf(frame, code, name);
-  if (!source) return std::move(source).error();
-  ParseResult parsed = ParseProgram(frame.interp.sources(), *source);
+  VBS_TRY_ASSIGN(auto source, SourceOf(frame, code, name));
+  ParseResult parsed = ParseProgram(frame.interp.sources(), source);
   if (!parsed.errors.empty()) return parsed.errors.front();
-  auto program = Compiler(frame.interp, scope).CompileProgram(parsed.program);
-  if (!program) return std::move(program).error();
-  VBS_TRY(frame.interp.RunProgram(**program, scope));
+  VBS_TRY_ASSIGN(auto program, Compiler(frame.interp, scope).CompileProgram(parsed.program));
+  VBS_TRY(frame.interp.RunProgram(*program, scope));
   return Variant();
 }
 
@@ -71,9 +65,8 @@ class ProcedureRef final : public Object {
 };
 
 Result<Variant> GetRefFunction(Frame& frame, Args args) {
-  auto name = args[0].Deref().to_string(frame.interp.locale());
-  if (!name) return std::move(name).error();
-  const GlobalEntry* entry = frame.interp.FindGlobal(Interpreter::Fold(name->view()));
+  VBS_TRY_ASSIGN(auto name, args[0].Deref().to_string(frame.interp.locale()));
+  const GlobalEntry* entry = frame.interp.FindGlobal(Interpreter::Fold(name.view()));
   if (!entry || entry->kind != GlobalEntry::Kind::Procedure) return MakeError(err::kInvalidCall);
   return Variant::Object(MakeRef<ProcedureRef>(frame.interp, *entry->procedure));
 }

@@ -23,24 +23,21 @@ using namespace builtin;
 // "FFFF"), everything else rounded to a Long (Hex(-32768) is "FFFF8000", since the literal is a
 // Long). Nullopt for Null.
 Result<std::optional<uint32_t>> DigitsValue(Frame& frame, const Variant& value) {
-  auto plain = ValueOf(value);
-  if (!plain) return std::move(plain).error();
-  const Variant& v = *plain;
+  VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+  const Variant& v = plain;
   if (v.is_null()) return std::optional<uint32_t>();
   if (v.is_integer()) return std::optional<uint32_t>(static_cast<uint16_t>(v.as_integer()));
   if (v.is_byte()) return std::optional<uint32_t>(v.as_byte());
   if (v.is_boolean()) return std::optional<uint32_t>(v.as_boolean() ? 0xFFFFu : 0u);
-  auto whole = v.to_long(frame.interp.locale());
-  if (!whole) return std::move(whole).error();
-  return std::optional<uint32_t>(static_cast<uint32_t>(*whole));
+  VBS_TRY_ASSIGN(auto whole, v.to_long(frame.interp.locale()));
+  return std::optional<uint32_t>(static_cast<uint32_t>(whole));
 }
 
 template <unsigned kBits>
 Result<Variant> DigitsFunction(Frame& frame, Args args) {
-  auto value = DigitsValue(frame, args[0]);
-  if (!value) return std::move(value).error();
-  if (!*value) return Variant::Null();
-  uint32_t rest = **value;
+  VBS_TRY_ASSIGN(auto value, DigitsValue(frame, args[0]));
+  if (!value) return Variant::Null();
+  uint32_t rest = *value;
   std::u16string digits;
   do {
     digits.insert(digits.begin(), u"0123456789ABCDEF"[rest & ((1u << kBits) - 1)]);
@@ -79,9 +76,8 @@ Result<Variant> WholeFunction(Frame& frame, Args args) {
     case Subtype::Currency: return Variant::Currency(WholeCurrency(v.as_currency(), direction));
     case Subtype::Date: return Variant::Date(WholePart(v.as_date(), direction));
     default: {
-      auto real = v.to_double(frame.interp.locale());
-      if (!real) return std::move(real).error();
-      return Variant::Double(WholePart(*real, direction));
+      VBS_TRY_ASSIGN(auto real, v.to_double(frame.interp.locale()));
+      return Variant::Double(WholePart(real, direction));
     }
   }
 }
@@ -112,10 +108,9 @@ int64_t RoundCurrency(int64_t scaled, int32_t digits) {
 Result<Variant> RoundFunction(Frame& frame, Args args) {
   int32_t digits = 0;
   if (IsGiven(args, 1)) {
-    auto n = LongArg(frame, args[1]);
-    if (!n) return std::move(n).error();
-    if (*n < 0) return MakeError(err::kInvalidCall);
-    digits = *n;
+    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[1]));
+    if (n < 0) return MakeError(err::kInvalidCall);
+    digits = n;
   }
   auto plain = ValueOf(args[0]);
   if (!plain) return plain;
@@ -131,9 +126,8 @@ Result<Variant> RoundFunction(Frame& frame, Args args) {
     case Subtype::Currency: return Variant::Currency(RoundCurrency(v.as_currency(), digits));
     case Subtype::Date: return Variant::Date(RoundToDigits(v.as_date(), digits));
     default: {
-      auto real = v.to_double(frame.interp.locale());
-      if (!real) return std::move(real).error();
-      return Variant::Double(RoundToDigits(*real, digits));
+      VBS_TRY_ASSIGN(auto real, v.to_double(frame.interp.locale()));
+      return Variant::Double(RoundToDigits(real, digits));
     }
   }
 }

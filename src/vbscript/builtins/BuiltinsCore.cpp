@@ -20,9 +20,8 @@ Result<Variant> ArrayFunction(Frame&, Args args) {
   std::vector<Variant> values;
   values.reserve(args.size());
   for (Variant& arg : args) values.push_back(arg.Deref());
-  auto array = SafeArray::FromValues(values);
-  if (!array) return std::move(array).error();
-  return Variant::Array(*array);
+  VBS_TRY_ASSIGN(auto array, SafeArray::FromValues(values));
+  return Variant::Array(array);
 }
 
 Result<Variant> Bound(Frame& frame, Args args, bool upper) {
@@ -31,13 +30,11 @@ Result<Variant> Bound(Frame& frame, Args args, bool upper) {
   if (!value.is_array()) return MakeError(err::kTypeMismatch);
   int32_t dimension = 1;
   if (args.size() > 1) {
-    auto d = args[1].Deref().to_long(LocaleOf(frame));
-    if (!d) return std::move(d).error();
-    dimension = *d;
+    VBS_TRY_ASSIGN(auto d, args[1].Deref().to_long(LocaleOf(frame)));
+    dimension = d;
   }
-  auto bound = upper ? value.as_array()->UBound(dimension) : value.as_array()->LBound(dimension);
-  if (!bound) return std::move(bound).error();
-  return Variant::Long(*bound);
+  VBS_TRY_ASSIGN(auto bound, upper ? value.as_array()->UBound(dimension) : value.as_array()->LBound(dimension));
+  return Variant::Long(bound);
 }
 
 Result<Variant> UBoundFunction(Frame& frame, Args args) { return Bound(frame, args, true); }
@@ -72,17 +69,14 @@ Result<Variant> Convert(Frame& frame, Args args) {
 }
 
 Result<std::u16string> TextOf(Frame& frame, const Variant& value) {
-  auto text = value.Deref().to_string(LocaleOf(frame));
-  if (!text) return std::move(text).error();
-  return text->ToU16String();
+  VBS_TRY_ASSIGN(auto text, value.Deref().to_string(LocaleOf(frame)));
+  return text.ToU16String();
 }
 
 Result<Variant> CreateObjectFunction(Frame& frame, Args args) {
-  auto name = TextOf(frame, args[0]);
-  if (!name) return std::move(name).error();
-  auto object = frame.interp.CreateObject(*name);
-  if (!object) return std::move(object).error();
-  return Variant::Object(*object);
+  VBS_TRY_ASSIGN(auto name, TextOf(frame, args[0]));
+  VBS_TRY_ASSIGN(auto object, frame.interp.CreateObject(name));
+  return Variant::Object(object);
 }
 
 const Builtin kCore[] = {

@@ -85,10 +85,9 @@ int SystemFirstWeekOfYear(const Locale& locale) { return locale.lcid == kLcidIta
 // system setting for 0; other values are error 5.
 Result<int> WeekSetting(Frame& frame, Args args, size_t index, int max, int fallback, int system) {
   if (!IsGiven(args, index)) return fallback;
-  auto n = LongArg(frame, args[index]);
-  if (!n) return std::move(n).error();
-  if (*n < 0 || *n > max) return MakeError(err::kInvalidCall);
-  return *n == 0 ? system : *n;
+  VBS_TRY_ASSIGN(auto n, LongArg(frame, args[index]));
+  if (n < 0 || n > max) return MakeError(err::kInvalidCall);
+  return n == 0 ? system : n;
 }
 
 Result<int> FirstDayOfWeek(Frame& frame, Args args, size_t index) {
@@ -125,12 +124,10 @@ int WeekOfYear(const Moment& m, int first_day, int first_week) {
 
 // The argument as a Date serial, or nullopt for Null.
 Result<std::optional<double>> DateOrNull(Frame& frame, const Variant& value) {
-  auto plain = ValueOf(value);
-  if (!plain) return std::move(plain).error();
-  if (plain->is_null()) return std::optional<double>();
-  auto serial = plain->to_date(frame.interp.locale());
-  if (!serial) return std::move(serial).error();
-  return std::optional<double>(*serial);
+  VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+  if (plain.is_null()) return std::optional<double>();
+  VBS_TRY_ASSIGN(auto serial, plain.to_date(frame.interp.locale()));
+  return std::optional<double>(serial);
 }
 
 // ---- The clock ----
@@ -158,20 +155,17 @@ Result<Variant> TimerFunction(Frame&, Args) { return Variant::Single(SecondsSinc
 
 template <int DateTimeParts::*field>
 Result<Variant> PartFunction(Frame& frame, Args args) {
-  auto serial = DateOrNull(frame, args[0]);
-  if (!serial) return std::move(serial).error();
-  if (!*serial) return Variant::Null();
-  return Variant::Integer(static_cast<int16_t>(SplitSerial(**serial).*field));
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[0]));
+  if (!serial) return Variant::Null();
+  return Variant::Integer(static_cast<int16_t>(SplitSerial(*serial).*field));
 }
 
 // Weekday(date [, firstdayofweek]): the first day is checked before a Null date gives Null.
 Result<Variant> WeekdayFunction(Frame& frame, Args args) {
-  auto first_day = FirstDayOfWeek(frame, args, 1);
-  if (!first_day) return std::move(first_day).error();
-  auto serial = DateOrNull(frame, args[0]);
-  if (!serial) return std::move(serial).error();
-  if (!*serial) return Variant::Null();
-  return Variant::Integer(static_cast<int16_t>(DayOfWeek(MomentOf(**serial).day, *first_day)));
+  VBS_TRY_ASSIGN(auto first_day, FirstDayOfWeek(frame, args, 1));
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[0]));
+  if (!serial) return Variant::Null();
+  return Variant::Integer(static_cast<int16_t>(DayOfWeek(MomentOf(*serial).day, first_day)));
 }
 
 Result<bool> AbbreviateArg(Frame& frame, Args args, size_t index) {
@@ -181,27 +175,22 @@ Result<bool> AbbreviateArg(Frame& frame, Args args, size_t index) {
 
 // WeekdayName(weekday [, abbreviate [, firstdayofweek]]): weekday 1 is the first day of the week.
 Result<Variant> WeekdayNameFunction(Frame& frame, Args args) {
-  auto abbreviate = AbbreviateArg(frame, args, 1);
-  if (!abbreviate) return std::move(abbreviate).error();
-  auto first_day = FirstDayOfWeek(frame, args, 2);
-  if (!first_day) return std::move(first_day).error();
-  auto weekday = LongArg(frame, args[0]);
-  if (!weekday) return std::move(weekday).error();
-  if (*weekday < 1 || *weekday > 7) return MakeError(err::kInvalidCall);
+  VBS_TRY_ASSIGN(auto abbreviate, AbbreviateArg(frame, args, 1));
+  VBS_TRY_ASSIGN(auto first_day, FirstDayOfWeek(frame, args, 2));
+  VBS_TRY_ASSIGN(auto weekday, LongArg(frame, args[0]));
+  if (weekday < 1 || weekday > 7) return MakeError(err::kInvalidCall);
   const Locale& locale = frame.interp.locale();
-  const size_t index = static_cast<size_t>(*weekday - 1 + *first_day - 1) % 7;
-  return Variant::String(*abbreviate ? locale.day_abbreviations[index] : locale.day_names[index]);
+  const size_t index = static_cast<size_t>(weekday - 1 + first_day - 1) % 7;
+  return Variant::String(abbreviate ? locale.day_abbreviations[index] : locale.day_names[index]);
 }
 
 Result<Variant> MonthNameFunction(Frame& frame, Args args) {
-  auto abbreviate = AbbreviateArg(frame, args, 1);
-  if (!abbreviate) return std::move(abbreviate).error();
-  auto month = LongArg(frame, args[0]);
-  if (!month) return std::move(month).error();
-  if (*month < 1 || *month > 12) return MakeError(err::kInvalidCall);
+  VBS_TRY_ASSIGN(auto abbreviate, AbbreviateArg(frame, args, 1));
+  VBS_TRY_ASSIGN(auto month, LongArg(frame, args[0]));
+  if (month < 1 || month > 12) return MakeError(err::kInvalidCall);
   const Locale& locale = frame.interp.locale();
-  const auto index = static_cast<size_t>(*month - 1);
-  return Variant::String(*abbreviate ? locale.month_abbreviations[index] : locale.month_names[index]);
+  const auto index = static_cast<size_t>(month - 1);
+  return Variant::String(abbreviate ? locale.month_abbreviations[index] : locale.month_names[index]);
 }
 
 // ---- Building dates ----
@@ -212,9 +201,8 @@ Result<Variant> MonthNameFunction(Frame& frame, Args args) {
 Result<Variant> DateSerialFunction(Frame& frame, Args args) {
   int32_t values[3];
   for (size_t i = 0; i < 3; ++i) {
-    auto n = LongArg(frame, args[i]);
-    if (!n) return std::move(n).error();
-    values[i] = *n;
+    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[i]));
+    values[i] = n;
   }
   int64_t year = values[0];
   if (year >= 0 && year <= 29) year += 2000;
@@ -223,9 +211,8 @@ Result<Variant> DateSerialFunction(Frame& frame, Args args) {
   const int64_t whole_year = FloorDiv(months, 12);
   if (whole_year < 100 || whole_year > 9999) return MakeError(err::kInvalidCall);
   const int64_t first = DayOf(static_cast<int>(whole_year), static_cast<int>(months - whole_year * 12) + 1, 1);
-  auto serial = SerialOf(first + values[2] - 1, 0);
-  if (!serial) return std::move(serial).error();
-  return Variant::Date(*serial);
+  VBS_TRY_ASSIGN(auto serial, SerialOf(first + values[2] - 1, 0));
+  return Variant::Date(serial);
 }
 
 // TimeSerial(hour, minute, second): any values, carried over into days (25:00 is 1:00 of
@@ -233,27 +220,23 @@ Result<Variant> DateSerialFunction(Frame& frame, Args args) {
 Result<Variant> TimeSerialFunction(Frame& frame, Args args) {
   int64_t seconds = 0;
   for (size_t i = 0; i < 3; ++i) {
-    auto n = LongArg(frame, args[i]);
-    if (!n) return std::move(n).error();
-    seconds = seconds * 60 + *n;
+    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[i]));
+    seconds = seconds * 60 + n;
   }
-  auto serial = SerialOf(0, seconds);
-  if (!serial) return std::move(serial).error();
-  return Variant::Date(*serial);
+  VBS_TRY_ASSIGN(auto serial, SerialOf(0, seconds));
+  return Variant::Date(serial);
 }
 
 Result<Variant> DateValueFunction(Frame& frame, Args args) {
-  auto serial = DateOrNull(frame, args[0]);
-  if (!serial) return std::move(serial).error();
-  if (!*serial) return Variant::Null();
-  return Variant::Date(static_cast<double>(MomentOf(**serial).day));
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[0]));
+  if (!serial) return Variant::Null();
+  return Variant::Date(static_cast<double>(MomentOf(*serial).day));
 }
 
 Result<Variant> TimeValueFunction(Frame& frame, Args args) {
-  auto serial = DateOrNull(frame, args[0]);
-  if (!serial) return std::move(serial).error();
-  if (!*serial) return Variant::Null();
-  return Variant::Date(static_cast<double>(MomentOf(**serial).second) / kSecondsPerDay);
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[0]));
+  if (!serial) return Variant::Null();
+  return Variant::Date(static_cast<double>(MomentOf(*serial).second) / kSecondsPerDay);
 }
 
 // ---- Intervals ----
@@ -263,15 +246,14 @@ enum class Interval { Year, Quarter, Month, DayOfYear, Day, Weekday, Week, Hour,
 // The interval argument ("yyyy", "q", "m", "y", "d", "w", "ww", "h", "n", "s", in any case):
 // error 94 for Null, 5 for anything else.
 Result<Interval> IntervalArg(Frame& frame, const Variant& value) {
-  auto text = TextArg(frame, value);
-  if (!text) return std::move(text).error();
+  VBS_TRY_ASSIGN(auto text, TextArg(frame, value));
   static constexpr std::pair<std::u16string_view, Interval> kNames[] = {
       {u"yyyy", Interval::Year}, {u"q", Interval::Quarter}, {u"m", Interval::Month}, {u"y", Interval::DayOfYear},
       {u"d", Interval::Day},     {u"w", Interval::Weekday}, {u"ww", Interval::Week}, {u"h", Interval::Hour},
       {u"n", Interval::Minute},  {u"s", Interval::Second},
   };
   for (const auto& [name, interval] : kNames)
-    if (EqualsIgnoringCase(text->view(), name)) return interval;
+    if (EqualsIgnoringCase(text.view(), name)) return interval;
   return MakeError(err::kInvalidCall);
 }
 
@@ -294,26 +276,23 @@ Result<double> AddMonths(double serial, int64_t months) {
 // day where the month has it and takes the month's last day otherwise (31 January + 1 month is
 // 28 or 29 February). "y" and "w" add days, as on Windows.
 Result<Variant> DateAddFunction(Frame& frame, Args args) {
-  auto interval = IntervalArg(frame, args[0]);
-  if (!interval) return std::move(interval).error();
-  auto number = DoubleArg(frame, args[1]);
-  if (!number) return std::move(number).error();
-  auto serial = DateOrNull(frame, args[2]);
-  if (!serial) return std::move(serial).error();
-  if (!*serial) return Variant::Null();
-  const double n = RoundHalfEven(*number);
+  VBS_TRY_ASSIGN(auto interval, IntervalArg(frame, args[0]));
+  VBS_TRY_ASSIGN(auto number, DoubleArg(frame, args[1]));
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[2]));
+  if (!serial) return Variant::Null();
+  const double n = RoundHalfEven(number);
   if (std::fabs(n) > 1e12) return MakeError(err::kInvalidCall);
   const auto count = static_cast<int64_t>(n);
   Result<double> result = 0.0;
-  switch (*interval) {
-    case Interval::Year: result = AddMonths(**serial, count * 12); break;
-    case Interval::Quarter: result = AddMonths(**serial, count * 3); break;
-    case Interval::Month: result = AddMonths(**serial, count); break;
+  switch (interval) {
+    case Interval::Year: result = AddMonths(*serial, count * 12); break;
+    case Interval::Quarter: result = AddMonths(*serial, count * 3); break;
+    case Interval::Month: result = AddMonths(*serial, count); break;
     case Interval::DayOfYear:
     case Interval::Day:
     case Interval::Weekday:
     case Interval::Week: {
-      const double linear = Linear(**serial) + static_cast<double>(*interval == Interval::Week ? count * 7 : count);
+      const double linear = Linear(*serial) + static_cast<double>(interval == Interval::Week ? count * 7 : count);
       const double shifted = FromLinear(linear);
       result = IsValidDateSerial(shifted) ? Result<double>(shifted) : Result<double>(MakeError(err::kInvalidCall));
       break;
@@ -321,8 +300,8 @@ Result<Variant> DateAddFunction(Frame& frame, Args args) {
     case Interval::Hour:
     case Interval::Minute:
     case Interval::Second: {
-      const int64_t unit = *interval == Interval::Hour ? 3600 : (*interval == Interval::Minute ? 60 : 1);
-      const Moment m = MomentOf(**serial);
+      const int64_t unit = interval == Interval::Hour ? 3600 : (interval == Interval::Minute ? 60 : 1);
+      const Moment m = MomentOf(*serial);
       result = SerialOf(m.day, m.second + count * unit);
       break;
     }
@@ -335,21 +314,16 @@ Result<Variant> DateAddFunction(Frame& frame, Args args) {
 // boundaries lie between the dates ("yyyy" from 31 December to 1 January is 1); "w" counts whole
 // weeks, "ww" the weeks' first days. A Long; error 6 when it does not fit.
 Result<Variant> DateDiffFunction(Frame& frame, Args args) {
-  auto interval = IntervalArg(frame, args[0]);
-  if (!interval) return std::move(interval).error();
-  auto first_day = FirstDayOfWeek(frame, args, 3);
-  if (!first_day) return std::move(first_day).error();
-  auto first_week = FirstWeekOfYear(frame, args, 4);
-  if (!first_week) return std::move(first_week).error();
-  auto d1 = DateOrNull(frame, args[1]);
-  if (!d1) return std::move(d1).error();
-  auto d2 = DateOrNull(frame, args[2]);
-  if (!d2) return std::move(d2).error();
-  if (!*d1 || !*d2) return Variant::Null();
-  const Moment a = MomentOf(**d1);
-  const Moment b = MomentOf(**d2);
+  VBS_TRY_ASSIGN(auto interval, IntervalArg(frame, args[0]));
+  VBS_TRY_ASSIGN(auto first_day, FirstDayOfWeek(frame, args, 3));
+  VBS_TRY(FirstWeekOfYear(frame, args, 4));
+  VBS_TRY_ASSIGN(auto d1, DateOrNull(frame, args[1]));
+  VBS_TRY_ASSIGN(auto d2, DateOrNull(frame, args[2]));
+  if (!d1 || !d2) return Variant::Null();
+  const Moment a = MomentOf(*d1);
+  const Moment b = MomentOf(*d2);
   int64_t difference = 0;
-  switch (*interval) {
+  switch (interval) {
     case Interval::Year: difference = b.parts.year - a.parts.year; break;
     case Interval::Quarter:
       difference = (b.parts.year * 4 + (b.parts.month - 1) / 3) - (a.parts.year * 4 + (a.parts.month - 1) / 3);
@@ -359,7 +333,7 @@ Result<Variant> DateDiffFunction(Frame& frame, Args args) {
     case Interval::Day: difference = b.day - a.day; break;
     case Interval::Weekday: difference = (b.day - a.day) / 7; break;
     case Interval::Week:
-      difference = ((b.day - DayOfWeek(b.day, *first_day) + 1) - (a.day - DayOfWeek(a.day, *first_day) + 1)) / 7;
+      difference = ((b.day - DayOfWeek(b.day, first_day) + 1) - (a.day - DayOfWeek(a.day, first_day) + 1)) / 7;
       break;
     case Interval::Hour: difference = FloorDiv(TotalSeconds(b), 3600) - FloorDiv(TotalSeconds(a), 3600); break;
     case Interval::Minute: difference = FloorDiv(TotalSeconds(b), 60) - FloorDiv(TotalSeconds(a), 60); break;
@@ -373,26 +347,22 @@ Result<Variant> DateDiffFunction(Frame& frame, Args args) {
 // With vbFirstFourDays the last days of December may be week 1 of the next year, and the first
 // days of January the last week of the year before.
 Result<Variant> DatePartFunction(Frame& frame, Args args) {
-  auto interval = IntervalArg(frame, args[0]);
-  if (!interval) return std::move(interval).error();
-  auto first_day = FirstDayOfWeek(frame, args, 2);
-  if (!first_day) return std::move(first_day).error();
-  auto first_week = FirstWeekOfYear(frame, args, 3);
-  if (!first_week) return std::move(first_week).error();
-  auto serial = DateOrNull(frame, args[1]);
-  if (!serial) return std::move(serial).error();
-  if (!*serial) return Variant::Null();
-  const Moment m = MomentOf(**serial);
+  VBS_TRY_ASSIGN(auto interval, IntervalArg(frame, args[0]));
+  VBS_TRY_ASSIGN(auto first_day, FirstDayOfWeek(frame, args, 2));
+  VBS_TRY_ASSIGN(auto first_week, FirstWeekOfYear(frame, args, 3));
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[1]));
+  if (!serial) return Variant::Null();
+  const Moment m = MomentOf(*serial);
   const DateTimeParts& p = m.parts;
   int part = 0;
-  switch (*interval) {
+  switch (interval) {
     case Interval::Year: part = p.year; break;
     case Interval::Quarter: part = (p.month - 1) / 3 + 1; break;
     case Interval::Month: part = p.month; break;
     case Interval::DayOfYear: part = static_cast<int>(m.day - DayOf(p.year, 1, 1)) + 1; break;
     case Interval::Day: part = p.day; break;
-    case Interval::Weekday: part = DayOfWeek(m.day, *first_day); break;
-    case Interval::Week: part = WeekOfYear(m, *first_day, *first_week); break;
+    case Interval::Weekday: part = DayOfWeek(m.day, first_day); break;
+    case Interval::Week: part = WeekOfYear(m, first_day, first_week); break;
     case Interval::Hour: part = p.hour; break;
     case Interval::Minute: part = p.minute; break;
     case Interval::Second: part = p.second; break;
@@ -427,22 +397,20 @@ std::u16string ShortTime(const DateTimeParts& p, const Locale& locale) {
 Result<Variant> FormatDateTimeFunction(Frame& frame, Args args) {
   int32_t format = 0;
   if (IsGiven(args, 1)) {
-    auto n = LongArg(frame, args[1]);
-    if (!n) return std::move(n).error();
-    if (*n < 0 || *n > 4) return MakeError(err::kInvalidCall);
-    format = *n;
+    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[1]));
+    if (n < 0 || n > 4) return MakeError(err::kInvalidCall);
+    format = n;
   }
-  auto serial = DateOrNull(frame, args[0]);
-  if (!serial) return std::move(serial).error();
-  if (!*serial) return MakeError(err::kTypeMismatch);
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[0]));
+  if (!serial) return MakeError(err::kTypeMismatch);
   const Locale& locale = frame.interp.locale();
-  const DateTimeParts p = SplitSerial(**serial);
+  const DateTimeParts p = SplitSerial(*serial);
   switch (format) {
-    case 1: return Variant::String(LongDate(p, **serial, locale));
+    case 1: return Variant::String(LongDate(p, *serial, locale));
     case 2: return Variant::String(FormatShortDate(p, locale));
     case 3: return Variant::String(FormatLongTime(p, locale));
     case 4: return Variant::String(ShortTime(p, locale));
-    default: return Variant::String(FormatDateTime(**serial, locale));
+    default: return Variant::String(FormatDateTime(*serial, locale));
   }
 }
 

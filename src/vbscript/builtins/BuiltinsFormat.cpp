@@ -126,9 +126,8 @@ std::u16string Signed(std::u16string text, bool negative, bool parentheses) {
 // The tristate at `index`: -2 or omitted gives `fallback`, 0 false, anything else true.
 Result<bool> Tristate(Frame& frame, Args args, size_t index, bool fallback) {
   if (!IsGiven(args, index)) return fallback;
-  auto n = LongArg(frame, args[index]);
-  if (!n) return std::move(n).error();
-  return *n == kUseDefault ? fallback : *n != 0;
+  VBS_TRY_ASSIGN(auto n, LongArg(frame, args[index]));
+  return n == kUseDefault ? fallback : n != 0;
 }
 
 template <Kind kind>
@@ -136,32 +135,28 @@ Result<Variant> FormatFunction(Frame& frame, Args args) {
   const Locale& locale = frame.interp.locale();
   NumberStyle style{2, true, false, true};
   if (IsGiven(args, 1)) {
-    auto n = LongArg(frame, args[1]);
-    if (!n) return std::move(n).error();
-    if (*n < -1 || *n > 255) return MakeError(err::kInvalidCall);
-    if (*n != -1) style.decimals = *n;
+    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[1]));
+    if (n < -1 || n > 255) return MakeError(err::kInvalidCall);
+    if (n != -1) style.decimals = n;
   }
   // English shows negative amounts of money in parentheses; numbers and percentages nowhere.
   const bool parentheses_by_default = kind == Kind::Currency && locale.lcid != kLcidItalian;
   const bool fallbacks[] = {style.leading_zero, parentheses_by_default, style.grouping};
   bool* settings[] = {&style.leading_zero, &style.parentheses, &style.grouping};
   for (size_t i = 0; i < 3; ++i) {
-    auto b = Tristate(frame, args, i + 2, fallbacks[i]);
-    if (!b) return std::move(b).error();
-    *settings[i] = *b;
+    VBS_TRY_ASSIGN(auto b, Tristate(frame, args, i + 2, fallbacks[i]));
+    *settings[i] = b;
   }
 
-  auto plain = ValueOf(args[0]);
-  if (!plain) return std::move(plain).error();
-  if (plain->is_null()) return MakeError(err::kTypeMismatch);
+  VBS_TRY_ASSIGN(auto plain, ValueOf(args[0]));
+  if (plain.is_null()) return MakeError(err::kTypeMismatch);
   Decimal d;
-  if (plain->is_currency() && kind != Kind::Percent) {
-    d = FromCurrency(plain->as_currency());
+  if (plain.is_currency() && kind != Kind::Percent) {
+    d = FromCurrency(plain.as_currency());
   } else {
-    auto real = plain->to_double(locale);
-    if (!real) return std::move(real).error();
-    const double value = kind == Kind::Percent ? *real * 100 : *real;
-    d = FromDouble(value, plain->is_single() ? 7 : 15);
+    VBS_TRY_ASSIGN(auto real, plain.to_double(locale));
+    const double value = kind == Kind::Percent ? real * 100 : real;
+    d = FromDouble(value, plain.is_single() ? 7 : 15);
   }
   RoundDecimal(d, style.decimals);
   const bool negative = d.negative && !d.digits.empty();

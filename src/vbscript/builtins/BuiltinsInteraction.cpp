@@ -25,40 +25,33 @@ constexpr int32_t kPermissionDenied = 70;
 // A text argument that may be omitted or Null (both give "").
 Result<std::u16string> OptionalText(Frame& frame, Args args, size_t index) {
   if (!IsGiven(args, index) || IsNull(args[index])) return std::u16string();
-  auto text = TextArg(frame, args[index]);
-  if (!text) return std::move(text).error();
-  return text->ToU16String();
+  VBS_TRY_ASSIGN(auto text, TextArg(frame, args[index]));
+  return text.ToU16String();
 }
 
 // MsgBox(prompt [, buttons [, title [, helpfile, context]]]): the button pressed (vbOK ... vbNo).
 Result<Variant> MsgBoxFunction(Frame& frame, Args args) {
-  auto prompt = OptionalText(frame, args, 0);
-  if (!prompt) return std::move(prompt).error();
+  VBS_TRY_ASSIGN(auto prompt, OptionalText(frame, args, 0));
   int32_t buttons = 0;
   if (IsGiven(args, 1)) {
-    auto n = LongArg(frame, args[1]);
-    if (!n) return std::move(n).error();
-    buttons = *n;
+    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[1]));
+    buttons = n;
   }
-  auto title = OptionalText(frame, args, 2);
-  if (!title) return std::move(title).error();
+  VBS_TRY_ASSIGN(auto title, OptionalText(frame, args, 2));
   UiHandler* ui = frame.interp.ui();
   if (!ui) return MakeError(kPermissionDenied);
-  return Variant::Integer(static_cast<int16_t>(ui->MessageBox(*prompt, buttons, *title)));
+  return Variant::Integer(static_cast<int16_t>(ui->MessageBox(prompt, buttons, title)));
 }
 
 // InputBox(prompt [, title [, default [, xpos, ypos [, helpfile, context]]]]): the text typed, or
 // Empty when the user cancels (so that IsEmpty tells a cancel from an empty answer).
 Result<Variant> InputBoxFunction(Frame& frame, Args args) {
-  auto prompt = OptionalText(frame, args, 0);
-  if (!prompt) return std::move(prompt).error();
-  auto title = OptionalText(frame, args, 1);
-  if (!title) return std::move(title).error();
-  auto default_text = OptionalText(frame, args, 2);
-  if (!default_text) return std::move(default_text).error();
+  VBS_TRY_ASSIGN(auto prompt, OptionalText(frame, args, 0));
+  VBS_TRY_ASSIGN(auto title, OptionalText(frame, args, 1));
+  VBS_TRY_ASSIGN(auto default_text, OptionalText(frame, args, 2));
   UiHandler* ui = frame.interp.ui();
   if (!ui) return MakeError(kPermissionDenied);
-  auto answer = ui->InputBox(*prompt, *title, *default_text);
+  auto answer = ui->InputBox(prompt, title, default_text);
   if (!answer) return Variant();
   return Variant::String(*answer);
 }
@@ -76,20 +69,18 @@ Result<Variant> GetLocaleFunction(Frame& frame, Args) {
 // The locale a SetLocale argument names: an LCID (0 for the system's, Italian), or a language tag
 // such as "it-it" or "en-us"; error 5 for one the engine does not know.
 Result<const Locale*> LocaleNamed(Frame& frame, const Variant& value) {
-  auto plain = ValueOf(value);
-  if (!plain) return std::move(plain).error();
-  if (plain->is_string() && !ParseNumber(plain->as_string_view(), frame.interp.locale())) {
-    const std::u16string_view name = plain->as_string_view();
+  VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+  if (plain.is_string() && !ParseNumber(plain.as_string_view(), frame.interp.locale())) {
+    const std::u16string_view name = plain.as_string_view();
     for (std::u16string_view tag : {u"it-it", u"it"})
       if (EqualsIgnoringCase(name, tag)) return &ItalianLocale();
     for (std::u16string_view tag : {u"en-us", u"en"})
       if (EqualsIgnoringCase(name, tag)) return &EnglishLocale();
     return MakeError(err::kInvalidCall);
   }
-  auto lcid = plain->to_long(frame.interp.locale());
-  if (!lcid) return std::move(lcid).error();
-  if (*lcid == 0) return &ItalianLocale();
-  return LocaleFromLcid(*lcid);
+  VBS_TRY_ASSIGN(auto lcid, plain.to_long(frame.interp.locale()));
+  if (lcid == 0) return &ItalianLocale();
+  return LocaleFromLcid(lcid);
 }
 
 // SetLocale([lcid]): switches how numbers and dates read and print; returns the previous LCID.
@@ -97,9 +88,8 @@ Result<const Locale*> LocaleNamed(Frame& frame, const Variant& value) {
 Result<Variant> SetLocaleFunction(Frame& frame, Args args) {
   const Locale* locale = &ItalianLocale();
   if (IsGiven(args, 0)) {
-    auto named = LocaleNamed(frame, args[0]);
-    if (!named) return std::move(named).error();
-    locale = *named;
+    VBS_TRY_ASSIGN(auto named, LocaleNamed(frame, args[0]));
+    locale = named;
   }
   const auto previous = static_cast<int32_t>(frame.interp.locale().lcid);
   frame.interp.SetLocale(*locale);
@@ -111,10 +101,9 @@ Result<Variant> SetLocaleFunction(Frame& frame, Args args) {
 Result<Variant> RgbFunction(Frame& frame, Args args) {
   int32_t colour = 0;
   for (size_t i = 0; i < 3; ++i) {
-    auto n = LongArg(frame, args[i]);
-    if (!n) return std::move(n).error();
-    if (*n < 0) return MakeError(err::kInvalidCall);
-    colour |= std::min(*n, 255) << (8 * i);
+    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[i]));
+    if (n < 0) return MakeError(err::kInvalidCall);
+    colour |= std::min(n, 255) << (8 * i);
   }
   return Variant::Long(colour);
 }

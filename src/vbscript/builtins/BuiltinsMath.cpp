@@ -38,17 +38,15 @@ Result<Variant> AbsFunction(Frame& frame, Args args) {
       if (v.as_currency() == std::numeric_limits<int64_t>::min()) return MakeError(err::kOverflow);
       return Variant::Currency(v.as_currency() < 0 ? -v.as_currency() : v.as_currency());
     default: {
-      auto real = v.to_double(frame.interp.locale());
-      if (!real) return std::move(real).error();
-      return Variant::Double(std::fabs(*real));
+      VBS_TRY_ASSIGN(auto real, v.to_double(frame.interp.locale()));
+      return Variant::Double(std::fabs(real));
     }
   }
 }
 
 Result<Variant> SgnFunction(Frame& frame, Args args) {
-  auto real = DoubleArg(frame, args[0]);
-  if (!real) return std::move(real).error();
-  return Variant::Integer(static_cast<int16_t>(*real > 0 ? 1 : (*real < 0 ? -1 : 0)));
+  VBS_TRY_ASSIGN(auto real, DoubleArg(frame, args[0]));
+  return Variant::Integer(static_cast<int16_t>(real > 0 ? 1 : (real < 0 ? -1 : 0)));
 }
 
 enum class Domain { All, NotNegative, Positive };
@@ -56,11 +54,10 @@ enum class Domain { All, NotNegative, Positive };
 // A function of one Double: error 5 outside its domain, 6 when the result overflows.
 template <double (*F)(double), Domain domain>
 Result<Variant> RealFunction(Frame& frame, Args args) {
-  auto x = DoubleArg(frame, args[0]);
-  if (!x) return std::move(x).error();
-  if ((domain == Domain::NotNegative && *x < 0) || (domain == Domain::Positive && *x <= 0))
+  VBS_TRY_ASSIGN(auto x, DoubleArg(frame, args[0]));
+  if ((domain == Domain::NotNegative && x < 0) || (domain == Domain::Positive && x <= 0))
     return MakeError(err::kInvalidCall);
-  const double result = F(*x);
+  const double result = F(x);
   if (!std::isfinite(result)) return MakeError(err::kOverflow);
   return Variant::Double(result);
 }
@@ -79,9 +76,8 @@ double SquareRoot(double x) { return std::sqrt(x); }
 Result<Variant> RndFunction(Frame& frame, Args args) {
   float number = 1;
   if (IsGiven(args, 0)) {
-    auto n = args[0].Deref().to_single(frame.interp.locale());
-    if (!n) return std::move(n).error();
-    number = *n;
+    VBS_TRY_ASSIGN(auto n, args[0].Deref().to_single(frame.interp.locale()));
+    number = n;
   }
   // Each engine has its own sequence, restarted by Reset.
   return Variant::Single(frame.interp.random().Rnd(number));
@@ -90,9 +86,8 @@ Result<Variant> RndFunction(Frame& frame, Args args) {
 // Randomize [number]: mixes the number, or the time of day, into the seed.
 Result<Variant> RandomizeFunction(Frame& frame, Args args) {
   if (IsGiven(args, 0)) {
-    auto n = DoubleArg(frame, args[0]);
-    if (!n) return std::move(n).error();
-    frame.interp.random().Randomize(*n);
+    VBS_TRY_ASSIGN(auto n, DoubleArg(frame, args[0]));
+    frame.interp.random().Randomize(n);
     return Variant();
   }
   frame.interp.random().RandomizeFromTimer(SecondsSinceMidnight());

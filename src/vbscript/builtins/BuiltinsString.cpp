@@ -25,20 +25,17 @@ using namespace builtin;
 
 // The argument as text, or nullopt for Null (an object's default value counts).
 Result<std::optional<VbString>> TextOrNull(Frame& frame, const Variant& value) {
-  auto plain = ValueOf(value);
-  if (!plain) return std::move(plain).error();
-  if (plain->is_null()) return std::optional<VbString>();
-  auto text = plain->to_string(frame.interp.locale());
-  if (!text) return std::move(text).error();
-  return std::optional<VbString>(std::move(*text));
+  VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+  if (plain.is_null()) return std::optional<VbString>();
+  VBS_TRY_ASSIGN(auto text, plain.to_string(frame.interp.locale()));
+  return std::optional<VbString>(std::move(text));
 }
 
 // A count argument: a Long that must not be negative (error 5).
 Result<int32_t> CountArg(Frame& frame, const Variant& value) {
-  auto n = LongArg(frame, value);
-  if (!n) return std::move(n).error();
-  if (*n < 0) return MakeError(err::kInvalidCall);
-  return *n;
+  VBS_TRY_ASSIGN(auto n, LongArg(frame, value));
+  if (n < 0) return MakeError(err::kInvalidCall);
+  return n;
 }
 
 Variant Text(std::u16string_view text) { return Variant::String(text); }
@@ -139,29 +136,24 @@ std::span<const Variant> Elements(const Variant& list) {
 // ---- Length, pieces and characters ----
 
 Result<Variant> LenFunction(Frame& frame, Args args) {
-  auto text = TextOrNull(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (!*text) return Variant::Null();
-  return Variant::Long(static_cast<int32_t>((*text)->size()));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+  if (!text) return Variant::Null();
+  return Variant::Long(static_cast<int32_t>((text)->size()));
 }
 
 Result<Variant> LeftFunction(Frame& frame, Args args) {
-  auto n = CountArg(frame, args[1]);
-  if (!n) return std::move(n).error();
-  auto text = TextOrNull(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (!*text) return Variant::Null();
-  return Text((*text)->view().substr(0, static_cast<size_t>(*n)));
+  VBS_TRY_ASSIGN(auto n, CountArg(frame, args[1]));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+  if (!text) return Variant::Null();
+  return Text((text)->view().substr(0, static_cast<size_t>(n)));
 }
 
 Result<Variant> RightFunction(Frame& frame, Args args) {
-  auto n = CountArg(frame, args[1]);
-  if (!n) return std::move(n).error();
-  auto text = TextOrNull(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (!*text) return Variant::Null();
-  const std::u16string_view view = (*text)->view();
-  return Text(view.substr(view.size() - std::min(view.size(), static_cast<size_t>(*n))));
+  VBS_TRY_ASSIGN(auto n, CountArg(frame, args[1]));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+  if (!text) return Variant::Null();
+  const std::u16string_view view = (text)->view();
+  return Text(view.substr(view.size() - std::min(view.size(), static_cast<size_t>(n))));
 }
 
 // Mid's start and length: the length is read first, then the start; both are checked after.
@@ -174,114 +166,96 @@ Result<Span> MidSpan(Frame& frame, Args args) {
   int32_t length = -1;
   const bool has_length = IsGiven(args, 2);
   if (has_length) {
-    auto n = LongArg(frame, args[2]);
-    if (!n) return std::move(n).error();
-    length = *n;
+    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[2]));
+    length = n;
   }
-  auto start = LongArg(frame, args[1]);
-  if (!start) return std::move(start).error();
-  if (*start < 1 || (has_length && length < 0)) return MakeError(err::kInvalidCall);
-  return Span{static_cast<size_t>(*start) - 1, has_length ? static_cast<size_t>(length) : std::u16string_view::npos};
+  VBS_TRY_ASSIGN(auto start, LongArg(frame, args[1]));
+  if (start < 1 || (has_length && length < 0)) return MakeError(err::kInvalidCall);
+  return Span{static_cast<size_t>(start) - 1, has_length ? static_cast<size_t>(length) : std::u16string_view::npos};
 }
 
 Result<Variant> MidFunction(Frame& frame, Args args) {
-  auto span = MidSpan(frame, args);
-  if (!span) return std::move(span).error();
-  auto text = TextOrNull(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (!*text) return Variant::Null();
-  const std::u16string_view view = (*text)->view();
-  if (span->from >= view.size()) return Text(u"");
-  return Text(view.substr(span->from, span->length));
+  VBS_TRY_ASSIGN(auto span, MidSpan(frame, args));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+  if (!text) return Variant::Null();
+  const std::u16string_view view = (text)->view();
+  if (span.from >= view.size()) return Text(u"");
+  return Text(view.substr(span.from, span.length));
 }
 
 // The first code unit of a non-empty string: error 94 for Null, 5 for "".
 Result<char16_t> FirstUnit(Frame& frame, const Variant& value) {
-  auto text = TextArg(frame, value);
-  if (!text) return std::move(text).error();
-  if (text->empty()) return MakeError(err::kInvalidCall);
-  return text->view()[0];
+  VBS_TRY_ASSIGN(auto text, TextArg(frame, value));
+  if (text.empty()) return MakeError(err::kInvalidCall);
+  return text.view()[0];
 }
 
 Result<Variant> AscFunction(Frame& frame, Args args) {
-  auto c = FirstUnit(frame, args[0]);
-  if (!c) return std::move(c).error();
-  const std::string ansi = Utf16ToWindows1252(std::u16string_view(&*c, 1));
+  VBS_TRY_ASSIGN(auto c, FirstUnit(frame, args[0]));
+  const std::string ansi = Utf16ToWindows1252(std::u16string_view(&c, 1));
   return Variant::Integer(static_cast<unsigned char>(ansi[0]));
 }
 
 Result<Variant> AscWFunction(Frame& frame, Args args) {
-  auto c = FirstUnit(frame, args[0]);
-  if (!c) return std::move(c).error();
-  return Variant::Integer(static_cast<int16_t>(*c));
+  VBS_TRY_ASSIGN(auto c, FirstUnit(frame, args[0]));
+  return Variant::Integer(static_cast<int16_t>(c));
 }
 
 Result<Variant> AscBFunction(Frame& frame, Args args) {
-  auto c = FirstUnit(frame, args[0]);
-  if (!c) return std::move(c).error();
-  return Variant::Integer(static_cast<int16_t>(*c & 0xFF));
+  VBS_TRY_ASSIGN(auto c, FirstUnit(frame, args[0]));
+  return Variant::Integer(static_cast<int16_t>(c & 0xFF));
 }
 
 Result<Variant> ChrFunction(Frame& frame, Args args) {
-  auto code = LongArg(frame, args[0]);
-  if (!code) return std::move(code).error();
-  if (*code < 0 || *code > 255) return MakeError(err::kInvalidCall);
-  return Variant::String(std::u16string(1, AnsiCharacter(*code)));
+  VBS_TRY_ASSIGN(auto code, LongArg(frame, args[0]));
+  if (code < 0 || code > 255) return MakeError(err::kInvalidCall);
+  return Variant::String(std::u16string(1, AnsiCharacter(code)));
 }
 
 Result<Variant> ChrWFunction(Frame& frame, Args args) {
-  auto code = LongArg(frame, args[0]);
-  if (!code) return std::move(code).error();
-  if (*code < -32768 || *code > 65535) return MakeError(err::kInvalidCall);
-  return Variant::String(std::u16string(1, static_cast<char16_t>(*code & 0xFFFF)));
+  VBS_TRY_ASSIGN(auto code, LongArg(frame, args[0]));
+  if (code < -32768 || code > 65535) return MakeError(err::kInvalidCall);
+  return Variant::String(std::u16string(1, static_cast<char16_t>(code & 0xFFFF)));
 }
 
 // A string holds whole code units, so the one byte of ChrB becomes the code unit of that value.
 Result<Variant> ChrBFunction(Frame& frame, Args args) {
-  auto code = LongArg(frame, args[0]);
-  if (!code) return std::move(code).error();
-  if (*code < 0 || *code > 255) return MakeError(err::kInvalidCall);
-  return Variant::String(std::u16string(1, static_cast<char16_t>(*code)));
+  VBS_TRY_ASSIGN(auto code, LongArg(frame, args[0]));
+  if (code < 0 || code > 255) return MakeError(err::kInvalidCall);
+  return Variant::String(std::u16string(1, static_cast<char16_t>(code)));
 }
 
 // ---- Bytes: LenB, LeftB, RightB, MidB, InStrB. Byte counts that split a code unit round down. ----
 
 Result<Variant> LenBFunction(Frame& frame, Args args) {
-  auto text = TextOrNull(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (!*text) return Variant::Null();
-  return Variant::Long(static_cast<int32_t>((*text)->size() * 2));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+  if (!text) return Variant::Null();
+  return Variant::Long(static_cast<int32_t>((text)->size() * 2));
 }
 
 Result<Variant> LeftBFunction(Frame& frame, Args args) {
-  auto n = CountArg(frame, args[1]);
-  if (!n) return std::move(n).error();
-  auto text = TextOrNull(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (!*text) return Variant::Null();
-  return Text((*text)->view().substr(0, static_cast<size_t>(*n) / 2));
+  VBS_TRY_ASSIGN(auto n, CountArg(frame, args[1]));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+  if (!text) return Variant::Null();
+  return Text((text)->view().substr(0, static_cast<size_t>(n) / 2));
 }
 
 Result<Variant> RightBFunction(Frame& frame, Args args) {
-  auto n = CountArg(frame, args[1]);
-  if (!n) return std::move(n).error();
-  auto text = TextOrNull(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (!*text) return Variant::Null();
-  const std::u16string_view view = (*text)->view();
-  return Text(view.substr(view.size() - std::min(view.size(), static_cast<size_t>(*n) / 2)));
+  VBS_TRY_ASSIGN(auto n, CountArg(frame, args[1]));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+  if (!text) return Variant::Null();
+  const std::u16string_view view = (text)->view();
+  return Text(view.substr(view.size() - std::min(view.size(), static_cast<size_t>(n) / 2)));
 }
 
 Result<Variant> MidBFunction(Frame& frame, Args args) {
-  auto span = MidSpan(frame, args);
-  if (!span) return std::move(span).error();
-  auto text = TextOrNull(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (!*text) return Variant::Null();
-  const std::u16string_view view = (*text)->view();
-  const size_t from = span->from / 2;
+  VBS_TRY_ASSIGN(auto span, MidSpan(frame, args));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+  if (!text) return Variant::Null();
+  const std::u16string_view view = (text)->view();
+  const size_t from = span.from / 2;
   if (from >= view.size()) return Text(u"");
-  const size_t length = span->length == std::u16string_view::npos ? span->length : span->length / 2;
+  const size_t length = span.length == std::u16string_view::npos ? span.length : span.length / 2;
   return Text(view.substr(from, length));
 }
 
@@ -300,49 +274,43 @@ Result<SearchArgs> ReadSearchArgs(Frame& frame, Args args) {
   SearchArgs search;
   size_t first_text = 0;
   if (args.size() > 2) {
-    auto start = LongArg(frame, args[0]);
-    if (!start) return std::move(start).error();
-    if (*start < 1) return MakeError(err::kInvalidCall);
-    search.start = *start;
+    VBS_TRY_ASSIGN(auto start, LongArg(frame, args[0]));
+    if (start < 1) return MakeError(err::kInvalidCall);
+    search.start = start;
     first_text = 1;
-    auto mode = CompareArg(frame, args, 3);
-    if (!mode) return std::move(mode).error();
-    search.mode = *mode;
+    VBS_TRY_ASSIGN(auto mode, CompareArg(frame, args, 3));
+    search.mode = mode;
   }
-  auto text = TextOrNull(frame, args[first_text]);
-  if (!text) return std::move(text).error();
-  auto needle = TextOrNull(frame, args[first_text + 1]);
-  if (!needle) return std::move(needle).error();
-  search.text = std::move(*text);
-  search.needle = std::move(*needle);
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[first_text]));
+  VBS_TRY_ASSIGN(auto needle, TextOrNull(frame, args[first_text + 1]));
+  search.text = std::move(text);
+  search.needle = std::move(needle);
   return search;
 }
 
 Result<Variant> InStrFunction(Frame& frame, Args args) {
-  auto search = ReadSearchArgs(frame, args);
-  if (!search) return std::move(search).error();
-  if (!search->text || !search->needle) return Variant::Null();
-  const std::u16string_view text = search->text->view();
-  const auto from = static_cast<size_t>(search->start) - 1;
+  VBS_TRY_ASSIGN(auto search, ReadSearchArgs(frame, args));
+  if (!search.text || !search.needle) return Variant::Null();
+  const std::u16string_view text = search.text->view();
+  const auto from = static_cast<size_t>(search.start) - 1;
   if (from >= text.size()) return Variant::Long(0);
-  if (search->needle->empty()) return Variant::Long(search->start);
-  const size_t found = Search(text, search->needle->view(), search->mode).Next(from);
+  if (search.needle->empty()) return Variant::Long(search.start);
+  const size_t found = Search(text, search.needle->view(), search.mode).Next(from);
   return Variant::Long(found == std::u16string_view::npos ? 0 : static_cast<int32_t>(found) + 1);
 }
 
 Result<Variant> InStrBFunction(Frame& frame, Args args) {
-  auto search = ReadSearchArgs(frame, args);
-  if (!search) return std::move(search).error();
-  if (!search->text || !search->needle) return Variant::Null();
-  std::string text = Bytes(search->text->view());
-  std::string needle = Bytes(search->needle->view());
-  if (search->mode == CompareMode::Text) {
+  VBS_TRY_ASSIGN(auto search, ReadSearchArgs(frame, args));
+  if (!search.text || !search.needle) return Variant::Null();
+  std::string text = Bytes(search.text->view());
+  std::string needle = Bytes(search.needle->view());
+  if (search.mode == CompareMode::Text) {
     for (std::string* bytes : {&text, &needle})
       for (char& b : *bytes) b = static_cast<char>(FoldCase(static_cast<unsigned char>(b)));
   }
-  const auto from = static_cast<size_t>(search->start) - 1;
+  const auto from = static_cast<size_t>(search.start) - 1;
   if (from >= text.size()) return Variant::Long(0);
-  if (needle.empty()) return Variant::Long(search->start);
+  if (needle.empty()) return Variant::Long(search.start);
   const size_t found = text.find(needle, from);
   return Variant::Long(found == std::string::npos ? 0 : static_cast<int32_t>(found) + 1);
 }
@@ -351,46 +319,38 @@ Result<Variant> InStrBFunction(Frame& frame, Args args) {
 Result<Variant> InStrRevFunction(Frame& frame, Args args) {
   int32_t start = -1;
   if (IsGiven(args, 2)) {
-    auto n = LongArg(frame, args[2]);
-    if (!n) return std::move(n).error();
-    if (*n == 0 || *n < -1) return MakeError(err::kInvalidCall);
-    start = *n;
+    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[2]));
+    if (n == 0 || n < -1) return MakeError(err::kInvalidCall);
+    start = n;
   }
-  auto mode = CompareArg(frame, args, 3);
-  if (!mode) return std::move(mode).error();
-  auto text = TextArg(frame, args[0]);
-  if (!text) return std::move(text).error();
-  auto needle = TextArg(frame, args[1]);
-  if (!needle) return std::move(needle).error();
-  const auto length = static_cast<int32_t>(text->size());
+  VBS_TRY_ASSIGN(auto mode, CompareArg(frame, args, 3));
+  VBS_TRY_ASSIGN(auto text, TextArg(frame, args[0]));
+  VBS_TRY_ASSIGN(auto needle, TextArg(frame, args[1]));
+  const auto length = static_cast<int32_t>(text.size());
   if (start == -1) start = length;
   if (length == 0 || start > length) return Variant::Long(0);
-  if (needle->empty()) return Variant::Long(start);
-  const auto needle_length = static_cast<int32_t>(needle->size());
+  if (needle.empty()) return Variant::Long(start);
+  const auto needle_length = static_cast<int32_t>(needle.size());
   if (needle_length > start) return Variant::Long(0);
-  const size_t found = Search(text->view(), needle->view(), *mode).Last(static_cast<size_t>(start - needle_length));
+  const size_t found = Search(text.view(), needle.view(), mode).Last(static_cast<size_t>(start - needle_length));
   return Variant::Long(found == std::u16string_view::npos ? 0 : static_cast<int32_t>(found) + 1);
 }
 
 Result<Variant> StrCompFunction(Frame& frame, Args args) {
-  auto mode = CompareArg(frame, args, 2);
-  if (!mode) return std::move(mode).error();
-  auto a = TextOrNull(frame, args[0]);
-  if (!a) return std::move(a).error();
-  auto b = TextOrNull(frame, args[1]);
-  if (!b) return std::move(b).error();
-  if (!*a || !*b) return Variant::Null();
-  return Variant::Integer(static_cast<int16_t>(Compare((*a)->view(), (*b)->view(), *mode)));
+  VBS_TRY_ASSIGN(auto mode, CompareArg(frame, args, 2));
+  VBS_TRY_ASSIGN(auto a, TextOrNull(frame, args[0]));
+  VBS_TRY_ASSIGN(auto b, TextOrNull(frame, args[1]));
+  if (!a || !b) return Variant::Null();
+  return Variant::Integer(static_cast<int16_t>(Compare((a)->view(), (b)->view(), mode)));
 }
 
 // ---- Changing case, trimming, building ----
 
 template <char16_t (*Map)(char16_t)>
 Result<Variant> MapCase(Frame& frame, Args args) {
-  auto text = TextOrNull(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (!*text) return Variant::Null();
-  std::u16string out((*text)->view());
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+  if (!text) return Variant::Null();
+  std::u16string out((text)->view());
   for (char16_t& c : out) c = Map(c);
   return Variant::String(out);
 }
@@ -400,10 +360,9 @@ enum class TrimSide { Left, Right, Both };
 // Only spaces are trimmed, not tabs or line breaks.
 template <TrimSide side>
 Result<Variant> TrimFunction(Frame& frame, Args args) {
-  auto text = TextOrNull(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (!*text) return Variant::Null();
-  std::u16string_view view = (*text)->view();
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+  if (!text) return Variant::Null();
+  std::u16string_view view = (text)->view();
   if (side != TrimSide::Right)
     while (!view.empty() && view.front() == u' ') view.remove_prefix(1);
   if (side != TrimSide::Left)
@@ -412,39 +371,32 @@ Result<Variant> TrimFunction(Frame& frame, Args args) {
 }
 
 Result<Variant> SpaceFunction(Frame& frame, Args args) {
-  auto n = CountArg(frame, args[0]);
-  if (!n) return std::move(n).error();
-  auto text = VbString::TryCreate(static_cast<size_t>(*n), u' ');
-  if (!text) return std::move(text).error();
-  return Variant::String(std::move(*text));
+  VBS_TRY_ASSIGN(auto n, CountArg(frame, args[0]));
+  VBS_TRY_ASSIGN(auto text, VbString::TryCreate(static_cast<size_t>(n), u' '));
+  return Variant::String(std::move(text));
 }
 
 // String(n, character): the character is the first of a string, or a character code taken
 // modulo 256 in Windows-1252. A Null character gives Null; "" is error 5.
 Result<Variant> StringFunction(Frame& frame, Args args) {
-  auto n = CountArg(frame, args[0]);
-  if (!n) return std::move(n).error();
-  auto plain = ValueOf(args[1]);
-  if (!plain) return std::move(plain).error();
-  if (plain->is_null()) return Variant::Null();
+  VBS_TRY_ASSIGN(auto n, CountArg(frame, args[0]));
+  VBS_TRY_ASSIGN(auto plain, ValueOf(args[1]));
+  if (plain.is_null()) return Variant::Null();
   char16_t fill = 0;
-  if (plain->is_string()) {
-    if (plain->as_string_view().empty()) return MakeError(err::kInvalidCall);
-    fill = plain->as_string_view()[0];
+  if (plain.is_string()) {
+    if (plain.as_string_view().empty()) return MakeError(err::kInvalidCall);
+    fill = plain.as_string_view()[0];
   } else {
-    auto code = plain->to_long(frame.interp.locale());
-    if (!code) return std::move(code).error();
-    fill = AnsiCharacter((*code % 256 + 256) % 256);
+    VBS_TRY_ASSIGN(auto code, plain.to_long(frame.interp.locale()));
+    fill = AnsiCharacter((code % 256 + 256) % 256);
   }
-  auto text = VbString::TryCreate(static_cast<size_t>(*n), fill);
-  if (!text) return std::move(text).error();
-  return Variant::String(std::move(*text));
+  VBS_TRY_ASSIGN(auto text, VbString::TryCreate(static_cast<size_t>(n), fill));
+  return Variant::String(std::move(text));
 }
 
 Result<Variant> StrReverseFunction(Frame& frame, Args args) {
-  auto text = TextArg(frame, args[0]);
-  if (!text) return std::move(text).error();
-  std::u16string out(text->view());
+  VBS_TRY_ASSIGN(auto text, TextArg(frame, args[0]));
+  std::u16string out(text.view());
   std::reverse(out.begin(), out.end());
   return Variant::String(out);
 }
@@ -452,10 +404,9 @@ Result<Variant> StrReverseFunction(Frame& frame, Args args) {
 // An optional count argument (Replace, Split): -1, also when missing, means all; below -1 is error 5.
 Result<int32_t> CountArg(Frame& frame, Args args, size_t index) {
   if (!IsGiven(args, index)) return -1;
-  auto n = LongArg(frame, args[index]);
-  if (!n) return std::move(n).error();
-  if (*n < -1) return MakeError(err::kInvalidCall);
-  return *n;
+  VBS_TRY_ASSIGN(auto n, LongArg(frame, args[index]));
+  if (n < -1) return MakeError(err::kInvalidCall);
+  return n;
 }
 
 // Replace(expression, find, replacement [, start [, count [, compare]]]): the result begins at
@@ -463,31 +414,27 @@ Result<int32_t> CountArg(Frame& frame, Args args, size_t index) {
 Result<Variant> ReplaceFunction(Frame& frame, Args args) {
   std::optional<VbString> parts[3];
   for (size_t i = 0; i < 3; ++i) {
-    auto text = TextArg(frame, args[i]);
-    if (!text) return std::move(text).error();
-    parts[i] = std::move(*text);
+    VBS_TRY_ASSIGN(auto text, TextArg(frame, args[i]));
+    parts[i] = std::move(text);
   }
   int32_t start = 1;
   if (IsGiven(args, 3)) {
-    auto n = LongArg(frame, args[3]);
-    if (!n) return std::move(n).error();
-    if (*n < 1) return MakeError(err::kInvalidCall);
-    start = *n;
+    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[3]));
+    if (n < 1) return MakeError(err::kInvalidCall);
+    start = n;
   }
-  auto count = CountArg(frame, args, 4);
-  if (!count) return std::move(count).error();
-  auto mode = CompareArg(frame, args, 5);
-  if (!mode) return std::move(mode).error();
+  VBS_TRY_ASSIGN(auto count, CountArg(frame, args, 4));
+  VBS_TRY_ASSIGN(auto mode, CompareArg(frame, args, 5));
 
   const std::u16string_view whole = parts[0]->view();
   const std::u16string_view text = static_cast<size_t>(start) > whole.size() ? u"" : whole.substr(start - 1);
   const std::u16string_view find = parts[1]->view();
   const std::u16string_view replacement = parts[2]->view();
-  if (find.empty() || *count == 0) return Text(text);
+  if (find.empty() || count == 0) return Text(text);
   // The matches first, so that a result too long to hold fails before anything is built.
-  const Search search(text, find, *mode);
+  const Search search(text, find, mode);
   std::vector<size_t> matches;
-  for (size_t at = 0; *count == -1 || matches.size() < static_cast<size_t>(*count);) {
+  for (size_t at = 0; count == -1 || matches.size() < static_cast<size_t>(count);) {
     const size_t found = search.Next(at);
     if (found == std::u16string_view::npos) break;
     matches.push_back(found);
@@ -513,25 +460,21 @@ Result<Variant> ReplaceFunction(Frame& frame, Args args) {
 // Split(expression [, delimiter [, count [, compare]]]): "" splits into no elements; a count of
 // -1 means all, and the last element keeps the rest of the text.
 Result<Variant> SplitFunction(Frame& frame, Args args) {
-  auto text = TextArg(frame, args[0]);
-  if (!text) return std::move(text).error();
+  VBS_TRY_ASSIGN(auto text, TextArg(frame, args[0]));
   VbString delimiter(u" ");
   if (IsGiven(args, 1)) {
-    auto d = TextArg(frame, args[1]);
-    if (!d) return std::move(d).error();
-    delimiter = std::move(*d);
+    VBS_TRY_ASSIGN(auto d, TextArg(frame, args[1]));
+    delimiter = std::move(d);
   }
-  auto count = CountArg(frame, args, 2);
-  if (!count) return std::move(count).error();
-  auto mode = CompareArg(frame, args, 3);
-  if (!mode) return std::move(mode).error();
+  VBS_TRY_ASSIGN(auto count, CountArg(frame, args, 2));
+  VBS_TRY_ASSIGN(auto mode, CompareArg(frame, args, 3));
 
   std::vector<std::u16string_view> parts;
-  const std::u16string_view view = text->view();
-  if (!view.empty() && *count != 0) {
-    const Search search(view, delimiter.view(), *mode);
+  const std::u16string_view view = text.view();
+  if (!view.empty() && count != 0) {
+    const Search search(view, delimiter.view(), mode);
     size_t at = 0;
-    while (delimiter.size() != 0 && (*count == -1 || static_cast<int32_t>(parts.size()) < *count - 1)) {
+    while (delimiter.size() != 0 && (count == -1 || static_cast<int32_t>(parts.size()) < count - 1)) {
       const size_t found = search.Next(at);
       if (found == std::u16string_view::npos) break;
       parts.push_back(view.substr(at, found - at));
@@ -539,27 +482,23 @@ Result<Variant> SplitFunction(Frame& frame, Args args) {
     }
     parts.push_back(view.substr(at));
   }
-  auto array = StringArray(parts);
-  if (!array) return std::move(array).error();
-  return Variant::Array(*array);
+  VBS_TRY_ASSIGN(auto array, StringArray(parts));
+  return Variant::Array(array);
 }
 
 Result<Variant> JoinFunction(Frame& frame, Args args) {
-  auto list = ListArg(args[0]);
-  if (!list) return std::move(list).error();
+  VBS_TRY_ASSIGN(auto list, ListArg(args[0]));
   VbString delimiter(u" ");
   if (IsGiven(args, 1)) {
-    auto d = TextArg(frame, args[1]);
-    if (!d) return std::move(d).error();
-    delimiter = std::move(*d);
+    VBS_TRY_ASSIGN(auto d, TextArg(frame, args[1]));
+    delimiter = std::move(d);
   }
   VbString out;
-  const std::span<const Variant> items = Elements(*list);
+  const std::span<const Variant> items = Elements(list);
   for (size_t i = 0; i < items.size(); ++i) {
-    auto item = TextArg(frame, items[i]);
-    if (!item) return std::move(item).error();
+    VBS_TRY_ASSIGN(auto item, TextArg(frame, items[i]));
     if (i > 0) VBS_TRY(out.Append(delimiter.view()));
-    VBS_TRY(out.Append(item->view()));
+    VBS_TRY(out.Append(item.view()));
   }
   return Variant::String(std::move(out));
 }
@@ -567,30 +506,24 @@ Result<Variant> JoinFunction(Frame& frame, Args args) {
 // Filter(strings, value [, include [, compare]]): the elements that contain the value (or, with
 // include False, that do not), in a new 0-based array.
 Result<Variant> FilterFunction(Frame& frame, Args args) {
-  auto list = ListArg(args[0]);
-  if (!list) return std::move(list).error();
-  auto value = TextArg(frame, args[1]);
-  if (!value) return std::move(value).error();
+  VBS_TRY_ASSIGN(auto list, ListArg(args[0]));
+  VBS_TRY_ASSIGN(auto value, TextArg(frame, args[1]));
   bool include = true;
   if (IsGiven(args, 2)) {
-    auto b = BooleanArg(frame, args[2]);
-    if (!b) return std::move(b).error();
-    include = *b;
+    VBS_TRY_ASSIGN(auto b, BooleanArg(frame, args[2]));
+    include = b;
   }
-  auto mode = CompareArg(frame, args, 3);
-  if (!mode) return std::move(mode).error();
+  VBS_TRY_ASSIGN(auto mode, CompareArg(frame, args, 3));
   std::vector<VbString> kept;
-  for (const Variant& element : Elements(*list)) {
-    auto item = TextArg(frame, element);
-    if (!item) return std::move(item).error();
-    if ((Search(item->view(), value->view(), *mode).Next(0) != std::u16string_view::npos) == include)
-      kept.push_back(std::move(*item));
+  for (const Variant& element : Elements(list)) {
+    VBS_TRY_ASSIGN(auto item, TextArg(frame, element));
+    if ((Search(item.view(), value.view(), mode).Next(0) != std::u16string_view::npos) == include)
+      kept.push_back(std::move(item));
   }
   std::vector<std::u16string_view> parts;
   for (const VbString& s : kept) parts.push_back(s.view());
-  auto array = StringArray(parts);
-  if (!array) return std::move(array).error();
-  return Variant::Array(*array);
+  VBS_TRY_ASSIGN(auto array, StringArray(parts));
+  return Variant::Array(array);
 }
 
 // ---- Escape and Unescape: the %XX and %uXXXX forms of URLs ----
@@ -606,11 +539,10 @@ void AppendHex(std::u16string& out, unsigned value, int digits) {
 }
 
 Result<Variant> EscapeFunction(Frame& frame, Args args) {
-  auto text = TextOrNull(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (!*text) return Variant::Null();
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+  if (!text) return Variant::Null();
   std::u16string out;
-  for (char16_t c : (*text)->view()) {
+  for (char16_t c : (text)->view()) {
     if (KeptByEscape(c)) {
       out += c;
     } else if (c < 0x100) {
@@ -642,10 +574,9 @@ std::optional<char16_t> HexAt(std::u16string_view text, size_t at, size_t digits
 }
 
 Result<Variant> UnescapeFunction(Frame& frame, Args args) {
-  auto text = TextOrNull(frame, args[0]);
-  if (!text) return std::move(text).error();
-  if (!*text) return Variant::Null();
-  const std::u16string_view in = (*text)->view();
+  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+  if (!text) return Variant::Null();
+  const std::u16string_view in = (text)->view();
   std::u16string out;
   for (size_t i = 0; i < in.size(); ++i) {
     if (in[i] == u'%') {

@@ -61,9 +61,8 @@ Result<Variant> Compiler::ConstantValue(const ast::Expr& expression, Scope& scop
 Result<std::vector<int32_t>> Compiler::ConstantBounds(const std::vector<ast::ExprPtr>& bounds, Scope& scope) {
   std::vector<int32_t> uppers;
   for (const ast::ExprPtr& bound : bounds) {
-    auto value = ConstantValue(*bound, scope);
-    if (!value) return std::move(value).error();
-    auto upper = value->to_long(m_interp.locale());
+    VBS_TRY_ASSIGN(auto value, ConstantValue(*bound, scope));
+    auto upper = value.to_long(m_interp.locale());
     if (!upper) return MakeError(upper.error().number, bound->pos);
     uppers.push_back(*upper);
   }
@@ -112,9 +111,8 @@ Status Compiler::DeclareClass(ast::ClassStmt& statement, bool option_explicit) {
       if (cls.member_ids.contains(Interpreter::Fold(var.name))) return CompileError(kNameRedefined, var.pos);
       ClassField field{var.name, var.is_array, {}};
       if (!var.bounds.empty()) {
-        auto bounds = ConstantBounds(var.bounds, constants);
-        if (!bounds) return std::move(bounds).error();
-        field.bounds = std::move(*bounds);
+        VBS_TRY_ASSIGN(auto bounds, ConstantBounds(var.bounds, constants));
+        field.bounds = std::move(bounds);
       }
       cls.fields.push_back(std::move(field));
       ClassMember& member = member_named(var.name, dim->visibility != ast::Visibility::Private);
@@ -124,23 +122,22 @@ Status Compiler::DeclareClass(ast::ClassStmt& statement, bool option_explicit) {
 
   std::vector<std::pair<Procedure*, ast::ProcedureStmt*>> bodies;
   for (auto& proc : statement.procedures) {
-    auto procedure = DeclareProcedure(*proc, &cls);
-    if (!procedure) return std::move(procedure).error();
-    bodies.emplace_back(*procedure, proc.get());
+    VBS_TRY_ASSIGN(auto procedure, DeclareProcedure(*proc, &cls));
+    bodies.emplace_back(procedure, proc.get());
     std::string folded = Interpreter::Fold(proc->name);
-    if (folded == "class_initialize") cls.initialize = *procedure;
-    if (folded == "class_terminate") cls.terminate = *procedure;
+    if (folded == "class_initialize") cls.initialize = procedure;
+    if (folded == "class_terminate") cls.terminate = procedure;
     ClassMember& member = member_named(proc->name, proc->visibility != ast::Visibility::Private);
     if (member.field >= 0) return CompileError(kNameRedefined, proc->pos);
     switch (proc->proc_kind) {
       case ast::ProcedureKind::Sub:
       case ast::ProcedureKind::Function:
         if (member.method || member.getter) return CompileError(kNameRedefined, proc->pos);
-        member.method = *procedure;
+        member.method = procedure;
         break;
-      case ast::ProcedureKind::PropertyGet: member.getter = *procedure; break;
-      case ast::ProcedureKind::PropertyLet: member.letter = *procedure; break;
-      case ast::ProcedureKind::PropertySet: member.setter = *procedure; break;
+      case ast::ProcedureKind::PropertyGet: member.getter = procedure; break;
+      case ast::ProcedureKind::PropertyLet: member.letter = procedure; break;
+      case ast::ProcedureKind::PropertySet: member.setter = procedure; break;
     }
     if (proc->is_default) cls.default_member = cls.member_ids[folded];
   }
@@ -171,9 +168,8 @@ Status Compiler::CollectLocals(const ast::Block& block, Scope& scope) {
           if (var.is_array && var.bounds.empty()) {
             scope.procedure->dynamic_arrays.push_back(slot);
           } else if (var.is_array) {
-            auto bounds = ConstantBounds(var.bounds, scope);
-            if (!bounds) return std::move(bounds).error();
-            scope.procedure->fixed_arrays.emplace_back(slot, std::move(*bounds));
+            VBS_TRY_ASSIGN(auto bounds, ConstantBounds(var.bounds, scope));
+            scope.procedure->fixed_arrays.emplace_back(slot, std::move(bounds));
           }
         }
         break;
@@ -221,9 +217,8 @@ Status Compiler::CompileProcedureBody(Procedure& procedure, ast::ProcedureStmt& 
     scope.names[folded] = Name{static_cast<uint32_t>(Procedure::kFirstParamSlot + i), false, false, {}};
   }
   VBS_TRY(CollectLocals(statement.body, scope));
-  auto body = CompileBlock(statement.body, scope);
-  if (!body) return std::move(body).error();
-  procedure.body = std::move(*body);
+  VBS_TRY_ASSIGN(auto body, CompileBlock(statement.body, scope));
+  procedure.body = std::move(body);
   return Ok();
 }
 
@@ -281,8 +276,7 @@ Status Compiler::DeclareGlobal(ast::Stmt& statement, Scope& constants,
         // The name exists at once; an array comes into being when its Dim runs.
         m_interp.DeclareGlobal(Interpreter::Fold(var.name));
         if (var.is_array && !var.bounds.empty()) {
-          auto uppers = ConstantBounds(var.bounds, constants);
-          if (!uppers) return std::move(uppers).error();
+          VBS_TRY(ConstantBounds(var.bounds, constants));
         }
       }
       break;
@@ -290,17 +284,15 @@ Status Compiler::DeclareGlobal(ast::Stmt& statement, Scope& constants,
     case ast::StmtKind::Const: {
       auto& constant = static_cast<ast::ConstStmt&>(statement);
       for (ast::ConstItem& item : constant.items) {
-        auto value = ConstantValue(*item.value, constants);
-        if (!value) return std::move(value).error();
-        *m_interp.DeclareGlobal(Interpreter::Fold(item.name), GlobalEntry::Kind::Constant) = std::move(*value);
+        VBS_TRY_ASSIGN(auto value, ConstantValue(*item.value, constants));
+        *m_interp.DeclareGlobal(Interpreter::Fold(item.name), GlobalEntry::Kind::Constant) = std::move(value);
       }
       break;
     }
     case ast::StmtKind::Procedure: {
       auto& proc = static_cast<ast::ProcedureStmt&>(statement);
-      auto procedure = DeclareProcedure(proc, nullptr);
-      if (!procedure) return std::move(procedure).error();
-      bodies.emplace_back(*procedure, &proc);
+      VBS_TRY_ASSIGN(auto procedure, DeclareProcedure(proc, nullptr));
+      bodies.emplace_back(procedure, &proc);
       break;
     }
     case ast::StmtKind::Class:

@@ -67,9 +67,8 @@ Result<ExprNodes> Compiler::CompileArgs(std::vector<ast::ExprPtr>& args, Scope& 
       nodes.push_back(nullptr);
       continue;
     }
-    auto node = CompileExpr(*arg, scope);
-    if (!node) return std::move(node).error();
-    nodes.push_back(std::move(*node));
+    VBS_TRY_ASSIGN(auto node, CompileExpr(*arg, scope));
+    nodes.push_back(std::move(node));
   }
   return nodes;
 }
@@ -79,9 +78,8 @@ Result<ExprNodePtr> Compiler::CompileName(const std::string& name, SourcePos pos
   std::string folded = Interpreter::Fold(name);
   ExprNodes compiled_args;
   if (args) {
-    auto compiled = CompileArgs(*args, scope);
-    if (!compiled) return std::move(compiled).error();
-    compiled_args = std::move(*compiled);
+    VBS_TRY_ASSIGN(auto compiled, CompileArgs(*args, scope));
+    compiled_args = std::move(compiled);
   }
   const bool has_args = args != nullptr && !args->empty();
 
@@ -160,9 +158,8 @@ Result<ExprNodePtr> Compiler::CompileName(const std::string& name, SourcePos pos
 Result<ExprNodePtr> Compiler::CompileMember(ast::MemberExpr& member, std::vector<ast::ExprPtr>* args, Scope& scope) {
   ExprNodes compiled_args;
   if (args) {
-    auto compiled = CompileArgs(*args, scope);
-    if (!compiled) return std::move(compiled).error();
-    compiled_args = std::move(*compiled);
+    VBS_TRY_ASSIGN(auto compiled, CompileArgs(*args, scope));
+    compiled_args = std::move(compiled);
   }
   ExprNodePtr object;
   if (!member.object) {
@@ -184,9 +181,8 @@ Result<ExprNodePtr> Compiler::CompileMember(ast::MemberExpr& member, std::vector
     }
     object = std::make_unique<MeNode>(member.object->pos);
   } else {
-    auto compiled = CompileExpr(*member.object, scope);
-    if (!compiled) return std::move(compiled).error();
-    object = std::move(*compiled);
+    VBS_TRY_ASSIGN(auto compiled, CompileExpr(*member.object, scope));
+    object = std::move(compiled);
   }
   return ExprNodePtr(std::make_unique<MemberNode>(member.pos, std::move(object), member.name, std::move(compiled_args)));
 }
@@ -253,9 +249,8 @@ Result<ExprNodePtr> Compiler::CompileExpr(ast::Expr& expression, Scope& scope) {
         return CompileMember(static_cast<ast::MemberExpr&>(*call.callee), &call.args, scope);
       auto callee = CompileExpr(*call.callee, scope);
       if (!callee) return callee;
-      auto args = CompileArgs(call.args, scope);
-      if (!args) return std::move(args).error();
-      return ExprNodePtr(std::make_unique<ValueIndexNode>(expression.pos, std::move(*callee), std::move(*args)));
+      VBS_TRY_ASSIGN(auto args, CompileArgs(call.args, scope));
+      return ExprNodePtr(std::make_unique<ValueIndexNode>(expression.pos, std::move(*callee), std::move(args)));
     }
 
     case ast::ExprKind::Me:

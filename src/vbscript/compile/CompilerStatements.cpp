@@ -27,9 +27,8 @@ uint32_t Compiler::NewSlot(Scope& scope) { return (*scope.slot_count)++; }
 Result<BlockNode> Compiler::CompileBlock(ast::Block& block, Scope& scope) {
   BlockNode node;
   for (ast::StmtPtr& statement : block) {
-    auto compiled = CompileStatement(*statement, scope);
-    if (!compiled) return std::move(compiled).error();
-    if (*compiled) node.statements.push_back(std::move(*compiled));
+    VBS_TRY_ASSIGN(auto compiled, CompileStatement(*statement, scope));
+    if (compiled) node.statements.push_back(std::move(compiled));
   }
   return node;
 }
@@ -41,54 +40,43 @@ Result<StmtNodePtr> Compiler::CompileAssign(ast::AssignStmt& statement, Scope& s
     auto& binary = static_cast<ast::BinaryExpr&>(*statement.value);
     std::string folded = Interpreter::Fold(static_cast<ast::NameExpr&>(*statement.target).name);
     if (binary.op == ast::BinaryOp::Concat && IsName(binary.left.get(), folded)) {
-      auto target = CompileName(static_cast<ast::NameExpr&>(*statement.target).name, statement.target->pos, nullptr, scope);
-      if (!target) return std::move(target).error();
-      if (auto* variable = dynamic_cast<VariableNode*>(target->get())) {
-        auto value = CompileExpr(*binary.right, scope);
-        if (!value) return std::move(value).error();
-        target->release();
+      VBS_TRY_ASSIGN(auto target, CompileName(static_cast<ast::NameExpr&>(*statement.target).name, statement.target->pos, nullptr, scope));
+      if (auto* variable = dynamic_cast<VariableNode*>(target.get())) {
+        VBS_TRY_ASSIGN(auto value, CompileExpr(*binary.right, scope));
+        target.release();
         return StmtNodePtr(std::make_unique<AppendNode>(statement.pos, std::unique_ptr<VariableNode>(variable),
-                                                        std::move(*value)));
+                                                        std::move(value)));
       }
     }
     // `n = n + 1` and its kin on a plain variable update it in place.
     if (auto op = UpdateOperator(binary.op); op && IsName(binary.left.get(), folded)) {
-      auto target = CompileName(static_cast<ast::NameExpr&>(*statement.target).name, statement.target->pos, nullptr, scope);
-      if (!target) return std::move(target).error();
-      if (DirectOperand(target->get()).IsVariable()) {
-        auto value = CompileExpr(*binary.right, scope);
-        if (!value) return std::move(value).error();
-        return MakeUpdateNode(statement.pos, *op, std::move(*target), std::move(*value));
+      VBS_TRY_ASSIGN(auto target, CompileName(static_cast<ast::NameExpr&>(*statement.target).name, statement.target->pos, nullptr, scope));
+      if (DirectOperand(target.get()).IsVariable()) {
+        VBS_TRY_ASSIGN(auto value, CompileExpr(*binary.right, scope));
+        return MakeUpdateNode(statement.pos, *op, std::move(target), std::move(value));
       }
     }
   }
-  auto target = CompileExpr(*statement.target, scope);
-  if (!target) return std::move(target).error();
-  if (dynamic_cast<ConstantNode*>(target->get())) return StmtNodePtr(std::make_unique<FailNode>(statement.pos, err::kIllegalAssignment));
-  auto value = CompileExpr(*statement.value, scope);
-  if (!value) return std::move(value).error();
-  return StmtNodePtr(std::make_unique<AssignNode>(statement.pos, std::move(*target), std::move(*value), statement.is_set));
+  VBS_TRY_ASSIGN(auto target, CompileExpr(*statement.target, scope));
+  if (dynamic_cast<ConstantNode*>(target.get())) return StmtNodePtr(std::make_unique<FailNode>(statement.pos, err::kIllegalAssignment));
+  VBS_TRY_ASSIGN(auto value, CompileExpr(*statement.value, scope));
+  return StmtNodePtr(std::make_unique<AssignNode>(statement.pos, std::move(target), std::move(value), statement.is_set));
 }
 
 Result<StmtNodePtr> Compiler::CompileFor(ast::ForStmt& statement, Scope& scope) {
-  auto counter = CompileExpr(*statement.counter, scope);
-  if (!counter) return std::move(counter).error();
-  auto from = CompileExpr(*statement.from, scope);
-  if (!from) return std::move(from).error();
-  auto to = CompileExpr(*statement.to, scope);
-  if (!to) return std::move(to).error();
+  VBS_TRY_ASSIGN(auto counter, CompileExpr(*statement.counter, scope));
+  VBS_TRY_ASSIGN(auto from, CompileExpr(*statement.from, scope));
+  VBS_TRY_ASSIGN(auto to, CompileExpr(*statement.to, scope));
   ExprNodePtr step;
   if (statement.step) {
-    auto compiled = CompileExpr(*statement.step, scope);
-    if (!compiled) return std::move(compiled).error();
-    step = std::move(*compiled);
+    VBS_TRY_ASSIGN(auto compiled, CompileExpr(*statement.step, scope));
+    step = std::move(compiled);
   }
   uint32_t temp = NewSlot(scope);
   NewSlot(scope);
-  auto body = CompileBlock(statement.body, scope);
-  if (!body) return std::move(body).error();
-  return StmtNodePtr(std::make_unique<ForNode>(statement.pos, std::move(*counter), std::move(*from), std::move(*to),
-                                               std::move(step), temp, std::move(*body)));
+  VBS_TRY_ASSIGN(auto body, CompileBlock(statement.body, scope));
+  return StmtNodePtr(std::make_unique<ForNode>(statement.pos, std::move(counter), std::move(from), std::move(to),
+                                               std::move(step), temp, std::move(body)));
 }
 
 Result<StmtNodePtr> Compiler::CompileGlobalArrays(ast::DimStmt& dim, Scope& scope) {
@@ -96,9 +84,8 @@ Result<StmtNodePtr> Compiler::CompileGlobalArrays(ast::DimStmt& dim, Scope& scop
   for (ast::VarDecl& var : dim.vars) {
     if (!var.is_array) continue;
     const GlobalEntry* entry = m_interp.FindGlobal(Interpreter::Fold(var.name));
-    auto uppers = ConstantBounds(var.bounds, scope);
-    if (!uppers) return std::move(uppers).error();
-    items.push_back(DimArrayNode::Item{entry->storage, std::move(*uppers), !var.bounds.empty()});
+    VBS_TRY_ASSIGN(auto uppers, ConstantBounds(var.bounds, scope));
+    items.push_back(DimArrayNode::Item{entry->storage, std::move(uppers), !var.bounds.empty()});
   }
   if (items.empty()) return StmtNodePtr();
   return StmtNodePtr(std::make_unique<DimArrayNode>(dim.pos, std::move(items)));
@@ -122,9 +109,8 @@ Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scop
       } else {
         expr = CompileExpr(*call.callee, scope);
         if (expr && !call.args.empty()) {
-          auto args = CompileArgs(call.args, scope);
-          if (!args) return std::move(args).error();
-          expr = ExprNodePtr(std::make_unique<ValueIndexNode>(call.pos, std::move(*expr), std::move(*args)));
+          VBS_TRY_ASSIGN(auto args, CompileArgs(call.args, scope));
+          expr = ExprNodePtr(std::make_unique<ValueIndexNode>(call.pos, std::move(*expr), std::move(args)));
         }
       }
       if (!expr) return std::move(expr).error();
@@ -148,9 +134,8 @@ Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scop
       if (!scope.procedure && !m_outer) return StmtNodePtr();
       auto& constant = static_cast<ast::ConstStmt&>(statement);
       for (ast::ConstItem& item : constant.items) {
-        auto value = ConstantValue(*item.value, scope);
-        if (!value) return std::move(value).error();
-        scope.names[Interpreter::Fold(item.name)] = Name{0, false, true, std::move(*value)};
+        VBS_TRY_ASSIGN(auto value, ConstantValue(*item.value, scope));
+        scope.names[Interpreter::Fold(item.name)] = Name{0, false, true, std::move(value)};
       }
       return StmtNodePtr();
     }
@@ -170,51 +155,41 @@ Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scop
               m_interp.DeclareGlobal(folded);
           }
         }
-        auto target = CompileExpr(*item.target, scope);
-        if (!target) return std::move(target).error();
-        auto bounds = CompileArgs(item.bounds, scope);
-        if (!bounds) return std::move(bounds).error();
-        targets.push_back(RedimTarget{std::move(*target), std::move(*bounds)});
+        VBS_TRY_ASSIGN(auto target, CompileExpr(*item.target, scope));
+        VBS_TRY_ASSIGN(auto bounds, CompileArgs(item.bounds, scope));
+        targets.push_back(RedimTarget{std::move(target), std::move(bounds)});
       }
       return StmtNodePtr(std::make_unique<RedimNode>(statement.pos, redim.preserve, std::move(targets)));
     }
 
     case ast::StmtKind::Erase: {
-      auto targets = CompileArgs(static_cast<ast::EraseStmt&>(statement).targets, scope);
-      if (!targets) return std::move(targets).error();
-      return StmtNodePtr(std::make_unique<EraseNode>(statement.pos, std::move(*targets)));
+      VBS_TRY_ASSIGN(auto targets, CompileArgs(static_cast<ast::EraseStmt&>(statement).targets, scope));
+      return StmtNodePtr(std::make_unique<EraseNode>(statement.pos, std::move(targets)));
     }
 
     case ast::StmtKind::If: {
       auto& s = static_cast<ast::IfStmt&>(statement);
       std::vector<ConditionalBlock> branches;
       for (ast::IfBranch& branch : s.branches) {
-        auto condition = CompileExpr(*branch.condition, scope);
-        if (!condition) return std::move(condition).error();
-        auto body = CompileBlock(branch.body, scope);
-        if (!body) return std::move(body).error();
-        branches.push_back(ConditionalBlock{std::move(*condition), std::move(*body)});
+        VBS_TRY_ASSIGN(auto condition, CompileExpr(*branch.condition, scope));
+        VBS_TRY_ASSIGN(auto body, CompileBlock(branch.body, scope));
+        branches.push_back(ConditionalBlock{std::move(condition), std::move(body)});
       }
-      auto otherwise = CompileBlock(s.else_body, scope);
-      if (!otherwise) return std::move(otherwise).error();
-      return StmtNodePtr(std::make_unique<IfNode>(statement.pos, std::move(branches), std::move(*otherwise)));
+      VBS_TRY_ASSIGN(auto otherwise, CompileBlock(s.else_body, scope));
+      return StmtNodePtr(std::make_unique<IfNode>(statement.pos, std::move(branches), std::move(otherwise)));
     }
 
     case ast::StmtKind::Select: {
       auto& s = static_cast<ast::SelectStmt&>(statement);
-      auto subject = CompileExpr(*s.subject, scope);
-      if (!subject) return std::move(subject).error();
+      VBS_TRY_ASSIGN(auto subject, CompileExpr(*s.subject, scope));
       std::vector<CaseBlock> cases;
       for (ast::CaseClause& clause : s.cases) {
-        auto values = CompileArgs(clause.values, scope);
-        if (!values) return std::move(values).error();
-        auto body = CompileBlock(clause.body, scope);
-        if (!body) return std::move(body).error();
-        cases.push_back(CaseBlock{std::move(*values), std::move(*body)});
+        VBS_TRY_ASSIGN(auto values, CompileArgs(clause.values, scope));
+        VBS_TRY_ASSIGN(auto body, CompileBlock(clause.body, scope));
+        cases.push_back(CaseBlock{std::move(values), std::move(body)});
       }
-      auto otherwise = CompileBlock(s.else_body, scope);
-      if (!otherwise) return std::move(otherwise).error();
-      return StmtNodePtr(std::make_unique<SelectNode>(statement.pos, std::move(*subject), std::move(cases), std::move(*otherwise)));
+      VBS_TRY_ASSIGN(auto otherwise, CompileBlock(s.else_body, scope));
+      return StmtNodePtr(std::make_unique<SelectNode>(statement.pos, std::move(subject), std::move(cases), std::move(otherwise)));
     }
 
     case ast::StmtKind::For:
@@ -222,36 +197,29 @@ Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scop
 
     case ast::StmtKind::ForEach: {
       auto& s = static_cast<ast::ForEachStmt&>(statement);
-      auto element = CompileExpr(*s.element, scope);
-      if (!element) return std::move(element).error();
-      auto collection = CompileExpr(*s.collection, scope);
-      if (!collection) return std::move(collection).error();
-      auto body = CompileBlock(s.body, scope);
-      if (!body) return std::move(body).error();
-      return StmtNodePtr(std::make_unique<ForEachNode>(statement.pos, std::move(*element), std::move(*collection), std::move(*body)));
+      VBS_TRY_ASSIGN(auto element, CompileExpr(*s.element, scope));
+      VBS_TRY_ASSIGN(auto collection, CompileExpr(*s.collection, scope));
+      VBS_TRY_ASSIGN(auto body, CompileBlock(s.body, scope));
+      return StmtNodePtr(std::make_unique<ForEachNode>(statement.pos, std::move(element), std::move(collection), std::move(body)));
     }
 
     case ast::StmtKind::Do: {
       auto& s = static_cast<ast::DoStmt&>(statement);
       ExprNodePtr condition;
       if (s.condition) {
-        auto compiled = CompileExpr(*s.condition, scope);
-        if (!compiled) return std::move(compiled).error();
-        condition = std::move(*compiled);
+        VBS_TRY_ASSIGN(auto compiled, CompileExpr(*s.condition, scope));
+        condition = std::move(compiled);
       }
-      auto body = CompileBlock(s.body, scope);
-      if (!body) return std::move(body).error();
-      return StmtNodePtr(std::make_unique<LoopNode>(statement.pos, s.condition_kind, std::move(condition), std::move(*body), false));
+      VBS_TRY_ASSIGN(auto body, CompileBlock(s.body, scope));
+      return StmtNodePtr(std::make_unique<LoopNode>(statement.pos, s.condition_kind, std::move(condition), std::move(body), false));
     }
 
     case ast::StmtKind::While: {
       auto& s = static_cast<ast::WhileStmt&>(statement);
-      auto condition = CompileExpr(*s.condition, scope);
-      if (!condition) return std::move(condition).error();
-      auto body = CompileBlock(s.body, scope);
-      if (!body) return std::move(body).error();
-      return StmtNodePtr(std::make_unique<LoopNode>(statement.pos, ast::LoopCondition::WhileBefore, std::move(*condition),
-                                                    std::move(*body), true));
+      VBS_TRY_ASSIGN(auto condition, CompileExpr(*s.condition, scope));
+      VBS_TRY_ASSIGN(auto body, CompileBlock(s.body, scope));
+      return StmtNodePtr(std::make_unique<LoopNode>(statement.pos, ast::LoopCondition::WhileBefore, std::move(condition),
+                                                    std::move(body), true));
     }
 
     case ast::StmtKind::Exit: {
@@ -262,14 +230,13 @@ Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scop
 
     case ast::StmtKind::With: {
       auto& s = static_cast<ast::WithStmt&>(statement);
-      auto object = CompileExpr(*s.object, scope);
-      if (!object) return std::move(object).error();
+      VBS_TRY_ASSIGN(auto object, CompileExpr(*s.object, scope));
       uint32_t slot = NewSlot(scope);
       scope.with_slots.push_back(slot);
       auto body = CompileBlock(s.body, scope);
       scope.with_slots.pop_back();
       if (!body) return std::move(body).error();
-      return StmtNodePtr(std::make_unique<WithNode>(statement.pos, std::move(*object), slot, std::move(*body)));
+      return StmtNodePtr(std::make_unique<WithNode>(statement.pos, std::move(object), slot, std::move(*body)));
     }
 
     case ast::StmtKind::OnError:
@@ -310,15 +277,13 @@ Result<std::unique_ptr<CompiledProgram>> Compiler::CompileProgram(ast::Program& 
     for (ast::StmtPtr& statement : program.body)
       if (statement) rest.push_back(std::move(statement));
     program.body = std::move(rest);
-    auto body = CompileBlock(program.body, scope);
-    if (!body) return std::move(body).error();
-    compiled->body = std::move(*body);
+    VBS_TRY_ASSIGN(auto body, CompileBlock(program.body, scope));
+    compiled->body = std::move(body);
     return compiled;
   }
   VBS_TRY(DeclareGlobals(program, option_explicit));
-  auto body = CompileBlock(program.body, scope);
-  if (!body) return std::move(body).error();
-  compiled->body = std::move(*body);
+  VBS_TRY_ASSIGN(auto body, CompileBlock(program.body, scope));
+  compiled->body = std::move(body);
   return compiled;
 }
 
@@ -332,9 +297,8 @@ Result<std::unique_ptr<CompiledProgram>> Compiler::CompileExpression(ast::Expr& 
     for (uint32_t slot = 0; slot < names.size(); ++slot)
       if (!names[slot].empty()) scope.names[names[slot]] = Name{slot, true, false, {}};
   }
-  auto expr = CompileExpr(expression, scope);
-  if (!expr) return std::move(expr).error();
-  compiled->expression = std::move(*expr);
+  VBS_TRY_ASSIGN(auto expr, CompileExpr(expression, scope));
+  compiled->expression = std::move(expr);
   return compiled;
 }
 

@@ -211,20 +211,18 @@ void Dictionary::CompactIfSparse() {
 
 Status Dictionary::Add(const Variant& key, Variant item) {
   const Variant& plain = key.Deref();
-  auto hash = HashOf(plain);
-  if (!hash) return std::move(hash).error();
+  VBS_TRY_ASSIGN(auto hash, HashOf(plain));
   size_t slot = 0;
-  if (Lookup(plain, *hash, slot) != kMissing) return MakeError(kKeyExists);
-  Append(plain, std::move(item), *hash, slot);
+  if (Lookup(plain, hash, slot) != kMissing) return MakeError(kKeyExists);
+  Append(plain, std::move(item), hash, slot);
   return Ok();
 }
 
 Result<const Variant*> Dictionary::Find(const Variant& key) const {
   const Variant& plain = key.Deref();
-  auto hash = HashOf(plain);
-  if (!hash) return std::move(hash).error();
+  VBS_TRY_ASSIGN(auto hash, HashOf(plain));
   size_t slot = 0;
-  const uint32_t entry = Lookup(plain, *hash, slot);
+  const uint32_t entry = Lookup(plain, hash, slot);
   return entry == kMissing ? nullptr : &m_entries[entry].item;
 }
 
@@ -236,30 +234,27 @@ Result<Variant> Dictionary::AddMember(CallArgs& args) {
 }
 
 Result<Variant> Dictionary::Exists(CallArgs& args) {
-  auto item = Find(args[0]);
-  if (!item) return std::move(item).error();
-  return Variant::Boolean(*item != nullptr);
+  VBS_TRY_ASSIGN(auto item, Find(args[0]));
+  return Variant::Boolean(item != nullptr);
 }
 
 Result<Variant> Dictionary::GetItem(CallArgs& args) {
   const Variant& key = args[0];
-  auto hash = HashOf(key);
-  if (!hash) return std::move(hash).error();
+  VBS_TRY_ASSIGN(auto hash, HashOf(key));
   size_t slot = 0;
-  const uint32_t entry = Lookup(key, *hash, slot);
+  const uint32_t entry = Lookup(key, hash, slot);
   if (entry != kMissing) return m_entries[entry].item;
-  Append(key, Variant(), *hash, slot);
+  Append(key, Variant(), hash, slot);
   return Variant();
 }
 
 Result<Variant> Dictionary::PutItem(CallArgs& args, Variant value) {
   const Variant& key = args[0];
-  auto hash = HashOf(key);
-  if (!hash) return std::move(hash).error();
+  VBS_TRY_ASSIGN(auto hash, HashOf(key));
   size_t slot = 0;
-  const uint32_t entry = Lookup(key, *hash, slot);
+  const uint32_t entry = Lookup(key, hash, slot);
   if (entry == kMissing) {
-    Append(key, std::move(value), *hash, slot);
+    Append(key, std::move(value), hash, slot);
     return Variant();
   }
   // The old item dies when `value` does, after the dictionary is consistent again: its
@@ -270,25 +265,23 @@ Result<Variant> Dictionary::PutItem(CallArgs& args, Variant value) {
 
 Result<Variant> Dictionary::PutKey(CallArgs& args, Variant value) {
   const Variant& old_key = args[0];
-  auto old_hash = HashOf(old_key);
-  if (!old_hash) return std::move(old_hash).error();
-  auto new_hash = HashOf(value);
-  if (!new_hash) return std::move(new_hash).error();
+  VBS_TRY_ASSIGN(auto old_hash, HashOf(old_key));
+  VBS_TRY_ASSIGN(auto new_hash, HashOf(value));
   size_t old_slot = 0;
-  const uint32_t entry = Lookup(old_key, *old_hash, old_slot);
+  const uint32_t entry = Lookup(old_key, old_hash, old_slot);
   if (entry == kMissing) return MakeError(kElementNotFound);
   size_t new_slot = 0;
-  const uint32_t clash = Lookup(value, *new_hash, new_slot);
+  const uint32_t clash = Lookup(value, new_hash, new_slot);
   if (clash == entry) {
     std::swap(m_entries[entry].key, value);
     return Variant();
   }
   if (clash != kMissing) return MakeError(kKeyExists);
   Erase(kMissing, old_slot);
-  (void)Lookup(value, *new_hash, new_slot);
+  (void)Lookup(value, new_hash, new_slot);
   std::swap(m_entries[entry].key, value);
-  m_entries[entry].hash = *new_hash;
-  m_slots[new_slot] = Slot{entry + 1, static_cast<uint32_t>(*new_hash)};
+  m_entries[entry].hash = new_hash;
+  m_slots[new_slot] = Slot{entry + 1, static_cast<uint32_t>(new_hash)};
   return Variant();
 }
 
@@ -297,9 +290,8 @@ Result<Variant> Dictionary::Keys(CallArgs&) {
   keys.reserve(m_live);
   for (const Entry& entry : m_entries)
     if (entry.live) keys.push_back(entry.key);
-  auto array = SafeArray::FromValues(keys);
-  if (!array) return std::move(array).error();
-  return Variant::Array(*array);
+  VBS_TRY_ASSIGN(auto array, SafeArray::FromValues(keys));
+  return Variant::Array(array);
 }
 
 Result<Variant> Dictionary::Items(CallArgs&) {
@@ -307,17 +299,15 @@ Result<Variant> Dictionary::Items(CallArgs&) {
   items.reserve(m_live);
   for (const Entry& entry : m_entries)
     if (entry.live) items.push_back(entry.item);
-  auto array = SafeArray::FromValues(items);
-  if (!array) return std::move(array).error();
-  return Variant::Array(*array);
+  VBS_TRY_ASSIGN(auto array, SafeArray::FromValues(items));
+  return Variant::Array(array);
 }
 
 Result<Variant> Dictionary::Remove(CallArgs& args) {
   const Variant& key = args[0];
-  auto hash = HashOf(key);
-  if (!hash) return std::move(hash).error();
+  VBS_TRY_ASSIGN(auto hash, HashOf(key));
   size_t slot = 0;
-  const uint32_t entry = Lookup(key, *hash, slot);
+  const uint32_t entry = Lookup(key, hash, slot);
   if (entry == kMissing) return MakeError(kElementNotFound);
   Entry removed = std::move(m_entries[entry]);
   Erase(entry, slot);
@@ -338,18 +328,16 @@ Result<Variant> Dictionary::Count(CallArgs&) { return Variant::Long(static_cast<
 Result<Variant> Dictionary::GetCompareMode(CallArgs&) { return Variant::Long(m_mode_value); }
 
 Result<Variant> Dictionary::PutCompareMode(CallArgs&, Variant value) {
-  auto mode = value.to_long(locale());
-  if (!mode) return std::move(mode).error();
-  if (*mode < 0 || *mode > 2 || m_live != 0) return MakeError(err::kInvalidCall);
-  m_mode_value = *mode;
-  m_mode = *mode == 0 ? CompareMode::Binary : CompareMode::Text;
+  VBS_TRY_ASSIGN(auto mode, value.to_long(locale()));
+  if (mode < 0 || mode > 2 || m_live != 0) return MakeError(err::kInvalidCall);
+  m_mode_value = mode;
+  m_mode = mode == 0 ? CompareMode::Binary : CompareMode::Text;
   return Variant();
 }
 
 Result<Variant> Dictionary::HashVal(CallArgs& args) {
-  auto hash = HashOf(args[0]);
-  if (!hash) return std::move(hash).error();
-  return Variant::Long(static_cast<int32_t>(*hash % 1201));
+  VBS_TRY_ASSIGN(auto hash, HashOf(args[0]));
+  return Variant::Long(static_cast<int32_t>(hash % 1201));
 }
 
 }  // namespace vbs

@@ -110,10 +110,9 @@ Result<std::vector<fs::path>> Matching(const fs::path& wanted, EntryKind kind, i
   const fs::path folder = wanted.parent_path().empty() ? fs::path(".") : wanted.parent_path();
   if (!fs::is_directory(folder, ec)) return MakeError(kPathNotFound);
   const std::u16string pattern = NameOf(wanted);
-  auto entries = ListFolder(folder);
-  if (!entries) return std::move(entries).error();
+  VBS_TRY_ASSIGN(auto entries, ListFolder(folder));
   std::vector<fs::path> found;
-  for (const FolderEntry& entry : *entries) {
+  for (const FolderEntry& entry : entries) {
     if (entry.is_folder == (kind == EntryKind::Folder) && MatchesWildcard(pattern, NameOf(entry.path)))
       found.push_back(entry.path);
   }
@@ -240,9 +239,8 @@ Status CopyTree(const fs::path& from, const fs::path& to, Overwrite overwrite) {
   std::error_code ec;
   fs::create_directories(target, ec);
   if (ec) return FileError(ec, kPathNotFound);
-  auto entries = ListFolder(source);
-  if (!entries) return std::move(entries).error();
-  for (const FolderEntry& entry : *entries) {
+  VBS_TRY_ASSIGN(auto entries, ListFolder(source));
+  for (const FolderEntry& entry : entries) {
     const fs::path inside = target / entry.path.filename();
     if (entry.is_link) {
       if (fs::exists(fs::symlink_status(inside, ec))) {
@@ -285,9 +283,8 @@ Status DeleteOneFile(const fs::path& path, Force force) {
 
 // Whether a folder holds a read-only file at any depth, which DeleteFolder without Force refuses.
 Result<bool> HoldsReadOnlyFile(const fs::path& folder) {
-  auto entries = ListFolder(folder);
-  if (!entries) return std::move(entries).error();
-  for (const FolderEntry& entry : *entries) {
+  VBS_TRY_ASSIGN(auto entries, ListFolder(folder));
+  for (const FolderEntry& entry : entries) {
     if (entry.is_link) continue;
     auto inside = entry.is_folder ? HoldsReadOnlyFile(entry.path) : Result<bool>(IsReadOnly(entry.path));
     if (!inside || *inside) return inside;
@@ -297,9 +294,8 @@ Result<bool> HoldsReadOnlyFile(const fs::path& folder) {
 
 Status DeleteTree(const fs::path& path, Force force) {
   if (force == Force::No) {
-    auto read_only = HoldsReadOnlyFile(path);
-    if (!read_only) return std::move(read_only).error();
-    if (*read_only) return MakeError(kPermissionDenied);
+    VBS_TRY_ASSIGN(auto read_only, HoldsReadOnlyFile(path));
+    if (read_only) return MakeError(kPermissionDenied);
   }
   std::error_code ec;
   fs::remove_all(path, ec);
@@ -357,56 +353,45 @@ std::span<const FileSystemObject::Member> FileSystemObject::Members() {
 }
 
 Result<Variant> FileSystemObject::BuildPath(CallArgs& args) {
-  auto path = args.String(0);
-  if (!path) return std::move(path).error();
-  auto name = args.String(1);
-  if (!name) return std::move(name).error();
-  if (path->empty() || (path->size() == 2 && HasDrive(*path))) return Variant::String(*path + *name);
-  std::u16string_view rest = *name;
-  if (EndsWithSeparator(*path)) {
+  VBS_TRY_ASSIGN(auto path, args.String(0));
+  VBS_TRY_ASSIGN(auto name, args.String(1));
+  if (path.empty() || (path.size() == 2 && HasDrive(path))) return Variant::String(path + name);
+  std::u16string_view rest = name;
+  if (EndsWithSeparator(path)) {
     while (!rest.empty() && IsSeparator(rest[0])) rest.remove_prefix(1);
-    return Variant::String(*path + std::u16string(rest));
+    return Variant::String(path + std::u16string(rest));
   }
-  if (!rest.empty() && IsSeparator(rest[0])) return Variant::String(*path + *name);
-  const char16_t separator = path->find(u'/') != std::u16string::npos && path->find(u'\\') == std::u16string::npos ? u'/' : u'\\';
-  return Variant::String(*path + separator + *name);
+  if (!rest.empty() && IsSeparator(rest[0])) return Variant::String(path + name);
+  const char16_t separator = path.find(u'/') != std::u16string::npos && path.find(u'\\') == std::u16string::npos ? u'/' : u'\\';
+  return Variant::String(path + separator + name);
 }
 
 Result<Variant> FileSystemObject::CopyFile(CallArgs& args) {
-  auto from = args.String(0);
-  if (!from) return std::move(from).error();
-  auto to = args.String(1);
-  if (!to) return std::move(to).error();
-  auto overwrite = args.Boolean(2, true);
-  if (!overwrite) return std::move(overwrite).error();
-  const fs::path source = NativePath(*from);
-  auto sources = Matching(source, EntryKind::File, kFileNotFound);
-  if (!sources) return std::move(sources).error();
-  const fs::path destination = NativePath(*to);
-  const bool into_folder = HasWildcards(source) || EndsWithSeparator(*to);
-  for (const fs::path& one : *sources) {
-    auto target = TargetFor(one, destination, into_folder);
-    if (!target) return std::move(target).error();
+  VBS_TRY_ASSIGN(auto from, args.String(0));
+  VBS_TRY_ASSIGN(auto to, args.String(1));
+  VBS_TRY_ASSIGN(auto overwrite, args.Boolean(2, true));
+  const fs::path source = NativePath(from);
+  VBS_TRY_ASSIGN(auto sources, Matching(source, EntryKind::File, kFileNotFound));
+  const fs::path destination = NativePath(to);
+  const bool into_folder = HasWildcards(source) || EndsWithSeparator(to);
+  for (const fs::path& one : sources) {
+    VBS_TRY_ASSIGN(auto target, TargetFor(one, destination, into_folder));
     VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, one, "CopyFile"));
-    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, *target, "CopyFile"));
-    VBS_TRY(CopyOneFile(one, *target, *overwrite ? Overwrite::Yes : Overwrite::No));
+    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, target, "CopyFile"));
+    VBS_TRY(CopyOneFile(one, target, overwrite ? Overwrite::Yes : Overwrite::No));
   }
   return Variant();
 }
 
 Result<Variant> FileSystemObject::CopyFolder(CallArgs& args) {
-  auto from = args.String(0);
-  if (!from) return std::move(from).error();
-  auto to = args.String(1);
-  if (!to) return std::move(to).error();
-  auto overwrite = args.Boolean(2, true);
-  if (!overwrite) return std::move(overwrite).error();
-  const fs::path source = NativePath(*from);
-  auto sources = Matching(source, EntryKind::Folder, kPathNotFound);
-  if (!sources) return std::move(sources).error();
-  const fs::path destination = NativePath(*to);
-  const bool into_folder = HasWildcards(source) || EndsWithSeparator(*to);
-  for (const fs::path& one : *sources) {
+  VBS_TRY_ASSIGN(auto from, args.String(0));
+  VBS_TRY_ASSIGN(auto to, args.String(1));
+  VBS_TRY_ASSIGN(auto overwrite, args.Boolean(2, true));
+  const fs::path source = NativePath(from);
+  VBS_TRY_ASSIGN(auto sources, Matching(source, EntryKind::Folder, kPathNotFound));
+  const fs::path destination = NativePath(to);
+  const bool into_folder = HasWildcards(source) || EndsWithSeparator(to);
+  for (const fs::path& one : sources) {
     fs::path target = destination;
     if (into_folder) {
       std::error_code ec;
@@ -415,15 +400,14 @@ Result<Variant> FileSystemObject::CopyFolder(CallArgs& args) {
     }
     VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, one, "CopyFolder"));
     VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, target, "CopyFolder"));
-    VBS_TRY(CopyTree(one, target, *overwrite ? Overwrite::Yes : Overwrite::No));
+    VBS_TRY(CopyTree(one, target, overwrite ? Overwrite::Yes : Overwrite::No));
   }
   return Variant();
 }
 
 Result<Variant> FileSystemObject::CreateFolder(CallArgs& args) {
-  auto name = args.String(0);
-  if (!name) return std::move(name).error();
-  const fs::path path = NativePath(*name);
+  VBS_TRY_ASSIGN(auto name, args.String(0));
+  const fs::path path = NativePath(name);
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, path, "CreateFolder"));
   std::error_code ec;
   if (fs::exists(fs::symlink_status(path, ec))) return MakeError(kFileExists);
@@ -433,141 +417,117 @@ Result<Variant> FileSystemObject::CreateFolder(CallArgs& args) {
 }
 
 Result<Variant> FileSystemObject::CreateTextFile(CallArgs& args) {
-  auto name = args.String(0);
-  if (!name) return std::move(name).error();
-  auto overwrite = args.Boolean(1, true);
-  if (!overwrite) return std::move(overwrite).error();
-  auto unicode = args.Boolean(2, false);
-  if (!unicode) return std::move(unicode).error();
-  const fs::path path = NativePath(*name);
+  VBS_TRY_ASSIGN(auto name, args.String(0));
+  VBS_TRY_ASSIGN(auto overwrite, args.Boolean(1, true));
+  VBS_TRY_ASSIGN(auto unicode, args.Boolean(2, false));
+  const fs::path path = NativePath(name);
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, path, "CreateTextFile"));
-  auto stream = TextStream::Create(locale(), path, *overwrite, *unicode ? TextFormat::Unicode : TextFormat::Ansi);
-  if (!stream) return std::move(stream).error();
-  return Variant::Object(*stream);
+  VBS_TRY_ASSIGN(auto stream, TextStream::Create(locale(), path, overwrite, unicode ? TextFormat::Unicode : TextFormat::Ansi));
+  return Variant::Object(stream);
 }
 
 Result<Variant> FileSystemObject::DeleteFile(CallArgs& args) {
-  auto wanted = args.String(0);
-  if (!wanted) return std::move(wanted).error();
-  auto force = args.Boolean(1, false);
-  if (!force) return std::move(force).error();
-  auto files = Matching(NativePath(*wanted), EntryKind::File, kFileNotFound);
-  if (!files) return std::move(files).error();
-  for (const fs::path& file : *files) {
+  VBS_TRY_ASSIGN(auto wanted, args.String(0));
+  VBS_TRY_ASSIGN(auto force, args.Boolean(1, false));
+  VBS_TRY_ASSIGN(auto files, Matching(NativePath(wanted), EntryKind::File, kFileNotFound));
+  for (const fs::path& file : files) {
     VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, file, "DeleteFile"));
-    VBS_TRY(DeleteOneFile(file, *force ? Force::Yes : Force::No));
+    VBS_TRY(DeleteOneFile(file, force ? Force::Yes : Force::No));
   }
   return Variant();
 }
 
 Result<Variant> FileSystemObject::DeleteFolder(CallArgs& args) {
-  auto wanted = args.String(0);
-  if (!wanted) return std::move(wanted).error();
-  auto force = args.Boolean(1, false);
-  if (!force) return std::move(force).error();
-  auto folders = Matching(NativePath(*wanted), EntryKind::Folder, kPathNotFound);
-  if (!folders) return std::move(folders).error();
-  for (const fs::path& folder : *folders) {
+  VBS_TRY_ASSIGN(auto wanted, args.String(0));
+  VBS_TRY_ASSIGN(auto force, args.Boolean(1, false));
+  VBS_TRY_ASSIGN(auto folders, Matching(NativePath(wanted), EntryKind::Folder, kPathNotFound));
+  for (const fs::path& folder : folders) {
     VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, folder, "DeleteFolder"));
-    VBS_TRY(DeleteTree(folder, *force ? Force::Yes : Force::No));
+    VBS_TRY(DeleteTree(folder, force ? Force::Yes : Force::No));
   }
   return Variant();
 }
 
 Result<Variant> FileSystemObject::DriveExists(CallArgs& args) {
-  auto wanted = args.String(0);
-  if (!wanted) return std::move(wanted).error();
-  return Variant::Boolean(NamesDrive(*wanted));
+  VBS_TRY_ASSIGN(auto wanted, args.String(0));
+  return Variant::Boolean(NamesDrive(wanted));
 }
 
 Result<Variant> FileSystemObject::Drives(CallArgs&) { return Variant::Object(MakeRef<DriveList>(locale(), m_policy)); }
 
 Result<Variant> FileSystemObject::FileExists(CallArgs& args) {
-  auto wanted = args.String(0);
-  if (!wanted) return std::move(wanted).error();
+  VBS_TRY_ASSIGN(auto wanted, args.String(0));
   std::error_code ec;
-  const fs::file_status status = fs::status(NativePath(*wanted), ec);
+  const fs::file_status status = fs::status(NativePath(wanted), ec);
   return Variant::Boolean(fs::exists(status) && !fs::is_directory(status));
 }
 
 Result<Variant> FileSystemObject::FolderExists(CallArgs& args) {
-  auto wanted = args.String(0);
-  if (!wanted) return std::move(wanted).error();
+  VBS_TRY_ASSIGN(auto wanted, args.String(0));
   std::error_code ec;
-  return Variant::Boolean(fs::is_directory(NativePath(*wanted), ec));
+  return Variant::Boolean(fs::is_directory(NativePath(wanted), ec));
 }
 
 Result<Variant> FileSystemObject::GetAbsolutePathName(CallArgs& args) {
-  auto path = args.String(0);
-  if (!path) return std::move(path).error();
-  return Variant::String(ScriptPath(FullPath(NativePath(*path))));
+  VBS_TRY_ASSIGN(auto path, args.String(0));
+  return Variant::String(ScriptPath(FullPath(NativePath(path))));
 }
 
 Result<Variant> FileSystemObject::GetBaseName(CallArgs& args) {
-  auto path = args.String(0);
-  if (!path) return std::move(path).error();
-  const std::u16string_view name = FileNameOf(*path);
+  VBS_TRY_ASSIGN(auto path, args.String(0));
+  const std::u16string_view name = FileNameOf(path);
   return Variant::String(name.substr(0, name.rfind(u'.')));
 }
 
 Result<Variant> FileSystemObject::GetDrive(CallArgs& args) {
-  auto wanted = args.String(0);
-  if (!wanted) return std::move(wanted).error();
-  if (!NamesDrive(*wanted)) return MakeError(kDeviceUnavailable);
+  VBS_TRY_ASSIGN(auto wanted, args.String(0));
+  if (!NamesDrive(wanted)) return MakeError(kDeviceUnavailable);
   return Variant::Object(MakeRef<DriveObject>(locale(), m_policy));
 }
 
 Result<Variant> FileSystemObject::GetDriveName(CallArgs& args) {
-  auto path = args.String(0);
-  if (!path) return std::move(path).error();
-  if (HasDrive(*path)) return Variant::String(path->substr(0, 2));
-  if (RootLength(*path) > 2) return Variant::String(TrimTrailingSeparators(std::u16string_view(*path).substr(0, RootLength(*path))));
+  VBS_TRY_ASSIGN(auto path, args.String(0));
+  if (HasDrive(path)) return Variant::String(path.substr(0, 2));
+  if (RootLength(path) > 2) return Variant::String(TrimTrailingSeparators(std::u16string_view(path).substr(0, RootLength(path))));
   return Variant::String(u"");
 }
 
 Result<Variant> FileSystemObject::GetExtensionName(CallArgs& args) {
-  auto path = args.String(0);
-  if (!path) return std::move(path).error();
-  const std::u16string_view name = FileNameOf(*path);
+  VBS_TRY_ASSIGN(auto path, args.String(0));
+  const std::u16string_view name = FileNameOf(path);
   const size_t dot = name.rfind(u'.');
   return Variant::String(dot == std::u16string_view::npos ? std::u16string_view() : name.substr(dot + 1));
 }
 
 Result<Variant> FileSystemObject::GetFile(CallArgs& args) {
-  auto path = args.String(0);
-  if (!path) return std::move(path).error();
-  auto files = Matching(NativePath(*path), EntryKind::File, kFileNotFound);
-  if (!files) return std::move(files).error();
-  if (files->size() != 1) return MakeError(kFileNotFound);
-  return Variant::Object(MakeRef<FileObject>(locale(), FullPath(files->front()), m_policy));
+  VBS_TRY_ASSIGN(auto path, args.String(0));
+  VBS_TRY_ASSIGN(auto files, Matching(NativePath(path), EntryKind::File, kFileNotFound));
+  if (files.size() != 1) return MakeError(kFileNotFound);
+  return Variant::Object(MakeRef<FileObject>(locale(), FullPath(files.front()), m_policy));
 }
 
 Result<Variant> FileSystemObject::GetFileName(CallArgs& args) {
-  auto path = args.String(0);
-  if (!path) return std::move(path).error();
-  return Variant::String(FileNameOf(*path));
+  VBS_TRY_ASSIGN(auto path, args.String(0));
+  return Variant::String(FileNameOf(path));
 }
 
 Result<Variant> FileSystemObject::GetFolder(CallArgs& args) {
-  auto path = args.String(0);
-  if (!path) return std::move(path).error();
+  VBS_TRY_ASSIGN(auto path, args.String(0));
   std::error_code ec;
-  const fs::path folder = NativePath(*path);
+  const fs::path folder = NativePath(path);
   if (!fs::is_directory(folder, ec)) return MakeError(kPathNotFound);
   return Variant::Object(MakeRef<FolderObject>(locale(), FullPath(folder), m_policy));
 }
 
 Result<Variant> FileSystemObject::GetParentFolderName(CallArgs& args) {
-  auto path = args.String(0);
-  if (!path) return std::move(path).error();
-  return Variant::String(ParentFolderOf(*path));
+  VBS_TRY_ASSIGN(auto path, args.String(0));
+  return Variant::String(ParentFolderOf(path));
 }
 
 Result<Variant> FileSystemObject::GetSpecialFolder(CallArgs& args) {
-  auto which = args.Long(0);
-  if (!which) return std::move(which).error();
-  if (*which < 0 || *which > 2) return MakeError(err::kInvalidCall);
-  return Variant::Object(MakeRef<FolderObject>(locale(), *which == 2 ? FullPath(TempFolder()) : fs::path("/"), m_policy));
+  VBS_TRY_ASSIGN(auto which, args.Long(0));
+  if (which < 0 || which > 2) return MakeError(err::kInvalidCall);
+  return Variant::Object(MakeRef<FolderObject>(locale(), which == 2 ? FullPath(TempFolder()) : fs::path("/"), m_policy));
 }
 
 Result<Variant> FileSystemObject::GetTempName(CallArgs&) {
@@ -579,35 +539,28 @@ Result<Variant> FileSystemObject::GetTempName(CallArgs&) {
 }
 
 Result<Variant> FileSystemObject::MoveFile(CallArgs& args) {
-  auto from = args.String(0);
-  if (!from) return std::move(from).error();
-  auto to = args.String(1);
-  if (!to) return std::move(to).error();
-  const fs::path source = NativePath(*from);
-  auto sources = Matching(source, EntryKind::File, kFileNotFound);
-  if (!sources) return std::move(sources).error();
-  const bool into_folder = HasWildcards(source) || EndsWithSeparator(*to);
-  for (const fs::path& one : *sources) {
-    auto target = TargetFor(one, NativePath(*to), into_folder);
-    if (!target) return std::move(target).error();
+  VBS_TRY_ASSIGN(auto from, args.String(0));
+  VBS_TRY_ASSIGN(auto to, args.String(1));
+  const fs::path source = NativePath(from);
+  VBS_TRY_ASSIGN(auto sources, Matching(source, EntryKind::File, kFileNotFound));
+  const bool into_folder = HasWildcards(source) || EndsWithSeparator(to);
+  for (const fs::path& one : sources) {
+    VBS_TRY_ASSIGN(auto target, TargetFor(one, NativePath(to), into_folder));
     VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, one, "MoveFile"));
-    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, *target, "MoveFile"));
-    VBS_TRY(MoveEntry(one, *target));
+    VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, target, "MoveFile"));
+    VBS_TRY(MoveEntry(one, target));
   }
   return Variant();
 }
 
 Result<Variant> FileSystemObject::MoveFolder(CallArgs& args) {
-  auto from = args.String(0);
-  if (!from) return std::move(from).error();
-  auto to = args.String(1);
-  if (!to) return std::move(to).error();
-  const fs::path source = NativePath(*from);
-  auto sources = Matching(source, EntryKind::Folder, kPathNotFound);
-  if (!sources) return std::move(sources).error();
-  const bool into_folder = HasWildcards(source) || EndsWithSeparator(*to);
-  for (const fs::path& one : *sources) {
-    fs::path target = NativePath(*to);
+  VBS_TRY_ASSIGN(auto from, args.String(0));
+  VBS_TRY_ASSIGN(auto to, args.String(1));
+  const fs::path source = NativePath(from);
+  VBS_TRY_ASSIGN(auto sources, Matching(source, EntryKind::Folder, kPathNotFound));
+  const bool into_folder = HasWildcards(source) || EndsWithSeparator(to);
+  for (const fs::path& one : sources) {
+    fs::path target = NativePath(to);
     if (into_folder) {
       std::error_code ec;
       if (!fs::is_directory(target, ec)) return MakeError(kPathNotFound);
@@ -621,20 +574,15 @@ Result<Variant> FileSystemObject::MoveFolder(CallArgs& args) {
 }
 
 Result<Variant> FileSystemObject::OpenTextFile(CallArgs& args) {
-  auto name = args.String(0);
-  if (!name) return std::move(name).error();
-  auto mode = args.Long(1, 1);
-  if (!mode) return std::move(mode).error();
-  if (*mode != 1 && *mode != 2 && *mode != 8) return MakeError(err::kInvalidCall);
-  auto create = args.Boolean(2, false);
-  if (!create) return std::move(create).error();
-  auto format = FormatArgument(args, 3);
-  if (!format) return std::move(format).error();
-  const fs::path path = NativePath(*name);
-  VBS_TRY(CheckTextStreamAccess(m_policy.get(), path, static_cast<IoMode>(*mode), *create, "OpenTextFile"));
-  auto stream = TextStream::Open(locale(), path, static_cast<IoMode>(*mode), *create, *format);
-  if (!stream) return std::move(stream).error();
-  return Variant::Object(*stream);
+  VBS_TRY_ASSIGN(auto name, args.String(0));
+  VBS_TRY_ASSIGN(auto mode, args.Long(1, 1));
+  if (mode != 1 && mode != 2 && mode != 8) return MakeError(err::kInvalidCall);
+  VBS_TRY_ASSIGN(auto create, args.Boolean(2, false));
+  VBS_TRY_ASSIGN(auto format, FormatArgument(args, 3));
+  const fs::path path = NativePath(name);
+  VBS_TRY(CheckTextStreamAccess(m_policy.get(), path, static_cast<IoMode>(mode), create, "OpenTextFile"));
+  VBS_TRY_ASSIGN(auto stream, TextStream::Open(locale(), path, static_cast<IoMode>(mode), create, format));
+  return Variant::Object(stream);
 }
 
 }  // namespace vbs

@@ -63,9 +63,8 @@ int32_t AttributesOf(const fs::path& path, bool folder) {
 
 // Renames in place: the new name must be a name, not a path.
 Result<fs::path> Rename(const fs::path& path, const Variant& value, const Locale& locale, const FileAccessPolicy* policy) {
-  auto name = value.to_string(locale);
-  if (!name) return std::move(name).error();
-  const std::u16string_view text = name->view();
+  VBS_TRY_ASSIGN(auto name, value.to_string(locale));
+  const std::u16string_view text = name.view();
   if (text.empty() || text.find_first_of(u"\\/") != std::u16string_view::npos) return MakeError(kBadFileName);
   const fs::path target = path.parent_path() / fs::path(Utf16ToUtf8(text));
   VBS_TRY(CheckAccess(policy, FileAccess::Delete, path, "Name"));
@@ -91,10 +90,9 @@ class SnapshotEnumerator final : public Enumerator {
 
 // The bytes of the files in a folder at any depth; links are not followed.
 Result<uintmax_t> TreeSize(const fs::path& folder) {
-  auto entries = ListFolder(folder);
-  if (!entries) return std::move(entries).error();
+  VBS_TRY_ASSIGN(auto entries, ListFolder(folder));
   uintmax_t total = 0;
-  for (const FolderEntry& entry : *entries) {
+  for (const FolderEntry& entry : entries) {
     if (entry.is_link) continue;
     if (entry.is_folder) {
       auto inside = TreeSize(entry.path);
@@ -156,9 +154,8 @@ Result<Variant> FileObject::Drive(CallArgs&) { return Variant::Object(MakeRef<Dr
 Result<Variant> FileObject::GetName(CallArgs&) { return Variant::String(NameOf(m_path)); }
 
 Result<Variant> FileObject::PutName(CallArgs&, Variant value) {
-  auto renamed = Rename(m_path, value, locale(), m_policy.get());
-  if (!renamed) return std::move(renamed).error();
-  m_path = std::move(*renamed);
+  VBS_TRY_ASSIGN(auto renamed, Rename(m_path, value, locale(), m_policy.get()));
+  m_path = std::move(renamed);
   return Variant();
 }
 
@@ -183,31 +180,27 @@ Result<Variant> FileObject::Type(CallArgs&) {
 }
 
 Result<Variant> FileObject::Copy(CallArgs& args) {
-  auto to = args.String(0);
-  if (!to) return std::move(to).error();
-  auto overwrite = args.Boolean(1, true);
-  if (!overwrite) return std::move(overwrite).error();
-  fs::path target = NativePath(*to);
+  VBS_TRY_ASSIGN(auto to, args.String(0));
+  VBS_TRY_ASSIGN(auto overwrite, args.Boolean(1, true));
+  fs::path target = NativePath(to);
   std::error_code ec;
   if (fs::is_directory(target, ec)) target /= m_path.filename();
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, m_path, "Copy"));
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, target, "Copy"));
-  VBS_TRY(CopyOneFile(m_path, target, *overwrite ? Overwrite::Yes : Overwrite::No));
+  VBS_TRY(CopyOneFile(m_path, target, overwrite ? Overwrite::Yes : Overwrite::No));
   return Variant();
 }
 
 Result<Variant> FileObject::Delete(CallArgs& args) {
-  auto force = args.Boolean(0, false);
-  if (!force) return std::move(force).error();
+  VBS_TRY_ASSIGN(auto force, args.Boolean(0, false));
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, m_path, "Delete"));
-  VBS_TRY(DeleteOneFile(m_path, *force ? Force::Yes : Force::No));
+  VBS_TRY(DeleteOneFile(m_path, force ? Force::Yes : Force::No));
   return Variant();
 }
 
 Result<Variant> FileObject::Move(CallArgs& args) {
-  auto to = args.String(0);
-  if (!to) return std::move(to).error();
-  fs::path target = NativePath(*to);
+  VBS_TRY_ASSIGN(auto to, args.String(0));
+  fs::path target = NativePath(to);
   std::error_code ec;
   if (fs::is_directory(target, ec)) target /= m_path.filename();
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, m_path, "Move"));
@@ -218,15 +211,12 @@ Result<Variant> FileObject::Move(CallArgs& args) {
 }
 
 Result<Variant> FileObject::OpenAsTextStream(CallArgs& args) {
-  auto mode = args.Long(0, 1);
-  if (!mode) return std::move(mode).error();
-  if (*mode != 1 && *mode != 2 && *mode != 8) return MakeError(err::kInvalidCall);
-  auto format = FormatArgument(args, 1);
-  if (!format) return std::move(format).error();
-  VBS_TRY(CheckTextStreamAccess(m_policy.get(), m_path, static_cast<IoMode>(*mode), false, "OpenAsTextStream"));
-  auto stream = TextStream::Open(locale(), m_path, static_cast<IoMode>(*mode), false, *format);
-  if (!stream) return std::move(stream).error();
-  return Variant::Object(*stream);
+  VBS_TRY_ASSIGN(auto mode, args.Long(0, 1));
+  if (mode != 1 && mode != 2 && mode != 8) return MakeError(err::kInvalidCall);
+  VBS_TRY_ASSIGN(auto format, FormatArgument(args, 1));
+  VBS_TRY(CheckTextStreamAccess(m_policy.get(), m_path, static_cast<IoMode>(mode), false, "OpenAsTextStream"));
+  VBS_TRY_ASSIGN(auto stream, TextStream::Open(locale(), m_path, static_cast<IoMode>(mode), false, format));
+  return Variant::Object(stream);
 }
 
 // ---- Folder ----
@@ -280,9 +270,8 @@ Result<Variant> FolderObject::IsRootFolder(CallArgs&) { return Variant::Boolean(
 Result<Variant> FolderObject::GetName(CallArgs&) { return Variant::String(NameOf(m_path)); }
 
 Result<Variant> FolderObject::PutName(CallArgs&, Variant value) {
-  auto renamed = Rename(m_path, value, locale(), m_policy.get());
-  if (!renamed) return std::move(renamed).error();
-  m_path = std::move(*renamed);
+  VBS_TRY_ASSIGN(auto renamed, Rename(m_path, value, locale(), m_policy.get()));
+  m_path = std::move(renamed);
   return Variant();
 }
 
@@ -294,9 +283,8 @@ Result<Variant> FolderObject::ParentFolder(CallArgs&) {
 Result<Variant> FolderObject::Path(CallArgs&) { return Variant::String(ScriptPath(m_path)); }
 
 Result<Variant> FolderObject::Size(CallArgs&) {
-  auto size = TreeSize(m_path);
-  if (!size) return std::move(size).error();
-  return SizeValue(*size);
+  VBS_TRY_ASSIGN(auto size, TreeSize(m_path));
+  return SizeValue(size);
 }
 
 Result<Variant> FolderObject::SubFolders(CallArgs&) {
@@ -306,31 +294,27 @@ Result<Variant> FolderObject::SubFolders(CallArgs&) {
 Result<Variant> FolderObject::Type(CallArgs&) { return Variant::String(u"File folder"); }
 
 Result<Variant> FolderObject::Copy(CallArgs& args) {
-  auto to = args.String(0);
-  if (!to) return std::move(to).error();
-  auto overwrite = args.Boolean(1, true);
-  if (!overwrite) return std::move(overwrite).error();
-  fs::path target = NativePath(*to);
-  if (!to->empty() && (to->back() == u'\\' || to->back() == u'/')) target /= m_path.filename();
+  VBS_TRY_ASSIGN(auto to, args.String(0));
+  VBS_TRY_ASSIGN(auto overwrite, args.Boolean(1, true));
+  fs::path target = NativePath(to);
+  if (!to.empty() && (to.back() == u'\\' || to.back() == u'/')) target /= m_path.filename();
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, m_path, "Copy"));
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, target, "Copy"));
-  VBS_TRY(CopyTree(m_path, target, *overwrite ? Overwrite::Yes : Overwrite::No));
+  VBS_TRY(CopyTree(m_path, target, overwrite ? Overwrite::Yes : Overwrite::No));
   return Variant();
 }
 
 Result<Variant> FolderObject::Delete(CallArgs& args) {
-  auto force = args.Boolean(0, false);
-  if (!force) return std::move(force).error();
+  VBS_TRY_ASSIGN(auto force, args.Boolean(0, false));
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, m_path, "Delete"));
-  VBS_TRY(DeleteTree(m_path, *force ? Force::Yes : Force::No));
+  VBS_TRY(DeleteTree(m_path, force ? Force::Yes : Force::No));
   return Variant();
 }
 
 Result<Variant> FolderObject::Move(CallArgs& args) {
-  auto to = args.String(0);
-  if (!to) return std::move(to).error();
-  fs::path target = NativePath(*to);
-  if (!to->empty() && (to->back() == u'\\' || to->back() == u'/')) target /= m_path.filename();
+  VBS_TRY_ASSIGN(auto to, args.String(0));
+  fs::path target = NativePath(to);
+  if (!to.empty() && (to.back() == u'\\' || to.back() == u'/')) target /= m_path.filename();
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, m_path, "Move"));
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, target, "Move"));
   VBS_TRY(MoveEntry(m_path, target));
@@ -339,18 +323,14 @@ Result<Variant> FolderObject::Move(CallArgs& args) {
 }
 
 Result<Variant> FolderObject::CreateTextFile(CallArgs& args) {
-  auto name = args.String(0);
-  if (!name) return std::move(name).error();
-  auto overwrite = args.Boolean(1, true);
-  if (!overwrite) return std::move(overwrite).error();
-  auto unicode = args.Boolean(2, false);
-  if (!unicode) return std::move(unicode).error();
-  const bool rooted = !name->empty() && ((*name)[0] == u'\\' || (*name)[0] == u'/' || (name->size() >= 2 && (*name)[1] == u':'));
-  const fs::path file = NativePath(rooted ? *name : ScriptPath(m_path) + u"/" + *name);
+  VBS_TRY_ASSIGN(auto name, args.String(0));
+  VBS_TRY_ASSIGN(auto overwrite, args.Boolean(1, true));
+  VBS_TRY_ASSIGN(auto unicode, args.Boolean(2, false));
+  const bool rooted = !name.empty() && ((name)[0] == u'\\' || (name)[0] == u'/' || (name.size() >= 2 && (name)[1] == u':'));
+  const fs::path file = NativePath(rooted ? name : ScriptPath(m_path) + u"/" + name);
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, file, "CreateTextFile"));
-  auto stream = TextStream::Create(locale(), file, *overwrite, *unicode ? TextFormat::Unicode : TextFormat::Ansi);
-  if (!stream) return std::move(stream).error();
-  return Variant::Object(*stream);
+  VBS_TRY_ASSIGN(auto stream, TextStream::Create(locale(), file, overwrite, unicode ? TextFormat::Unicode : TextFormat::Ansi));
+  return Variant::Object(stream);
 }
 
 // ---- Files and Folders ----
@@ -369,10 +349,9 @@ std::span<const FolderListing::Member> FolderListing::Members() {
 
 Result<std::vector<Variant>> FolderListing::Entries() {
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, m_folder, m_kind == Kind::Files ? "Files" : "SubFolders"));
-  auto entries = ListFolder(m_folder);
-  if (!entries) return std::move(entries).error();
+  VBS_TRY_ASSIGN(auto entries, ListFolder(m_folder));
   std::vector<std::pair<std::u16string, fs::path>> found;
-  for (const FolderEntry& entry : *entries) {
+  for (const FolderEntry& entry : entries) {
     if (entry.is_folder != (m_kind == Kind::Folders)) continue;
     std::u16string key = NameOf(entry.path);
     for (char16_t& c : key) c = FoldCase(c);
@@ -390,25 +369,21 @@ Result<std::vector<Variant>> FolderListing::Entries() {
 }
 
 Result<Ref<Enumerator>> FolderListing::Enumerate() {
-  auto values = Entries();
-  if (!values) return std::move(values).error();
-  return Ref<Enumerator>(MakeRef<SnapshotEnumerator>(std::move(*values)));
+  VBS_TRY_ASSIGN(auto values, Entries());
+  return Ref<Enumerator>(MakeRef<SnapshotEnumerator>(std::move(values)));
 }
 
 Result<Variant> FolderListing::Count(CallArgs&) {
-  auto values = Entries();
-  if (!values) return std::move(values).error();
-  return Variant::Long(static_cast<int32_t>(values->size()));
+  VBS_TRY_ASSIGN(auto values, Entries());
+  return Variant::Long(static_cast<int32_t>(values.size()));
 }
 
 Result<Variant> FolderListing::Item(CallArgs& args) {
-  auto name = args.String(0);
-  if (!name) return std::move(name).error();
+  VBS_TRY_ASSIGN(auto name, args.String(0));
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, m_folder, "Item"));
-  auto entries = ListFolder(m_folder);
-  if (!entries) return std::move(entries).error();
-  for (const FolderEntry& entry : *entries) {
-    if (entry.is_folder != (m_kind == Kind::Folders) || !EqualsIgnoringCase(NameOf(entry.path), *name)) continue;
+  VBS_TRY_ASSIGN(auto entries, ListFolder(m_folder));
+  for (const FolderEntry& entry : entries) {
+    if (entry.is_folder != (m_kind == Kind::Folders) || !EqualsIgnoringCase(NameOf(entry.path), name)) continue;
     if (m_kind == Kind::Files) return Variant::Object(MakeRef<FileObject>(locale(), entry.path, m_policy));
     return FolderValue(locale(), entry.path, m_policy);
   }
@@ -417,10 +392,9 @@ Result<Variant> FolderListing::Item(CallArgs& args) {
 
 Result<Variant> FolderListing::Add(CallArgs& args) {
   if (m_kind == Kind::Files) return MakeError(err::kNoMember);
-  auto name = args.String(0);
-  if (!name) return std::move(name).error();
-  if (name->empty() || name->find_first_of(u"\\/") != std::u16string::npos) return MakeError(kBadFileName);
-  const fs::path folder = m_folder / fs::path(Utf16ToUtf8(*name));
+  VBS_TRY_ASSIGN(auto name, args.String(0));
+  if (name.empty() || name.find_first_of(u"\\/") != std::u16string::npos) return MakeError(kBadFileName);
+  const fs::path folder = m_folder / fs::path(Utf16ToUtf8(name));
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, folder, "Add"));
   std::error_code ec;
   if (fs::exists(fs::symlink_status(folder, ec))) return MakeError(kFileExists);

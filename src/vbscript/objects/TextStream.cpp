@@ -108,10 +108,9 @@ Status CheckTextStreamAccess(const FileAccessPolicy* policy, const fs::path& pat
 }
 
 Result<TextFormat> FormatArgument(const CallArgs& args, size_t i) {
-  auto value = args.Long(i, 0);
-  if (!value) return std::move(value).error();
-  if (*value == -1) return TextFormat::Unicode;
-  if (*value == 0 || *value == -2) return TextFormat::Ansi;
+  VBS_TRY_ASSIGN(auto value, args.Long(i, 0));
+  if (value == -1) return TextFormat::Unicode;
+  if (value == 0 || value == -2) return TextFormat::Ansi;
   return MakeError(err::kInvalidCall);
 }
 
@@ -159,11 +158,10 @@ Result<Ref<TextStream>> TextStream::Open(const Locale& locale, const fs::path& p
     if (!file) return ErrnoError(kPathNotFound);
     std::fclose(file);
   }
-  auto bytes = ReadBytes(path, SIZE_MAX);
-  if (!bytes) return std::move(bytes).error();
+  VBS_TRY_ASSIGN(auto bytes, ReadBytes(path, SIZE_MAX));
   Ref<TextStream> stream(new TextStream(locale));
   stream->m_reading = true;
-  stream->m_text = Decode(*bytes, format);
+  stream->m_text = Decode(bytes, format);
   return stream;
 }
 
@@ -181,9 +179,8 @@ Result<Ref<TextStream>> TextStream::OpenForWriting(const Locale& locale, const f
   bool mark = format == TextFormat::Unicode;
   std::error_code ec;
   if (append && fs::exists(path, ec)) {
-    auto head = ReadBytes(path, kSniffBytes);
-    if (!head) return std::move(head).error();
-    std::string_view bytes = *head;
+    VBS_TRY_ASSIGN(auto head, ReadBytes(path, kSniffBytes));
+    std::string_view bytes = head;
     if (!bytes.empty()) {
       mark = false;
       // A sequence cut at the end of the sample would make UTF-8 text look like ANSI.
@@ -232,10 +229,9 @@ std::u16string_view TextStream::Take(size_t count) {
 
 Result<Variant> TextStream::Read(CallArgs& args) {
   VBS_TRY(CanRead(true));
-  auto count = args.Long(0);
-  if (!count) return std::move(count).error();
-  if (*count < 0) return MakeError(err::kInvalidCall);
-  return Variant::String(Take(static_cast<size_t>(*count)));
+  VBS_TRY_ASSIGN(auto count, args.Long(0));
+  if (count < 0) return MakeError(err::kInvalidCall);
+  return Variant::String(Take(static_cast<size_t>(count)));
 }
 
 Result<Variant> TextStream::ReadLine(CallArgs&) {
@@ -255,10 +251,9 @@ Result<Variant> TextStream::ReadAll(CallArgs&) {
 
 Result<Variant> TextStream::Skip(CallArgs& args) {
   VBS_TRY(CanRead(true));
-  auto count = args.Long(0);
-  if (!count) return std::move(count).error();
-  if (*count < 0) return MakeError(err::kInvalidCall);
-  Take(static_cast<size_t>(*count));
+  VBS_TRY_ASSIGN(auto count, args.Long(0));
+  if (count < 0) return MakeError(err::kInvalidCall);
+  Take(static_cast<size_t>(count));
   return Variant();
 }
 
@@ -322,28 +317,25 @@ Status TextStream::Flush() {
 }
 
 Result<Variant> TextStream::Write(CallArgs& args) {
-  auto text = args.String(0);
-  if (!text) return std::move(text).error();
-  VBS_TRY(Put(*text));
+  VBS_TRY_ASSIGN(auto text, args.String(0));
+  VBS_TRY(Put(text));
   return Variant();
 }
 
 Result<Variant> TextStream::WriteLine(CallArgs& args) {
-  auto text = args.String(0, u"");
-  if (!text) return std::move(text).error();
-  *text += u"\r\n";
-  VBS_TRY(Put(*text));
+  VBS_TRY_ASSIGN(auto text, args.String(0, u""));
+  text += u"\r\n";
+  VBS_TRY(Put(text));
   return Variant();
 }
 
 Result<Variant> TextStream::WriteBlankLines(CallArgs& args) {
-  auto count = args.Long(0);
-  if (!count) return std::move(count).error();
-  if (*count < 0) return MakeError(err::kInvalidCall);
+  VBS_TRY_ASSIGN(auto count, args.Long(0));
+  if (count < 0) return MakeError(err::kInvalidCall);
   // In pieces, so that a huge count costs no more memory than a small one.
   std::u16string breaks;
   for (size_t i = 0; i < kBlankLinesAtOnce; ++i) breaks += u"\r\n";
-  for (auto left = static_cast<size_t>(*count); left > 0;) {
+  for (auto left = static_cast<size_t>(count); left > 0;) {
     const size_t now = std::min(left, kBlankLinesAtOnce);
     VBS_TRY(Put(std::u16string_view(breaks).substr(0, now * 2)));
     left -= now;

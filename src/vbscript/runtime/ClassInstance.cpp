@@ -23,9 +23,8 @@ class Subscripts {
       } else if (arg.is_long()) {
         m_values[i] = arg.as_long();
       } else {
-        auto index = arg.to_long(locale);
-        if (!index) return std::move(index).error();
-        m_values[i] = *index;
+        VBS_TRY_ASSIGN(auto index, arg.to_long(locale));
+        m_values[i] = index;
       }
     }
     m_count = args.size();
@@ -94,9 +93,8 @@ Result<Variant> ClassInstance::InvokeMember(DispId member, InvokeKind kind, std:
         field = std::move(value);
         return Variant();
       }
-      auto plain = ValueOf(value);
-      if (!plain) return std::move(plain).error();
-      field = std::move(*plain);
+      VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+      field = std::move(plain);
       return Variant();
     }
     if (args.empty()) return field;
@@ -156,23 +154,20 @@ Status AssignIndexed(Variant& holder, std::span<Variant> args, Variant value, bo
     VBS_TRY(indices.Read(args, locale));
     if (is_set && !value.is_object()) return MakeError(err::kObjectRequired);
     if (!is_set) {
-      auto plain = ValueOf(value);
-      if (!plain) return std::move(plain).error();
-      value = std::move(*plain);
+      VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+      value = std::move(plain);
     }
     return WriteElement(target, indices.span(), std::move(value));
   }
   if (target.is_object()) {
     if (!target.as_object()) return MakeError(err::kObjectNotSet);
     if (!is_set) {
-      auto plain = ValueOf(value);
-      if (!plain) return std::move(plain).error();
-      value = std::move(*plain);
+      VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+      value = std::move(plain);
     }
     std::vector<Variant> all(args.begin(), args.end());
     all.push_back(std::move(value));
-    auto result = target.as_object()->Invoke(kDefaultMember, is_set ? InvokeKind::Set : InvokeKind::Let, all);
-    if (!result) return std::move(result).error();
+    VBS_TRY(target.as_object()->Invoke(kDefaultMember, is_set ? InvokeKind::Set : InvokeKind::Let, all));
     return Ok();
   }
   return MakeError(err::kTypeMismatch);

@@ -7,9 +7,8 @@ namespace vbs {
 namespace {
 
 Result<std::u16string> Text(const Variant& value, const Locale& locale) {
-  auto text = value.to_string(locale);
-  if (!text) return std::move(text).error();
-  return text->ToU16String();
+  VBS_TRY_ASSIGN(auto text, value.to_string(locale));
+  return text.ToU16String();
 }
 
 }  // namespace
@@ -32,27 +31,24 @@ std::span<const ErrObject::Member> ErrObject::Members() {
 Result<Variant> ErrObject::GetNumber(CallArgs&) { return Variant::Long(m_interp.err().number); }
 
 Result<Variant> ErrObject::PutNumber(CallArgs&, Variant value) {
-  auto number = value.to_long(m_interp.locale());
-  if (!number) return std::move(number).error();
-  m_interp.err().number = *number;
+  VBS_TRY_ASSIGN(auto number, value.to_long(m_interp.locale()));
+  m_interp.err().number = number;
   return Variant();
 }
 
 Result<Variant> ErrObject::GetDescription(CallArgs&) { return Variant::String(m_interp.err().description); }
 
 Result<Variant> ErrObject::PutDescription(CallArgs&, Variant value) {
-  auto text = Text(value, m_interp.locale());
-  if (!text) return std::move(text).error();
-  m_interp.err().description = std::move(*text);
+  VBS_TRY_ASSIGN(auto text, Text(value, m_interp.locale()));
+  m_interp.err().description = std::move(text);
   return Variant();
 }
 
 Result<Variant> ErrObject::GetSource(CallArgs&) { return Variant::String(m_interp.err().source); }
 
 Result<Variant> ErrObject::PutSource(CallArgs&, Variant value) {
-  auto text = Text(value, m_interp.locale());
-  if (!text) return std::move(text).error();
-  m_interp.err().source = std::move(*text);
+  VBS_TRY_ASSIGN(auto text, Text(value, m_interp.locale()));
+  m_interp.err().source = std::move(text);
   return Variant();
 }
 
@@ -61,22 +57,19 @@ Result<Variant> ErrObject::GetHelpFile(CallArgs&) { return Variant::String(u"");
 Result<Variant> ErrObject::GetHelpContext(CallArgs&) { return Variant::Long(0); }
 
 Result<Variant> ErrObject::Raise(CallArgs& args) {
-  auto number = args.Long(0);
-  if (!number) return std::move(number).error();
+  VBS_TRY_ASSIGN(auto number, args.Long(0));
   // 0 and positive numbers past 16 bits are no error numbers: Raise itself is called wrongly.
-  if (*number == 0 || *number > 0xFFFF) return MakeError(err::kInvalidCall);
-  ScriptError error = MakeError(*number);
+  if (number == 0 || number > 0xFFFF) return MakeError(err::kInvalidCall);
+  ScriptError error = MakeError(number);
   // What Raise is not told is kept from the Err object as it stands, as Windows does.
   error.source = m_interp.err().source;
   if (args.Has(1)) {
-    auto source = args.String(1);
-    if (!source) return std::move(source).error();
-    error.source = std::move(*source);
+    VBS_TRY_ASSIGN(auto source, args.String(1));
+    error.source = std::move(source);
   }
   if (args.Has(2)) {
-    auto description = args.String(2);
-    if (!description) return std::move(description).error();
-    error.description = std::move(*description);
+    VBS_TRY_ASSIGN(auto description, args.String(2));
+    error.description = std::move(description);
   }
   return error;
 }

@@ -15,8 +15,7 @@ Result<Variant*> ExprNode::Address(Frame&) { return static_cast<Variant*>(nullpt
 Status ExprNode::Assign(Frame&, Variant, bool) { return MakeError(err::kIllegalAssignment); }
 
 Status ExprNode::Invoke(Frame& frame) {
-  auto value = Eval(frame);
-  if (!value) return std::move(value).error();
+  VBS_TRY(Eval(frame));
   return Ok();
 }
 
@@ -47,16 +46,14 @@ Status EvalArgs(Frame& frame, std::span<const ExprNodePtr> args, ArgValues& out,
       continue;
     }
     if (by_reference && !arg->ForcesByVal()) {
-      auto address = arg->AddressForArgument(frame, out);
-      if (!address) return std::move(address).error();
-      if (*address) {
-        out.Add(Variant::Reference(*address));
+      VBS_TRY_ASSIGN(auto address, arg->AddressForArgument(frame, out));
+      if (address) {
+        out.Add(Variant::Reference(address));
         continue;
       }
     }
-    auto value = arg->Eval(frame);
-    if (!value) return std::move(value).error();
-    out.Add(std::move(*value));
+    VBS_TRY_ASSIGN(auto value, arg->Eval(frame));
+    out.Add(std::move(value));
   }
   return Ok();
 }
@@ -76,9 +73,8 @@ Status StoreInto(Variant& target, Variant value, bool is_set) {
     target = std::move(value);
     return Ok();
   }
-  auto plain = LetValue(std::move(value));
-  if (!plain) return std::move(plain).error();
-  target = std::move(*plain);
+  VBS_TRY_ASSIGN(auto plain, LetValue(std::move(value)));
+  target = std::move(plain);
   return Ok();
 }
 
@@ -117,10 +113,8 @@ Status VariableNode::Invoke(Frame& frame) {
   // A variable named alone as a statement calls the default member of the object it holds.
   Variant& value = Storage(frame).Deref();
   if (!value.is_object()) return Ok();
-  auto object = RequireObject(value);
-  if (!object) return std::move(object).error();
-  auto result = (*object)->Invoke(kDefaultMember, InvokeKind::Method, {});
-  if (!result) return std::move(result).error();
+  VBS_TRY_ASSIGN(auto object, RequireObject(value));
+  VBS_TRY((object)->Invoke(kDefaultMember, InvokeKind::Method, {}));
   return Ok();
 }
 
@@ -156,8 +150,7 @@ Status LateNameNode::Assign(Frame& frame, Variant value, bool is_set) { return A
 Status LateNameNode::Invoke(Frame& frame) {
   // A name called as a statement that names nothing is a call of a missing procedure.
   if (!Resolve(frame)) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
-  auto result = CallWith(frame, {}, InvokeKind::Method);
-  if (!result) return std::move(result).error();
+  VBS_TRY(CallWith(frame, {}, InvokeKind::Method));
   return Ok();
 }
 
@@ -166,9 +159,8 @@ Result<Variant> LateNameNode::CallWith(Frame& frame, const ExprNodes& args, Invo
   ArgValues values;
   if (!entry) {
     if (!args.empty()) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
-    auto storage = ImplicitStorage(frame);
-    if (!storage) return std::move(storage).error();
-    return **storage;
+    VBS_TRY_ASSIGN(auto storage, ImplicitStorage(frame));
+    return *storage;
   }
   switch (entry->kind) {
     case GlobalEntry::Kind::Variable:
@@ -201,9 +193,8 @@ Status LateNameNode::AssignWith(Frame& frame, const ExprNodes& args, Variant val
   ArgValues values;
   if (!entry) {
     if (!args.empty()) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
-    auto storage = ImplicitStorage(frame);
-    if (!storage) return std::move(storage).error();
-    return StoreInto(**storage, std::move(value), is_set);
+    VBS_TRY_ASSIGN(auto storage, ImplicitStorage(frame));
+    return StoreInto(*storage, std::move(value), is_set);
   }
   switch (entry->kind) {
     case GlobalEntry::Kind::Variable:
@@ -213,9 +204,8 @@ Status LateNameNode::AssignWith(Frame& frame, const ExprNodes& args, Variant val
     case GlobalEntry::Kind::HostMember: {
       VBS_TRY(EvalArgs(frame, args, values, true));
       values.Add(std::move(value));
-      auto result = frame.interp.named_objects()[entry->object].object->Invoke(
-          entry->member, is_set ? InvokeKind::Set : InvokeKind::Let, values.span());
-      if (!result) return std::move(result).error();
+      VBS_TRY(frame.interp.named_objects()[entry->object].object->Invoke(
+          entry->member, is_set ? InvokeKind::Set : InvokeKind::Let, values.span()));
       return Ok();
     }
     default:
@@ -238,15 +228,13 @@ Result<Variant> NewNode::Eval(Frame& frame) {
   // RegExp is built in: New RegExp makes the engine's object even when a script declares a class
   // of that name.
   if (m_name == "regexp") {
-    auto object = frame.interp.CreateObject(u"VBScript.RegExp");
-    if (!object) return std::move(object).error();
-    return Variant::Object(*object);
+    VBS_TRY_ASSIGN(auto object, frame.interp.CreateObject(u"VBScript.RegExp"));
+    return Variant::Object(object);
   }
   const GlobalEntry* entry = frame.interp.FindGlobal(m_name);
   if (!entry || entry->kind != GlobalEntry::Kind::Class) return MakeError(err::kNotAClass);
-  auto instance = frame.interp.NewInstance(*entry->class_info);
-  if (!instance) return std::move(instance).error();
-  return Variant::Object(*instance);
+  VBS_TRY_ASSIGN(auto instance, frame.interp.NewInstance(*entry->class_info));
+  return Variant::Object(instance);
 }
 
 // ---- Operators ----
@@ -341,9 +329,8 @@ Result<Variant> IsNode::Eval(Frame& frame) {
   if (!left) return left;
   auto right = m_right->Eval(frame);
   if (!right) return right;
-  auto same = Is(*left, *right);
-  if (!same) return std::move(same).error();
-  return Variant::Boolean(*same);
+  VBS_TRY_ASSIGN(auto same, Is(*left, *right));
+  return Variant::Boolean(same);
 }
 
 Result<Variant> OperatorChainNode::Eval(Frame& frame) {
@@ -354,9 +341,8 @@ Result<Variant> OperatorChainNode::Eval(Frame& frame) {
     auto right = step.operand->Eval(frame);
     if (!right) return right;
     if (step.is) {
-      auto same = Is(accumulated, *right);
-      if (!same) return std::move(same).error();
-      accumulated = Variant::Boolean(*same);
+      VBS_TRY_ASSIGN(auto same, Is(accumulated, *right));
+      accumulated = Variant::Boolean(same);
       continue;
     }
     auto next = ApplyBinary(step.op, accumulated, *right, frame.interp.compare_mode(), frame.interp.locale());
@@ -381,17 +367,16 @@ Result<Variant> ProcedureCallNode::Eval(Frame& frame) {
   if (!m_all_direct) return EvalArgsFirst(frame);
   if (m_args.size() != m_procedure->param_count) return MakeError(err::kWrongArgs);
   // Plain variables and constants go straight into the parameter slots.
-  auto callee = frame.interp.OpenFrame(m_procedure->slot_count);
-  if (!callee) return std::move(callee).error();
+  VBS_TRY_ASSIGN(auto callee, frame.interp.OpenFrame(m_procedure->slot_count));
   for (size_t i = 0; i < m_args.size(); ++i) {
-    Variant& param = callee->slots[Procedure::kFirstParamSlot + i];
+    Variant& param = callee.slots[Procedure::kFirstParamSlot + i];
     Variant* storage = m_direct[i].Storage(frame);
     if (storage && !m_procedure->param_by_val[i])
       param = Variant::Reference(storage);
     else
       param = *m_direct[i].Get(frame);
   }
-  return frame.interp.RunFrame(*m_procedure, nullptr, *callee);
+  return frame.interp.RunFrame(*m_procedure, nullptr, callee);
 }
 
 Result<Variant> ProcedureCallNode::EvalArgsFirst(Frame& frame) {
@@ -457,9 +442,8 @@ Result<Variant> IndexNode::Eval(Frame& frame) {
   if (Variant* element = DirectElement(frame, false)) return *element;
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, false));
-  auto address = m_holder->Address(frame);
-  if (!address) return std::move(address).error();
-  if (*address) return IndexValue(**address, values.span(), frame.interp.locale());
+  VBS_TRY_ASSIGN(auto address, m_holder->Address(frame));
+  if (address) return IndexValue(*address, values.span(), frame.interp.locale());
   auto holder = m_holder->Eval(frame);
   if (!holder) return holder;
   return IndexValue(*holder, values.span(), frame.interp.locale());
@@ -473,16 +457,13 @@ Result<Variant*> IndexNode::AddressForArgument(Frame& frame, ArgValues& args) {
   VBS_TRY(EvalArgs(frame, m_args, values, false));
   std::vector<int32_t> indices;
   for (Variant& index : values.span()) {
-    auto i = index.Deref().to_long(frame.interp.locale());
-    if (!i) return std::move(i).error();
-    indices.push_back(*i);
+    VBS_TRY_ASSIGN(auto i, index.Deref().to_long(frame.interp.locale()));
+    indices.push_back(i);
   }
-  auto array = MutableArray(**holder);
-  if (!array) return std::move(array).error();
-  auto offset = (*array)->Offset(indices);
-  if (!offset) return std::move(offset).error();
-  args.Lock(Ref<SafeArray>(*array));
-  return &(*array)->elements()[*offset];
+  VBS_TRY_ASSIGN(auto array, MutableArray(**holder));
+  VBS_TRY_ASSIGN(auto offset, (array)->Offset(indices));
+  args.Lock(Ref<SafeArray>(array));
+  return &(array)->elements()[offset];
 }
 
 Status IndexNode::Assign(Frame& frame, Variant value, bool is_set) {
@@ -494,27 +475,23 @@ Status IndexNode::Assign(Frame& frame, Variant value, bool is_set) {
   }
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, false));
-  auto address = m_holder->Address(frame);
-  if (!address) return std::move(address).error();
-  if (*address) return AssignIndexed(**address, values.span(), std::move(value), is_set, frame.interp.locale());
-  auto holder = m_holder->Eval(frame);
-  if (!holder) return std::move(holder).error();
-  if (!holder->is_object()) return MakeError(err::kIllegalAssignment);
-  return AssignIndexed(*holder, values.span(), std::move(value), is_set, frame.interp.locale());
+  VBS_TRY_ASSIGN(auto address, m_holder->Address(frame));
+  if (address) return AssignIndexed(*address, values.span(), std::move(value), is_set, frame.interp.locale());
+  VBS_TRY_ASSIGN(auto holder, m_holder->Eval(frame));
+  if (!holder.is_object()) return MakeError(err::kIllegalAssignment);
+  return AssignIndexed(holder, values.span(), std::move(value), is_set, frame.interp.locale());
 }
 
 Status LateCallNode::Invoke(Frame& frame) {
-  auto result = m_name->CallWith(frame, m_args, InvokeKind::Method);
-  if (!result) return std::move(result).error();
+  VBS_TRY(m_name->CallWith(frame, m_args, InvokeKind::Method));
   return Ok();
 }
 
 Result<Variant> MemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) {
   auto holder = m_object->Eval(frame);
   if (!holder) return holder;
-  auto object = RequireObject(*holder);
-  if (!object) return std::move(object).error();
-  Object* target = *object;
+  VBS_TRY_ASSIGN(auto object, RequireObject(*holder));
+  Object* target = object;
   const void* layout = target->MemberLayout();
   DispId member;
   if (layout && layout == m_layout) {
@@ -539,9 +516,8 @@ Result<Variant> MemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) 
 Result<Variant> MemberNode::Eval(Frame& frame) { return Call(frame, InvokeKind::Get, nullptr); }
 
 Status MemberNode::Assign(Frame& frame, Variant value, bool is_set) {
-  auto assigned = AssignedValue(std::move(value), is_set);
-  if (!assigned) return std::move(assigned).error();
-  return Discard(Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &*assigned));
+  VBS_TRY_ASSIGN(auto assigned, AssignedValue(std::move(value), is_set));
+  return Discard(Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &assigned));
 }
 
 Status MemberNode::Invoke(Frame& frame) { return Discard(Call(frame, InvokeKind::Method, nullptr)); }
@@ -553,19 +529,17 @@ Result<Variant> MeMemberNode::Eval(Frame& frame) {
 }
 
 Status MeMemberNode::Assign(Frame& frame, Variant value, bool is_set) {
-  auto assigned = AssignedValue(std::move(value), is_set);
-  if (!assigned) return std::move(assigned).error();
+  VBS_TRY_ASSIGN(auto assigned, AssignedValue(std::move(value), is_set));
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, true));
-  values.Add(std::move(*assigned));
+  values.Add(std::move(assigned));
   return Discard(frame.me->InvokeMember(m_member, is_set ? InvokeKind::Set : InvokeKind::Let, values.span()));
 }
 
 Status MeMemberNode::Invoke(Frame& frame) {
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, true));
-  auto result = frame.me->InvokeMember(m_member, InvokeKind::Method, values.span());
-  if (!result) return std::move(result).error();
+  VBS_TRY(frame.me->InvokeMember(m_member, InvokeKind::Method, values.span()));
   return Ok();
 }
 
@@ -591,9 +565,8 @@ Result<Variant> HostMemberNode::Call(Frame& frame, InvokeKind kind, Variant* val
 Result<Variant> HostMemberNode::Eval(Frame& frame) { return Call(frame, InvokeKind::Get, nullptr); }
 
 Status HostMemberNode::Assign(Frame& frame, Variant value, bool is_set) {
-  auto assigned = AssignedValue(std::move(value), is_set);
-  if (!assigned) return std::move(assigned).error();
-  return Discard(Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &*assigned));
+  VBS_TRY_ASSIGN(auto assigned, AssignedValue(std::move(value), is_set));
+  return Discard(Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &assigned));
 }
 
 Status HostMemberNode::Invoke(Frame& frame) { return Discard(Call(frame, InvokeKind::Method, nullptr)); }
@@ -607,12 +580,11 @@ Result<Variant> ValueIndexNode::Eval(Frame& frame) {
 }
 
 Status ValueIndexNode::Assign(Frame& frame, Variant value, bool is_set) {
-  auto callee = m_callee->Eval(frame);
-  if (!callee) return std::move(callee).error();
-  if (!callee->is_object()) return MakeError(err::kIllegalAssignment);
+  VBS_TRY_ASSIGN(auto callee, m_callee->Eval(frame));
+  if (!callee.is_object()) return MakeError(err::kIllegalAssignment);
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, false));
-  return AssignIndexed(*callee, values.span(), std::move(value), is_set, frame.interp.locale());
+  return AssignIndexed(callee, values.span(), std::move(value), is_set, frame.interp.locale());
 }
 
 }  // namespace vbs

@@ -205,9 +205,8 @@ Status InitialiseArrays(const Procedure& procedure, Variant* slots) {
   for (const auto& [slot, uppers] : procedure.fixed_arrays) {
     std::vector<ArrayBound> bounds;
     for (int32_t upper : uppers) bounds.push_back({0, upper});
-    auto array = SafeArray::Create(bounds);
-    if (!array) return std::move(array).error();
-    slots[slot] = Variant::Array(*array);
+    VBS_TRY_ASSIGN(auto array, SafeArray::Create(bounds));
+    slots[slot] = Variant::Array(array);
     slots[slot].MarkFixedArray();
   }
   for (uint32_t slot : procedure.dynamic_arrays) slots[slot] = Variant::Array(SafeArray::CreateUndimensioned());
@@ -224,17 +223,16 @@ Status InitialiseArrays(const Procedure& procedure, Variant* slots) {
 
 Result<Variant> Interpreter::Call(const Procedure& procedure, ClassInstance* me, std::span<Variant> args) {
   if (args.size() != procedure.param_count) return MakeError(err::kWrongArgs);
-  auto frame = OpenFrame(procedure.slot_count);
-  if (!frame) return std::move(frame).error();
+  VBS_TRY_ASSIGN(auto frame, OpenFrame(procedure.slot_count));
   for (uint32_t i = 0; i < procedure.param_count; ++i) {
     Variant& arg = args[i];
-    Variant& param = frame->slots[Procedure::kFirstParamSlot + i];
+    Variant& param = frame.slots[Procedure::kFirstParamSlot + i];
     if (arg.IsRef() && !procedure.param_by_val[i])
       param = arg;
     else
       param = arg.Deref();
   }
-  return RunFrame(procedure, me, *frame);
+  return RunFrame(procedure, me, frame);
 }
 
 Result<Variant> Interpreter::RunFrame(const Procedure& procedure, ClassInstance* me, const FrameSlots& slots) {
@@ -253,28 +251,25 @@ Result<Variant> Interpreter::RunFrame(const Procedure& procedure, ClassInstance*
 Result<Ref<ClassInstance>> Interpreter::NewInstance(ClassInfo& info) {
   auto instance = MakeRef<ClassInstance>(info, m_link);
   if (info.initialize) {
-    auto result = Call(*info.initialize, instance.get(), {});
-    if (!result) return std::move(result).error();
+    VBS_TRY(Call(*info.initialize, instance.get(), {}));
   }
   return instance;
 }
 
 Status Interpreter::RunProgram(const CompiledProgram& program, Frame* outer, bool resume_next) {
-  auto slots = OpenFrame(program.temp_count);
-  if (!slots) return std::move(slots).error();
-  Frame frame{*this, slots->slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer, resume_next};
+  VBS_TRY_ASSIGN(auto slots, OpenFrame(program.temp_count));
+  Frame frame{*this, slots.slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer, resume_next};
   auto flow = program.body.Exec(frame);
-  CloseFrame(*slots);
+  CloseFrame(slots);
   if (!flow) return std::move(flow).error();
   return Ok();
 }
 
 Result<Variant> Interpreter::EvalProgram(const CompiledProgram& program, Frame* outer) {
-  auto slots = OpenFrame(program.temp_count);
-  if (!slots) return std::move(slots).error();
-  Frame frame{*this, slots->slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer, false};
+  VBS_TRY_ASSIGN(auto slots, OpenFrame(program.temp_count));
+  Frame frame{*this, slots.slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer, false};
   auto value = program.expression->Eval(frame);
-  CloseFrame(*slots);
+  CloseFrame(slots);
   return value;
 }
 

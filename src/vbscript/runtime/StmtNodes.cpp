@@ -11,10 +11,9 @@ namespace {
 bool IsInterruption(const ScriptError& error) { return error.number == err::kAborted; }
 
 Result<bool> Condition(Frame& frame, ExprNode& condition) {
-  auto value = condition.Eval(frame);
-  if (!value) return std::move(value).error();
-  if (value->is_boolean()) return value->as_boolean();
-  return IsTrue(*value, frame.interp.locale());
+  VBS_TRY_ASSIGN(auto value, condition.Eval(frame));
+  if (value.is_boolean()) return value.as_boolean();
+  return IsTrue(value, frame.interp.locale());
 }
 
 // Under "On Error Resume Next" an error in the header of a compound statement resumes with the next
@@ -58,22 +57,20 @@ Result<Flow> ExprStmtNode::Exec(Frame& frame) {
 }
 
 Result<Flow> AssignNode::Exec(Frame& frame) {
-  auto value = m_value->Eval(frame);
-  if (!value) return std::move(value).error();
-  if (!m_is_set && !value->is_object() && !value->IsRef()) {
+  VBS_TRY_ASSIGN(auto value, m_value->Eval(frame));
+  if (!m_is_set && !value.is_object() && !value.IsRef()) {
     if (Variant* target = m_direct_target.Storage(frame)) {
-      *target = std::move(*value);
+      *target = std::move(value);
       return Flow::Normal;
     }
   }
-  VBS_TRY(m_target->Assign(frame, std::move(*value), m_is_set));
+  VBS_TRY(m_target->Assign(frame, std::move(value), m_is_set));
   return Flow::Normal;
 }
 
 Result<Flow> AppendNode::Exec(Frame& frame) {
-  auto value = m_value->Eval(frame);
-  if (!value) return std::move(value).error();
-  VBS_TRY(ConcatAssign(m_target->Storage(frame).Deref(), *value, frame.interp.locale()));
+  VBS_TRY_ASSIGN(auto value, m_value->Eval(frame));
+  VBS_TRY(ConcatAssign(m_target->Storage(frame).Deref(), value, frame.interp.locale()));
   return Flow::Normal;
 }
 
@@ -86,18 +83,16 @@ Result<Flow> UpdateNode<Op>::Exec(Frame& frame) {
     return Store(target, target, *value, frame);
   }
   const Variant current = target;  // taken first: evaluating the right side may change the variable
-  auto value = m_value->Eval(frame);
-  if (!value) return std::move(value).error();
-  if (TryFastApply<Op>(current, *value, target)) [[likely]]
+  VBS_TRY_ASSIGN(auto value, m_value->Eval(frame));
+  if (TryFastApply<Op>(current, value, target)) [[likely]]
     return Flow::Normal;
-  return Store(target, current, *value, frame);
+  return Store(target, current, value, frame);
 }
 
 template <BinaryOperator Op>
 Result<Flow> UpdateNode<Op>::Store(Variant& target, const Variant& current, const Variant& value, Frame& frame) {
-  auto result = ApplyBinary(Op, current, value, frame.interp.compare_mode(), frame.interp.locale());
-  if (!result) return std::move(result).error();
-  target = std::move(*result);
+  VBS_TRY_ASSIGN(auto result, ApplyBinary(Op, current, value, frame.interp.compare_mode(), frame.interp.locale()));
+  target = std::move(result);
   return Flow::Normal;
 }
 
@@ -116,31 +111,27 @@ StmtNodePtr MakeUpdateNode(SourcePos pos, BinaryOperator op, ExprNodePtr target,
 
 Result<Flow> RedimNode::Exec(Frame& frame) {
   for (RedimTarget& item : m_targets) {
-    auto address = item.target->Address(frame);
-    if (!address) return std::move(address).error();
-    if (!*address) return MakeError(err::kTypeMismatch);
+    VBS_TRY_ASSIGN(auto address, item.target->Address(frame));
+    if (!address) return MakeError(err::kTypeMismatch);
     // Without Preserve a fixed array refuses before its new bounds are even looked at; with
     // Preserve the bounds are read first, as Windows does.
-    if (!m_preserve && (*address)->IsFixedArray()) return MakeError(err::kFixedArray);
+    if (!m_preserve && (address)->IsFixedArray()) return MakeError(err::kFixedArray);
     std::vector<ArrayBound> bounds;
     for (ExprNodePtr& bound : item.bounds) {
-      auto value = bound->Eval(frame);
-      if (!value) return std::move(value).error();
-      auto upper = value->to_long(frame.interp.locale());
-      if (!upper) return std::move(upper).error();
-      bounds.push_back({0, *upper});
+      VBS_TRY_ASSIGN(auto value, bound->Eval(frame));
+      VBS_TRY_ASSIGN(auto upper, value.to_long(frame.interp.locale()));
+      bounds.push_back({0, upper});
     }
-    VBS_TRY(Redim(**address, bounds, m_preserve ? RedimMode::Preserve : RedimMode::Discard));
+    VBS_TRY(Redim(*address, bounds, m_preserve ? RedimMode::Preserve : RedimMode::Discard));
   }
   return Flow::Normal;
 }
 
 Result<Flow> EraseNode::Exec(Frame& frame) {
   for (ExprNodePtr& target : m_targets) {
-    auto address = target->Address(frame);
-    if (!address) return std::move(address).error();
-    if (!*address) return MakeError(err::kTypeMismatch);
-    VBS_TRY(Erase(**address));
+    VBS_TRY_ASSIGN(auto address, target->Address(frame));
+    if (!address) return MakeError(err::kTypeMismatch);
+    VBS_TRY(Erase(*address));
   }
   return Flow::Normal;
 }
@@ -155,8 +146,7 @@ Result<Flow> IfNode::Exec(Frame& frame) {
 }
 
 Result<Flow> SelectNode::Exec(Frame& frame) {
-  auto subject = m_subject->Eval(frame);
-  if (!subject) return std::move(subject).error();
+  VBS_TRY_ASSIGN(auto subject, m_subject->Eval(frame));
   for (CaseBlock& block : m_cases) {
     for (ExprNodePtr& candidate : block.values) {
       auto value = candidate->Eval(frame);
@@ -164,9 +154,8 @@ Result<Flow> SelectNode::Exec(Frame& frame) {
         if (ResumeIntoBody(frame, value.error())) return block.body.Exec(frame);
         return std::move(value).error();
       }
-      auto equal = Compare(BinaryOperator::Equal, *subject, *value, frame.interp.compare_mode(), frame.interp.locale());
-      if (!equal) return std::move(equal).error();
-      if (equal->is_boolean() && equal->as_boolean()) return block.body.Exec(frame);
+      VBS_TRY_ASSIGN(auto equal, Compare(BinaryOperator::Equal, subject, *value, frame.interp.compare_mode(), frame.interp.locale()));
+      if (equal.is_boolean() && equal.as_boolean()) return block.body.Exec(frame);
     }
   }
   return m_else.Exec(frame);
@@ -193,28 +182,22 @@ Result<Flow> ForNode::Exec(Frame& frame) {
     if (!value) return header_failed(value.error());
     step = std::move(*value);
   }
-  auto plain_from = LetValue(std::move(*from));
-  if (!plain_from) return std::move(plain_from).error();
-  auto plain_to = LetValue(std::move(*to));
-  if (!plain_to) return std::move(plain_to).error();
-  auto plain_step = LetValue(std::move(step));
-  if (!plain_step) return std::move(plain_step).error();
+  VBS_TRY_ASSIGN(auto plain_from, LetValue(std::move(*from)));
+  VBS_TRY_ASSIGN(auto plain_to, LetValue(std::move(*to)));
+  VBS_TRY_ASSIGN(auto plain_step, LetValue(std::move(step)));
   Variant& limit = frame.slots[m_temp];
   Variant& increment = frame.slots[m_temp + 1];
-  limit = std::move(*plain_to);
-  increment = std::move(*plain_step);
-  auto step_value = increment.to_double(locale);
-  if (!step_value) return std::move(step_value).error();
-  const BinaryOperator keep_going = *step_value >= 0 ? BinaryOperator::LessEqual : BinaryOperator::GreaterEqual;
+  limit = std::move(plain_to);
+  increment = std::move(plain_step);
+  VBS_TRY_ASSIGN(auto step_value, increment.to_double(locale));
+  const BinaryOperator keep_going = step_value >= 0 ? BinaryOperator::LessEqual : BinaryOperator::GreaterEqual;
 
-  VBS_TRY(m_counter->Assign(frame, std::move(*plain_from), false));
+  VBS_TRY(m_counter->Assign(frame, std::move(plain_from), false));
   Flow report = Flow::Normal;
   auto step_counter = [&]() -> Status {
-    auto current = m_counter->Eval(frame);
-    if (!current) return std::move(current).error();
-    auto next = Add(*current, increment, locale);
-    if (!next) return std::move(next).error();
-    return m_counter->Assign(frame, std::move(*next), false);
+    VBS_TRY_ASSIGN(auto current, m_counter->Eval(frame));
+    VBS_TRY_ASSIGN(auto next, Add(current, increment, locale));
+    return m_counter->Assign(frame, std::move(next), false);
   };
   bool body_ran = false;  // set when the fast loop hands over right after a run of the body
 
@@ -253,11 +236,9 @@ Result<Flow> ForNode::Exec(Frame& frame) {
   }
   if (body_ran) VBS_TRY(step_counter());
   for (;;) {
-    auto counter = m_counter->Eval(frame);
-    if (!counter) return std::move(counter).error();
-    auto within = Compare(keep_going, *counter, limit, CompareMode::Binary, locale);
-    if (!within) return std::move(within).error();
-    if (!within->is_boolean() || !within->as_boolean()) break;
+    VBS_TRY_ASSIGN(auto counter, m_counter->Eval(frame));
+    VBS_TRY_ASSIGN(auto within, Compare(keep_going, counter, limit, CompareMode::Binary, locale));
+    if (!within.is_boolean() || !within.as_boolean()) break;
     VBS_TRY(frame.interp.CheckInterrupt());
     auto flow = m_body.Exec(frame);
     if (!flow) return flow;
@@ -294,18 +275,16 @@ Result<Flow> ForEachNode::Exec(Frame& frame) {
     VBS_TRY(frame.interp.CheckInterrupt());
     bool is_object = element.is_object();
     VBS_TRY(m_element->Assign(frame, std::move(element), is_object));
-    auto flow = m_body.Exec(frame);
-    if (!flow) return std::move(flow).error();
-    return LeavesLoop(*flow, Flow::ExitFor, report);
+    VBS_TRY_ASSIGN(auto flow, m_body.Exec(frame));
+    return LeavesLoop(flow, Flow::ExitFor, report);
   };
 
   if (collection->is_array()) {
     Ref<SafeArray> array(collection->as_array());
     ArrayLock lock(array);
     for (size_t i = 0; i < array->size(); ++i) {
-      auto leave = visit(array->elements()[i]);
-      if (!leave) return std::move(leave).error();
-      if (*leave) return report;
+      VBS_TRY_ASSIGN(auto leave, visit(array->elements()[i]));
+      if (leave) return report;
     }
     return Flow::Normal;
   }
@@ -315,16 +294,13 @@ Result<Flow> ForEachNode::Exec(Frame& frame) {
     if (!flow) return flow;
     return LeavesLoop(*flow, Flow::ExitFor, report) ? report : Flow::Normal;
   }
-  auto enumerator = collection->as_object()->Enumerate();
-  if (!enumerator) return std::move(enumerator).error();
+  VBS_TRY_ASSIGN(auto enumerator, collection->as_object()->Enumerate());
   for (;;) {
     Variant element;
-    auto more = (*enumerator)->Next(element);
-    if (!more) return std::move(more).error();
-    if (!*more) break;
-    auto leave = visit(std::move(element));
-    if (!leave) return std::move(leave).error();
-    if (*leave) return report;
+    VBS_TRY_ASSIGN(auto more, (enumerator)->Next(element));
+    if (!more) break;
+    VBS_TRY_ASSIGN(auto leave, visit(std::move(element)));
+    if (leave) return report;
   }
   // A collection walked to its end leaves the loop variable Empty, as Windows does.
   VBS_TRY(m_element->Assign(frame, Variant(), false));
@@ -348,9 +324,8 @@ Result<Flow> LoopNode::Exec(Frame& frame) {
     if (m_while_wend ? *flow != Flow::Normal : LeavesLoop(*flow, Flow::ExitDo, report))
       return m_while_wend ? *flow : report;
     if (m_condition && !check_before) {
-      auto holds = Condition(frame, *m_condition);
-      if (!holds) return std::move(holds).error();
-      if (*holds == until) break;
+      VBS_TRY_ASSIGN(auto holds, Condition(frame, *m_condition));
+      if (holds == until) break;
     }
   }
   return Flow::Normal;
@@ -373,9 +348,8 @@ Result<Flow> DimArrayNode::Exec(Frame&) {
     }
     std::vector<ArrayBound> bounds;
     for (int32_t upper : item.uppers) bounds.push_back({0, upper});
-    auto array = SafeArray::Create(bounds);
-    if (!array) return std::move(array).error();
-    *item.storage = Variant::Array(*array);
+    VBS_TRY_ASSIGN(auto array, SafeArray::Create(bounds));
+    *item.storage = Variant::Array(array);
     item.storage->MarkFixedArray();
   }
   return Flow::Normal;

@@ -51,9 +51,8 @@ std::optional<double> ParseRadix(std::u16string_view s) {
 
 // The value as a whole number in [min, max], rounded half to even; error 6 outside.
 Result<int64_t> ToWhole(const Variant& value, int64_t min, int64_t max, bool byte_target, const Locale& locale) {
-  auto plain = ValueOf(value);
-  if (!plain) return std::move(plain).error();
-  const Variant& v = *plain;
+  VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+  const Variant& v = plain;
   int64_t whole = 0;
   double real = 0;
   bool is_real = false;
@@ -144,9 +143,8 @@ Result<Variant> ValueOf(const Variant& value) {
     // A default member that keeps returning objects never yields a value.
     if (depth == 8) return MakeError(13);
     Ref<Object> object = current.object_ref();
-    auto result = object->Invoke(kDefaultMember, InvokeKind::Get, {});
-    if (!result) return std::move(result).error();
-    Variant next = result->Deref();
+    VBS_TRY_ASSIGN(auto result, object->Invoke(kDefaultMember, InvokeKind::Get, {}));
+    Variant next = result.Deref();
     current = std::move(next);
   }
   return current;
@@ -270,9 +268,8 @@ std::u16string FormatCurrency(int64_t scaled, const Locale& locale) {
 }
 
 Result<bool> Variant::to_boolean(const Locale& locale) const {
-  auto plain = ValueOf(*this);
-  if (!plain) return std::move(plain).error();
-  const Variant& v = *plain;
+  VBS_TRY_ASSIGN(auto plain, ValueOf(*this));
+  const Variant& v = plain;
   switch (v.subtype()) {
     case Subtype::Empty: return false;
     case Subtype::Null: return MakeError(94);
@@ -294,27 +291,23 @@ Result<bool> Variant::to_boolean(const Locale& locale) const {
 }
 
 Result<uint8_t> Variant::to_byte(const Locale& locale) const {
-  auto whole = ToWhole(*this, 0, 255, true, locale);
-  if (!whole) return std::move(whole).error();
-  return static_cast<uint8_t>(*whole);
+  VBS_TRY_ASSIGN(auto whole, ToWhole(*this, 0, 255, true, locale));
+  return static_cast<uint8_t>(whole);
 }
 
 Result<int16_t> Variant::to_integer(const Locale& locale) const {
-  auto whole = ToWhole(*this, INT16_MIN, INT16_MAX, false, locale);
-  if (!whole) return std::move(whole).error();
-  return static_cast<int16_t>(*whole);
+  VBS_TRY_ASSIGN(auto whole, ToWhole(*this, INT16_MIN, INT16_MAX, false, locale));
+  return static_cast<int16_t>(whole);
 }
 
 Result<int32_t> Variant::to_long(const Locale& locale) const {
-  auto whole = ToWhole(*this, INT32_MIN, INT32_MAX, false, locale);
-  if (!whole) return std::move(whole).error();
-  return static_cast<int32_t>(*whole);
+  VBS_TRY_ASSIGN(auto whole, ToWhole(*this, INT32_MIN, INT32_MAX, false, locale));
+  return static_cast<int32_t>(whole);
 }
 
 Result<double> Variant::to_double(const Locale& locale) const {
-  auto plain = ValueOf(*this);
-  if (!plain) return std::move(plain).error();
-  const Variant& v = *plain;
+  VBS_TRY_ASSIGN(auto plain, ValueOf(*this));
+  const Variant& v = plain;
   switch (v.subtype()) {
     case Subtype::Empty: return 0.0;
     case Subtype::Null: return MakeError(94);
@@ -337,10 +330,9 @@ Result<double> Variant::to_double(const Locale& locale) const {
 }
 
 Result<float> Variant::to_single(const Locale& locale) const {
-  auto real = to_double(locale);
-  if (!real) return std::move(real).error();
-  if (std::fabs(*real) > std::numeric_limits<float>::max()) return MakeError(6);
-  return static_cast<float>(*real);
+  VBS_TRY_ASSIGN(auto real, to_double(locale));
+  if (std::fabs(real) > std::numeric_limits<float>::max()) return MakeError(6);
+  return static_cast<float>(real);
 }
 
 Result<int64_t> Variant::to_currency(const Locale& locale) const {
@@ -352,9 +344,8 @@ Result<int64_t> Variant::to_currency(const Locale& locale) const {
     case Subtype::Long: return int64_t{v.as_long()} * kCurrencyScale;
     default: break;
   }
-  auto real = to_double(locale);
-  if (!real) return std::move(real).error();
-  const double scaled = RoundHalfEven(*real * kCurrencyScale);
+  VBS_TRY_ASSIGN(auto real, to_double(locale));
+  const double scaled = RoundHalfEven(real * kCurrencyScale);
   // The largest double below 2^63, so that the cast below is defined.
   constexpr double kLimit = 9223372036854774784.0;
   if (!(scaled >= -kLimit && scaled <= kLimit)) return MakeError(6);
@@ -362,9 +353,8 @@ Result<int64_t> Variant::to_currency(const Locale& locale) const {
 }
 
 Result<double> Variant::to_date(const Locale& locale) const {
-  auto plain = ValueOf(*this);
-  if (!plain) return std::move(plain).error();
-  const Variant& v = *plain;
+  VBS_TRY_ASSIGN(auto plain, ValueOf(*this));
+  const Variant& v = plain;
   double serial = 0;
   if (v.is_date()) return v.as_date();
   if (v.is_string()) {
@@ -373,18 +363,16 @@ Result<double> Variant::to_date(const Locale& locale) const {
     if (!number) return MakeError(13);
     serial = *number;
   } else {
-    auto real = v.to_double(locale);
-    if (!real) return std::move(real).error();
-    serial = *real;
+    VBS_TRY_ASSIGN(auto real, v.to_double(locale));
+    serial = real;
   }
   if (!IsValidDateSerial(serial)) return MakeError(6);
   return serial;
 }
 
 Result<VbString> Variant::to_string(const Locale& locale) const {
-  auto plain = ValueOf(*this);
-  if (!plain) return std::move(plain).error();
-  const Variant& v = *plain;
+  VBS_TRY_ASSIGN(auto plain, ValueOf(*this));
+  const Variant& v = plain;
   switch (v.subtype()) {
     case Subtype::Empty: return VbString();
     case Subtype::Null: return MakeError(94);

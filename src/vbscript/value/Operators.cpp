@@ -15,9 +15,8 @@ namespace {
 Status ToArithmetic(Variant& v, const Locale& locale) {
   switch (v.subtype()) {
     case Subtype::String: {
-      auto number = v.to_double(locale);
-      if (!number) return std::move(number).error();
-      v = Variant::Double(*number);
+      VBS_TRY_ASSIGN(auto number, v.to_double(locale));
+      v = Variant::Double(number);
       return Ok();
     }
     case Subtype::Array:
@@ -127,9 +126,8 @@ Result<Variant> Arithmetic(Arith op, const Variant& left, const Variant& right, 
   if (a->is_null() || b->is_null()) return Variant::Null();
   if (op == Arith::Add) {
     if (a->is_string() && b->is_string()) {
-      auto joined = VbString::Concat(a->as_string_view(), b->as_string_view());
-      if (!joined) return std::move(joined).error();
-      return Variant::String(std::move(*joined));
+      VBS_TRY_ASSIGN(auto joined, VbString::Concat(a->as_string_view(), b->as_string_view()));
+      return Variant::String(std::move(joined));
     }
     if (a->is_empty() && b->is_string()) return *b;
     if (b->is_empty() && a->is_string()) return *a;
@@ -176,16 +174,14 @@ Result<Variant> Arithmetic(Arith op, const Variant& left, const Variant& right, 
 
 // Both operands as Doubles for / and ^; `null` set when either is Null.
 Status RealOperands(const Variant& left, const Variant& right, const Locale& locale, double& x, double& y, bool& null) {
-  auto a = ValueOf(left);
-  if (!a) return std::move(a).error();
-  auto b = ValueOf(right);
-  if (!b) return std::move(b).error();
-  null = a->is_null() || b->is_null();
+  VBS_TRY_ASSIGN(auto a, ValueOf(left));
+  VBS_TRY_ASSIGN(auto b, ValueOf(right));
+  null = a.is_null() || b.is_null();
   if (null) return Ok();
-  VBS_TRY(ToArithmetic(*a, locale));
-  VBS_TRY(ToArithmetic(*b, locale));
-  x = RealOf(*a);
-  y = RealOf(*b);
+  VBS_TRY(ToArithmetic(a, locale));
+  VBS_TRY(ToArithmetic(b, locale));
+  x = RealOf(a);
+  y = RealOf(b);
   return Ok();
 }
 
@@ -209,13 +205,11 @@ Result<Variant> IntegerDivision(IntegerOp op, const Variant& left, const Variant
   } else if (narrow(a->subtype()) && narrow(b->subtype())) {
     type = Subtype::Integer;
   }
-  auto x = a->to_long(locale);
-  if (!x) return std::move(x).error();
-  auto y = b->to_long(locale);
-  if (!y) return std::move(y).error();
-  if (*y == 0) return MakeError(11);
-  const int64_t n = *x;
-  const int64_t d = *y;
+  VBS_TRY_ASSIGN(auto x, a->to_long(locale));
+  VBS_TRY_ASSIGN(auto y, b->to_long(locale));
+  if (y == 0) return MakeError(11);
+  const int64_t n = x;
+  const int64_t d = y;
   return FitWhole(op == IntegerOp::Divide ? n / d : n % d, type);
 }
 
@@ -228,9 +222,8 @@ struct Bits {
 };
 
 Result<Bits> ToBits(const Variant& value, const Locale& locale) {
-  auto plain = ValueOf(value);
-  if (!plain) return std::move(plain).error();
-  const Variant& v = *plain;
+  VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+  const Variant& v = plain;
   switch (v.subtype()) {
     case Subtype::Null: return Bits{true, Subtype::Integer, 0};
     case Subtype::Empty: return Bits{false, Subtype::Integer, 0};
@@ -246,9 +239,8 @@ Result<Bits> ToBits(const Variant& value, const Locale& locale) {
       break;
     default: break;
   }
-  auto whole = v.to_long(locale);
-  if (!whole) return std::move(whole).error();
-  return Bits{false, Subtype::Long, *whole};
+  VBS_TRY_ASSIGN(auto whole, v.to_long(locale));
+  return Bits{false, Subtype::Long, whole};
 }
 
 Variant MakeBits(Subtype type, int64_t bits) {
@@ -269,25 +261,23 @@ Subtype LogicalType(Subtype a, Subtype b) {
 enum class Logic { And, Or, Xor, Eqv, Imp };
 
 Result<Variant> Logical(Logic op, const Variant& left, const Variant& right, const Locale& locale) {
-  auto a = ToBits(left, locale);
-  if (!a) return std::move(a).error();
-  auto b = ToBits(right, locale);
-  if (!b) return std::move(b).error();
-  if (a->null && b->null) return Variant::Null();
-  if (a->null || b->null) {
+  VBS_TRY_ASSIGN(auto a, ToBits(left, locale));
+  VBS_TRY_ASSIGN(auto b, ToBits(right, locale));
+  if (a.null && b.null) return Variant::Null();
+  if (a.null || b.null) {
     // Only a side that decides the result alone gives a value.
-    const Bits& known = a->null ? *b : *a;
+    const Bits& known = a.null ? b : a;
     switch (op) {
       case Logic::And: return known.bits == 0 ? MakeBits(known.type, 0) : Variant::Null();
       case Logic::Or: return known.AllOnes() ? MakeBits(known.type, -1) : Variant::Null();
       case Logic::Imp:
-        if (a->null) return known.AllOnes() ? MakeBits(known.type, -1) : Variant::Null();
+        if (a.null) return known.AllOnes() ? MakeBits(known.type, -1) : Variant::Null();
         return known.bits == 0 ? MakeBits(known.type, -1) : Variant::Null();
       default: return Variant::Null();
     }
   }
-  const int64_t x = a->bits;
-  const int64_t y = b->bits;
+  const int64_t x = a.bits;
+  const int64_t y = b.bits;
   int64_t r = 0;
   switch (op) {
     case Logic::And: r = x & y; break;
@@ -296,7 +286,7 @@ Result<Variant> Logical(Logic op, const Variant& left, const Variant& right, con
     case Logic::Eqv: r = ~(x ^ y); break;
     case Logic::Imp: r = ~x | y; break;
   }
-  return MakeBits(LogicalType(a->type, b->type), r);
+  return MakeBits(LogicalType(a.type, b.type), r);
 }
 
 int CompareStrings(std::u16string_view a, std::u16string_view b, CompareMode mode) {
@@ -385,20 +375,17 @@ Result<Variant> Concat(const Variant& a, const Variant& b, const Locale& locale)
   VbString left;
   VbString right;
   if (!x->is_null()) {
-    auto s = x->to_string(locale);
-    if (!s) return std::move(s).error();
-    left = std::move(*s);
+    VBS_TRY_ASSIGN(auto s, x->to_string(locale));
+    left = std::move(s);
   }
   if (!y->is_null()) {
-    auto s = y->to_string(locale);
-    if (!s) return std::move(s).error();
-    right = std::move(*s);
+    VBS_TRY_ASSIGN(auto s, y->to_string(locale));
+    right = std::move(s);
   }
   if (right.empty()) return Variant::String(std::move(left));
   if (left.empty()) return Variant::String(std::move(right));
-  auto joined = VbString::Concat(left.view(), right.view());
-  if (!joined) return std::move(joined).error();
-  return Variant::String(std::move(*joined));
+  VBS_TRY_ASSIGN(auto joined, VbString::Concat(left.view(), right.view()));
+  return Variant::String(std::move(joined));
 }
 
 Result<Variant> Compare(BinaryOperator op, const Variant& left, const Variant& right, CompareMode mode,
@@ -500,10 +487,9 @@ Result<Variant> Negate(const Variant& value, const Locale& locale) {
 }
 
 Result<Variant> Not(const Variant& value, const Locale& locale) {
-  auto bits = ToBits(value, locale);
-  if (!bits) return std::move(bits).error();
-  if (bits->null) return Variant::Null();
-  return MakeBits(bits->type, ~bits->bits);
+  VBS_TRY_ASSIGN(auto bits, ToBits(value, locale));
+  if (bits.null) return Variant::Null();
+  return MakeBits(bits.type, ~bits.bits);
 }
 
 Result<bool> Is(const Variant& a, const Variant& b) {
@@ -516,28 +502,24 @@ Result<bool> Is(const Variant& a, const Variant& b) {
 Result<bool> IsTrue(const Variant& condition, const Locale& locale) {
   const Variant& v = condition.Deref();
   if (v.is_boolean()) return v.as_boolean();
-  auto plain = ValueOf(v);
-  if (!plain) return std::move(plain).error();
-  if (plain->is_null()) return false;
-  return plain->to_boolean(locale);
+  VBS_TRY_ASSIGN(auto plain, ValueOf(v));
+  if (plain.is_null()) return false;
+  return plain.to_boolean(locale);
 }
 
 Status ConcatAssign(Variant& target, const Variant& value, const Locale& locale) {
   Variant& t = target.Deref();
   if (!t.is_string()) {
-    auto joined = Concat(t, value, locale);
-    if (!joined) return std::move(joined).error();
-    t = std::move(*joined);
+    VBS_TRY_ASSIGN(auto joined, Concat(t, value, locale));
+    t = std::move(joined);
     return Ok();
   }
   const Variant& v = value.Deref();
   if (v.is_string()) return t.AppendInPlace(v.as_string_view());
-  auto plain = ValueOf(v);
-  if (!plain) return std::move(plain).error();
-  if (plain->is_null()) return Ok();
-  auto text = plain->to_string(locale);
-  if (!text) return std::move(text).error();
-  return t.AppendInPlace(text->view());
+  VBS_TRY_ASSIGN(auto plain, ValueOf(v));
+  if (plain.is_null()) return Ok();
+  VBS_TRY_ASSIGN(auto text, plain.to_string(locale));
+  return t.AppendInPlace(text.view());
 }
 
 }  // namespace vbs

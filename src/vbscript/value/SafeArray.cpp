@@ -102,10 +102,9 @@ Result<SafeArray*> MutableArray(Variant& variable) {
   if (!target.is_array()) return MakeError(13);
   SafeArray* array = target.as_array();
   if (array->RefCount() == 1) return array;
-  auto copy = array->Clone();
-  if (!copy) return std::move(copy).error();
-  SafeArray* result = copy->get();
-  target.ReplaceArray(std::move(*copy));
+  VBS_TRY_ASSIGN(auto copy, array->Clone());
+  SafeArray* result = copy.get();
+  target.ReplaceArray(std::move(copy));
   return result;
 }
 
@@ -114,8 +113,7 @@ Status Redim(Variant& variable, std::span<const ArrayBound> bounds, RedimMode mo
   Variant& target = variable.Deref();
   const bool had_array = target.is_array();
   if (had_array && (target.IsFixedArray() || target.as_array()->IsLocked())) return MakeError(10);
-  auto created = SafeArray::Create(bounds);
-  if (!created) return std::move(created).error();
+  VBS_TRY_ASSIGN(auto created, SafeArray::Create(bounds));
   if (mode == RedimMode::Preserve && had_array && target.as_array()->DimensionCount() != 0) {
     const SafeArray& old = *target.as_array();
     const auto& old_bounds = old.bounds();
@@ -126,9 +124,9 @@ Status Redim(Variant& variable, std::span<const ArrayBound> bounds, RedimMode mo
       if (!last && bounds[d].upper != old_bounds[d].upper) return MakeError(9);
     }
     // Column-major: keeping every dimension but the last keeps the elements as a prefix.
-    const size_t kept = std::min(old.size(), (*created)->size());
+    const size_t kept = std::min(old.size(), (created)->size());
     auto source = old.elements();
-    auto destination = (*created)->elements();
+    auto destination = (created)->elements();
     if (old.RefCount() == 1) {
       std::move(source.begin(), source.begin() + kept, destination.begin());
     } else {
@@ -136,9 +134,9 @@ Status Redim(Variant& variable, std::span<const ArrayBound> bounds, RedimMode mo
     }
   }
   if (had_array) {
-    target.ReplaceArray(std::move(*created));
+    target.ReplaceArray(std::move(created));
   } else {
-    target = Variant::Array(std::move(*created));
+    target = Variant::Array(std::move(created));
   }
   return Ok();
 }
@@ -151,29 +149,25 @@ Status Erase(Variant& variable) {
     target.ReplaceArray(SafeArray::CreateUndimensioned());
     return Ok();
   }
-  auto array = MutableArray(target);
-  if (!array) return std::move(array).error();
-  for (Variant& element : (*array)->elements()) element = Variant();
+  VBS_TRY_ASSIGN(auto array, MutableArray(target));
+  for (Variant& element : (array)->elements()) element = Variant();
   return Ok();
 }
 
 Result<Variant> ReadElement(const Variant& array, std::span<const int32_t> indices) {
   const Variant& target = array.Deref();
   if (!target.is_array()) return MakeError(13);
-  auto offset = target.as_array()->Offset(indices);
-  if (!offset) return std::move(offset).error();
-  return target.as_array()->elements()[*offset];
+  VBS_TRY_ASSIGN(auto offset, target.as_array()->Offset(indices));
+  return target.as_array()->elements()[offset];
 }
 
 Status WriteElement(Variant& variable, std::span<const int32_t> indices, Variant value) {
   Variant& target = variable.Deref();
   if (!target.is_array()) return MakeError(13);
   // Bounds first, so that a bad index does not copy a shared array for nothing.
-  auto offset = target.as_array()->Offset(indices);
-  if (!offset) return std::move(offset).error();
-  auto array = MutableArray(target);
-  if (!array) return std::move(array).error();
-  (*array)->elements()[*offset] = std::move(value);
+  VBS_TRY_ASSIGN(auto offset, target.as_array()->Offset(indices));
+  VBS_TRY_ASSIGN(auto array, MutableArray(target));
+  (array)->elements()[offset] = std::move(value);
   return Ok();
 }
 

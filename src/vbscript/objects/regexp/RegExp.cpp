@@ -23,10 +23,9 @@ class ListEnumerator final : public Enumerator {
 };
 
 Result<Variant> ItemAt(const std::vector<Variant>& values, CallArgs& args) {
-  auto index = args.Long(0);
-  if (!index) return std::move(index).error();
-  if (*index < 0 || static_cast<size_t>(*index) >= values.size()) return MakeError(err::kInvalidCall);
-  return values[static_cast<size_t>(*index)];
+  VBS_TRY_ASSIGN(auto index, args.Long(0));
+  if (index < 0 || static_cast<size_t>(index) >= values.size()) return MakeError(err::kInvalidCall);
+  return values[static_cast<size_t>(index)];
 }
 
 std::u16string_view Slice(std::u16string_view text, int32_t from, int32_t to) {
@@ -184,27 +183,24 @@ std::span<const RegExp::Member> RegExp::Members() {
 
 Result<const RegExpProgram*> RegExp::Program() {
   if (!m_program) {
-    auto program = RegExpProgram::Compile(m_pattern, RegExpOptions{m_ignore_case, m_multiline});
-    if (!program) return std::move(program).error();
-    m_program = std::move(*program);
+    VBS_TRY_ASSIGN(auto program, RegExpProgram::Compile(m_pattern, RegExpOptions{m_ignore_case, m_multiline}));
+    m_program = std::move(program);
   }
   return &*m_program;
 }
 
 Status RegExp::PutFlag(bool& flag, const Variant& value) {
-  auto on = value.to_boolean(locale());
-  if (!on) return std::move(on).error();
-  if (flag != *on) m_program.reset();
-  flag = *on;
+  VBS_TRY_ASSIGN(auto on, value.to_boolean(locale()));
+  if (flag != on) m_program.reset();
+  flag = on;
   return Ok();
 }
 
 Result<Variant> RegExp::GetPattern(CallArgs&) { return Variant::String(m_pattern); }
 
 Result<Variant> RegExp::PutPattern(CallArgs&, Variant value) {
-  auto text = value.to_string(locale());
-  if (!text) return std::move(text).error();
-  m_pattern = text->ToU16String();
+  VBS_TRY_ASSIGN(auto text, value.to_string(locale()));
+  m_pattern = text.ToU16String();
   m_program.reset();
   return Variant();
 }
@@ -212,9 +208,8 @@ Result<Variant> RegExp::PutPattern(CallArgs&, Variant value) {
 Result<Variant> RegExp::GetGlobal(CallArgs&) { return Variant::Boolean(m_global); }
 
 Result<Variant> RegExp::PutGlobal(CallArgs&, Variant value) {
-  auto on = value.to_boolean(locale());
-  if (!on) return std::move(on).error();
-  m_global = *on;
+  VBS_TRY_ASSIGN(auto on, value.to_boolean(locale()));
+  m_global = on;
   return Variant();
 }
 
@@ -233,28 +228,22 @@ Result<Variant> RegExp::PutMultiline(CallArgs&, Variant value) {
 }
 
 Result<Variant> RegExp::Test(CallArgs& args) {
-  auto text = args.String(0);
-  if (!text) return std::move(text).error();
-  auto program = Program();
-  if (!program) return std::move(program).error();
+  VBS_TRY_ASSIGN(auto text, args.String(0));
+  VBS_TRY_ASSIGN(auto program, Program());
   RegExpCaptures captures;
-  auto found = (*program)->Search(*text, 0, captures, m_interrupt);
-  if (!found) return std::move(found).error();
-  return Variant::Boolean(*found);
+  VBS_TRY_ASSIGN(auto found, (program)->Search(text, 0, captures, m_interrupt));
+  return Variant::Boolean(found);
 }
 
 Result<Variant> RegExp::Execute(CallArgs& args) {
-  auto text = args.String(0);
-  if (!text) return std::move(text).error();
-  auto program = Program();
-  if (!program) return std::move(program).error();
+  VBS_TRY_ASSIGN(auto text, args.String(0));
+  VBS_TRY_ASSIGN(auto program, Program());
   std::vector<Variant> matches;
   RegExpCaptures captures;
-  for (size_t at = 0; at <= text->size();) {
-    auto found = (*program)->Search(*text, at, captures, m_interrupt);
-    if (!found) return std::move(found).error();
-    if (!*found) break;
-    matches.push_back(Variant::Object(MakeRef<RegExpMatch>(locale(), *text, captures)));
+  for (size_t at = 0; at <= text.size();) {
+    VBS_TRY_ASSIGN(auto found, (program)->Search(text, at, captures, m_interrupt));
+    if (!found) break;
+    matches.push_back(Variant::Object(MakeRef<RegExpMatch>(locale(), text, captures)));
     if (!m_global) break;
     at = NextStart(captures);
   }
@@ -271,41 +260,34 @@ Result<std::u16string> RegExp::Replacement(const Variant& with, std::u16string_v
       call_args.push_back(Variant::String(captures[g] < 0 ? u"" : Slice(subject, captures[g], captures[g + 1])));
     call_args.push_back(Variant::Long(captures[0]));
     call_args.push_back(Variant::String(subject));
-    auto result = with.as_object()->Invoke(kDefaultMember, InvokeKind::Method, call_args);
-    if (!result) return std::move(result).error();
-    auto text = result->Deref().to_string(locale());
-    if (!text) return std::move(text).error();
-    return text->ToU16String();
+    VBS_TRY_ASSIGN(auto result, with.as_object()->Invoke(kDefaultMember, InvokeKind::Method, call_args));
+    VBS_TRY_ASSIGN(auto text, result.Deref().to_string(locale()));
+    return text.ToU16String();
   }
   // The template converts without the locale's words: True becomes "-1", as on Windows.
   if (with.is_boolean()) return Expand(with.as_boolean() ? u"-1" : u"0", subject, captures);
-  auto text = with.to_string(locale());
-  if (!text) return std::move(text).error();
-  return Expand(text->view(), subject, captures);
+  VBS_TRY_ASSIGN(auto text, with.to_string(locale()));
+  return Expand(text.view(), subject, captures);
 }
 
 Result<Variant> RegExp::Replace(CallArgs& args) {
-  auto text = args.String(0);
-  if (!text) return std::move(text).error();
-  auto program = Program();
-  if (!program) return std::move(program).error();
+  VBS_TRY_ASSIGN(auto text, args.String(0));
+  VBS_TRY_ASSIGN(auto program, Program());
   const Variant with = args[1];
   std::u16string out;
   size_t copied = 0;
   RegExpCaptures captures;
-  for (size_t at = 0; at <= text->size();) {
-    auto found = (*program)->Search(*text, at, captures, m_interrupt);
-    if (!found) return std::move(found).error();
-    if (!*found) break;
-    auto replacement = Replacement(with, *text, captures);
-    if (!replacement) return std::move(replacement).error();
-    out.append(*text, copied, static_cast<size_t>(captures[0]) - copied);
-    out += *replacement;
+  for (size_t at = 0; at <= text.size();) {
+    VBS_TRY_ASSIGN(auto found, (program)->Search(text, at, captures, m_interrupt));
+    if (!found) break;
+    VBS_TRY_ASSIGN(auto replacement, Replacement(with, text, captures));
+    out.append(text, copied, static_cast<size_t>(captures[0]) - copied);
+    out += replacement;
     copied = static_cast<size_t>(captures[1]);
     if (!m_global) break;
     at = NextStart(captures);
   }
-  out.append(*text, copied);
+  out.append(text, copied);
   return Variant::String(out);
 }
 

@@ -183,9 +183,8 @@ class PatternParser {
     }
     int32_t min = 0;
     int32_t max = 0;
-    auto quantified = Quantifier(min, max);
-    if (!quantified) return std::move(quantified).error();
-    if (!*quantified) return atom;
+    VBS_TRY_ASSIGN(auto quantified, Quantifier(min, max));
+    if (!quantified) return atom;
     if (!quantifiable) return MakeError(kUnexpectedQuantifier);
     auto repeat = Leaf(Kind::Repeat);
     repeat->min = min;
@@ -414,24 +413,22 @@ class PatternParser {
         ++m_pos;
         break;
       }
-      auto first = ReadClassAtom();
-      if (!first) return std::move(first).error();
+      VBS_TRY_ASSIGN(auto first, ReadClassAtom());
       if (Has(1) && Peek() == u'-' && Peek(1) != u']') {
         ++m_pos;
-        auto last = ReadClassAtom();
-        if (!last) return std::move(last).error();
-        if (first->is_set || last->is_set) {
+        VBS_TRY_ASSIGN(auto last, ReadClassAtom());
+        if (first.is_set || last.is_set) {
           // [\d-z]: the hyphen cannot make a range with a set, so it stands for itself.
-          AddAtom(ranges, *first);
+          AddAtom(ranges, first);
           ranges.emplace_back(u'-', u'-');
-          AddAtom(ranges, *last);
-        } else if (first->ch > last->ch) {
+          AddAtom(ranges, last);
+        } else if (first.ch > last.ch) {
           return MakeError(kInvalidRange);
         } else {
-          ranges.emplace_back(first->ch, last->ch);
+          ranges.emplace_back(first.ch, last.ch);
         }
       } else {
-        AddAtom(ranges, *first);
+        AddAtom(ranges, first);
       }
     }
     return SetNode(std::move(ranges), negated);

@@ -156,10 +156,9 @@ class RegExpCompiler {
 Result<RegExpProgram> RegExpProgram::Compile(std::u16string_view pattern, RegExpOptions options) {
   RegExpProgram program;
   program.m_options = options;
-  auto tree = regexp::ParsePattern(pattern, program.m_classes, program.m_groups);
-  if (!tree) return std::move(tree).error();
+  VBS_TRY_ASSIGN(auto tree, regexp::ParsePattern(pattern, program.m_classes, program.m_groups));
   program.m_registers = 2 * (program.m_groups + 1);
-  RegExpCompiler(program).Emit(**tree);
+  RegExpCompiler(program).Emit(*tree);
   program.m_code.push_back({Op::Match});
   program.m_anchored = !options.multiline && program.m_code[0].op == Op::LineStart;
   return program;
