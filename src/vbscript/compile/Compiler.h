@@ -59,6 +59,16 @@ class Compiler {
   Result<BlockNode> CompileBlock(ast::Block& block, Scope& scope);
   Result<StmtNodePtr> CompileStatement(ast::Stmt& statement, Scope& scope);
   Result<StmtNodePtr> CompileAssign(ast::AssignStmt& statement, Scope& scope);
+  Result<StmtNodePtr> CompileCall(ast::CallStmt& statement, Scope& scope);
+  Result<StmtNodePtr> CompileDim(ast::DimStmt& statement, Scope& scope);
+  Result<StmtNodePtr> CompileConst(ast::ConstStmt& statement, Scope& scope);
+  Result<StmtNodePtr> CompileReDim(ast::ReDimStmt& statement, Scope& scope);
+  Result<StmtNodePtr> CompileIf(ast::IfStmt& statement, Scope& scope);
+  Result<StmtNodePtr> CompileSelect(ast::SelectStmt& statement, Scope& scope);
+  Result<StmtNodePtr> CompileForEach(ast::ForEachStmt& statement, Scope& scope);
+  Result<StmtNodePtr> CompileDo(ast::DoStmt& statement, Scope& scope);
+  Result<StmtNodePtr> CompileWhile(ast::WhileStmt& statement, Scope& scope);
+  Result<StmtNodePtr> CompileWith(ast::WithStmt& statement, Scope& scope);
   Result<StmtNodePtr> CompileFor(ast::ForStmt& statement, Scope& scope);
   Result<StmtNodePtr> CompileGlobalArrays(ast::DimStmt& dim, Scope& scope);
 

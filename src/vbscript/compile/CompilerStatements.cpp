@@ -96,131 +96,40 @@ Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scop
     case ast::StmtKind::Assign:
       return CompileAssign(static_cast<ast::AssignStmt&>(statement), scope);
 
-    case ast::StmtKind::Call: {
-      auto& call = static_cast<ast::CallStmt&>(statement);
-      while (call.callee->kind == ast::ExprKind::Paren)
-        call.callee = std::move(static_cast<ast::ParenExpr&>(*call.callee).inner);
-      Result<ExprNodePtr> expr = ExprNodePtr();
-      bool has_args = call.call_keyword || !call.args.empty();
-      if (call.callee->kind == ast::ExprKind::Name) {
-        expr = CompileName(static_cast<ast::NameExpr&>(*call.callee).name, call.callee->pos, has_args ? &call.args : nullptr, scope);
-      } else if (call.callee->kind == ast::ExprKind::Member) {
-        expr = CompileMember(static_cast<ast::MemberExpr&>(*call.callee), has_args ? &call.args : nullptr, scope);
-      } else {
-        expr = CompileExpr(*call.callee, scope);
-        if (expr && !call.args.empty()) {
-          VBS_TRY_ASSIGN(auto args, CompileArgs(call.args, scope));
-          expr = ExprNodePtr(std::make_unique<ValueIndexNode>(call.pos, std::move(*expr), std::move(args)));
-        }
-      }
-      if (!expr) return std::move(expr).error();
-      return StmtNodePtr(std::make_unique<ExprStmtNode>(statement.pos, std::move(*expr)));
-    }
+    case ast::StmtKind::Call:
+      return CompileCall(static_cast<ast::CallStmt&>(statement), scope);
 
-    case ast::StmtKind::Dim: {
-      // Inside procedures, Dims were gathered beforehand; in global code they are globals already.
-      // Code that Execute runs inside a procedure keeps its own variables in its own slots.
-      auto& dim = static_cast<ast::DimStmt&>(statement);
-      if (!scope.procedure && !m_outer) return CompileGlobalArrays(dim, scope);
-      if (scope.procedure) return StmtNodePtr();
-      for (ast::VarDecl& var : dim.vars) {
-        std::string folded = Interpreter::Fold(var.name);
-        if (!scope.names.contains(folded)) scope.names[folded] = Name{NewSlot(scope), false, false, {}};
-      }
-      return StmtNodePtr();
-    }
+    case ast::StmtKind::Dim:
+      return CompileDim(static_cast<ast::DimStmt&>(statement), scope);
 
-    case ast::StmtKind::Const: {
-      if (!scope.procedure && !m_outer) return StmtNodePtr();
-      auto& constant = static_cast<ast::ConstStmt&>(statement);
-      for (ast::ConstItem& item : constant.items) {
-        VBS_TRY_ASSIGN(auto value, ConstantValue(*item.value, scope));
-        scope.names[Interpreter::Fold(item.name)] = Name{0, false, true, std::move(value)};
-      }
-      return StmtNodePtr();
-    }
+    case ast::StmtKind::Const:
+      return CompileConst(static_cast<ast::ConstStmt&>(statement), scope);
 
-    case ast::StmtKind::ReDim: {
-      auto& redim = static_cast<ast::ReDimStmt&>(statement);
-      std::vector<RedimTarget> targets;
-      for (ast::ReDimItem& item : redim.items) {
-        // ReDim also declares: a name not known yet becomes a variable of the current scope.
-        if (item.target->kind == ast::ExprKind::Name) {
-          std::string folded = Interpreter::Fold(static_cast<ast::NameExpr&>(*item.target).name);
-          if (!scope.names.contains(folded) && !m_interp.ResolveGlobal(folded) &&
-              !(scope.class_info && scope.class_info->member_ids.contains(folded))) {
-            if (scope.procedure || m_outer)
-              scope.names[folded] = Name{NewSlot(scope), false, false, {}};
-            else
-              m_interp.DeclareGlobal(folded);
-          }
-        }
-        VBS_TRY_ASSIGN(auto target, CompileExpr(*item.target, scope));
-        VBS_TRY_ASSIGN(auto bounds, CompileArgs(item.bounds, scope));
-        targets.push_back(RedimTarget{std::move(target), std::move(bounds)});
-      }
-      return StmtNodePtr(std::make_unique<RedimNode>(statement.pos, redim.preserve, std::move(targets)));
-    }
+    case ast::StmtKind::ReDim:
+      return CompileReDim(static_cast<ast::ReDimStmt&>(statement), scope);
 
     case ast::StmtKind::Erase: {
       VBS_TRY_ASSIGN(auto targets, CompileArgs(static_cast<ast::EraseStmt&>(statement).targets, scope));
       return StmtNodePtr(std::make_unique<EraseNode>(statement.pos, std::move(targets)));
     }
 
-    case ast::StmtKind::If: {
-      auto& s = static_cast<ast::IfStmt&>(statement);
-      std::vector<ConditionalBlock> branches;
-      for (ast::IfBranch& branch : s.branches) {
-        VBS_TRY_ASSIGN(auto condition, CompileExpr(*branch.condition, scope));
-        VBS_TRY_ASSIGN(auto body, CompileBlock(branch.body, scope));
-        branches.push_back(ConditionalBlock{std::move(condition), std::move(body)});
-      }
-      VBS_TRY_ASSIGN(auto otherwise, CompileBlock(s.else_body, scope));
-      return StmtNodePtr(std::make_unique<IfNode>(statement.pos, std::move(branches), std::move(otherwise)));
-    }
+    case ast::StmtKind::If:
+      return CompileIf(static_cast<ast::IfStmt&>(statement), scope);
 
-    case ast::StmtKind::Select: {
-      auto& s = static_cast<ast::SelectStmt&>(statement);
-      VBS_TRY_ASSIGN(auto subject, CompileExpr(*s.subject, scope));
-      std::vector<CaseBlock> cases;
-      for (ast::CaseClause& clause : s.cases) {
-        VBS_TRY_ASSIGN(auto values, CompileArgs(clause.values, scope));
-        VBS_TRY_ASSIGN(auto body, CompileBlock(clause.body, scope));
-        cases.push_back(CaseBlock{std::move(values), std::move(body)});
-      }
-      VBS_TRY_ASSIGN(auto otherwise, CompileBlock(s.else_body, scope));
-      return StmtNodePtr(std::make_unique<SelectNode>(statement.pos, std::move(subject), std::move(cases), std::move(otherwise)));
-    }
+    case ast::StmtKind::Select:
+      return CompileSelect(static_cast<ast::SelectStmt&>(statement), scope);
 
     case ast::StmtKind::For:
       return CompileFor(static_cast<ast::ForStmt&>(statement), scope);
 
-    case ast::StmtKind::ForEach: {
-      auto& s = static_cast<ast::ForEachStmt&>(statement);
-      VBS_TRY_ASSIGN(auto element, CompileExpr(*s.element, scope));
-      VBS_TRY_ASSIGN(auto collection, CompileExpr(*s.collection, scope));
-      VBS_TRY_ASSIGN(auto body, CompileBlock(s.body, scope));
-      return StmtNodePtr(std::make_unique<ForEachNode>(statement.pos, std::move(element), std::move(collection), std::move(body)));
-    }
+    case ast::StmtKind::ForEach:
+      return CompileForEach(static_cast<ast::ForEachStmt&>(statement), scope);
 
-    case ast::StmtKind::Do: {
-      auto& s = static_cast<ast::DoStmt&>(statement);
-      ExprNodePtr condition;
-      if (s.condition) {
-        VBS_TRY_ASSIGN(auto compiled, CompileExpr(*s.condition, scope));
-        condition = std::move(compiled);
-      }
-      VBS_TRY_ASSIGN(auto body, CompileBlock(s.body, scope));
-      return StmtNodePtr(std::make_unique<LoopNode>(statement.pos, s.condition_kind, std::move(condition), std::move(body), false));
-    }
+    case ast::StmtKind::Do:
+      return CompileDo(static_cast<ast::DoStmt&>(statement), scope);
 
-    case ast::StmtKind::While: {
-      auto& s = static_cast<ast::WhileStmt&>(statement);
-      VBS_TRY_ASSIGN(auto condition, CompileExpr(*s.condition, scope));
-      VBS_TRY_ASSIGN(auto body, CompileBlock(s.body, scope));
-      return StmtNodePtr(std::make_unique<LoopNode>(statement.pos, ast::LoopCondition::WhileBefore, std::move(condition),
-                                                    std::move(body), true));
-    }
+    case ast::StmtKind::While:
+      return CompileWhile(static_cast<ast::WhileStmt&>(statement), scope);
 
     case ast::StmtKind::Exit: {
       auto& s = static_cast<ast::ExitStmt&>(statement);
@@ -228,16 +137,8 @@ Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scop
       return StmtNodePtr(std::make_unique<ExitNode>(statement.pos, flow));
     }
 
-    case ast::StmtKind::With: {
-      auto& s = static_cast<ast::WithStmt&>(statement);
-      VBS_TRY_ASSIGN(auto object, CompileExpr(*s.object, scope));
-      uint32_t slot = NewSlot(scope);
-      scope.with_slots.push_back(slot);
-      auto body = CompileBlock(s.body, scope);
-      scope.with_slots.pop_back();
-      if (!body) return std::move(body).error();
-      return StmtNodePtr(std::make_unique<WithNode>(statement.pos, std::move(object), slot, std::move(*body)));
-    }
+    case ast::StmtKind::With:
+      return CompileWith(static_cast<ast::WithStmt&>(statement), scope);
 
     case ast::StmtKind::OnError:
       return StmtNodePtr(std::make_unique<OnErrorNode>(statement.pos, static_cast<ast::OnErrorStmt&>(statement).resume_next));
@@ -249,6 +150,125 @@ Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scop
       return StmtNodePtr();
   }
   return StmtNodePtr();
+}
+
+Result<StmtNodePtr> Compiler::CompileCall(ast::CallStmt& call, Scope& scope) {
+  while (call.callee->kind == ast::ExprKind::Paren)
+    call.callee = std::move(static_cast<ast::ParenExpr&>(*call.callee).inner);
+  Result<ExprNodePtr> expr = ExprNodePtr();
+  bool has_args = call.call_keyword || !call.args.empty();
+  if (call.callee->kind == ast::ExprKind::Name) {
+    expr = CompileName(static_cast<ast::NameExpr&>(*call.callee).name, call.callee->pos, has_args ? &call.args : nullptr, scope);
+  } else if (call.callee->kind == ast::ExprKind::Member) {
+    expr = CompileMember(static_cast<ast::MemberExpr&>(*call.callee), has_args ? &call.args : nullptr, scope);
+  } else {
+    expr = CompileExpr(*call.callee, scope);
+    if (expr && !call.args.empty()) {
+      VBS_TRY_ASSIGN(auto args, CompileArgs(call.args, scope));
+      expr = ExprNodePtr(std::make_unique<ValueIndexNode>(call.pos, std::move(*expr), std::move(args)));
+    }
+  }
+  if (!expr) return std::move(expr).error();
+  return StmtNodePtr(std::make_unique<ExprStmtNode>(call.pos, std::move(*expr)));
+}
+
+Result<StmtNodePtr> Compiler::CompileDim(ast::DimStmt& dim, Scope& scope) {
+  // Inside procedures, Dims were gathered beforehand; in global code they are globals already.
+  // Code that Execute runs inside a procedure keeps its own variables in its own slots.
+  if (!scope.procedure && !m_outer) return CompileGlobalArrays(dim, scope);
+  if (scope.procedure) return StmtNodePtr();
+  for (ast::VarDecl& var : dim.vars) {
+    std::string folded = Interpreter::Fold(var.name);
+    if (!scope.names.contains(folded)) scope.names[folded] = Name{NewSlot(scope), false, false, {}};
+  }
+  return StmtNodePtr();
+}
+
+Result<StmtNodePtr> Compiler::CompileConst(ast::ConstStmt& constant, Scope& scope) {
+  if (!scope.procedure && !m_outer) return StmtNodePtr();
+  for (ast::ConstItem& item : constant.items) {
+    VBS_TRY_ASSIGN(auto value, ConstantValue(*item.value, scope));
+    scope.names[Interpreter::Fold(item.name)] = Name{0, false, true, std::move(value)};
+  }
+  return StmtNodePtr();
+}
+
+Result<StmtNodePtr> Compiler::CompileReDim(ast::ReDimStmt& redim, Scope& scope) {
+  std::vector<RedimTarget> targets;
+  for (ast::ReDimItem& item : redim.items) {
+    // ReDim also declares: a name not known yet becomes a variable of the current scope.
+    if (item.target->kind == ast::ExprKind::Name) {
+      std::string folded = Interpreter::Fold(static_cast<ast::NameExpr&>(*item.target).name);
+      if (!scope.names.contains(folded) && !m_interp.ResolveGlobal(folded) &&
+          !(scope.class_info && scope.class_info->member_ids.contains(folded))) {
+        if (scope.procedure || m_outer)
+          scope.names[folded] = Name{NewSlot(scope), false, false, {}};
+        else
+          m_interp.DeclareGlobal(folded);
+      }
+    }
+    VBS_TRY_ASSIGN(auto target, CompileExpr(*item.target, scope));
+    VBS_TRY_ASSIGN(auto bounds, CompileArgs(item.bounds, scope));
+    targets.push_back(RedimTarget{std::move(target), std::move(bounds)});
+  }
+  return StmtNodePtr(std::make_unique<RedimNode>(redim.pos, redim.preserve, std::move(targets)));
+}
+
+Result<StmtNodePtr> Compiler::CompileIf(ast::IfStmt& statement, Scope& scope) {
+  std::vector<ConditionalBlock> branches;
+  for (ast::IfBranch& branch : statement.branches) {
+    VBS_TRY_ASSIGN(auto condition, CompileExpr(*branch.condition, scope));
+    VBS_TRY_ASSIGN(auto body, CompileBlock(branch.body, scope));
+    branches.push_back(ConditionalBlock{std::move(condition), std::move(body)});
+  }
+  VBS_TRY_ASSIGN(auto otherwise, CompileBlock(statement.else_body, scope));
+  return StmtNodePtr(std::make_unique<IfNode>(statement.pos, std::move(branches), std::move(otherwise)));
+}
+
+Result<StmtNodePtr> Compiler::CompileSelect(ast::SelectStmt& statement, Scope& scope) {
+  VBS_TRY_ASSIGN(auto subject, CompileExpr(*statement.subject, scope));
+  std::vector<CaseBlock> cases;
+  for (ast::CaseClause& clause : statement.cases) {
+    VBS_TRY_ASSIGN(auto values, CompileArgs(clause.values, scope));
+    VBS_TRY_ASSIGN(auto body, CompileBlock(clause.body, scope));
+    cases.push_back(CaseBlock{std::move(values), std::move(body)});
+  }
+  VBS_TRY_ASSIGN(auto otherwise, CompileBlock(statement.else_body, scope));
+  return StmtNodePtr(std::make_unique<SelectNode>(statement.pos, std::move(subject), std::move(cases), std::move(otherwise)));
+}
+
+Result<StmtNodePtr> Compiler::CompileForEach(ast::ForEachStmt& statement, Scope& scope) {
+  VBS_TRY_ASSIGN(auto element, CompileExpr(*statement.element, scope));
+  VBS_TRY_ASSIGN(auto collection, CompileExpr(*statement.collection, scope));
+  VBS_TRY_ASSIGN(auto body, CompileBlock(statement.body, scope));
+  return StmtNodePtr(std::make_unique<ForEachNode>(statement.pos, std::move(element), std::move(collection), std::move(body)));
+}
+
+Result<StmtNodePtr> Compiler::CompileDo(ast::DoStmt& statement, Scope& scope) {
+  ExprNodePtr condition;
+  if (statement.condition) {
+    VBS_TRY_ASSIGN(auto compiled, CompileExpr(*statement.condition, scope));
+    condition = std::move(compiled);
+  }
+  VBS_TRY_ASSIGN(auto body, CompileBlock(statement.body, scope));
+  return StmtNodePtr(std::make_unique<LoopNode>(statement.pos, statement.condition_kind, std::move(condition), std::move(body), false));
+}
+
+Result<StmtNodePtr> Compiler::CompileWhile(ast::WhileStmt& statement, Scope& scope) {
+  VBS_TRY_ASSIGN(auto condition, CompileExpr(*statement.condition, scope));
+  VBS_TRY_ASSIGN(auto body, CompileBlock(statement.body, scope));
+  return StmtNodePtr(std::make_unique<LoopNode>(statement.pos, ast::LoopCondition::WhileBefore, std::move(condition),
+                                                std::move(body), true));
+}
+
+Result<StmtNodePtr> Compiler::CompileWith(ast::WithStmt& statement, Scope& scope) {
+  VBS_TRY_ASSIGN(auto object, CompileExpr(*statement.object, scope));
+  uint32_t slot = NewSlot(scope);
+  scope.with_slots.push_back(slot);
+  auto body = CompileBlock(statement.body, scope);
+  scope.with_slots.pop_back();
+  if (!body) return std::move(body).error();
+  return StmtNodePtr(std::make_unique<WithNode>(statement.pos, std::move(object), slot, std::move(*body)));
 }
 
 Result<std::unique_ptr<CompiledProgram>> Compiler::CompileProgram(ast::Program& program) {
