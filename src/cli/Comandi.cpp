@@ -3,6 +3,11 @@
 #include <fmt/format.h>
 #include <fmt/ostream.h>
 
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <string_view>
+
 #include "app/ErroreInatteso.h"
 #include "app/Percorsi.h"
 
@@ -10,22 +15,76 @@ namespace lottolab::cli {
 
 namespace {
 
-constexpr std::string_view kUso =
-    "uso: lottolab [--archivio PATH] COMANDO ...\n"
-    "comandi:\n"
-    "  importa FILE              aggiunge all'archivio le estrazioni nuove di un file di risultati (testo o zip)\n"
-    "  aggiorna                  scarica i risultati pubblicati e li importa\n"
-    "  info                      numero di estrazioni, prima e ultima data; controlla l'archivio\n"
-    "  ripara                    toglie da un archivio l'estrazione incompleta in fondo, dopo averlo copiato\n"
-    "  estrazione ID|GG/MM/AAAA  mostra un'estrazione\n"
-    "  ritardo|frequenza|storico [--ruote BA,VE|TT] [--sorte N] [--posizioni 1,3] [--inizio X] [--fine X] N1 [N2 ...]\n"
-    "  tabellone [--ruota VE] [--inizio X] [--fine X]\n"
-    "  vbs [--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]   esegue un programma VBScript\n"
-    "  esegui SCRIPT.ls [--timeout MINUTI] [--html FILE] [--risposte FILE]   esegue uno script sull'archivio\n"
-    "  nuovo-script FILE.ls      scrive lo schema di uno script nuovo\n"
-    "  struttura FILE            mostra vertici, linee e condizioni di un file di struttura\n"
-    "  funzioni [--html FILE]    elenca le funzioni degli script (o ne scrive la pagina di riferimento)\n"
-    "  cerca-figura FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]   cerca una figura nell'archivio\n";
+// One row of the command line: the command's name, the words it takes and what it does as the usage
+// text shows them, and the function that runs it.
+struct Comando {
+  std::string_view nome;
+  std::string_view parole;
+  std::string_view descrizione;  // empty when the words say enough
+  int (*esegui)(Contesto& contesto, const Parole& parole);
+};
+
+constexpr std::string_view kParoleStatistica =
+    "[--ruote BA,VE|TT] [--sorte N] [--posizioni 1,3] [--inizio X] [--fine X] N1 [N2 ...]";
+
+// In the order of the usage text.
+constexpr std::array kComandi = {
+    Comando{"importa", "FILE", "aggiunge all'archivio le estrazioni nuove di un file di risultati (testo o zip)",
+            ComandoImporta},
+    Comando{"aggiorna", "", "scarica i risultati pubblicati e li importa", ComandoAggiorna},
+    Comando{"info", "", "numero di estrazioni, prima e ultima data; controlla l'archivio", ComandoInfo},
+    Comando{"ripara", "", "toglie da un archivio l'estrazione incompleta in fondo, dopo averlo copiato",
+            ComandoRipara},
+    Comando{"estrazione", "ID|GG/MM/AAAA", "mostra un'estrazione", ComandoEstrazione},
+    Comando{"ritardo", kParoleStatistica, "",
+            [](Contesto& contesto, const Parole& parole) {
+              return ComandoStatistica(contesto, parole, Statistica::Ritardo);
+            }},
+    Comando{"frequenza", kParoleStatistica, "",
+            [](Contesto& contesto, const Parole& parole) {
+              return ComandoStatistica(contesto, parole, Statistica::Frequenza);
+            }},
+    Comando{"storico", kParoleStatistica, "",
+            [](Contesto& contesto, const Parole& parole) {
+              return ComandoStatistica(contesto, parole, Statistica::Storico);
+            }},
+    Comando{"tabellone", "[--ruota VE] [--inizio X] [--fine X]", "", ComandoTabellone},
+    Comando{"vbs", "[--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]", "esegue un programma VBScript", ComandoVbs},
+    Comando{"esegui", "SCRIPT.ls [--timeout MINUTI] [--html FILE] [--risposte FILE]",
+            "esegue uno script sull'archivio", ComandoEsegui},
+    Comando{"nuovo-script", "FILE.ls", "scrive lo schema di uno script nuovo", ComandoNuovoScript},
+    Comando{"struttura", "FILE", "mostra vertici, linee e condizioni di un file di struttura", ComandoStruttura},
+    Comando{"funzioni", "[--html FILE]", "elenca le funzioni degli script (o ne scrive la pagina di riferimento)",
+            ComandoFunzioni},
+    Comando{"cerca-figura", "FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]",
+            "cerca una figura nell'archivio", ComandoCercaFigura},
+};
+
+// Descriptions line up in this column after the indent; a longer synopsis keeps its description
+// three blanks away.
+constexpr size_t kColonnaDescrizione = 26;
+
+// The usage text, one line per command; neighbours that take the same words for the same purpose
+// share a line, their names joined by "|".
+std::string TestoUso() {
+  std::string testo = "uso: lottolab [--archivio PATH] COMANDO ...\ncomandi:\n";
+  for (auto comando = kComandi.begin(); comando != kComandi.end();) {
+    std::string sinossi(comando->nome);
+    auto dopo = std::next(comando);
+    for (; dopo != kComandi.end() && dopo->parole == comando->parole && dopo->descrizione == comando->descrizione;
+         ++dopo)
+      sinossi += fmt::format("|{}", dopo->nome);
+    if (!comando->parole.empty()) sinossi += fmt::format(" {}", comando->parole);
+    if (comando->descrizione.empty())
+      testo += fmt::format("  {}\n", sinossi);
+    else if (sinossi.size() < kColonnaDescrizione)
+      testo += fmt::format("  {:<{}}{}\n", sinossi, kColonnaDescrizione, comando->descrizione);
+    else
+      testo += fmt::format("  {}   {}\n", sinossi, comando->descrizione);
+    comando = dopo;
+  }
+  return testo;
+}
 
 int EseguiParole(const Parole& argomenti, std::ostream& out, std::ostream& err) {
   SegnalatoreTerminale segnalatore(err);
@@ -34,7 +93,7 @@ int EseguiParole(const Parole& argomenti, std::ostream& out, std::ostream& err) 
     segnalatore.Mostra(configurazione.Errore());
     return segnalatore.CodiceUscita();
   }
-  Contesto contesto{out, segnalatore, std::move(configurazione).Valore(), {}};
+  Contesto contesto{out, err, segnalatore, std::move(configurazione).Valore(), {}};
   contesto.archivio = contesto.configurazione.ArchivioLotto();
 
   size_t i = 0;
@@ -44,27 +103,14 @@ int EseguiParole(const Parole& argomenti, std::ostream& out, std::ostream& err) 
     i += 2;
   }
   if (i == argomenti.size() || argomenti[i] == "--help" || argomenti[i] == "aiuto") {
-    fmt::print(i == argomenti.size() ? err : out, "{}", kUso);
+    fmt::print(i == argomenti.size() ? err : out, "{}", TestoUso());
     return i == argomenti.size() ? kUscitaInputNonValido : kUscitaRiuscita;
   }
   const std::string& comando = argomenti[i];
   Parole parole(argomenti.begin() + static_cast<std::ptrdiff_t>(i) + 1, argomenti.end());
 
-  if (comando == "importa") return ComandoImporta(contesto, parole);
-  if (comando == "aggiorna") return ComandoAggiorna(contesto, parole);
-  if (comando == "info") return ComandoInfo(contesto, parole);
-  if (comando == "ripara") return ComandoRipara(contesto, parole);
-  if (comando == "estrazione") return ComandoEstrazione(contesto, parole);
-  if (comando == "ritardo") return ComandoStatistica(contesto, parole, Statistica::Ritardo);
-  if (comando == "frequenza") return ComandoStatistica(contesto, parole, Statistica::Frequenza);
-  if (comando == "storico") return ComandoStatistica(contesto, parole, Statistica::Storico);
-  if (comando == "tabellone") return ComandoTabellone(contesto, parole);
-  if (comando == "vbs") return ComandoVbs(contesto, parole, err);
-  if (comando == "esegui") return ComandoEsegui(contesto, parole, err);
-  if (comando == "nuovo-script") return ComandoNuovoScript(contesto, parole);
-  if (comando == "struttura") return ComandoStruttura(contesto, parole);
-  if (comando == "funzioni") return ComandoFunzioni(contesto, parole, err);
-  if (comando == "cerca-figura") return ComandoCercaFigura(contesto, parole);
+  const auto trovato = std::ranges::find(kComandi, std::string_view(comando), &Comando::nome);
+  if (trovato != kComandi.end()) return trovato->esegui(contesto, parole);
   return contesto.Fallisci(AvvisoEsclamativo(fmt::format("comando sconosciuto: {} (lottolab --help per l'elenco)", comando)));
 }
 

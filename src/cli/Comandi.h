@@ -24,13 +24,13 @@ enum class Statistica { Ritardo, Frequenza, Storico };
 int ComandoStatistica(Contesto& contesto, const Parole& parole, Statistica statistica);
 int ComandoTabellone(Contesto& contesto, const Parole& parole);
 // Runs a plain VBScript program with a WScript object; its exit status is the script's.
-int ComandoVbs(Contesto& contesto, const Parole& parole, std::ostream& err);
+int ComandoVbs(Contesto& contesto, const Parole& parole);
 // Runs a user's script with the library, its includes and the run sequence; the text output goes to
-// `out`, messages and the error report to `err`.
-int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err);
+// the context's `out`, messages and the error report to its `err`.
+int ComandoEsegui(Contesto& contesto, const Parole& parole);
 // Lists the library's public names, each with whether it is implemented and its arguments, or
 // writes a reference page of them with --html FILE.
-int ComandoFunzioni(Contesto& contesto, const Parole& parole, std::ostream& err);
+int ComandoFunzioni(Contesto& contesto, const Parole& parole);
 // Writes the template of a new script; an existing file is left alone.
 int ComandoNuovoScript(Contesto& contesto, const Parole& parole);
 // Prints the vertices, lines and conditions of a structure file; needs no archive.

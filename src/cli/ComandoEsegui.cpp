@@ -172,7 +172,7 @@ std::optional<double> Minuti(const std::string& testo) {
 
 }  // namespace
 
-int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
+int ComandoEsegui(Contesto& contesto, const Parole& parole) {
   std::optional<fs::path> script_file;
   std::optional<fs::path> pagina;
   std::deque<std::string> risposte;
@@ -241,8 +241,8 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
   std::error_code ignorato;
   fs::create_directories(opzioni.libreria.cartella_output, ignorato);
 
-  OspiteTerminale ospite(contesto.out, contesto.segnalatore, err, std::move(risposte));
-  UiSenzaRisposte ui(err);
+  OspiteTerminale ospite(contesto.out, contesto.segnalatore, contesto.err, std::move(risposte));
+  UiSenzaRisposte ui(contesto.err);
   script::EsecutoreScript esecutore(ospite, &ui);
   const auto esito = esecutore.Esegui(vbs::DecodeScriptFile(*contenuto), opzioni);
   contesto.out.flush();
@@ -251,7 +251,7 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole, std::ostream& err) {
       // Library functions that failed were reported, and the script went on to its end.
       return kUscitaRiuscita;
     case script::EsitoEsecuzione::Stato::ErroreScript:
-      err << script::RapportoErrore(*esito.errore);
+      contesto.err << script::RapportoErrore(*esito.errore);
       return kUscitaErrore;
     default:
       return kUscitaErrore;

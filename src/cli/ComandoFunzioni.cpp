@@ -68,7 +68,7 @@ void ScriviPagina(std::ostream& out, const std::unordered_map<std::string, const
 
 }  // namespace
 
-int ComandoFunzioni(Contesto& contesto, const Parole& parole, std::ostream& err) {
+int ComandoFunzioni(Contesto& contesto, const Parole& parole) {
   const auto legate = Legate();
   if (parole.size() == 2 && parole[0] == "--html") {
     std::ofstream pagina(parole[1], std::ios::binary | std::ios::trunc);
@@ -90,7 +90,7 @@ int ComandoFunzioni(Contesto& contesto, const Parole& parole, std::ostream& err)
       implementate += presente;
     }
   }
-  fmt::print(err, "implementate: {} su {}\n", implementate, totale);
+  fmt::print(contesto.err, "implementate: {} su {}\n", implementate, totale);
   return kUscitaRiuscita;
 }
 

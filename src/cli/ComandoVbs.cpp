@@ -40,7 +40,8 @@ class UiTerminale final : public vbs::UiHandler {
 
 }  // namespace
 
-int ComandoVbs(Contesto& contesto, const Parole& parole, std::ostream& err) {
+int ComandoVbs(Contesto& contesto, const Parole& parole) {
+  std::ostream& err = contesto.err;
   size_t i = 0;
   int32_t lcid = 1040;
   if (i < parole.size() && parole[i] == "--locale") {

@@ -33,6 +33,7 @@ class SegnalatoreTerminale : public app::Segnalatore {
 
 struct Contesto {
   std::ostream& out;
+  std::ostream& err;  // messages and reports that are not the command's output
   SegnalatoreTerminale& segnalatore;
   app::Configurazione configurazione;
   std::filesystem::path archivio;

@@ -75,11 +75,10 @@ int64_t QuanteDiverse(const FiguraPiazzata& figura, const TabelleNumeri& tabelle
 
 }  // namespace
 
-std::variant<Condizione, ErroreSintassi> Condizione::Compila(std::string_view testo,
-                                                             std::span<const ClsVertice> vertici) {
+Esito<Condizione, ErroreSintassi> Condizione::Compila(std::string_view testo, std::span<const ClsVertice> vertici) {
   auto compilata = CompilaCondizione(testo, vertici);
-  if (auto* errore = std::get_if<ErroreSintassi>(&compilata)) return std::move(*errore);
-  return Condizione(std::make_unique<const ProgrammaCondizione>(std::get<ProgrammaCondizione>(std::move(compilata))));
+  if (!compilata) return compilata.Errore();
+  return Condizione(std::make_unique<const ProgrammaCondizione>(std::move(compilata).Valore()));
 }
 
 bool Condizione::Vale(const FiguraPiazzata& figura) const {

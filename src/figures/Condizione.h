@@ -30,10 +30,10 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <variant>
 
 #include "FiguraPiazzata.h"
 #include "Struttura.h"
+#include "archive/Esito.h"
 
 namespace lottolab::figures {
 
@@ -55,7 +55,7 @@ class Condizione {
  public:
   // The text compiled against the structure's vertices (those with Index 0 left out, in order:
   // vertex k of a placed figure is the k-th of them).
-  static std::variant<Condizione, ErroreSintassi> Compila(std::string_view testo, std::span<const ClsVertice> vertici);
+  static Esito<Condizione, ErroreSintassi> Compila(std::string_view testo, std::span<const ClsVertice> vertici);
 
   // Whether the condition holds for the placed figure.
   bool Vale(const FiguraPiazzata& figura) const;

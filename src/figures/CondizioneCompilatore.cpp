@@ -165,174 +165,195 @@ size_t PosizioneDelCarattere(std::string_view testo, size_t carattere) {
   return posizione;
 }
 
-// Thrown from anywhere in the descent, caught once at its top.
+// Why the descent stops: the first thing in the text that makes no sense. Each step hands it up
+// unchanged, so the text is refused where it first went wrong.
 struct Rifiuto {
   std::string messaggio;
   size_t posizione;  // byte offset in the text
 };
 
+// A step of the descent: done, or the refusal that ends it.
+using Passo = Esito<Fatto, Rifiuto>;
+
 class Compilatore {
  public:
   Compilatore(std::string_view testo, std::span<const ClsVertice> vertici)
-      : m_testo(testo), m_lessico(testo), m_vertici(vertici) {
-    const size_t caratteri = Colonna(testo, testo.size()) - 1;
-    if (caratteri > kMassimiCaratteriCondizione)
-      Rifiuta(fmt::format("Errore di sintassi: la condizione è lunga {} caratteri, al massimo {}", caratteri,
-                          kMassimiCaratteriCondizione),
-              PosizioneDelCarattere(testo, kMassimiCaratteriCondizione));
-    Avanza();
-  }
+      : m_testo(testo), m_lessico(testo), m_vertici(vertici) {}
 
-  ProgrammaCondizione Compila() && {
-    Or();
-    if (m_simbolo.tipo != TipoSimbolo::Fine) Atteso("un operatore o la fine del testo");
+  Esito<ProgrammaCondizione, Rifiuto> Compila() && {
+    const size_t caratteri = Colonna(m_testo, m_testo.size()) - 1;
+    if (caratteri > kMassimiCaratteriCondizione)
+      return Rifiuto{fmt::format("Errore di sintassi: la condizione è lunga {} caratteri, al massimo {}", caratteri,
+                                 kMassimiCaratteriCondizione),
+                     PosizioneDelCarattere(m_testo, kMassimiCaratteriCondizione)};
+    Avanza();
+    if (auto passo = Or(); !passo) return passo.Errore();
+    if (m_simbolo.tipo != TipoSimbolo::Fine) return Atteso("un operatore o la fine del testo");
     const size_t vertici = static_cast<size_t>(
         std::ranges::count_if(m_vertici, [](const ClsVertice& vertice) { return vertice.Index != 0; }));
     size_t costo = 0;
     for (const Istruzione& istruzione : m_istruzioni) costo += ScorreIVertici(istruzione.codice) ? vertici : 1;
-    return {std::string(m_testo), std::move(m_istruzioni), &TabelleNumeri::Uniche(), m_vertici_letti, costo};
+    return ProgrammaCondizione{std::string(m_testo), std::move(m_istruzioni), &TabelleNumeri::Uniche(),
+                               m_vertici_letti, costo};
   }
 
  private:
-  void Or() {
+  Passo Or() {
     const Annidamento annidamento(*this);
-    And();
+    if (annidamento.Eccessivo()) return TroppoAnnidato();
+    if (auto passo = And(); !passo) return passo;
     while (ParolaChiave("Or")) {
       Avanza();
-      And();
-      Emetti(Codice::O);
+      if (auto passo = And(); !passo) return passo;
+      if (auto passo = Emetti(Codice::O); !passo) return passo;
     }
+    return Fatto{};
   }
 
-  void And() {
-    Non();
+  Passo And() {
+    if (auto passo = Non(); !passo) return passo;
     while (ParolaChiave("And")) {
       Avanza();
-      Non();
-      Emetti(Codice::E);
+      if (auto passo = Non(); !passo) return passo;
+      if (auto passo = Emetti(Codice::E); !passo) return passo;
     }
+    return Fatto{};
   }
 
-  void Non() {
+  Passo Non() {
     if (!ParolaChiave("Not")) return Confronto();
     const Annidamento annidamento(*this);
+    if (annidamento.Eccessivo()) return TroppoAnnidato();
     Avanza();
-    Non();
-    Emetti(Codice::Non);
+    if (auto passo = Non(); !passo) return passo;
+    return Emetti(Codice::Non);
   }
 
-  void Confronto() {
-    Somma();
+  Passo Confronto() {
+    if (auto passo = Somma(); !passo) return passo;
     const std::optional<Codice> codice = CodiceConfronto(m_simbolo.tipo);
-    if (!codice) return;
+    if (!codice) return Fatto{};
     Avanza();
-    Somma();
-    Emetti(*codice);
-    if (CodiceConfronto(m_simbolo.tipo)) Atteso("And o Or tra due confronti");
+    if (auto passo = Somma(); !passo) return passo;
+    if (auto passo = Emetti(*codice); !passo) return passo;
+    if (CodiceConfronto(m_simbolo.tipo)) return Atteso("And o Or tra due confronti");
+    return Fatto{};
   }
 
-  void Somma() {
-    Prodotto();
+  Passo Somma() {
+    if (auto passo = Prodotto(); !passo) return passo;
     while (m_simbolo.tipo == TipoSimbolo::Piu || m_simbolo.tipo == TipoSimbolo::Meno) {
       const Codice codice = Avanza().tipo == TipoSimbolo::Piu ? Codice::Somma : Codice::Differenza;
-      Prodotto();
-      Emetti(codice);
+      if (auto passo = Prodotto(); !passo) return passo;
+      if (auto passo = Emetti(codice); !passo) return passo;
     }
+    return Fatto{};
   }
 
-  void Prodotto() {
-    Unario();
+  Passo Prodotto() {
+    if (auto passo = Unario(); !passo) return passo;
     while (m_simbolo.tipo == TipoSimbolo::Per) {
       Avanza();
-      Unario();
-      Emetti(Codice::Prodotto);
+      if (auto passo = Unario(); !passo) return passo;
+      if (auto passo = Emetti(Codice::Prodotto); !passo) return passo;
     }
+    return Fatto{};
   }
 
-  void Unario() {
+  Passo Unario() {
     if (m_simbolo.tipo != TipoSimbolo::Meno) return Primario();
     const Annidamento annidamento(*this);
+    if (annidamento.Eccessivo()) return TroppoAnnidato();
     Avanza();
-    Unario();
-    Emetti(Codice::Opposto);
+    if (auto passo = Unario(); !passo) return passo;
+    return Emetti(Codice::Opposto);
   }
 
-  void Primario() {
+  Passo Primario() {
     switch (m_simbolo.tipo) {
       case TipoSimbolo::Numero: {
         const std::optional<int64_t> valore = Intero(m_simbolo.testo);
-        if (!valore) Rifiuta(fmt::format("Errore di sintassi: il numero {} è troppo grande", m_simbolo.testo));
+        if (!valore) return Rifiuta(fmt::format("Errore di sintassi: il numero {} è troppo grande", m_simbolo.testo));
         Avanza();
         return Emetti(Codice::Costante, *valore);
       }
       case TipoSimbolo::Vertice:
-      case TipoSimbolo::VerticeAperto:
-        return Emetti(Codice::NumeroVertice, Vertice());
+      case TipoSimbolo::VerticeAperto: {
+        const Esito<int64_t, Rifiuto> vertice = Vertice();
+        if (!vertice) return vertice.Errore();
+        return Emetti(Codice::NumeroVertice, *vertice);
+      }
       case TipoSimbolo::ParentesiAperta:
         Avanza();
-        Or();
+        if (auto passo = Or(); !passo) return passo;
         return Chiudi();
       case TipoSimbolo::Nome:
-        if (ParolaChiave("Or") || ParolaChiave("And") || ParolaChiave("Not")) Atteso(kValoreAtteso);
+        if (ParolaChiave("Or") || ParolaChiave("And") || ParolaChiave("Not")) return Atteso(kValoreAtteso);
         return Chiamata();
       default:
-        Atteso(kValoreAtteso);
+        return Atteso(kValoreAtteso);
     }
   }
 
-  void Chiamata() {
+  Passo Chiamata() {
     const auto funzione = std::ranges::find_if(
         kFunzioni, [&](const Funzione& f) { return UgualiSenzaMaiuscole(f.nome, m_simbolo.testo); });
     if (funzione == kFunzioni.end())
-      Rifiuta(fmt::format("Errore di sintassi: la funzione {} non esiste", m_simbolo.testo));
+      return Rifiuta(fmt::format("Errore di sintassi: la funzione {} non esiste", m_simbolo.testo));
     Avanza();
     if (m_simbolo.tipo != TipoSimbolo::ParentesiAperta) {
-      if (funzione->minimo > 0) Atteso(fmt::format("'(' dopo {}", funzione->nome));
+      if (funzione->minimo > 0) return Atteso(fmt::format("'(' dopo {}", funzione->nome));
       return Emetti(funzione->codice, funzione->argomento);
     }
     Avanza();
     int argomenti = 0;
     if (m_simbolo.tipo != TipoSimbolo::ParentesiChiusa) {
       for (size_t inizio = m_simbolo.inizio;; inizio = Avanza().inizio) {
-        if (argomenti == funzione->massimo) Rifiuta(ArgomentiSbagliati(*funzione), inizio);
-        Argomento(*funzione, argomenti++);
+        if (argomenti == funzione->massimo) return Rifiuto{ArgomentiSbagliati(*funzione), inizio};
+        if (auto passo = Argomento(*funzione, argomenti++); !passo) return passo;
         if (m_simbolo.tipo != TipoSimbolo::Virgola) break;
       }
     }
     if (m_simbolo.tipo != TipoSimbolo::ParentesiChiusa)
-      Atteso(argomenti == funzione->massimo ? "')'" : "',' o ')'");
-    if (argomenti < funzione->minimo) Rifiuta(ArgomentiSbagliati(*funzione));
+      return Atteso(argomenti == funzione->massimo ? "')'" : "',' o ')'");
+    if (argomenti < funzione->minimo) return Rifiuta(ArgomentiSbagliati(*funzione));
     Avanza();
-    if (funzione->argomenti != Argomenti::Vertice) Emetti(funzione->codice, funzione->argomento);
+    if (funzione->argomenti == Argomenti::Vertice) return Fatto{};
+    return Emetti(funzione->codice, funzione->argomento);
   }
 
-  void Argomento(const Funzione& funzione, int indice) {
+  Passo Argomento(const Funzione& funzione, int indice) {
     switch (funzione.argomenti) {
       case Argomenti::Valori:
         return Or();
       case Argomenti::Sommati:
-        Or();
-        if (indice > 0) Emetti(Codice::Somma);
-        return;
-      case Argomenti::Vertice:
+        if (auto passo = Or(); !passo) return passo;
+        if (indice > 0) return Emetti(Codice::Somma);
+        return Fatto{};
+      case Argomenti::Vertice: {
         if (m_simbolo.tipo != TipoSimbolo::Vertice && m_simbolo.tipo != TipoSimbolo::VerticeAperto)
-          Atteso("un vertice tra parentesi quadre");
-        return Emetti(funzione.codice, Vertice());
+          return Atteso("un vertice tra parentesi quadre");
+        const Esito<int64_t, Rifiuto> vertice = Vertice();
+        if (!vertice) return vertice.Errore();
+        return Emetti(funzione.codice, *vertice);
+      }
     }
+    return Fatto{};
   }
 
-  void Chiudi() {
-    if (m_simbolo.tipo != TipoSimbolo::ParentesiChiusa) Atteso("')'");
+  Passo Chiudi() {
+    if (m_simbolo.tipo != TipoSimbolo::ParentesiChiusa) return Atteso("')'");
     Avanza();
+    return Fatto{};
   }
 
   // The place, among the vertices with an Index, of the vertex the current symbol names: the
   // first whose caption matches, else the one whose Index is the number written.
-  int64_t Vertice() {
+  Esito<int64_t, Rifiuto> Vertice() {
     if (m_simbolo.tipo == TipoSimbolo::VerticeAperto)
-      Rifiuta("Errore di sintassi: atteso ']' ma il testo è finito", m_testo.size());
+      return Rifiuto{"Errore di sintassi: atteso ']' ma il testo è finito", m_testo.size()};
     const std::string_view nome = Ripulito(m_simbolo.testo.substr(1, m_simbolo.testo.size() - 2));
-    if (nome.empty()) Rifiuta("Errore di sintassi: manca il nome del vertice tra [ e ]");
+    if (nome.empty()) return Rifiuta("Errore di sintassi: manca il nome del vertice tra [ e ]");
     const std::optional<int64_t> indice = Intero(nome);
     std::optional<size_t> per_indice;
     size_t posto = 0;
@@ -342,7 +363,7 @@ class Compilatore {
       if (!per_indice && indice == vertice.Index) per_indice = posto;
       ++posto;
     }
-    if (!per_indice) Rifiuta(fmt::format("Errore di sintassi: il vertice [{}] non esiste", nome));
+    if (!per_indice) return Rifiuta(fmt::format("Errore di sintassi: il vertice [{}] non esiste", nome));
     return Letto(*per_indice);
   }
 
@@ -352,11 +373,12 @@ class Compilatore {
     return static_cast<int64_t>(posto);
   }
 
-  void Emetti(Codice codice, int64_t argomento = 0) {
+  Passo Emetti(Codice codice, int64_t argomento = 0) {
     m_profondita += Effetto(codice);
     if (m_profondita > static_cast<int>(kProfonditaPila))
-      Rifiuta("Errore di sintassi: espressione troppo complessa", m_ultimo);
+      return Rifiuto{"Errore di sintassi: espressione troppo complessa", m_ultimo};
     m_istruzioni.push_back({codice, argomento});
+    return Fatto{};
   }
 
   // The symbol read so far, moving on to the next.
@@ -371,26 +393,27 @@ class Compilatore {
     return m_simbolo.tipo == TipoSimbolo::Nome && UgualiSenzaMaiuscole(m_simbolo.testo, parola);
   }
 
-  [[noreturn]] void Atteso(std::string_view cosa) const {
-    if (m_simbolo.tipo == TipoSimbolo::Fine) Rifiuta(fmt::format("Errore di sintassi: atteso {} ma il testo è finito", cosa));
-    Rifiuta(fmt::format("Errore di sintassi: atteso {} ma trovato '{}'", cosa, m_simbolo.testo));
+  Rifiuto Atteso(std::string_view cosa) const {
+    if (m_simbolo.tipo == TipoSimbolo::Fine)
+      return Rifiuta(fmt::format("Errore di sintassi: atteso {} ma il testo è finito", cosa));
+    return Rifiuta(fmt::format("Errore di sintassi: atteso {} ma trovato '{}'", cosa, m_simbolo.testo));
   }
 
-  [[noreturn]] void Rifiuta(std::string messaggio) const { Rifiuta(std::move(messaggio), m_simbolo.inizio); }
+  // The text refused where the current symbol starts.
+  Rifiuto Rifiuta(std::string messaggio) const { return {std::move(messaggio), m_simbolo.inizio}; }
 
-  [[noreturn]] static void Rifiuta(std::string messaggio, size_t posizione) {
-    throw Rifiuto{std::move(messaggio), posizione};
-  }
+  Rifiuto TroppoAnnidato() const { return Rifiuta("Errore di sintassi: espressione troppo annidata"); }
 
+  // One level of parentheses, Not or unary minus, counted for as long as the step that opened it
+  // lasts.
   class Annidamento {
    public:
-    explicit Annidamento(Compilatore& compilatore) : m_compilatore(compilatore) {
-      if (++m_compilatore.m_annidamento > kAnnidamentoMassimo)
-        Rifiuta("Errore di sintassi: espressione troppo annidata", m_compilatore.m_simbolo.inizio);
-    }
+    explicit Annidamento(Compilatore& compilatore) : m_compilatore(compilatore) { ++m_compilatore.m_annidamento; }
     ~Annidamento() { --m_compilatore.m_annidamento; }
     Annidamento(const Annidamento&) = delete;
     Annidamento& operator=(const Annidamento&) = delete;
+
+    bool Eccessivo() const { return m_compilatore.m_annidamento > kAnnidamentoMassimo; }
 
    private:
     Compilatore& m_compilatore;
@@ -409,13 +432,11 @@ class Compilatore {
 
 }  // namespace
 
-std::variant<ProgrammaCondizione, ErroreSintassi> CompilaCondizione(std::string_view testo,
-                                                                    std::span<const ClsVertice> vertici) {
-  try {
-    return Compilatore(testo, vertici).Compila();
-  } catch (Rifiuto& rifiuto) {
-    return ErroreSintassi{std::move(rifiuto.messaggio), Colonna(testo, rifiuto.posizione)};
-  }
+Esito<ProgrammaCondizione, ErroreSintassi> CompilaCondizione(std::string_view testo,
+                                                             std::span<const ClsVertice> vertici) {
+  auto compilata = Compilatore(testo, vertici).Compila();
+  if (!compilata) return ErroreSintassi{compilata.Errore().messaggio, Colonna(testo, compilata.Errore().posizione)};
+  return std::move(compilata).Valore();
 }
 
 }  // namespace lottolab::figures

@@ -18,15 +18,16 @@
 
 #include <span>
 #include <string_view>
-#include <variant>
 
 #include "Condizione.h"
 #include "CondizioneProgramma.h"
 #include "Struttura.h"
+#include "archive/Esito.h"
 
 namespace lottolab::figures {
 
-std::variant<ProgrammaCondizione, ErroreSintassi> CompilaCondizione(std::string_view testo,
-                                                                    std::span<const ClsVertice> vertici);
+// The program of `testo`, or the first place where it stops making sense.
+Esito<ProgrammaCondizione, ErroreSintassi> CompilaCondizione(std::string_view testo,
+                                                             std::span<const ClsVertice> vertici);
 
 }  // namespace lottolab::figures

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
-#include <variant>
 
 #include "Condizione.h"
 #include "LimitiStrutture.h"
@@ -19,10 +18,10 @@ Esito<std::vector<Condizione>> CompilaCondizioni(const Struttura& struttura) {
   std::vector<Condizione> condizioni;
   for (size_t k = 0; k < struttura.condizioni.size(); ++k) {
     auto compilata = Condizione::Compila(struttura.condizioni[k], struttura.vertici);
-    if (auto* errore = std::get_if<ErroreSintassi>(&compilata))
-      return AvvisoEsclamativo(fmt::format("{} (condizione {}, colonna {}: {})", errore->messaggio, k + 1,
-                                           errore->colonna, struttura.condizioni[k]));
-    condizioni.push_back(std::get<Condizione>(std::move(compilata)));
+    if (!compilata)
+      return AvvisoEsclamativo(fmt::format("{} (condizione {}, colonna {}: {})", compilata.Errore().messaggio, k + 1,
+                                           compilata.Errore().colonna, struttura.condizioni[k]));
+    condizioni.push_back(std::move(compilata).Valore());
   }
   size_t costo = 0;
   for (const Condizione& condizione : condizioni) costo += condizione.Costo();

@@ -4,10 +4,10 @@
 // a test. The library writes output, shows messages and moves the progress bar only through here,
 // so the script host runs headless.
 
-#include <optional>
+#include <cstdint>
 #include <string>
-#include <vector>
 
+#include "DialoghiLibreria.h"
 #include "archive/Avviso.h"
 
 namespace lottolab::script {
@@ -29,7 +29,8 @@ struct TrattoTesto {
   bool grassetto = false;
 };
 
-class InterfacciaScript {
+// The dialogs come from DialoghiLibreria, with their defaults for a host that asks nobody.
+class InterfacciaScript : public DialoghiLibreria {
  public:
   virtual ~InterfacciaScript() = default;
   // A piece of the text output, as soon as the script writes it.
@@ -40,32 +41,6 @@ class InterfacciaScript {
   virtual void Messaggio(const std::string& testo) = 0;
   // Progress of a long elaboration, 0 to 100.
   virtual void Avanzamento(double percentuale) = 0;
-
-  // The dialogs a script opens. Each gives nothing when the user cancels; a host that asks nobody
-  // keeps these defaults, which take the answer the dialog proposes.
-
-  // Items of `voci`, by position from 0: one, or any number of them when `multipla`. The default is
-  // the first item.
-  virtual std::optional<std::vector<int>> ScegliVoci(const std::string& /*titolo*/,
-                                                     const std::vector<std::string>& voci, bool /*multipla*/) {
-    return voci.empty() ? std::vector<int>{} : std::vector<int>{0};
-  }
-  // Up to `quanti` whole numbers from 1 to `massimo`; the default is `proposti`.
-  virtual std::optional<std::vector<int>> ScegliNumeri(const std::string& /*titolo*/, int /*quanti*/,
-                                                       int /*massimo*/, const std::vector<int>& proposti) {
-    return proposti;
-  }
-  // An amount for each of `voci` (the stakes of a bet, one per sorte); the default is `proposti`.
-  virtual std::optional<std::vector<double>> ScegliImporti(const std::string& /*titolo*/,
-                                                           const std::vector<std::string>& /*voci*/,
-                                                           const std::vector<double>& proposti) {
-    return proposti;
-  }
-  // A file, or a folder when `cartella`; the default is `proposto`.
-  virtual std::optional<std::string> ScegliPercorso(const std::string& /*titolo*/, const std::string& proposto,
-                                                    bool /*cartella*/) {
-    return proposto;
-  }
 };
 
 }  // namespace lottolab::script

@@ -77,6 +77,36 @@ TEST_F(RigaDiComando, TabelloneAllineato) {
   EXPECT_EQ(std::count(tutte.begin(), tutte.end(), '\n'), 1 + 90 * 11);
 }
 
+// The usage text is what a user reads first and what scripts around the command line may parse: it
+// stays as it is, word for word, whatever the way the commands are registered.
+TEST_F(LottolabDiProva, UsoElencaIComandi) {
+  const std::string uso =
+      "uso: lottolab [--archivio PATH] COMANDO ...\n"
+      "comandi:\n"
+      "  importa FILE              aggiunge all'archivio le estrazioni nuove di un file di risultati (testo o zip)\n"
+      "  aggiorna                  scarica i risultati pubblicati e li importa\n"
+      "  info                      numero di estrazioni, prima e ultima data; controlla l'archivio\n"
+      "  ripara                    toglie da un archivio l'estrazione incompleta in fondo, dopo averlo copiato\n"
+      "  estrazione ID|GG/MM/AAAA  mostra un'estrazione\n"
+      "  ritardo|frequenza|storico [--ruote BA,VE|TT] [--sorte N] [--posizioni 1,3] [--inizio X] [--fine X] N1 [N2 ...]\n"
+      "  tabellone [--ruota VE] [--inizio X] [--fine X]\n"
+      "  vbs [--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]   esegue un programma VBScript\n"
+      "  esegui SCRIPT.ls [--timeout MINUTI] [--html FILE] [--risposte FILE]   esegue uno script sull'archivio\n"
+      "  nuovo-script FILE.ls      scrive lo schema di uno script nuovo\n"
+      "  struttura FILE            mostra vertici, linee e condizioni di un file di struttura\n"
+      "  funzioni [--html FILE]    elenca le funzioni degli script (o ne scrive la pagina di riferimento)\n"
+      "  cerca-figura FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]   cerca una figura nell'archivio\n";
+  EXPECT_EQ(Lottolab({}).err, uso);
+  EXPECT_EQ(Lottolab({}).codice, 2);
+  const Uscita aiuto = Lottolab({"--archivio", "x", "--help"});
+  EXPECT_EQ(aiuto.out, uso);
+  EXPECT_EQ(aiuto.codice, 0);
+  EXPECT_EQ(Lottolab({"aiuto"}).out, uso);
+  const Uscita sconosciuto = Lottolab({"Importa"});
+  EXPECT_EQ(sconosciuto.err, "lottolab: comando sconosciuto: Importa (lottolab --help per l'elenco)\n");
+  EXPECT_EQ(sconosciuto.codice, 2);
+}
+
 TEST_F(RigaDiComando, ArgomentiSbagliatiDannoUnaRigaEdEsito2) {
   ASSERT_EQ(Esegui({"importa", ScriviRisultati("risultati.txt", kRisultati)}).codice, 0);
   const std::vector<std::vector<std::string>> sbagliati = {

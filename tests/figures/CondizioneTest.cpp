@@ -38,11 +38,12 @@ FiguraPiazzata SuUnaRuota(std::initializer_list<int> numeri) {
 void Verifica(std::initializer_list<Caso> casi, const FiguraPiazzata& figura, const std::vector<ClsVertice>& vertici) {
   for (const Caso& caso : casi) {
     auto compilata = Condizione::Compila(caso.testo, vertici);
-    if (const auto* errore = std::get_if<ErroreSintassi>(&compilata)) {
-      ADD_FAILURE() << caso.testo << ": " << errore->messaggio << " (colonna " << errore->colonna << ")";
+    if (!compilata) {
+      ADD_FAILURE() << caso.testo << ": " << compilata.Errore().messaggio << " (colonna " << compilata.Errore().colonna
+                    << ")";
       continue;
     }
-    const Condizione& condizione = std::get<Condizione>(compilata);
+    const Condizione& condizione = *compilata;
     EXPECT_EQ(condizione.Vale(figura), caso.vale) << caso.testo;
     EXPECT_EQ(condizione.Testo(), caso.testo);
   }
@@ -147,8 +148,8 @@ TEST(Condizione, FunzioniOltreLeTabelle) {
         n, ClsFunctions::Cadenza(n), ClsFunctions::Decina(n), ClsFunctions::DecinaCabalistica(n),
         ClsFunctions::Figura(n), ClsFunctions::Diametrale(n), ClsFunctions::vert(n), ClsFunctions::Fuori90(n));
     auto compilata = Condizione::Compila(testo, vertici);
-    ASSERT_TRUE(std::holds_alternative<Condizione>(compilata)) << testo;
-    EXPECT_TRUE(std::get<Condizione>(compilata).Vale(vuota)) << testo;
+    ASSERT_TRUE(compilata) << testo;
+    EXPECT_TRUE(compilata->Vale(vuota)) << testo;
   }
 }
 
@@ -194,11 +195,11 @@ TEST(Condizione, TestiRifiutatiConLaColonnaDelProblema) {
            {pila_piena, 321, "complessa"},
        }) {
     auto compilata = Condizione::Compila(caso.testo, vertici);
-    const auto* errore = std::get_if<ErroreSintassi>(&compilata);
-    ASSERT_NE(errore, nullptr) << caso.testo;
-    EXPECT_TRUE(errore->messaggio.starts_with("Errore di sintassi")) << errore->messaggio;
-    EXPECT_NE(errore->messaggio.find(caso.nel_messaggio), std::string::npos) << errore->messaggio;
-    EXPECT_EQ(errore->colonna, caso.colonna) << caso.testo << ": " << errore->messaggio;
+    ASSERT_FALSE(compilata) << caso.testo;
+    const ErroreSintassi& errore = compilata.Errore();
+    EXPECT_TRUE(errore.messaggio.starts_with("Errore di sintassi")) << errore.messaggio;
+    EXPECT_NE(errore.messaggio.find(caso.nel_messaggio), std::string::npos) << errore.messaggio;
+    EXPECT_EQ(errore.colonna, caso.colonna) << caso.testo << ": " << errore.messaggio;
   }
 }
 
@@ -216,10 +217,10 @@ TEST(Condizione, TestiOstiliRifiutatiOValutatiSenzaDanni) {
   const auto vertici = VerticiNumerati(2);
   auto rifiutato = [&](const std::string& testo, std::string_view nel_messaggio, size_t colonna) {
     auto compilata = Condizione::Compila(testo, vertici);
-    const auto* errore = std::get_if<ErroreSintassi>(&compilata);
-    ASSERT_NE(errore, nullptr) << testo.substr(0, 40);
-    EXPECT_NE(errore->messaggio.find(nel_messaggio), std::string::npos) << errore->messaggio;
-    EXPECT_EQ(errore->colonna, colonna) << errore->messaggio;
+    ASSERT_FALSE(compilata) << testo.substr(0, 40);
+    const ErroreSintassi& errore = compilata.Errore();
+    EXPECT_NE(errore.messaggio.find(nel_messaggio), std::string::npos) << errore.messaggio;
+    EXPECT_EQ(errore.colonna, colonna) << errore.messaggio;
   };
   rifiutato(std::string(100'000, '('), "lunga 100000 caratteri, al massimo 500", 501);
   std::string somme;
@@ -246,9 +247,8 @@ TEST(Condizione, TestiOstiliRifiutatiOValutatiSenzaDanni) {
     };
     for (const std::string& testo : testi) {
       auto compilata = Condizione::Compila(testo, vertici);
-      ASSERT_TRUE(std::holds_alternative<Condizione>(compilata))
-          << testo << ": " << std::get<ErroreSintassi>(compilata).messaggio;
-      static_cast<void>(std::get<Condizione>(compilata).Vale(figura));
+      ASSERT_TRUE(compilata) << testo << ": " << compilata.Errore().messaggio;
+      static_cast<void>(compilata->Vale(figura));
     }
   }
 }

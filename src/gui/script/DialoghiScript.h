@@ -1,7 +1,8 @@
 #pragma once
 
 // Everything the script window and a running script ask the user, in one place: the window shows
-// real dialogs, a test answers in their stead. Called on the window's thread only.
+// real dialogs, a test answers in their stead. The library's dialogs are the ones every host of
+// scripts answers (script::DialoghiLibreria). Called on the window's thread only.
 
 #include <QString>
 
@@ -11,10 +12,11 @@
 
 #include "archive/Avviso.h"
 #include "script/AccessoFile.h"
+#include "script/DialoghiLibreria.h"
 
 namespace lottolab::gui {
 
-class DialoghiScript {
+class DialoghiScript : public script::DialoghiLibreria {
  public:
   virtual ~DialoghiScript() = default;
 
@@ -32,17 +34,6 @@ class DialoghiScript {
   virtual int MessageBox(const QString& testo, int pulsanti, const QString& titolo) = 0;
   // The engine's InputBox: nothing when the user cancels.
   virtual std::optional<QString> InputBox(const QString& testo, const QString& titolo, const QString& proposto) = 0;
-
-  // The library's dialogs, with the meaning InterfacciaScript gives them.
-  virtual std::optional<std::vector<int>> ScegliVoci(const std::string& titolo, const std::vector<std::string>& voci,
-                                                     bool multipla) = 0;
-  virtual std::optional<std::vector<int>> ScegliNumeri(const std::string& titolo, int quanti, int massimo,
-                                                       const std::vector<int>& proposti) = 0;
-  virtual std::optional<std::vector<double>> ScegliImporti(const std::string& titolo,
-                                                           const std::vector<std::string>& voci,
-                                                           const std::vector<double>& proposti) = 0;
-  virtual std::optional<std::string> ScegliPercorso(const std::string& titolo, const std::string& proposto,
-                                                    bool cartella) = 0;
 };
 
 }  // namespace lottolab::gui

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <variant>
 
 #include "figures/CondizioneLessico.h"
 #include "figures/FileStrutture.h"
@@ -99,7 +98,7 @@ std::optional<figures::ErroreSintassi> VerificaCondizione(std::string_view testo
     return figures::ErroreSintassi{std::move(*motivo), colonna};
   }
   auto compilata = figures::Condizione::Compila(testo, vertici);
-  if (auto* errore = std::get_if<figures::ErroreSintassi>(&compilata)) return std::move(*errore);
+  if (!compilata) return compilata.Errore();
   return std::nullopt;
 }
 
