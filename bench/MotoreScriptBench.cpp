@@ -7,9 +7,9 @@
 #include <lua.hpp>
 #include <string>
 
+#include "text/Utf.h"
 #include "vbscript/HostObject.h"
 #include "vbscript/ScriptControl.h"
-#include "vbscript/value/Utf.h"
 
 namespace {
 

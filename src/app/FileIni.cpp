@@ -6,6 +6,7 @@
 
 #include "ErroreInatteso.h"
 #include "archive/FileSicuri.h"
+#include "text/AsciiCase.h"
 
 namespace lottolab::app {
 
@@ -17,12 +18,6 @@ std::string_view Rifila(std::string_view s) {
   while (!s.empty() && std::isspace(static_cast<unsigned char>(s.front()))) s.remove_prefix(1);
   while (!s.empty() && std::isspace(static_cast<unsigned char>(s.back()))) s.remove_suffix(1);
   return s;
-}
-
-bool UgualiSenzaMaiuscole(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-    return std::tolower(static_cast<unsigned char>(x)) == std::tolower(static_cast<unsigned char>(y));
-  });
 }
 
 }  // namespace
@@ -76,7 +71,8 @@ Esito<FileIni> FileIni::Carica(const fs::path& percorso) {
 
 size_t FileIni::IndiceChiave(std::string_view sezione, std::string_view chiave) const {
   auto trovata = std::find_if(m_righe.begin(), m_righe.end(), [&](const Riga& r) {
-    return !r.chiave.empty() && UgualiSenzaMaiuscole(r.sezione, sezione) && UgualiSenzaMaiuscole(r.chiave, chiave);
+    return !r.chiave.empty() && text::EqualsIgnoringAsciiCase(r.sezione, sezione) &&
+           text::EqualsIgnoringAsciiCase(r.chiave, chiave);
   });
   return static_cast<size_t>(trovata - m_righe.begin());
 }
@@ -105,7 +101,7 @@ void FileIni::Scrivi(std::string_view sezione, std::string_view chiave, std::str
   // A new key goes after the last key (or the header) of its section, before the blank lines that
   // part it from the next one; an absent section is added at the end.
   auto ultima = std::find_if(m_righe.rbegin(), m_righe.rend(), [&](const Riga& r) {
-    return UgualiSenzaMaiuscole(r.sezione, sezione) && !Rifila(r.testo).empty();
+    return text::EqualsIgnoringAsciiCase(r.sezione, sezione) && !Rifila(r.testo).empty();
   });
   Riga nuova{testo, std::string(sezione), std::string(chiave), valore};
   if (ultima == m_righe.rend()) {

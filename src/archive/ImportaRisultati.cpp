@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <charconv>
 #include <cstdint>
 #include <cstdlib>
@@ -16,6 +15,7 @@
 #include "DateEstrazione.h"
 #include "FileSicuri.h"
 #include "ScritturaArchivio.h"
+#include "text/AsciiCase.h"
 
 namespace lottolab {
 
@@ -237,10 +237,7 @@ Esito<std::vector<Estrazione>> EstrazioniNuove(const TabellaEstrazioni& archivio
 }
 
 bool NomeDiTesto(std::string_view nome) {
-  if (nome.size() < 4) return false;
-  std::string_view estensione = nome.substr(nome.size() - 4);
-  return std::equal(estensione.begin(), estensione.end(), ".txt",
-                    [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == b; });
+  return nome.size() >= 4 && text::EqualsIgnoringAsciiCase(nome.substr(nome.size() - 4), ".txt");
 }
 
 struct ChiudiZip {

@@ -1,6 +1,6 @@
 #include "Ruote.h"
 
-#include <cctype>
+#include "text/AsciiCase.h"
 
 namespace lottolab {
 
@@ -11,15 +11,6 @@ constexpr std::array<std::string_view, 13> kSigle = {"  ", "BA", "CA", "FI", "GE
 constexpr std::array<std::string_view, 12> kNomi = {"",       "Bari",    "Cagliari", "Firenze",
                                                     "Genova", "Milano",  "Napoli",   "Palermo",
                                                     "Roma",   "Torino",  "Venezia",  "Nazionale"};
-
-bool UgualiSenzaMaiuscole(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (size_t i = 0; i < a.size(); ++i) {
-    if (std::toupper(static_cast<unsigned char>(a[i])) != std::toupper(static_cast<unsigned char>(b[i])))
-      return false;
-  }
-  return true;
-}
 
 }  // namespace
 
@@ -33,10 +24,10 @@ std::string_view NomeRuota(int r) {
 
 std::optional<int> RuotaDaSigla(std::string_view sigla) {
   for (int r = 1; r <= kTutteLeRuote; ++r) {
-    if (UgualiSenzaMaiuscole(sigla, kSigle[r])) return r;
+    if (text::EqualsIgnoringAsciiCase(sigla, kSigle[r])) return r;
   }
-  if (UgualiSenzaMaiuscole(sigla, "RM")) return RO;
-  if (UgualiSenzaMaiuscole(sigla, "RN")) return NZ;
+  if (text::EqualsIgnoringAsciiCase(sigla, "RM")) return RO;
+  if (text::EqualsIgnoringAsciiCase(sigla, "RN")) return NZ;
   return std::nullopt;
 }
 

@@ -14,8 +14,8 @@
 #include "archive/ClsEstrazioni.h"
 #include "script/EsecutoreScript.h"
 #include "script/LetturaFile.h"
+#include "text/Utf.h"
 #include "vbscript/runtime/Interpreter.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::cli {
 

@@ -1,5 +1,3 @@
-#include <algorithm>
-#include <cctype>
 #include <fmt/format.h>
 #include <fmt/ostream.h>
 #include <fstream>
@@ -9,6 +7,7 @@
 #include "script/ClsFunctionsGeodoScript.h"
 #include "script/NomiPubblici.h"
 #include "script/OutputHtml.h"
+#include "text/AsciiCase.h"
 
 namespace lottolab::cli {
 
@@ -16,18 +15,11 @@ namespace {
 
 using Funzione = script::ClsFunctionsGeodoScript::Funzione;
 
-std::string Minuscolo(std::string_view nome) {
-  std::string piegato(nome);
-  std::transform(piegato.begin(), piegato.end(), piegato.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return piegato;
-}
-
 // The bound functions by lower-case name.
 std::unordered_map<std::string, const Funzione*> Legate() {
   std::unordered_map<std::string, const Funzione*> legate;
   for (const Funzione& funzione : script::ClsFunctionsGeodoScript::Funzioni())
-    legate.emplace(Minuscolo(funzione.nome), &funzione);
+    legate.emplace(text::LowerAscii(funzione.nome), &funzione);
   return legate;
 }
 
@@ -51,7 +43,7 @@ void ScriviPagina(std::ostream& out, const std::unordered_map<std::string, const
     fmt::print(out, "<h2 id=\"{0}\">{0}</h2>\n<table>\n<tr><th>Nome</th><th>Argomenti</th><th>Significato</th></tr>\n",
                famiglia.famiglia);
     for (std::string_view nome : famiglia.nomi) {
-      auto it = legate.find(Minuscolo(nome));
+      auto it = legate.find(text::LowerAscii(nome));
       if (it == legate.end()) {
         fmt::print(out, "<tr class=\"assente\"><td><code>{}</code></td><td></td><td>non ancora disponibile</td></tr>\n",
                    nome);
@@ -82,7 +74,7 @@ int ComandoFunzioni(Contesto& contesto, const Parole& parole) {
   size_t implementate = 0;
   for (const script::FamigliaDiNomi& famiglia : script::NomiPubblici()) {
     for (std::string_view nome : famiglia.nomi) {
-      auto it = legate.find(Minuscolo(nome));
+      auto it = legate.find(text::LowerAscii(nome));
       const bool presente = it != legate.end();
       fmt::print(contesto.out, "{}\t{}\t{}\n", nome, presente ? "si" : "no",
                  presente ? ArgomentiESignificato(it->second->descrizione).first : "");

@@ -6,8 +6,8 @@
 #include "Comandi.h"
 #include "WScript.h"
 #include "script/LetturaFile.h"
+#include "text/Utf.h"
 #include "vbscript/ScriptControl.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::cli {
 

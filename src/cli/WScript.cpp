@@ -3,7 +3,7 @@
 #include <chrono>
 #include <thread>
 
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::cli {
 

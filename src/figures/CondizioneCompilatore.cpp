@@ -9,6 +9,7 @@
 #include <string>
 
 #include "CondizioneLessico.h"
+#include "text/AsciiCase.h"
 
 namespace lottolab::figures {
 
@@ -62,14 +63,6 @@ constexpr std::array kFunzioni = {
 constexpr size_t kAnnidamentoMassimo = 100;
 
 constexpr std::string_view kValoreAtteso = "un numero, un vertice o una funzione";
-
-char Minuscola(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool UgualiSenzaMaiuscole(std::string_view a, std::string_view b) {
-  return std::ranges::equal(a, b, [](char x, char y) { return Minuscola(x) == Minuscola(y); });
-}
 
 std::string_view Ripulito(std::string_view testo) {
   const auto inizio = testo.find_first_not_of(" \t");
@@ -297,7 +290,7 @@ class Compilatore {
 
   Passo Chiamata() {
     const auto funzione = std::ranges::find_if(
-        kFunzioni, [&](const Funzione& f) { return UgualiSenzaMaiuscole(f.nome, m_simbolo.testo); });
+        kFunzioni, [&](const Funzione& f) { return text::EqualsIgnoringAsciiCase(f.nome, m_simbolo.testo); });
     if (funzione == kFunzioni.end())
       return Rifiuta(fmt::format("Errore di sintassi: la funzione {} non esiste", m_simbolo.testo));
     Avanza();
@@ -359,7 +352,7 @@ class Compilatore {
     size_t posto = 0;
     for (const ClsVertice& vertice : m_vertici) {
       if (vertice.Index == 0) continue;
-      if (UgualiSenzaMaiuscole(Ripulito(vertice.Caption), nome)) return Letto(posto);
+      if (text::EqualsIgnoringAsciiCase(Ripulito(vertice.Caption), nome)) return Letto(posto);
       if (!per_indice && indice == vertice.Index) per_indice = posto;
       ++posto;
     }
@@ -390,7 +383,7 @@ class Compilatore {
   }
 
   bool ParolaChiave(std::string_view parola) const {
-    return m_simbolo.tipo == TipoSimbolo::Nome && UgualiSenzaMaiuscole(m_simbolo.testo, parola);
+    return m_simbolo.tipo == TipoSimbolo::Nome && text::EqualsIgnoringAsciiCase(m_simbolo.testo, parola);
   }
 
   Rifiuto Atteso(std::string_view cosa) const {

@@ -10,7 +10,7 @@
 #include "Condizione.h"
 #include "LimitiStrutture.h"
 #include "archive/FileSicuri.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::figures {
 

@@ -4,13 +4,12 @@
 
 #include <algorithm>
 
-#include "vbscript/value/Utf.h"
+#include "text/AsciiCase.h"
+#include "text/Utf.h"
 
 namespace lottolab::figures {
 
 namespace {
-
-char Maiuscola(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 bool ByteDiSeguito(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
@@ -23,9 +22,7 @@ size_t Caratteri(std::string_view utf8) {
 size_t PosizioneFine(std::string_view utf8) {
   constexpr std::string_view kFine = "FINE";
   for (size_t i = 0; i + kFine.size() <= utf8.size(); ++i)
-    if (std::equal(kFine.begin(), kFine.end(), utf8.begin() + static_cast<std::ptrdiff_t>(i),
-                   [](char f, char c) { return f == Maiuscola(c); }))
-      return i;
+    if (text::EqualsIgnoringAsciiCase(utf8.substr(i, kFine.size()), kFine)) return i;
   return std::string_view::npos;
 }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <fmt/format.h>
 
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::script {
 

@@ -1,12 +1,12 @@
 #include "ClsFunctionsGeodoScript.h"
 
 #include <algorithm>
-#include <cctype>
 #include <unordered_map>
 
 #include "vbscript/value/ErrorTable.h"
 #include "vbscript/runtime/Interpreter.h"
-#include "vbscript/value/Utf.h"
+#include "text/AsciiCase.h"
+#include "text/Utf.h"
 
 namespace lottolab::script {
 
@@ -16,12 +16,6 @@ using Funzione = ClsFunctionsGeodoScript::Funzione;
 
 // What a refusal of the file rules raises; the script must not go on as if the file were written.
 constexpr int32_t kErrorePermesso = 70;
-
-std::string Minuscolo(std::string_view nome) {
-  std::string piegato(nome);
-  for (char& c : piegato) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return piegato;
-}
 
 struct Tabella {
   std::vector<Funzione> funzioni;
@@ -39,7 +33,7 @@ const Tabella& TabellaCompleta() {
       t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =
-          t.per_nome.emplace(Minuscolo(t.funzioni[i].nome), static_cast<vbs::DispId>(i + 1)).second;
+          t.per_nome.emplace(text::LowerAscii(t.funzioni[i].nome), static_cast<vbs::DispId>(i + 1)).second;
       assert(nuovo && "a name appears twice in the library's table");
     }
     return t;
@@ -68,7 +62,7 @@ std::span<const Funzione> ClsFunctionsGeodoScript::Funzioni() { return TabellaCo
 
 vbs::DispId ClsFunctionsGeodoScript::FindMember(std::string_view name) {
   const auto& per_nome = TabellaCompleta().per_nome;
-  auto it = per_nome.find(Minuscolo(name));
+  auto it = per_nome.find(text::LowerAscii(name));
   return it == per_nome.end() ? vbs::kUnknownMember : it->second;
 }
 

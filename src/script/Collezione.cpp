@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::script {
 

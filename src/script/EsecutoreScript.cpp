@@ -4,8 +4,8 @@
 #include <ctime>
 #include <fmt/format.h>
 
+#include "text/Utf.h"
 #include "vbscript/ScriptControl.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "ClsFunctionsGeodoScript.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::script::famiglia {
 

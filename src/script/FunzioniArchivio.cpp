@@ -5,9 +5,9 @@
 #include "ArgomentiLotto.h"
 #include "Famiglia.h"
 #include "archive/DateEstrazione.h"
+#include "text/Utf.h"
 #include "vbscript/runtime/Interpreter.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

@@ -7,7 +7,7 @@
 #include "ArgomentiLotto.h"
 #include "Famiglia.h"
 #include "stats/Numeri.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::script {
 

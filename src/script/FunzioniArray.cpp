@@ -17,9 +17,9 @@
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
 #include "stats/Numeri.h"
+#include "text/Utf.h"
 #include "vbscript/runtime/Interpreter.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

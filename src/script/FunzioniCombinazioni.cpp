@@ -21,9 +21,9 @@
 #include "Famiglia.h"
 #include "stats/Combinazioni.h"
 #include "stats/Numeri.h"
+#include "text/Utf.h"
 #include "vbscript/runtime/Interpreter.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

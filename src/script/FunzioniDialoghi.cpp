@@ -8,8 +8,8 @@
 
 #include "ArgomentiLotto.h"
 #include "Famiglia.h"
+#include "text/Utf.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

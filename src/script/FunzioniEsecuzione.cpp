@@ -5,7 +5,7 @@
 #include <fmt/format.h>
 
 #include "Famiglia.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::script {
 

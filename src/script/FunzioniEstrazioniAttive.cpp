@@ -5,8 +5,8 @@
 
 #include "Famiglia.h"
 #include "archive/DateEstrazione.h"
+#include "text/Utf.h"
 #include "vbscript/runtime/Interpreter.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

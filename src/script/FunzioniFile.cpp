@@ -23,8 +23,9 @@
 #include "LetturaFile.h"
 #include "archive/DateEstrazione.h"
 #include "archive/ImportaRisultati.h"
+#include "text/Utf.h"
+#include "text/Wildcard.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 
@@ -256,34 +257,12 @@ Result<Variant> RinominaFile(Libreria& lib, CallArgs& args) {
   return Variant::Boolean(true);
 }
 
-// "*" any run of characters, "?" any one, letters compared ignoring case.
-bool CorrispondeAlModello(std::u16string_view nome, std::u16string_view modello) {
-  size_t n = 0, m = 0;
-  size_t stella = std::u16string_view::npos, ripresa = 0;
-  while (n < nome.size()) {
-    if (m < modello.size() && (modello[m] == u'?' || vbs::FoldCase(modello[m]) == vbs::FoldCase(nome[n]))) {
-      ++n;
-      ++m;
-    } else if (m < modello.size() && modello[m] == u'*') {
-      stella = m++;
-      ripresa = n;
-    } else if (stella != std::u16string_view::npos) {
-      m = stella + 1;
-      n = ++ripresa;
-    } else {
-      return false;
-    }
-  }
-  while (m < modello.size() && modello[m] == u'*') ++m;
-  return m == modello.size();
-}
-
 // Models separated by ";"; "*.*" stands for every file, with or without an extension.
 bool CorrispondeAlFiltro(std::u16string_view nome, std::u16string_view filtro) {
   while (true) {
     const size_t fine = filtro.find(u';');
     const std::u16string_view modello = filtro.substr(0, fine);
-    if (modello == u"*.*" || CorrispondeAlModello(nome, modello)) return true;
+    if (modello == u"*.*" || text::MatchesWildcard(modello, nome)) return true;
     if (fine == std::u16string_view::npos) return false;
     filtro.remove_prefix(fine + 1);
   }

@@ -16,7 +16,7 @@
 #include "TabelleEsecuzione.h"
 #include "stats/Numeri.h"
 #include "stats/Ritardi.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::script {
 

@@ -1,7 +1,7 @@
 // The script's text output: to the output box (with colours) and to the run's HTML page.
 
 #include "Famiglia.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::script {
 

@@ -14,8 +14,8 @@
 #include "TabellaOutput.h"
 #include "stats/Numeri.h"
 #include "stats/Ritardi.h"
+#include "text/Utf.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

@@ -10,9 +10,9 @@
 #include "Famiglia.h"
 #include "TabellaOutput.h"
 #include "archive/DateEstrazione.h"
+#include "text/Utf.h"
 #include "vbscript/runtime/Interpreter.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

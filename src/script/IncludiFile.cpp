@@ -4,7 +4,8 @@
 #include <fmt/format.h>
 
 #include "LetturaFile.h"
-#include "vbscript/value/Utf.h"
+#include "text/AsciiCase.h"
+#include "text/Utf.h"
 
 namespace lottolab::script {
 
@@ -23,12 +24,8 @@ std::u16string_view Trim(std::u16string_view testo) {
   return testo;
 }
 
-char16_t Minuscola(char16_t c) { return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c - u'A' + u'a') : c; }
-
 bool IniziaCon(std::u16string_view testo, std::u16string_view prefisso) {
-  return testo.size() >= prefisso.size() &&
-         std::equal(prefisso.begin(), prefisso.end(), testo.begin(),
-                    [](char16_t a, char16_t b) { return Minuscola(a) == Minuscola(b); });
+  return testo.size() >= prefisso.size() && text::EqualsIgnoringAsciiCase(testo.substr(0, prefisso.size()), prefisso);
 }
 
 // Windows paths in scripts use backslashes.

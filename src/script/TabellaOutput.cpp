@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <fmt/format.h>
 
 #include "Famiglia.h"
 #include "OutputHtml.h"
-#include "vbscript/value/Utf.h"
+#include "text/AsciiCase.h"
+#include "text/Utf.h"
 
 namespace lottolab::script {
 
@@ -77,12 +77,6 @@ std::vector<std::string> TestiRiga(const RigaTabella& riga) {
   std::vector<std::string> testi;
   for (const Cella& cella : riga.celle) testi.push_back(cella.testo);
   return testi;
-}
-
-std::string Minuscolo(std::u16string_view testo) {
-  std::string piegato = vbs::Utf16ToUtf8(testo);
-  for (char& c : piegato) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return piegato;
 }
 
 }  // namespace
@@ -198,7 +192,7 @@ vbs::Result<Allineamento> AllineamentoArgomento(const vbs::CallArgs& args, size_
                                               {"center", Allineamento::Centro},
                                               {"destra", Allineamento::Destra},
                                               {"right", Allineamento::Destra}}};
-  const std::string nome = Minuscolo(testo);
+  const std::string nome = text::LowerAscii(vbs::Utf16ToUtf8(testo));
   for (const Nome& noto : kNomi)
     if (noto.nome == nome) return noto.allineamento;
   return ArgomentoNonValido(

@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <fmt/format.h>
 #include <limits>
 #include <string_view>
 #include <vector>
+
+#include "text/AsciiCase.h"
 
 namespace lottolab::stats {
 
@@ -47,9 +48,7 @@ std::string TestoDecimale(double n) {
   std::array<char, 32> buffer{};
   const auto esito = std::to_chars(buffer.data(), buffer.data() + buffer.size(), n,
                                    std::chars_format::general, 15);
-  std::string testo(buffer.data(), esito.ptr);
-  for (char& c : testo) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-  return testo;
+  return text::UpperAscii(std::string_view(buffer.data(), esito.ptr));
 }
 
 // The numeric value of one character of a number's text: a sign, a point or an exponent count 0.

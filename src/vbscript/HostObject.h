@@ -9,15 +9,15 @@
 // getters convert with the language's rules and report a failure naming the argument's position.
 
 #include <algorithm>
-#include <cctype>
 #include <span>
 #include <string_view>
 
+#include "text/AsciiCase.h"
+#include "text/Utf.h"
 #include "vbscript/value/AllocationFailure.h"
 #include "vbscript/value/Coercion.h"
 #include "vbscript/value/Locale.h"
 #include "vbscript/value/Object.h"
-#include "vbscript/value/Utf.h"
 
 namespace vbs {
 
@@ -75,10 +75,7 @@ class HostObject : public Object {
   DispId FindMember(std::string_view name) override {
     const auto members = Self::Members();
     for (size_t i = 0; i < members.size(); ++i) {
-      if (std::equal(name.begin(), name.end(), members[i].name.begin(), members[i].name.end(),
-                     [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) ==
-                                                 std::tolower(static_cast<unsigned char>(b)); }))
-        return static_cast<DispId>(i + 1);
+      if (text::EqualsIgnoringAsciiCase(name, members[i].name)) return static_cast<DispId>(i + 1);
     }
     return kUnknownMember;
   }

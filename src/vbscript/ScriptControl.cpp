@@ -1,5 +1,6 @@
 #include "ScriptControl.h"
 
+#include "text/AsciiCase.h"
 #include "vbscript/value/AllocationFailure.h"
 #include "vbscript/compile/Compiler.h"
 #include "vbscript/syntax/Parser.h"
@@ -7,10 +8,6 @@
 namespace vbs {
 
 namespace {
-
-bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
-  return Interpreter::Fold(a) == Interpreter::Fold(b);
-}
 
 constexpr int32_t kLanguageNotSet = 5;
 
@@ -46,7 +43,7 @@ void ScriptControl::Reset() {
 }
 
 Status ScriptControl::SetLanguage(std::string_view language) {
-  if (!language.empty() && !EqualsIgnoringCase(language, "vbscript")) return MakeError(kLanguageNotSet);
+  if (!language.empty() && !text::EqualsIgnoringAsciiCase(language, "vbscript")) return MakeError(kLanguageNotSet);
   m_language = language.empty() ? "" : "VBScript";
   return Ok();
 }

@@ -9,7 +9,7 @@
 #include <thread>
 
 #include "TempDir.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::script {
 namespace {

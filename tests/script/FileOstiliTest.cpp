@@ -12,7 +12,7 @@
 #include "script/EsecutoreScript.h"
 #include "script/LetturaFile.h"
 #include "script/OutputHtml.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::script {
 namespace {

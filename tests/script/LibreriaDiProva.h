@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "script/ClsFunctionsGeodoScript.h"
+#include "text/Utf.h"
 #include "vbscript/ScriptControl.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::script {
 

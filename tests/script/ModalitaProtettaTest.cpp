@@ -11,7 +11,7 @@
 #include "script/AccessoFile.h"
 #include "script/EsecutoreScript.h"
 #include "script/LetturaFile.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::script {
 namespace {

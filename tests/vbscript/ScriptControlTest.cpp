@@ -6,7 +6,7 @@
 #include "vbscript/HostObject.h"
 #include "vbscript/value/SafeArray.h"
 #include "vbscript/ScriptControl.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace vbs {
 namespace {

@@ -17,9 +17,9 @@
 #include <string>
 #include <vector>
 
+#include "text/Utf.h"
 #include "vbscript/HostObject.h"
 #include "vbscript/ScriptControl.h"
-#include "vbscript/value/Utf.h"
 
 namespace fs = std::filesystem;
 

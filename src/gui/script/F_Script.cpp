@@ -29,7 +29,7 @@
 #include "gui/script/ScriptModalita.h"
 #include "script/LetturaFile.h"
 #include "script/OutputHtml.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace lottolab::gui {
 

@@ -8,7 +8,7 @@
 #include <fmt/format.h>
 #include <optional>
 
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 // g++ 12 at -O2 takes the empty std::optional answers copied below for possibly uninitialised (a
 // false positive of that release once SulThreadDellaFinestra is inlined); nothing here reads an

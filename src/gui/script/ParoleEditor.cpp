@@ -1,9 +1,9 @@
 #include "gui/script/ParoleEditor.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "script/ClsFunctionsGeodoScript.h"
+#include "text/AsciiCase.h"
 #include "vbscript/builtins/Builtins.h"
 
 namespace lottolab::gui {
@@ -22,14 +22,9 @@ constexpr std::string_view kParoleChiave[] = {
     "To",     "True",    "Until",    "Wend",     "While",   "With",    "Xor",
 };
 
-std::string Minuscolo(std::string_view testo) {
-  std::string minuscolo(testo);
-  std::transform(minuscolo.begin(), minuscolo.end(), minuscolo.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return minuscolo;
+bool MinoreSenzaMaiuscole(const std::string& a, const std::string& b) {
+  return text::LowerAscii(a) < text::LowerAscii(b);
 }
-
-bool MinoreSenzaMaiuscole(const std::string& a, const std::string& b) { return Minuscolo(a) < Minuscolo(b); }
 
 // The engine's rows read "Len(string): what it does"; what comes before the colon is the tip, since
 // what follows is written for the engine's developers.
@@ -69,24 +64,22 @@ ParoleEditor::ParoleEditor() {
   for (const auto* parole : {&m_funzioni_vbscript, &m_funzioni_libreria})
     for (const ParolaEditor& parola : *parole) m_tutti_i_nomi.push_back(parola.nome);
   std::sort(m_tutti_i_nomi.begin(), m_tutti_i_nomi.end(), MinoreSenzaMaiuscole);
-  m_tutti_i_nomi.erase(std::unique(m_tutti_i_nomi.begin(), m_tutti_i_nomi.end(),
-                                   [](const std::string& a, const std::string& b) { return Minuscolo(a) == Minuscolo(b); }),
-                       m_tutti_i_nomi.end());
+  const auto uguali = [](const std::string& a, const std::string& b) { return text::EqualsIgnoringAsciiCase(a, b); };
+  m_tutti_i_nomi.erase(std::unique(m_tutti_i_nomi.begin(), m_tutti_i_nomi.end(), uguali), m_tutti_i_nomi.end());
 }
 
 std::vector<std::string> ParoleEditor::Completamenti(std::string_view prefisso) const {
-  const std::string cercato = Minuscolo(prefisso);
+  const std::string cercato = text::LowerAscii(prefisso);
   std::vector<std::string> nomi;
   for (const std::string& nome : m_tutti_i_nomi)
-    if (Minuscolo(nome).starts_with(cercato)) nomi.push_back(nome);
+    if (text::LowerAscii(nome).starts_with(cercato)) nomi.push_back(nome);
   return nomi;
 }
 
 std::string ParoleEditor::Suggerimento(std::string_view nome) const {
-  const std::string cercato = Minuscolo(nome);
   for (const auto* parole : {&m_funzioni_libreria, &m_funzioni_vbscript})
     for (const ParolaEditor& parola : *parole)
-      if (Minuscolo(parola.nome) == cercato) return parola.suggerimento;
+      if (text::EqualsIgnoringAsciiCase(parola.nome, nome)) return parola.suggerimento;
   return {};
 }
 
@@ -94,7 +87,7 @@ std::string ElencoPerLexer(const std::vector<std::string>& nomi) {
   std::string elenco;
   for (const std::string& nome : nomi) {
     if (!elenco.empty()) elenco += ' ';
-    elenco += Minuscolo(nome);
+    elenco += text::LowerAscii(nome);
   }
   return elenco;
 }

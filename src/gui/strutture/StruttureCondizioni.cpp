@@ -7,6 +7,7 @@
 #include "figures/CondizioneLessico.h"
 #include "figures/FileStrutture.h"
 #include "figures/LimitiStrutture.h"
+#include "text/AsciiCase.h"
 
 namespace lottolab::gui {
 
@@ -40,12 +41,6 @@ std::string_view Ripulito(std::string_view testo) {
   return testo;
 }
 
-bool UgualiSenzaMaiuscole(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-    return std::tolower(static_cast<unsigned char>(x)) == std::tolower(static_cast<unsigned char>(y));
-  });
-}
-
 }  // namespace
 
 std::span<const FormaCondizione> FormeCondizione() { return kForme; }
@@ -53,7 +48,7 @@ std::span<const FormaCondizione> FormeCondizione() { return kForme; }
 std::string RiferimentoVertice(const figures::ClsVertice& vertice, std::span<const figures::ClsVertice> vertici) {
   const std::string_view caption = Ripulito(vertice.Caption);
   const auto primo = std::find_if(vertici.begin(), vertici.end(), [&](const figures::ClsVertice& altro) {
-    return altro.Index != 0 && UgualiSenzaMaiuscole(Ripulito(altro.Caption), caption);
+    return altro.Index != 0 && text::EqualsIgnoringAsciiCase(Ripulito(altro.Caption), caption);
   });
   const bool per_caption = !caption.empty() && caption.find(']') == std::string_view::npos &&
                            primo != vertici.end() && primo->Index == vertice.Index;

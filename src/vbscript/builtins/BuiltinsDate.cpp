@@ -20,7 +20,7 @@
 #include "vbscript/value/Coercion.h"
 #include "vbscript/value/DateTime.h"
 #include "vbscript/runtime/RandomGenerator.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace vbs {
 

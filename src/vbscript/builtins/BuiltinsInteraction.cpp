@@ -9,10 +9,10 @@
 #include <algorithm>
 #include <string>
 
+#include "text/Utf.h"
 #include "vbscript/builtins/BuiltinArgs.h"
 #include "vbscript/builtins/Builtins.h"
 #include "vbscript/value/Coercion.h"
-#include "vbscript/value/Utf.h"
 
 namespace vbs {
 

@@ -1,7 +1,7 @@
 #include "vbscript/compile/Compiler.h"
 
+#include "text/Utf.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/value/Utf.h"
 
 namespace vbs {
 

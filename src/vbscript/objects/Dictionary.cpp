@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <bit>
 
+#include "text/Utf.h"
 #include "vbscript/runtime/Interpreter.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/value/Utf.h"
 
 namespace vbs {
 

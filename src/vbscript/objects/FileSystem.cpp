@@ -4,7 +4,8 @@
 
 #include "vbscript/runtime/Interpreter.h"
 #include "vbscript/objects/TextStream.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
+#include "text/Wildcard.h"
 
 namespace vbs {
 
@@ -72,27 +73,6 @@ bool HasWildcards(const fs::path& path) {
   return name.find_first_of("*?") != std::string::npos;
 }
 
-// '*' any run of characters, '?' one character, letters in either case: Windows' file patterns.
-bool MatchesWildcard(std::u16string_view pattern, std::u16string_view name) {
-  size_t p = 0, n = 0, star = std::u16string_view::npos, resume = 0;
-  while (n < name.size()) {
-    if (p < pattern.size() && (pattern[p] == u'?' || FoldCase(pattern[p]) == FoldCase(name[n]))) {
-      ++p;
-      ++n;
-    } else if (p < pattern.size() && pattern[p] == u'*') {
-      star = p++;
-      resume = n;
-    } else if (star != std::u16string_view::npos) {
-      p = star + 1;
-      n = ++resume;
-    } else {
-      return false;
-    }
-  }
-  while (p < pattern.size() && pattern[p] == u'*') ++p;
-  return p == pattern.size();
-}
-
 enum class EntryKind { File, Folder };
 
 // What a path names when its last part may hold wildcards: the matching files or folders, sorted.
@@ -113,7 +93,7 @@ Result<std::vector<fs::path>> Matching(const fs::path& wanted, EntryKind kind, i
   VBS_TRY_ASSIGN(auto entries, ListFolder(folder));
   std::vector<fs::path> found;
   for (const FolderEntry& entry : entries) {
-    if (entry.is_folder == (kind == EntryKind::Folder) && MatchesWildcard(pattern, NameOf(entry.path)))
+    if (entry.is_folder == (kind == EntryKind::Folder) && text::MatchesWildcard(pattern, NameOf(entry.path)))
       found.push_back(entry.path);
   }
   if (found.empty()) return MakeError(missing);

@@ -9,7 +9,8 @@
 #include "vbscript/objects/FileSystem.h"
 #include "vbscript/runtime/Interpreter.h"
 #include "vbscript/objects/TextStream.h"
-#include "vbscript/value/Utf.h"
+#include "text/AsciiCase.h"
+#include "text/Utf.h"
 
 namespace vbs {
 
@@ -174,8 +175,7 @@ Result<Variant> FileObject::Type(CallArgs&) {
   std::u16string extension = Utf8ToUtf16(m_path.extension().string());
   if (extension.empty()) return Variant::String(u"File");
   extension.erase(0, 1);
-  for (char16_t& c : extension)
-    if (c >= u'a' && c <= u'z') c = static_cast<char16_t>(c - 32);
+  for (char16_t& c : extension) c = text::UpperAscii(c);
   return Variant::String(extension + u" File");
 }
 

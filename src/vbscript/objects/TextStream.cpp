@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <cerrno>
 
+#include "text/Utf.h"
 #include "vbscript/objects/FileSystem.h"
 #include "vbscript/runtime/Interpreter.h"
-#include "vbscript/value/Utf.h"
 
 namespace vbs {
 

@@ -2,9 +2,9 @@
 
 #include <array>
 
+#include "text/Utf.h"
 #include "vbscript/value/Coercion.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/value/Utf.h"
 
 namespace vbs {
 

@@ -5,7 +5,8 @@
 #include "vbscript/value/SafeArray.h"
 #include "vbscript/runtime/ClassInstance.h"
 #include "vbscript/value/StackLimit.h"
-#include "vbscript/value/Utf.h"
+#include "text/AsciiCase.h"
+#include "text/Utf.h"
 
 namespace vbs {
 
@@ -41,13 +42,7 @@ Interpreter::~Interpreter() {
   m_link->interp = nullptr;
 }
 
-std::string Interpreter::Fold(std::string_view name) {
-  std::string folded(name);
-  for (char& c : folded) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return folded;
-}
+std::string Interpreter::Fold(std::string_view name) { return text::LowerAscii(name); }
 
 std::string Interpreter::Fold(std::u16string_view name) { return Fold(Utf16ToUtf8(name)); }
 

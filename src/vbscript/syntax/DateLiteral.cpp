@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "text/AsciiCase.h"
+
 namespace vbs {
 namespace {
 
@@ -20,14 +22,13 @@ constexpr std::array<std::u16string_view, 12> kMonthNames = {
     u"january", u"february", u"march",     u"april",   u"may",      u"june",
     u"july",    u"august",   u"september", u"october", u"november", u"december"};
 
-char16_t Lower(char16_t c) { return (c >= u'A' && c <= u'Z') ? static_cast<char16_t>(c - u'A' + u'a') : c; }
 bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
 bool IsLetter(char16_t c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); }
 
 // A month is named in full or by any prefix of at least three letters ("Sep", "Sept").
 std::optional<Part> ReadWord(std::u16string_view word) {
   std::u16string lower;
-  for (char16_t c : word) lower.push_back(Lower(c));
+  for (char16_t c : word) lower.push_back(text::LowerAscii(c));
   if (lower == u"am" || lower == u"a") return Part{PartKind::AmPm, 0};
   if (lower == u"pm" || lower == u"p") return Part{PartKind::AmPm, 1};
   if (lower.size() < 3) return std::nullopt;

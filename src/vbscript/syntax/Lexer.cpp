@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cstdint>
 
+#include "text/AsciiCase.h"
 #include "vbscript/syntax/DateLiteral.h"
 
 namespace vbs {
@@ -68,7 +69,7 @@ bool IsWordChar(char16_t c) { return IsLetter(c) || IsDigit(c) || c == u'_'; }
 
 int32_t HexValue(char16_t c) {
   if (IsDigit(c)) return c - u'0';
-  return (c | 0x20) - u'a' + 10;
+  return text::LowerAscii(c) - u'a' + 10;
 }
 
 TokenKind KeywordKind(std::u16string_view word) {
@@ -77,7 +78,7 @@ TokenKind KeywordKind(std::u16string_view word) {
   char lower[kLongest];
   for (size_t i = 0; i < word.size(); ++i) {
     if (!IsAsciiLetter(word[i])) return TokenKind::Identifier;
-    lower[i] = static_cast<char>(word[i] | 0x20);
+    lower[i] = static_cast<char>(text::LowerAscii(word[i]));
   }
   std::string_view key(lower, word.size());
   auto it = std::lower_bound(kKeywords.begin(), kKeywords.end(), key,

@@ -1,5 +1,6 @@
 #include "vbscript/syntax/Parser.h"
 
+#include "text/AsciiCase.h"
 #include "vbscript/syntax/Lexer.h"
 #include "vbscript/value/StackLimit.h"
 
@@ -20,12 +21,12 @@ std::string FoldName(std::string_view name) {
   std::string folded(name);
   for (size_t i = 0; i < folded.size(); ++i) {
     char& c = folded[i];
-    if (c >= 'A' && c <= 'Z') {
-      c = static_cast<char>(c - 'A' + 'a');
-    } else if (static_cast<unsigned char>(c) == 0xC3 && i + 1 < folded.size()) {
+    if (static_cast<unsigned char>(c) == 0xC3 && i + 1 < folded.size()) {
       auto next = static_cast<unsigned char>(folded[i + 1]);
       if (next >= 0x80 && next <= 0x9E && next != 0x97) folded[i + 1] = static_cast<char>(next + 0x20);
       ++i;
+    } else {
+      c = text::LowerAscii(c);
     }
   }
   return folded;

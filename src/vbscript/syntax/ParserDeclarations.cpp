@@ -1,5 +1,6 @@
 // Declarations: Dim, ReDim, Const, Erase, Public/Private, procedures and classes.
 
+#include "text/AsciiCase.h"
 #include "vbscript/syntax/Parser.h"
 
 namespace vbs {
@@ -10,16 +11,6 @@ namespace {
 
 bool IsPropertyWord(TokenKind kind) {
   return kind == TokenKind::Get || kind == TokenKind::Let || kind == TokenKind::Set;
-}
-
-bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (size_t i = 0; i < a.size(); ++i) {
-    char x = (a[i] >= 'A' && a[i] <= 'Z') ? static_cast<char>(a[i] - 'A' + 'a') : a[i];
-    char y = (b[i] >= 'A' && b[i] <= 'Z') ? static_cast<char>(b[i] - 'A' + 'a') : b[i];
-    if (x != y) return false;
-  }
-  return true;
 }
 
 }  // namespace
@@ -271,7 +262,8 @@ void Parser::CheckProcedure(const ast::ProcedureStmt& proc, const Token& name_to
                        proc.proc_kind == ast::ProcedureKind::PropertySet;
   if (is_let_or_set && proc.params.empty()) Report(kPropertyWithoutArgument, name_token);
   if (is_let_or_set && proc.is_default) Report(kDefaultNotOnGet, proc.pos);
-  bool is_event = EqualsIgnoringCase(proc.name, "Class_Initialize") || EqualsIgnoringCase(proc.name, "Class_Terminate");
+  bool is_event = text::EqualsIgnoringAsciiCase(proc.name, "Class_Initialize") ||
+                  text::EqualsIgnoringAsciiCase(proc.name, "Class_Terminate");
   if (in_class && is_event && proc.proc_kind == ast::ProcedureKind::Sub && !proc.params.empty()) {
     Report(kInitializeWithArguments, name_token);
   }

@@ -5,9 +5,10 @@
 #include <limits>
 #include <string>
 
+#include "text/AsciiCase.h"
+#include "text/Utf.h"
 #include "vbscript/value/DateTime.h"
 #include "vbscript/value/Object.h"
-#include "vbscript/value/Utf.h"
 
 namespace vbs {
 namespace {
@@ -21,14 +22,12 @@ std::u16string_view Trim(std::u16string_view s) {
   return s;
 }
 
-char16_t Upper(char16_t c) { return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - 32) : c; }
-
 // "&Hxx" and "&Oxx" (or "&xx", octal): a 32-bit pattern, so "&HFFFFFFFF" is -1.
 std::optional<double> ParseRadix(std::u16string_view s) {
   s.remove_prefix(1);
   unsigned radix = 8;
-  if (!s.empty() && (Upper(s[0]) == u'H' || Upper(s[0]) == u'O')) {
-    radix = Upper(s[0]) == u'H' ? 16 : 8;
+  if (!s.empty() && (text::UpperAscii(s[0]) == u'H' || text::UpperAscii(s[0]) == u'O')) {
+    radix = text::UpperAscii(s[0]) == u'H' ? 16 : 8;
     s.remove_prefix(1);
   }
   if (s.empty()) return std::nullopt;
@@ -37,8 +36,8 @@ std::optional<double> ParseRadix(std::u16string_view s) {
     unsigned digit = 0;
     if (IsDigit(c)) {
       digit = c - u'0';
-    } else if (Upper(c) >= u'A' && Upper(c) <= u'F') {
-      digit = Upper(c) - u'A' + 10;
+    } else if (text::UpperAscii(c) >= u'A' && text::UpperAscii(c) <= u'F') {
+      digit = text::UpperAscii(c) - u'A' + 10;
     } else {
       return std::nullopt;
     }

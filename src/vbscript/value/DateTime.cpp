@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace vbs {
 namespace {

@@ -3,9 +3,9 @@
 #include <cmath>
 #include <limits>
 
+#include "text/Utf.h"
 #include "vbscript/value/Coercion.h"
 #include "vbscript/value/DateTime.h"
-#include "vbscript/value/Utf.h"
 
 namespace vbs {
 namespace {

@@ -18,8 +18,8 @@
 #include "gui/script/ParoleEditor.h"
 #include "gui/script/ScriptModalita.h"
 #include "script/OutputHtml.h"
+#include "text/Utf.h"
 #include "vbscript/syntax/Lexer.h"
-#include "vbscript/value/Utf.h"
 
 namespace lottolab::gui {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "vbscript/runtime/RandomGenerator.h"
 #include "vbscript/ScriptControl.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace vbs {
 namespace {

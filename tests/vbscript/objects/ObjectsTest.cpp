@@ -12,7 +12,7 @@
 #include "vbscript/objects/regexp/RegExpProgram.h"
 #include "vbscript/value/SafeArray.h"
 #include "vbscript/ScriptControl.h"
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 namespace vbs {
 namespace {

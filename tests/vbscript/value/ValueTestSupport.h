@@ -8,10 +8,10 @@
 #include <cmath>
 #include <string>
 
+#include "text/Utf.h"
 #include "vbscript/value/Coercion.h"
 #include "vbscript/value/DateTime.h"
 #include "vbscript/value/Object.h"
-#include "vbscript/value/Utf.h"
 #include "vbscript/value/Variant.h"
 
 namespace vbs::testing {

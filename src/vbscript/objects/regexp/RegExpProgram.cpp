@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "text/Utf.h"
 #include "vbscript/objects/regexp/RegExpParser.h"
-#include "vbscript/value/Utf.h"
 
 namespace vbs {
 
@@ -15,25 +15,6 @@ using regexp::NodePtr;
 using Ranges = std::vector<std::pair<char16_t, char16_t>>;
 
 constexpr int32_t kOutOfStack = 28;
-
-// ---- Case ----
-
-char16_t Lower(char16_t c) {
-  if ((c >= 0x391 && c <= 0x3A9 && c != 0x3A2) || (c >= 0x410 && c <= 0x42F)) return static_cast<char16_t>(c + 0x20);
-  if (c >= 0x400 && c <= 0x40F) return static_cast<char16_t>(c + 0x50);
-  return FoldCase(c);
-}
-
-char16_t Upper(char16_t c) {
-  if (c >= u'a' && c <= u'z') return static_cast<char16_t>(c - 0x20);
-  if (c >= 0xE0 && c <= 0xFE && c != 0xF7) return static_cast<char16_t>(c - 0x20);
-  if (c == 0xFF) return 0x178;
-  if (c >= 0x101 && c <= 0x17F && FoldCase(static_cast<char16_t>(c - 1)) == c) return static_cast<char16_t>(c - 1);
-  if (c == 0x3C2) return 0x3A3;
-  if ((c >= 0x3B1 && c <= 0x3C9) || (c >= 0x430 && c <= 0x44F)) return static_cast<char16_t>(c - 0x20);
-  if (c >= 0x450 && c <= 0x45F) return static_cast<char16_t>(c - 0x50);
-  return c;
-}
 
 bool IsWordChar(char16_t c) {
   return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9') || c == u'_';
@@ -105,8 +86,8 @@ class RegExpCompiler {
       Push({Op::Any});
     } else if (node.kind == Kind::Class) {
       Push({Op::Class, false, node.index});
-    } else if (m_program.m_options.ignore_case && Lower(node.ch) != Upper(node.ch)) {
-      Push({Op::CharFold, false, Lower(node.ch)});
+    } else if (m_program.m_options.ignore_case && LowerCase(node.ch) != UpperCase(node.ch)) {
+      Push({Op::CharFold, false, LowerCase(node.ch)});
     } else {
       Push({Op::Char, false, node.ch});
     }
@@ -210,14 +191,15 @@ class RegExpMachine {
 
   bool InClass(const RegExpProgram::CharClass& cls, char16_t c) const {
     bool found = InRanges(cls.ranges, c);
-    if (!found && m_program.m_options.ignore_case) found = InRanges(cls.ranges, Lower(c)) || InRanges(cls.ranges, Upper(c));
+    if (!found && m_program.m_options.ignore_case)
+      found = InRanges(cls.ranges, LowerCase(c)) || InRanges(cls.ranges, UpperCase(c));
     return found != cls.negated;
   }
 
   bool Test(const Inst& inst, char16_t c) const {
     switch (inst.op) {
       case Op::Char: return c == inst.a;
-      case Op::CharFold: return Lower(c) == inst.a;
+      case Op::CharFold: return LowerCase(c) == inst.a;
       case Op::Any: return c != u'\n';
       case Op::Class: return InClass(m_program.m_classes[inst.a], c);
       default: return false;
@@ -235,7 +217,7 @@ class RegExpMachine {
     for (int32_t k = 0; k < length; ++k) {
       const char16_t a = m_text[start + k];
       const char16_t b = m_text[pos + k];
-      if (a != b && !(m_program.m_options.ignore_case && Lower(a) == Lower(b))) return false;
+      if (a != b && !(m_program.m_options.ignore_case && LowerCase(a) == LowerCase(b))) return false;
     }
     pos += length;
     return true;

@@ -37,4 +37,9 @@ std::u16string DecodeScriptFile(std::string_view bytes);
 char16_t FoldCase(char16_t c);
 bool EqualsIgnoringCase(std::u16string_view a, std::u16string_view b);
 
+// The case mapping of UCase, LCase and a regular expression that ignores case: the letters FoldCase
+// knows, plus basic Greek and Cyrillic. A character without the other case comes back unchanged.
+char16_t UpperCase(char16_t c);
+char16_t LowerCase(char16_t c);
+
 }  // namespace vbs

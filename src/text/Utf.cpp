@@ -1,4 +1,4 @@
-#include "vbscript/value/Utf.h"
+#include "text/Utf.h"
 
 #include <array>
 #include <cstdint>
@@ -202,6 +202,24 @@ bool EqualsIgnoringCase(std::u16string_view a, std::u16string_view b) {
     if (FoldCase(a[i]) != FoldCase(b[i])) return false;
   }
   return true;
+}
+
+char16_t UpperCase(char16_t c) {
+  if (c >= u'a' && c <= u'z') return static_cast<char16_t>(c - 32);
+  if (c < 0xE0) return c;
+  if (c <= 0xFE) return c == 0xF7 ? c : static_cast<char16_t>(c - 32);
+  if (c == 0xFF) return 0x178;
+  if (c > 0x100 && c <= 0x17F) return FoldCase(static_cast<char16_t>(c - 1)) == c ? static_cast<char16_t>(c - 1) : c;
+  if (c >= 0x3B1 && c <= 0x3C9) return c == 0x3C2 ? char16_t{0x3A3} : static_cast<char16_t>(c - 32);  // Greek
+  if (c >= 0x430 && c <= 0x44F) return static_cast<char16_t>(c - 32);                                // Cyrillic
+  if (c >= 0x450 && c <= 0x45F) return static_cast<char16_t>(c - 80);
+  return c;
+}
+
+char16_t LowerCase(char16_t c) {
+  if ((c >= 0x391 && c <= 0x3A9 && c != 0x3A2) || (c >= 0x410 && c <= 0x42F)) return static_cast<char16_t>(c + 32);
+  if (c >= 0x400 && c <= 0x40F) return static_cast<char16_t>(c + 80);
+  return FoldCase(c);
 }
 
 }  // namespace vbs
