@@ -70,7 +70,7 @@ int LuaDoppio(lua_State* lua) {
 }
 
 void RunVbscript(benchmark::State& state, const Program& program) {
-  std::u16string code = vbs::Utf8ToUtf16(program.vbscript);
+  std::u16string code = text::Utf8ToUtf16(program.vbscript);
   for (auto _ : state) {
     vbs::ScriptControl engine;
     (void)engine.SetLanguage("VBScript");

@@ -147,14 +147,14 @@ class UiSenzaRisposte final : public vbs::UiHandler {
  public:
   explicit UiSenzaRisposte(std::ostream& err) : m_err(err) {}
   int MessageBox(std::u16string_view prompt, int buttons, std::u16string_view) override {
-    m_err << vbs::Utf16ToUtf8(prompt) << '\n';
+    m_err << text::Utf16ToUtf8(prompt) << '\n';
     constexpr int kPrimoPulsante[] = {1, 1, 3, 6, 6, 4};  // OK, OK, Abort, Yes, Yes, Retry
     const int gruppo = buttons & 0x7;
     return gruppo < 6 ? kPrimoPulsante[gruppo] : 1;
   }
   std::optional<std::u16string> InputBox(std::u16string_view prompt, std::u16string_view,
                                          std::u16string_view predefinito) override {
-    m_err << vbs::Utf16ToUtf8(prompt) << '\n';
+    m_err << text::Utf16ToUtf8(prompt) << '\n';
     return std::u16string(predefinito);
   }
 
@@ -244,7 +244,7 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole) {
   OspiteTerminale ospite(contesto.out, contesto.segnalatore, contesto.err, std::move(risposte));
   UiSenzaRisposte ui(contesto.err);
   script::EsecutoreScript esecutore(ospite, &ui);
-  const auto esito = esecutore.Esegui(vbs::DecodeScriptFile(*contenuto), opzioni);
+  const auto esito = esecutore.Esegui(text::DecodeScriptFile(*contenuto), opzioni);
   contesto.out.flush();
   switch (esito.stato) {
     case script::EsitoEsecuzione::Stato::Completato:

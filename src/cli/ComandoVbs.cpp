@@ -21,17 +21,17 @@ class UiTerminale final : public vbs::UiHandler {
  public:
   explicit UiTerminale(std::ostream& out) : m_out(out) {}
   int MessageBox(std::u16string_view prompt, int buttons, std::u16string_view) override {
-    m_out << vbs::Utf16ToUtf8(prompt) << '\n' << std::flush;
+    m_out << text::Utf16ToUtf8(prompt) << '\n' << std::flush;
     constexpr int kPrimoPulsante[] = {1, 1, 3, 6, 6, 4};  // OK, OK, Abort, Yes, Yes, Retry
     int gruppo = buttons & 0x7;
     return gruppo < 6 ? kPrimoPulsante[gruppo] : 1;
   }
   std::optional<std::u16string> InputBox(std::u16string_view prompt, std::u16string_view,
                                          std::u16string_view) override {
-    m_out << vbs::Utf16ToUtf8(prompt) << ' ' << std::flush;
+    m_out << text::Utf16ToUtf8(prompt) << ' ' << std::flush;
     std::string riga;
     if (!std::getline(std::cin, riga)) return std::nullopt;
-    return vbs::Utf8ToUtf16(riga);
+    return text::Utf8ToUtf16(riga);
   }
 
  private:
@@ -75,11 +75,11 @@ int ComandoVbs(Contesto& contesto, const Parole& parole) {
                                                                 parole.end()),
                                        contesto.out, err);
   (void)motore.AddObject("WScript", wscript, false);
-  auto esito = motore.AddCode(vbs::DecodeScriptFile(*contenuto), file.string());
+  auto esito = motore.AddCode(text::DecodeScriptFile(*contenuto), file.string());
   if (auto codice = wscript->CodiceUscita()) return *codice;
   if (!esito) {
     const vbs::ScriptErrorInfo& errore = motore.Error();
-    fmt::print(err, "{}({}, {}) {}\n", file.string(), errore.line, errore.column, vbs::Utf16ToUtf8(errore.description));
+    fmt::print(err, "{}({}, {}) {}\n", file.string(), errore.line, errore.column, text::Utf16ToUtf8(errore.description));
     return kUscitaErrore;
   }
   return kUscitaRiuscita;

@@ -17,7 +17,7 @@ Result<std::string> TestoDi(const Variant& valore, const vbs::Locale& locale) {
   const Variant& v = valore.Deref();
   if (v.is_null()) return std::string("Null");
   VBS_TRY_ASSIGN(auto testo, v.to_string(locale));
-  return vbs::Utf16ToUtf8(testo.view());
+  return text::Utf16ToUtf8(testo.view());
 }
 
 }  // namespace
@@ -80,7 +80,7 @@ class ArgomentiScript final : public vbs::HostObject<ArgomentiScript> {
       explicit Elenco(vbs::Ref<ArgomentiScript> argomenti) : m_argomenti(std::move(argomenti)) {}
       Result<bool> Next(Variant& out) override {
         if (m_prossimo >= m_argomenti->m_argomenti.size()) return false;
-        out = Variant::String(vbs::Utf8ToUtf16(m_argomenti->m_argomenti[m_prossimo++]));
+        out = Variant::String(text::Utf8ToUtf16(m_argomenti->m_argomenti[m_prossimo++]));
         return true;
       }
 
@@ -95,7 +95,7 @@ class ArgomentiScript final : public vbs::HostObject<ArgomentiScript> {
   Result<Variant> Item(CallArgs& args) {
     VBS_TRY_ASSIGN(auto indice, args.Long(0));
     if (indice < 0 || static_cast<size_t>(indice) >= m_argomenti.size()) return vbs::MakeError(vbs::err::kSubscript);
-    return Variant::String(vbs::Utf8ToUtf16(m_argomenti[indice]));
+    return Variant::String(text::Utf8ToUtf16(m_argomenti[indice]));
   }
   Result<Variant> Count(CallArgs&) { return Variant::Long(static_cast<int32_t>(m_argomenti.size())); }
 
@@ -158,7 +158,7 @@ Result<Variant> WScript::Arguments(CallArgs& args) {
   return m_argomenti->Invoke(vbs::kDefaultMember, vbs::InvokeKind::Get, std::span<Variant>(&indice, 1));
 }
 
-Result<Variant> WScript::ScriptName(CallArgs&) { return Variant::String(vbs::Utf8ToUtf16(m_nome)); }
-Result<Variant> WScript::ScriptFullName(CallArgs&) { return Variant::String(vbs::Utf8ToUtf16(m_percorso)); }
+Result<Variant> WScript::ScriptName(CallArgs&) { return Variant::String(text::Utf8ToUtf16(m_nome)); }
+Result<Variant> WScript::ScriptFullName(CallArgs&) { return Variant::String(text::Utf8ToUtf16(m_percorso)); }
 
 }  // namespace lottolab::cli

@@ -40,7 +40,7 @@ void ScriviBooleano(std::string& byte, bool valore) { Scrivi16(byte, valore ? -1
 
 // Cutting after the conversion counts characters: each one is a single byte in Windows-1252.
 void ScriviTesto(std::string& byte, std::string_view utf8, size_t larghezza) {
-  std::string testo = vbs::Utf16ToWindows1252(vbs::Utf8ToUtf16(utf8));
+  std::string testo = text::Utf16ToWindows1252(text::Utf8ToUtf16(utf8));
   testo.resize(larghezza, ' ');
   byte += testo;
 }
@@ -94,7 +94,7 @@ class Lettore {
     for (size_t i = 0; i < larghezza; ++i) testo += static_cast<char>(Byte());
     size_t primo = testo.find_first_not_of(' ');
     testo = primo == std::string::npos ? std::string() : testo.substr(primo, testo.find_last_not_of(' ') - primo + 1);
-    return vbs::Utf16ToUtf8(vbs::Windows1252ToUtf16(testo));
+    return text::Utf16ToUtf8(text::Windows1252ToUtf16(testo));
   }
 
  private:

@@ -55,8 +55,8 @@ std::optional<std::string> TestoNonAmmesso(std::string_view utf8, size_t caratte
   if (Caratteri(utf8) > caratteri)
     return fmt::format("{} è lunga {} caratteri: il file della struttura ne tiene al massimo {}.", cosa,
                        Caratteri(utf8), caratteri);
-  const std::u16string testo = vbs::Utf8ToUtf16(utf8);
-  if (vbs::Windows1252ToUtf16(vbs::Utf16ToWindows1252(testo)) != testo)
+  const std::u16string testo = text::Utf8ToUtf16(utf8);
+  if (text::Windows1252ToUtf16(text::Utf16ToWindows1252(testo)) != testo)
     return fmt::format("{} contiene caratteri che il file della struttura non può tenere (solo lettere dell'alfabeto "
                        "latino, cifre e segni comuni).",
                        cosa);

@@ -57,7 +57,7 @@ std::string Elenco(const std::vector<fs::path>& cartelle) {
 vbs::ScriptError Rifiuto(std::string_view funzione, std::string_view azione, const fs::path& percorso,
                          std::string_view motivo) {
   return vbs::ScriptError{kPermessoNegato,
-                          vbs::Utf8ToUtf16(fmt::format("Permesso negato: {} non può {} {} ({})", funzione, azione,
+                          text::Utf8ToUtf16(fmt::format("Permesso negato: {} non può {} {} ({})", funzione, azione,
                                                        percorso.string(), motivo)),
                           {},
                           {},

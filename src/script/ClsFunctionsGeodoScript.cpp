@@ -80,8 +80,8 @@ vbs::Result<vbs::Variant> ClsFunctionsGeodoScript::Invoke(vbs::DispId member, vb
     return risultato;
   const vbs::ScriptError& errore = risultato.error();
   std::string descrizione = errore.description.empty()
-                                ? vbs::Utf16ToUtf8(vbs::ErrorText(errore.number, m_locale.language))
-                                : vbs::Utf16ToUtf8(errore.description);
+                                ? text::Utf16ToUtf8(vbs::ErrorText(errore.number, m_locale.language))
+                                : text::Utf16ToUtf8(errore.description);
   m_ospite.Mostra(AvvisoCritico("ClsFunctionsGeodoScript." + std::string(funzione.nome), errore.number,
                                 std::move(descrizione)));
   return vbs::Variant();

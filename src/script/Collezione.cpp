@@ -18,7 +18,7 @@ constexpr int32_t kArgomentoNonValido = 5;
 
 std::u16string Piegata(std::u16string_view chiave) {
   std::u16string piegata(chiave);
-  for (char16_t& c : piegata) c = vbs::FoldCase(c);
+  for (char16_t& c : piegata) c = text::FoldCase(c);
   return piegata;
 }
 

@@ -42,7 +42,7 @@ Result<Variant> Estratto(Libreria& lib, CallArgs& args) {
 Result<Variant> DataEstrazione(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto estrazione, EstrazioneArgomento(lib, args, 0));
   VBS_TRY_ASSIGN(auto anno_breve, args.Boolean(1, false));
-  return Variant::String(vbs::Utf8ToUtf16(FormattaData((estrazione)->data, anno_breve)));
+  return Variant::String(text::Utf8ToUtf16(FormattaData((estrazione)->data, anno_breve)));
 }
 
 // A field of the draw's date group, as an Integer.
@@ -83,7 +83,7 @@ Result<Variant> EstrazioniArchivio(Libreria& lib, CallArgs&) {
 Result<Variant> DataEstrToIdEstr(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
   VBS_TRY_ASSIGN(auto testo, args.String(0));
-  auto data = LeggiData(vbs::Utf16ToUtf8(testo));
+  auto data = LeggiData(text::Utf16ToUtf8(testo));
   if (!data) {
     lib.ospite().Mostra(data.Errore());
     return Variant::Long(0);

@@ -83,7 +83,7 @@ Result<Variant> RuotaAbbinata(Libreria&, CallArgs& args) {
 template <std::string_view (*Funzione)(int)>
 Result<Variant> TestoRuota(Libreria&, CallArgs& args) {
   VBS_TRY_ASSIGN(auto ruota, RuotaTabella(args, 0));
-  return Variant::String(vbs::Utf8ToUtf16(Funzione(ruota)));
+  return Variant::String(text::Utf8ToUtf16(Funzione(ruota)));
 }
 
 Result<Variant> Piramide(Libreria&, CallArgs& args) {

@@ -100,10 +100,10 @@ Result<Variant> ArrayBToString(Libreria&, CallArgs& args) {
   VBS_TRY_ASSIGN(auto separatore, args.String(1, u"."));
   std::string testo;
   for (double numero : numeri) {
-    if (!testo.empty()) testo += vbs::Utf16ToUtf8(separatore);
+    if (!testo.empty()) testo += text::Utf16ToUtf8(separatore);
     testo += fmt::format("{:02}", static_cast<int>(numero));
   }
-  return Variant::String(vbs::Utf8ToUtf16(testo));
+  return Variant::String(text::Utf8ToUtf16(testo));
 }
 
 // ---- Text and lists ----
@@ -127,7 +127,7 @@ Result<std::vector<double>> NumeriDelTesto(const CallArgs& args) {
   for (std::u16string_view pezzo : Pezzi(testo, separatore)) {
     if (pezzo.find_first_not_of(u' ') == std::u16string_view::npos) continue;
     auto numero = Variant::String(pezzo).to_double(args.locale());
-    if (!numero) return ArgomentoNonValido(fmt::format("\"{}\" non è un numero", vbs::Utf16ToUtf8(pezzo)));
+    if (!numero) return ArgomentoNonValido(fmt::format("\"{}\" non è un numero", text::Utf16ToUtf8(pezzo)));
     numeri.push_back(*numero);
   }
   return numeri;

@@ -30,7 +30,7 @@ Result<Variant> AddItemColl(Libreria&, CallArgs& args) {
   VBS_TRY_ASSIGN(auto collezione, CollezioneArgomento(args));
   VBS_TRY_ASSIGN(auto chiave, args.String(2, u""));
   if (auto aggiunta = (collezione)->Aggiungi(args[1], chiave); !aggiunta)
-    return ArgomentoNonValido(fmt::format("La chiave \"{}\" è già nella collezione", vbs::Utf16ToUtf8(chiave)));
+    return ArgomentoNonValido(fmt::format("La chiave \"{}\" è già nella collezione", text::Utf16ToUtf8(chiave)));
   return Variant::Long(static_cast<int32_t>((collezione)->size()));
 }
 
@@ -60,7 +60,7 @@ Result<Variant> OrdinaItemCollection(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto ordine, args.Long(1, 1));
   if (ordine != 1 && ordine != -1) return ArgomentoNonValido("Ordine deve essere 1 (crescente) o -1 (decrescente)");
   VBS_TRY_ASSIGN(auto proprieta, args.String(2, u""));
-  const std::string nome = vbs::Utf16ToUtf8(proprieta);
+  const std::string nome = text::Utf16ToUtf8(proprieta);
 
   Collezione& c = *collezione;
   std::vector<Variant> chiavi;

@@ -27,7 +27,7 @@ vbs::ScriptError RispostaNonValida(const std::string& titolo) {
 
 Result<std::string> TitoloArgomento(const CallArgs& args, size_t i, std::u16string_view predefinito) {
   VBS_TRY_ASSIGN(auto titolo, args.String(i, predefinito));
-  return vbs::Utf16ToUtf8(titolo);
+  return text::Utf16ToUtf8(titolo);
 }
 
 bool SenzaRipetizioni(std::vector<int> valori) {
@@ -112,7 +112,7 @@ Result<std::vector<std::string>> VociDellArray(const vbs::SafeArray& array, cons
   std::vector<std::string> voci;
   for (const Variant& elemento : array.elements()) {
     VBS_TRY_ASSIGN(auto testo, elemento.to_string(locale));
-    voci.push_back(vbs::Utf16ToUtf8(testo.view()));
+    voci.push_back(text::Utf16ToUtf8(testo.view()));
   }
   return voci;
 }
@@ -133,7 +133,7 @@ Result<Variant> ScegliOpzioneMenu(Libreria& lib, CallArgs& args) {
   std::vector<std::string> opzioni;
   for (size_t i = 1; i < args.size(); ++i) {
     VBS_TRY_ASSIGN(auto opzione, args.String(i));
-    opzioni.push_back(vbs::Utf16ToUtf8(opzione));
+    opzioni.push_back(text::Utf16ToUtf8(opzione));
   }
   VBS_TRY_ASSIGN(auto scelta, Voce(lib, titolo, opzioni));
   return Variant::Long(scelta + 1);
@@ -143,9 +143,9 @@ template <bool kCartella>
 Result<Variant> ScegliPercorso(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto titolo, TitoloArgomento(args, 0, kCartella ? u"Scegli la cartella" : u"Scegli il file"));
   const std::string base = lib.impostazioni().cartella_base.string();
-  VBS_TRY_ASSIGN(auto proposto, args.String(1, kCartella ? vbs::Utf8ToUtf16(base) : u""));
-  auto percorso = lib.ospite().ScegliPercorso(titolo, vbs::Utf16ToUtf8(proposto), kCartella);
-  return Variant::String(vbs::Utf8ToUtf16(percorso.value_or("")));
+  VBS_TRY_ASSIGN(auto proposto, args.String(1, kCartella ? text::Utf8ToUtf16(base) : u""));
+  auto percorso = lib.ospite().ScegliPercorso(titolo, text::Utf16ToUtf8(proposto), kCartella);
+  return Variant::String(text::Utf8ToUtf16(percorso.value_or("")));
 }
 
 // The range the variables hold when it lies in the archive, else the whole archive.

@@ -131,7 +131,7 @@ Result<Variant> setFromScript(Libreria&, CallArgs&) { return Variant(); }
 
 Result<Variant> SetNomeFileHtmlOut(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto nome, args.String(0));
-  lib.SetNomeFileHtmlOut(vbs::Utf16ToUtf8(nome));
+  lib.SetNomeFileHtmlOut(text::Utf16ToUtf8(nome));
   return Variant();
 }
 

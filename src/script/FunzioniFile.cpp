@@ -64,7 +64,7 @@ Result<Variant> NonRiuscito(Libreria& lib, std::string_view funzione, std::strin
 // Argument i as a path: backslashes become '/', a relative name starts from the base folder.
 Result<fs::path> PercorsoArgomento(const Libreria& lib, const CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto nome, args.String(i));
-  std::string testo = vbs::Utf16ToUtf8(nome);
+  std::string testo = text::Utf16ToUtf8(nome);
   if (testo.empty()) return ArgomentoNonValido("Nome del file o della cartella mancante");
   std::replace(testo.begin(), testo.end(), '\\', '/');
   fs::path percorso(testo);
@@ -138,7 +138,7 @@ Result<Variant> ScriviFile(Libreria& lib, CallArgs& args) {
     if (!out) return NonRiuscito(lib, "ScriviFile", fmt::format("Impossibile aprire in scrittura il file {}", file.string()));
     it = aperti.emplace(file, std::move(out)).first;
   }
-  it->second << vbs::Utf16ToUtf8(testo) << '\n';
+  it->second << text::Utf16ToUtf8(testo) << '\n';
   if (!it->second) {
     aperti.erase(it);
     return NonRiuscito(lib, "ScriviFile", MotivoChiusura(file));
@@ -183,7 +183,7 @@ Result<Variant> LeggiRigheFileDiTesto(Libreria& lib, CallArgs& args) {
     return NonRiuscito(lib, "LeggiRigheFileDiTesto", fmt::format("Il file {} non esiste", file.string()), Variant::Long(0));
   auto contenuto = LeggiFileRegolare(file, kLimiteFileTesto);
   if (!contenuto) return NonRiuscito(lib, "LeggiRigheFileDiTesto", contenuto.Errore().testo, Variant::Long(0));
-  std::vector<Variant> righe = Righe(vbs::DecodeScriptFile(*contenuto));
+  std::vector<Variant> righe = Righe(text::DecodeScriptFile(*contenuto));
   const auto quante = static_cast<int32_t>(righe.size());
   args.Out(1) = ArrayDaUno(std::move(righe));
   return Variant::Long(quante);
@@ -280,7 +280,7 @@ Result<Variant> ElencoFileInDirectory(Libreria& lib, CallArgs& args) {
   for (fs::directory_iterator it(cartella, ec), fine; !ec && it != fine; it.increment(ec)) {
     std::error_code tipo;
     if (!it->is_regular_file(tipo)) continue;
-    std::u16string nome = vbs::Utf8ToUtf16(it->path().filename().string());
+    std::u16string nome = text::Utf8ToUtf16(it->path().filename().string());
     if (CorrispondeAlFiltro(nome, filtro)) nomi.push_back(std::move(nome));
   }
   if (ec)
@@ -296,11 +296,11 @@ Result<Variant> ElencoFileInDirectory(Libreria& lib, CallArgs& args) {
 
 Result<Variant> GetDirectoryTemp(Libreria&, CallArgs&) {
   std::error_code ec;
-  return Variant::String(vbs::Utf8ToUtf16(ConSeparatore(fs::temp_directory_path(ec).string())));
+  return Variant::String(text::Utf8ToUtf16(ConSeparatore(fs::temp_directory_path(ec).string())));
 }
 
 Result<Variant> GetDirectoryAppData(Libreria& lib, CallArgs&) {
-  return Variant::String(vbs::Utf8ToUtf16(ConSeparatore(lib.impostazioni().cartella_dati_app.string())));
+  return Variant::String(text::Utf8ToUtf16(ConSeparatore(lib.impostazioni().cartella_dati_app.string())));
 }
 
 bool DesktopDisponibile() { return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY"); }
@@ -376,7 +376,7 @@ Result<Variant> LeggiEstrazioneDaFile(Libreria& lib, CallArgs& args) {
   const Estrazione& estrazione = (*estrazioni)[static_cast<size_t>(indice) - 1];
   VBS_TRY_ASSIGN(auto numeri, ArrayEstrazione(estrazione));
   args.Out(2) = std::move(numeri);
-  if (args.Has(3)) args.Out(3) = Variant::String(vbs::Utf8ToUtf16(FormattaData(estrazione.data)));
+  if (args.Has(3)) args.Out(3) = Variant::String(text::Utf8ToUtf16(FormattaData(estrazione.data)));
   return Variant::Boolean(true);
 }
 

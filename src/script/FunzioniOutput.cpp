@@ -18,7 +18,7 @@ struct StatoOutput {
 // argument is empty.
 Result<std::string> Testo(const CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto testo, args.String(i, u""));
-  return vbs::Utf16ToUtf8(testo);
+  return text::Utf16ToUtf8(testo);
 }
 
 Result<Variant> ScriviTesto(Libreria& lib, CallArgs& args, size_t i_testo, size_t i_grassetto, size_t i_a_capo,

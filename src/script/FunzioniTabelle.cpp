@@ -43,7 +43,7 @@ Result<TabellaOutput*> TabellaIniziata(Libreria& lib) {
 
 Result<std::string> TestoCella(const Variant& valore, const vbs::Locale& locale) {
   VBS_TRY_ASSIGN(auto testo, valore.to_string(locale));
-  return vbs::Utf16ToUtf8(testo.view());
+  return text::Utf16ToUtf8(testo.view());
 }
 
 // Argument i as the texts of a row: one value, or the elements of a one-dimensional array. Scripts
@@ -70,7 +70,7 @@ Result<std::vector<Cella>> CelleArgomento(const CallArgs& args, size_t i) {
 // An HTML width: pixels ("600", 600) or a percentage ("80%"); 0 lets the page choose.
 Result<std::string> LarghezzaArgomento(const CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto testo, args.String(i));
-  std::string larghezza = vbs::Utf16ToUtf8(testo);
+  std::string larghezza = text::Utf16ToUtf8(testo);
   std::string_view cifre = larghezza;
   if (cifre.ends_with('%')) cifre.remove_suffix(1);
   const bool valida = !cifre.empty() && std::all_of(cifre.begin(), cifre.end(), [](char c) {
@@ -175,7 +175,7 @@ Result<Variant> CreaTabella(Libreria& lib, CallArgs&) {
 template <size_t N>
 Result<Variant> GetTabella(Libreria& lib, CallArgs&) {
   VBS_TRY_ASSIGN(auto tabella, TabellaIniziata<N>(lib));
-  return Variant::String(vbs::Utf8ToUtf16((tabella)->Html(false)));
+  return Variant::String(text::Utf8ToUtf16((tabella)->Html(false)));
 }
 
 // The pyramid of a draw's numbers on one wheel: the five numbers as drawn, then each row the sums,

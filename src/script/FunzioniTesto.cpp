@@ -20,11 +20,11 @@ namespace {
 
 using namespace famiglia;
 
-Variant Stringa(std::string_view testo) { return Variant::String(vbs::Utf8ToUtf16(testo)); }
+Variant Stringa(std::string_view testo) { return Variant::String(text::Utf8ToUtf16(testo)); }
 
 Result<std::string> TestoArgomento(const CallArgs& args, size_t i, std::u16string_view se_omesso) {
   VBS_TRY_ASSIGN(auto testo, args.String(i, se_omesso));
-  return vbs::Utf16ToUtf8(testo);
+  return text::Utf16ToUtf8(testo);
 }
 
 Result<const Estrazione*> EstrazioneArgomento(const Libreria& lib, const CallArgs& args, size_t i) {
@@ -148,7 +148,7 @@ Result<Variant> ScriviMatrice(Libreria& lib, CallArgs& args) {
     testi.emplace_back();
     for (const Variant* elemento : riga) {
       VBS_TRY_ASSIGN(auto testo, elemento->to_string(args.locale()));
-      testi.back().push_back(vbs::Utf16ToUtf8(testo.view()));
+      testi.back().push_back(text::Utf16ToUtf8(testo.view()));
     }
   }
   const std::vector<size_t> larghezze = LarghezzeColonne(testi);
@@ -299,7 +299,7 @@ Result<Variant> FormattaStringa(Libreria&, CallArgs& args) {
   VBS_TRY_ASSIGN(auto valore, args.Double(0));
   VBS_TRY_ASSIGN(auto testo_formato, TestoArgomento(args, 1, u""));
   VBS_TRY_ASSIGN(auto formato, LeggiFormato(testo_formato));
-  const std::string separatore = vbs::Utf16ToUtf8(std::u16string(1, args.locale().decimal_separator));
+  const std::string separatore = text::Utf16ToUtf8(std::u16string(1, args.locale().decimal_separator));
   return Stringa(Formatta(valore, formato, separatore));
 }
 

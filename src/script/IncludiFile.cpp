@@ -30,7 +30,7 @@ bool IniziaCon(std::u16string_view testo, std::u16string_view prefisso) {
 
 // Windows paths in scripts use backslashes.
 fs::path PercorsoLocale(std::u16string_view testo) {
-  std::string percorso = vbs::Utf16ToUtf8(testo);
+  std::string percorso = text::Utf16ToUtf8(testo);
   std::replace(percorso.begin(), percorso.end(), '\\', '/');
   return fs::path(percorso);
 }
@@ -47,7 +47,7 @@ void TogliOgni(std::u16string& testo, std::u16string_view parola) {
 // The file's text; a missing file keeps the message users know, anything else says what is wrong.
 Esito<std::string> LeggiInclusione(const fs::path& percorso, const vbs::FileAccessPolicy* accesso) {
   if (auto permesso = vbs::CheckAccess(accesso, vbs::FileAccess::Read, percorso, "includi"); !permesso)
-    return AvvisoEsclamativo(vbs::Utf16ToUtf8(permesso.error().description));
+    return AvvisoEsclamativo(text::Utf16ToUtf8(permesso.error().description));
   std::error_code ec;
   if (!fs::exists(percorso, ec))
     return AvvisoEsclamativo(fmt::format("File di inclusione \n{}\npercorso errato", percorso.string()));
@@ -87,7 +87,7 @@ Esito<CodiceEspanso> GestioneIncludiFile(std::u16string_view testo, const Cartel
     if (auto percorso = FileDiInclusione(riga, cartelle)) {
       auto contenuto = LeggiInclusione(*percorso, accesso);
       if (!contenuto) return contenuto.Errore();
-      std::u16string codice = vbs::DecodeScriptFile(*contenuto);
+      std::u16string codice = text::DecodeScriptFile(*contenuto);
       TogliOgni(codice, u"Option Explicit");
       TogliOgni(codice, u"Option Compare Text");
       espanso.inclusi.push_back({*percorso, std::move(codice)});

@@ -192,11 +192,11 @@ vbs::Result<Allineamento> AllineamentoArgomento(const vbs::CallArgs& args, size_
                                               {"center", Allineamento::Centro},
                                               {"destra", Allineamento::Destra},
                                               {"right", Allineamento::Destra}}};
-  const std::string nome = text::LowerAscii(vbs::Utf16ToUtf8(testo));
+  const std::string nome = text::LowerAscii(text::Utf16ToUtf8(testo));
   for (const Nome& noto : kNomi)
     if (noto.nome == nome) return noto.allineamento;
   return ArgomentoNonValido(
-      fmt::format("Allineamento non valido: \"{}\" (sinistra, centro o destra)", vbs::Utf16ToUtf8(testo)));
+      fmt::format("Allineamento non valido: \"{}\" (sinistra, centro o destra)", text::Utf16ToUtf8(testo)));
 }
 
 }  // namespace lottolab::script

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdint>
 
-namespace vbs {
+namespace text {
 namespace {
 
 // Windows-1252 differs from Latin-1 only in 0x80-0x9F; the five unassigned bytes map to the C1
@@ -222,4 +222,4 @@ char16_t LowerCase(char16_t c) {
   return FoldCase(c);
 }
 
-}  // namespace vbs
+}  // namespace text

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace vbs {
+namespace text {
 
 enum class TextEncoding {
   Utf8Bom,      // EF BB BF
@@ -42,4 +42,4 @@ bool EqualsIgnoringCase(std::u16string_view a, std::u16string_view b);
 char16_t UpperCase(char16_t c);
 char16_t LowerCase(char16_t c);
 
-}  // namespace vbs
+}  // namespace text

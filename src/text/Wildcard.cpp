@@ -9,7 +9,7 @@ namespace text {
 bool MatchesWildcard(std::u16string_view pattern, std::u16string_view name) {
   size_t p = 0, n = 0, star = std::u16string_view::npos, resume = 0;
   while (n < name.size()) {
-    if (p < pattern.size() && (pattern[p] == u'?' || vbs::FoldCase(pattern[p]) == vbs::FoldCase(name[n]))) {
+    if (p < pattern.size() && (pattern[p] == u'?' || text::FoldCase(pattern[p]) == text::FoldCase(name[n]))) {
       ++p;
       ++n;
     } else if (p < pattern.size() && pattern[p] == u'*') {

@@ -1,5 +1,6 @@
 #include "HostObject.h"
 
+#include "text/Utf.h"
 #include "vbscript/runtime/Interpreter.h"
 
 namespace vbs {
@@ -10,7 +11,7 @@ namespace {
 ScriptError AtArgument(ScriptError error, size_t i, Language language) {
   if (error.description.empty()) error.description = std::u16string(ErrorText(error.number, language));
   std::string where = language == Language::Italian ? " (argomento " : " (argument ";
-  error.description += Utf8ToUtf16(where + std::to_string(i + 1) + ")");
+  error.description += text::Utf8ToUtf16(where + std::to_string(i + 1) + ")");
   return error;
 }
 

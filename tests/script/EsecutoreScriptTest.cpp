@@ -62,7 +62,7 @@ class EsecuzioneScript : public ::testing::Test {
     m_opzioni.libreria.cartella_dati_app = m_base / "dati";
     m_opzioni.nome_file_html = "pagina.htm";
   }
-  EsitoEsecuzione Esegui(std::string_view codice) { return m_esecutore.Esegui(vbs::Utf8ToUtf16(codice), m_opzioni); }
+  EsitoEsecuzione Esegui(std::string_view codice) { return m_esecutore.Esegui(text::Utf8ToUtf16(codice), m_opzioni); }
 
   CartellaTemporanea m_base;
   OspiteDiProva m_ospite;

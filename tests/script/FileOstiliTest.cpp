@@ -37,7 +37,7 @@ class FileOstili : public ::testing::Test {
   }
 
   EsitoEsecuzione Esegui(const std::string& codice) {
-    return m_esecutore.Esegui(vbs::Utf8ToUtf16(codice), m_opzioni);
+    return m_esecutore.Esegui(text::Utf8ToUtf16(codice), m_opzioni);
   }
 
   CartellaTemporanea m_base;

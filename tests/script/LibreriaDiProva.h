@@ -53,18 +53,18 @@ class Libreria : public ::testing::Test {
 
   // The value as the script prints it; "errore n" when evaluating it failed in the engine itself.
   std::string Testo(std::string_view espressione) {
-    auto valore = m_engine.Eval(vbs::Utf8ToUtf16(espressione));
+    auto valore = m_engine.Eval(text::Utf8ToUtf16(espressione));
     if (!valore) return "errore " + std::to_string(m_engine.Error().number);
     auto testo = valore->to_string(m_engine.interpreter().locale());
-    return testo ? vbs::Utf16ToUtf8(testo->view()) : "non stampabile";
+    return testo ? text::Utf16ToUtf8(testo->view()) : "non stampabile";
   }
 
   bool Vuoto(std::string_view espressione) {
-    auto valore = m_engine.Eval(vbs::Utf8ToUtf16(espressione));
+    auto valore = m_engine.Eval(text::Utf8ToUtf16(espressione));
     return valore && valore->is_empty();
   }
 
-  void Esegui(std::string_view codice) { ASSERT_TRUE(m_engine.AddCode(vbs::Utf8ToUtf16(codice), "prova")); }
+  void Esegui(std::string_view codice) { ASSERT_TRUE(m_engine.AddCode(text::Utf8ToUtf16(codice), "prova")); }
 
   // The one message shown since the last call, which is forgotten.
   Avviso UnicoAvviso() {

@@ -49,7 +49,7 @@ class ModalitaProtetta : public ::testing::Test {
   EsitoEsecuzione Esegui(std::string_view corpo) {
     const std::string codice = "Const BASE = \"" + m_base.Percorso().string() + "/\"\nConst FUORI = \"" +
                                m_fuori.Percorso().string() + "/\"\nSub Main\n" + std::string(corpo) + "\nEnd Sub\n";
-    return m_esecutore.Esegui(vbs::Utf8ToUtf16(codice), m_opzioni);
+    return m_esecutore.Esegui(text::Utf8ToUtf16(codice), m_opzioni);
   }
 
   // The run ended with error 70 naming the function and the path (`percorso` relative to the
@@ -140,7 +140,7 @@ TEST_F(ModalitaProtetta, EveryWayToWriteDeleteOrLaunchOutsideTheOutputFolderIsAS
 TEST_F(ModalitaProtetta, InsideItsFoldersAProtectedScriptWorksAsUsual) {
   const std::string codice = "includi Lib.ls\n";
   const auto con_inclusione = m_esecutore.Esegui(
-      vbs::Utf8ToUtf16(codice + "Const BASE = \"" + m_base.Percorso().string() +
+      text::Utf8ToUtf16(codice + "Const BASE = \"" + m_base.Percorso().string() +
                        "/\"\nSub Main\nDim fso: Set fso = CreateObject(\"Scripting.FileSystemObject\")\n"
                        "ScriviFile BASE & \"scriptOutput/a.txt\", \"uno\", False, True\n"
                        "CreaDirectory BASE & \"scriptOutput/sotto\"\n"
@@ -205,7 +205,7 @@ TEST_F(ModalitaProtetta, LinksAndDotDotAreJudgedByWhereTheyLead) {
 TEST_F(ModalitaProtetta, IncludesFromOutsideTheBaseFolderAreRefused) {
   Scrivi(m_fuori / "Esterna.ls", "Function Due\nDue = 2\nEnd Function\n");
   const auto esito =
-      m_esecutore.Esegui(vbs::Utf8ToUtf16("includi " + (m_fuori / "Esterna.ls").string() + "\nSub Main\nEnd Sub\n"),
+      m_esecutore.Esegui(text::Utf8ToUtf16("includi " + (m_fuori / "Esterna.ls").string() + "\nSub Main\nEnd Sub\n"),
                          m_opzioni);
   EXPECT_EQ(esito.stato, EsitoEsecuzione::Stato::InclusioneNonRiuscita);
   ASSERT_FALSE(m_ospite.avvisi.empty());

@@ -29,7 +29,7 @@ TEST(WildcardTest, StarsQuestionMarksAndCase) {
   };
   for (const auto& c : cases) {
     EXPECT_EQ(MatchesWildcard(c.pattern, c.name), c.matches)
-        << vbs::Utf16ToUtf8(c.pattern) << " " << vbs::Utf16ToUtf8(c.name);
+        << text::Utf16ToUtf8(c.pattern) << " " << text::Utf16ToUtf8(c.name);
   }
 }
 

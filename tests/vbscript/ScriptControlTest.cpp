@@ -76,12 +76,12 @@ class Grezzo final : public Object {
 class Motore : public ::testing::Test {
  protected:
   void SetUp() override { ASSERT_TRUE(engine.SetLanguage("vbscript")); }
-  Status Add(std::string_view code) { return engine.AddCode(Utf8ToUtf16(code), "prova"); }
+  Status Add(std::string_view code) { return engine.AddCode(text::Utf8ToUtf16(code), "prova"); }
   std::string EvalText(std::string_view expression) {
-    auto value = engine.Eval(Utf8ToUtf16(expression));
+    auto value = engine.Eval(text::Utf8ToUtf16(expression));
     if (!value) return "error " + std::to_string(engine.Error().number);
     auto text = value->to_string(engine.interpreter().locale());
-    return text ? Utf16ToUtf8(text->view()) : "unprintable";
+    return text ? text::Utf16ToUtf8(text->view()) : "unprintable";
   }
   ScriptControl engine;
 };
@@ -115,7 +115,7 @@ TEST_F(Motore, LErroreDiceNumeroRigaEColonna) {
   EXPECT_EQ(engine.Error().number, 11);
   EXPECT_EQ(engine.Error().line, 3u);
   EXPECT_EQ(engine.Error().column, 3u);
-  EXPECT_EQ(Utf16ToUtf8(engine.Error().description), "Divisione per zero");
+  EXPECT_EQ(text::Utf16ToUtf8(engine.Error().description), "Divisione per zero");
   EXPECT_EQ(engine.Error().source_name, "prova");
 
   EXPECT_FALSE(Add("x = (1 +\n"));
@@ -124,7 +124,7 @@ TEST_F(Motore, LErroreDiceNumeroRigaEColonna) {
 
   ASSERT_TRUE(engine.SetLocale(1033));
   EXPECT_FALSE(Add("Sub S\nEnd Sub\nS 1\n"));
-  EXPECT_EQ(Utf16ToUtf8(engine.Error().description), "Wrong number of arguments or invalid property assignment");
+  EXPECT_EQ(text::Utf16ToUtf8(engine.Error().description), "Wrong number of arguments or invalid property assignment");
 }
 
 TEST_F(Motore, SenzaLinguaggioNienteGira) {

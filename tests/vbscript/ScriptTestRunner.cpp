@@ -46,7 +46,7 @@ class Output final : public vbs::HostObject<Output> {
       }
       auto text = args[i].to_string(args.locale());
       if (!text) return std::move(text).error();
-      line += vbs::Utf16ToUtf8(text->view());
+      line += text::Utf16ToUtf8(text->view());
     }
     lines.push_back(line);
     return vbs::Variant();
@@ -94,7 +94,7 @@ std::vector<std::string> Check(const fs::path& file) {
   (void)engine.SetLocale(expected.lcid);
   auto output = vbs::MakeRef<Output>(engine.interpreter().locale());
   (void)engine.AddObject("WScript", output, false);
-  auto result = engine.AddCode(vbs::DecodeScriptFile(content.str()), file.filename().string());
+  auto result = engine.AddCode(text::DecodeScriptFile(content.str()), file.filename().string());
 
   std::vector<std::string> failures;
   const auto& got = output->lines;
@@ -106,7 +106,7 @@ std::vector<std::string> Check(const fs::path& file) {
   const vbs::ScriptErrorInfo& error = engine.Error();
   if (expected.error_number == 0 && !result) {
     failures.push_back("unexpected error " + std::to_string(error.number) + " at line " + std::to_string(error.line) +
-                       ": " + vbs::Utf16ToUtf8(error.description));
+                       ": " + text::Utf16ToUtf8(error.description));
   } else if (expected.error_number != 0 &&
              (result || error.number != expected.error_number || error.line != expected.error_line)) {
     failures.push_back("expected runtime error " + std::to_string(expected.error_number) + " at line " +

@@ -198,7 +198,7 @@ bool F_Script::CaricaFile(const QString& file) {
     return false;
   }
   const std::string& byte = *letto;
-  const std::u16string testo = vbs::DecodeScriptFile(byte);
+  const std::u16string testo = text::DecodeScriptFile(byte);
   const script::Modalita modalita =
       ModalitaDelFile(file, QByteArray::fromRawData(byte.data(), static_cast<qsizetype>(byte.size())));
   m_editor->ImpostaTesto(QString::fromStdU16String(testo));

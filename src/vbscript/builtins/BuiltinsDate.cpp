@@ -253,7 +253,7 @@ Result<Interval> IntervalArg(Frame& frame, const Variant& value) {
       {u"n", Interval::Minute},  {u"s", Interval::Second},
   };
   for (const auto& [name, interval] : kNames)
-    if (EqualsIgnoringCase(text.view(), name)) return interval;
+    if (text::EqualsIgnoringCase(text.view(), name)) return interval;
   return MakeError(err::kInvalidCall);
 }
 

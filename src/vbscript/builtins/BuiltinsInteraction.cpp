@@ -73,9 +73,9 @@ Result<const Locale*> LocaleNamed(Frame& frame, const Variant& value) {
   if (plain.is_string() && !ParseNumber(plain.as_string_view(), frame.interp.locale())) {
     const std::u16string_view name = plain.as_string_view();
     for (std::u16string_view tag : {u"it-it", u"it"})
-      if (EqualsIgnoringCase(name, tag)) return &ItalianLocale();
+      if (text::EqualsIgnoringCase(name, tag)) return &ItalianLocale();
     for (std::u16string_view tag : {u"en-us", u"en"})
-      if (EqualsIgnoringCase(name, tag)) return &EnglishLocale();
+      if (text::EqualsIgnoringCase(name, tag)) return &EnglishLocale();
     return MakeError(err::kInvalidCall);
   }
   VBS_TRY_ASSIGN(auto lcid, plain.to_long(frame.interp.locale()));

@@ -42,7 +42,7 @@ Variant Text(std::u16string_view text) { return Variant::String(text); }
 
 std::u16string Folded(std::u16string_view text) {
   std::u16string out(text);
-  for (char16_t& c : out) c = FoldCase(c);
+  for (char16_t& c : out) c = text::FoldCase(c);
   return out;
 }
 
@@ -78,7 +78,7 @@ int Compare(std::u16string_view a, std::u16string_view b, CompareMode mode) {
 // The Windows-1252 character of a byte, as Chr gives it.
 char16_t AnsiCharacter(int32_t code) {
   const char byte = static_cast<char>(code);
-  return Windows1252ToUtf16(std::string_view(&byte, 1))[0];
+  return text::Windows1252ToUtf16(std::string_view(&byte, 1))[0];
 }
 
 // A string's UTF-16LE bytes, for the B functions.
@@ -174,7 +174,7 @@ Result<char16_t> FirstUnit(Frame& frame, const Variant& value) {
 
 Result<Variant> AscFunction(Frame& frame, Args args) {
   VBS_TRY_ASSIGN(auto c, FirstUnit(frame, args[0]));
-  const std::string ansi = Utf16ToWindows1252(std::u16string_view(&c, 1));
+  const std::string ansi = text::Utf16ToWindows1252(std::u16string_view(&c, 1));
   return Variant::Integer(static_cast<unsigned char>(ansi[0]));
 }
 
@@ -288,7 +288,7 @@ Result<Variant> InStrBFunction(Frame& frame, Args args) {
   std::string needle = Bytes(search.needle->view());
   if (search.mode == CompareMode::Text) {
     for (std::string* bytes : {&text, &needle})
-      for (char& b : *bytes) b = static_cast<char>(FoldCase(static_cast<unsigned char>(b)));
+      for (char& b : *bytes) b = static_cast<char>(text::FoldCase(static_cast<unsigned char>(b)));
   }
   const auto from = static_cast<size_t>(search.start) - 1;
   if (from >= text.size()) return Variant::Long(0);
@@ -543,7 +543,7 @@ std::optional<char16_t> HexAt(std::u16string_view text, size_t at, size_t digits
   if (at + digits > text.size()) return std::nullopt;
   unsigned value = 0;
   for (char16_t c : text.substr(at, digits)) {
-    const char16_t folded = FoldCase(c);
+    const char16_t folded = text::FoldCase(c);
     if (c >= u'0' && c <= u'9') {
       value = value * 16 + (c - u'0');
     } else if (folded >= u'a' && folded <= u'f') {
@@ -598,8 +598,8 @@ const Builtin kString[] = {
     {"InStrB", 2, 4, &InStrBFunction, "InStrB([start,] string, find [, compare]): byte position of the first match"},
     {"InStrRev", 2, 4, &InStrRevFunction, "InStrRev(string, find [, start [, compare]]): position of the last match"},
     {"StrComp", 2, 3, &StrCompFunction, "StrComp(a, b [, compare]): -1, 0 or 1"},
-    {"LCase", 1, 1, &MapCase<&LowerCase>, "LCase(string): in lower case"},
-    {"UCase", 1, 1, &MapCase<&UpperCase>, "UCase(string): in upper case"},
+    {"LCase", 1, 1, &MapCase<&text::LowerCase>, "LCase(string): in lower case"},
+    {"UCase", 1, 1, &MapCase<&text::UpperCase>, "UCase(string): in upper case"},
     {"LTrim", 1, 1, &TrimFunction<TrimSide::Left>, "LTrim(string): without leading spaces"},
     {"RTrim", 1, 1, &TrimFunction<TrimSide::Right>, "RTrim(string): without trailing spaces"},
     {"Trim", 1, 1, &TrimFunction<TrimSide::Both>, "Trim(string): without leading and trailing spaces"},

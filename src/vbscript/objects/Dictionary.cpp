@@ -57,7 +57,7 @@ uint64_t Mix(uint64_t x) {
 uint64_t HashText(std::u16string_view text, CompareMode mode) {
   uint64_t h = 0xCBF29CE484222325ull;
   for (char16_t c : text) {
-    h ^= mode == CompareMode::Text ? FoldCase(c) : c;
+    h ^= mode == CompareMode::Text ? text::FoldCase(c) : c;
     h *= 0x100000001B3ull;
   }
   return Mix(h);
@@ -130,7 +130,7 @@ bool Dictionary::SameKey(const Variant& a, const Variant& b) const {
   switch (kind) {
     case KeyKind::Number: return NumberOf(a) == NumberOf(b);
     case KeyKind::String:
-      return m_mode == CompareMode::Text ? EqualsIgnoringCase(a.as_string_view(), b.as_string_view())
+      return m_mode == CompareMode::Text ? text::EqualsIgnoringCase(a.as_string_view(), b.as_string_view())
                                          : a.as_string_view() == b.as_string_view();
     case KeyKind::Object: return a.as_object() == b.as_object();
     default: return true;

@@ -23,7 +23,7 @@ bool IsSeparator(char16_t c) { return c == u'\\' || c == u'/'; }
 bool IsLetter(char16_t c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); }
 bool HasDrive(std::u16string_view path) { return path.size() >= 2 && IsLetter(path[0]) && path[1] == u':'; }
 
-std::u16string NameOf(const fs::path& path) { return Utf8ToUtf16(path.filename().string()); }
+std::u16string NameOf(const fs::path& path) { return text::Utf8ToUtf16(path.filename().string()); }
 
 // ---- Names as text ----
 
@@ -140,7 +140,7 @@ fs::path NativePath(std::u16string_view script_path) {
     text.erase(0, 2);
     if (text.empty() || text[0] != u'/') text.insert(0, 1, u'/');
   }
-  const fs::path path(Utf16ToUtf8(text));
+  const fs::path path(text::Utf16ToUtf8(text));
   std::error_code ec;
   if (path.empty() || fs::exists(fs::symlink_status(path, ec))) return path;
   // Folder by folder, a name missing as written is looked for in any case.
@@ -149,11 +149,11 @@ fs::path NativePath(std::u16string_view script_path) {
   for (const fs::path& part : path.relative_path()) {
     fs::path next = resolved / part;
     if (!lost && !part.empty() && part != "." && part != ".." && !fs::exists(fs::symlink_status(next, ec))) {
-      const std::u16string wanted = Utf8ToUtf16(part.string());
+      const std::u16string wanted = text::Utf8ToUtf16(part.string());
       lost = true;
       if (auto entries = ListFolder(resolved.empty() ? fs::path(".") : resolved)) {
         auto found = std::find_if(entries->begin(), entries->end(),
-                                  [&](const FolderEntry& entry) { return EqualsIgnoringCase(NameOf(entry.path), wanted); });
+                                  [&](const FolderEntry& entry) { return text::EqualsIgnoringCase(NameOf(entry.path), wanted); });
         if (found != entries->end()) {
           next = resolved / found->path.filename();
           lost = false;
@@ -165,7 +165,7 @@ fs::path NativePath(std::u16string_view script_path) {
   return resolved;
 }
 
-std::u16string ScriptPath(const fs::path& path) { return Utf8ToUtf16(path.string()); }
+std::u16string ScriptPath(const fs::path& path) { return text::Utf8ToUtf16(path.string()); }
 
 fs::path FullPath(const fs::path& path) {
   std::error_code ec;

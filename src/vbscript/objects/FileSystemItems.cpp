@@ -28,7 +28,7 @@ constexpr int32_t kAttributeHidden = 2;
 constexpr int32_t kAttributeDirectory = 16;
 constexpr int32_t kAttributeArchive = 32;
 
-std::u16string NameOf(const fs::path& path) { return Utf8ToUtf16(path.filename().string()); }
+std::u16string NameOf(const fs::path& path) { return text::Utf8ToUtf16(path.filename().string()); }
 
 enum class Stamp { Created, Accessed, Modified };
 
@@ -67,7 +67,7 @@ Result<fs::path> Rename(const fs::path& path, const Variant& value, const Locale
   VBS_TRY_ASSIGN(auto name, value.to_string(locale));
   const std::u16string_view text = name.view();
   if (text.empty() || text.find_first_of(u"\\/") != std::u16string_view::npos) return MakeError(kBadFileName);
-  const fs::path target = path.parent_path() / fs::path(Utf16ToUtf8(text));
+  const fs::path target = path.parent_path() / fs::path(text::Utf16ToUtf8(text));
   VBS_TRY(CheckAccess(policy, FileAccess::Delete, path, "Name"));
   VBS_TRY(CheckAccess(policy, FileAccess::Write, target, "Name"));
   VBS_TRY(MoveEntry(path, target));
@@ -172,7 +172,7 @@ Result<Variant> FileObject::Size(CallArgs&) {
 }
 
 Result<Variant> FileObject::Type(CallArgs&) {
-  std::u16string extension = Utf8ToUtf16(m_path.extension().string());
+  std::u16string extension = text::Utf8ToUtf16(m_path.extension().string());
   if (extension.empty()) return Variant::String(u"File");
   extension.erase(0, 1);
   for (char16_t& c : extension) c = text::UpperAscii(c);
@@ -354,7 +354,7 @@ Result<std::vector<Variant>> FolderListing::Entries() {
   for (const FolderEntry& entry : entries) {
     if (entry.is_folder != (m_kind == Kind::Folders)) continue;
     std::u16string key = NameOf(entry.path);
-    for (char16_t& c : key) c = FoldCase(c);
+    for (char16_t& c : key) c = text::FoldCase(c);
     found.emplace_back(std::move(key), entry.path);
   }
   std::sort(found.begin(), found.end());
@@ -383,7 +383,7 @@ Result<Variant> FolderListing::Item(CallArgs& args) {
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, m_folder, "Item"));
   VBS_TRY_ASSIGN(auto entries, ListFolder(m_folder));
   for (const FolderEntry& entry : entries) {
-    if (entry.is_folder != (m_kind == Kind::Folders) || !EqualsIgnoringCase(NameOf(entry.path), name)) continue;
+    if (entry.is_folder != (m_kind == Kind::Folders) || !text::EqualsIgnoringCase(NameOf(entry.path), name)) continue;
     if (m_kind == Kind::Files) return Variant::Object(MakeRef<FileObject>(locale(), entry.path, m_policy));
     return FolderValue(locale(), entry.path, m_policy);
   }
@@ -394,7 +394,7 @@ Result<Variant> FolderListing::Add(CallArgs& args) {
   if (m_kind == Kind::Files) return MakeError(err::kNoMember);
   VBS_TRY_ASSIGN(auto name, args.String(0));
   if (name.empty() || name.find_first_of(u"\\/") != std::u16string::npos) return MakeError(kBadFileName);
-  const fs::path folder = m_folder / fs::path(Utf16ToUtf8(name));
+  const fs::path folder = m_folder / fs::path(text::Utf16ToUtf8(name));
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, folder, "Add"));
   std::error_code ec;
   if (fs::exists(fs::symlink_status(folder, ec))) return MakeError(kFileExists);

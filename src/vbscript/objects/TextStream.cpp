@@ -86,10 +86,10 @@ std::u16string Utf16LeToText(std::string_view bytes) {
 }
 
 std::u16string Decode(std::string_view bytes, TextFormat format) {
-  const TextEncoding found = DetectEncoding(bytes);
-  const bool has_mark = found == TextEncoding::Utf8Bom || found == TextEncoding::Utf16LeBom || found == TextEncoding::Utf16BeBom;
+  const text::TextEncoding found = text::DetectEncoding(bytes);
+  const bool has_mark = found == text::TextEncoding::Utf8Bom || found == text::TextEncoding::Utf16LeBom || found == text::TextEncoding::Utf16BeBom;
   if (format == TextFormat::Unicode && !has_mark) return Utf16LeToText(bytes);
-  return DecodeScriptFile(bytes);
+  return text::DecodeScriptFile(bytes);
 }
 
 bool HasNonAscii(std::string_view bytes) {
@@ -188,10 +188,10 @@ Result<Ref<TextStream>> TextStream::OpenForWriting(const Locale& locale, const f
         while (!bytes.empty() && (static_cast<unsigned char>(bytes.back()) & 0xC0) == 0x80) bytes.remove_suffix(1);
         if (!bytes.empty() && static_cast<unsigned char>(bytes.back()) >= 0xC0) bytes.remove_suffix(1);
       }
-      switch (DetectEncoding(bytes)) {
-        case TextEncoding::Utf16LeBom: encoding = Encoding::Utf16; break;
-        case TextEncoding::Utf8Bom: encoding = Encoding::Utf8; break;
-        case TextEncoding::Utf8: encoding = HasNonAscii(bytes) ? Encoding::Utf8 : Encoding::Ansi; break;
+      switch (text::DetectEncoding(bytes)) {
+        case text::TextEncoding::Utf16LeBom: encoding = Encoding::Utf16; break;
+        case text::TextEncoding::Utf8Bom: encoding = Encoding::Utf8; break;
+        case text::TextEncoding::Utf8: encoding = HasNonAscii(bytes) ? Encoding::Utf8 : Encoding::Ansi; break;
         default: encoding = Encoding::Ansi; break;
       }
     }
@@ -301,8 +301,8 @@ Status TextStream::Flush() {
   if (m_pending.empty()) return Ok();
   std::string bytes;
   switch (m_encoding) {
-    case Encoding::Ansi: bytes = Utf16ToWindows1252(m_pending); break;
-    case Encoding::Utf8: bytes = Utf16ToUtf8(m_pending); break;
+    case Encoding::Ansi: bytes = text::Utf16ToWindows1252(m_pending); break;
+    case Encoding::Utf8: bytes = text::Utf16ToUtf8(m_pending); break;
     case Encoding::Utf16:
       bytes.reserve(m_pending.size() * 2);
       for (char16_t c : m_pending) {

@@ -55,7 +55,7 @@ ClassInstance::ClassInstance(ClassInfo& info, std::shared_ptr<EngineLink> link)
   }
 }
 
-std::u16string ClassInstance::ClassName() const { return Utf8ToUtf16(m_info.name); }
+std::u16string ClassInstance::ClassName() const { return text::Utf8ToUtf16(m_info.name); }
 
 DispId ClassInstance::FindMember(std::string_view name) {
   auto it = m_info.member_ids.find(Interpreter::Fold(name));

@@ -44,7 +44,7 @@ Interpreter::~Interpreter() {
 
 std::string Interpreter::Fold(std::string_view name) { return text::LowerAscii(name); }
 
-std::string Interpreter::Fold(std::u16string_view name) { return Fold(Utf16ToUtf8(name)); }
+std::string Interpreter::Fold(std::u16string_view name) { return Fold(text::Utf16ToUtf8(name)); }
 
 const GlobalEntry* Interpreter::FindGlobal(std::string_view folded) const {
   auto it = m_globals.find(std::string(folded));

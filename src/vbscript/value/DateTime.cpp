@@ -75,7 +75,7 @@ std::optional<double> DayFromParts(const Number& year, int month, int day) {
 int MonthFromName(std::u16string_view word, const Locale& locale) {
   for (const Locale* l : {&locale, &EnglishLocale()}) {
     for (int m = 0; m < 12; ++m) {
-      if (EqualsIgnoringCase(word, l->month_names[m]) || EqualsIgnoringCase(word, l->month_abbreviations[m])) return m + 1;
+      if (text::EqualsIgnoringCase(word, l->month_names[m]) || text::EqualsIgnoringCase(word, l->month_abbreviations[m])) return m + 1;
     }
   }
   return 0;
@@ -84,7 +84,7 @@ int MonthFromName(std::u16string_view word, const Locale& locale) {
 bool IsDayName(std::u16string_view word, const Locale& locale) {
   for (const Locale* l : {&locale, &EnglishLocale()}) {
     for (int d = 0; d < 7; ++d) {
-      if (EqualsIgnoringCase(word, l->day_names[d]) || EqualsIgnoringCase(word, l->day_abbreviations[d])) return true;
+      if (text::EqualsIgnoringCase(word, l->day_names[d]) || text::EqualsIgnoringCase(word, l->day_abbreviations[d])) return true;
     }
   }
   return false;
@@ -94,11 +94,11 @@ enum class Meridiem { None, Am, Pm };
 
 Meridiem MeridiemFromWord(std::u16string_view word, const Locale& locale) {
   for (const Locale* l : {&locale, &EnglishLocale()}) {
-    if (!l->am.empty() && EqualsIgnoringCase(word, l->am)) return Meridiem::Am;
-    if (!l->pm.empty() && EqualsIgnoringCase(word, l->pm)) return Meridiem::Pm;
+    if (!l->am.empty() && text::EqualsIgnoringCase(word, l->am)) return Meridiem::Am;
+    if (!l->pm.empty() && text::EqualsIgnoringCase(word, l->pm)) return Meridiem::Pm;
   }
-  if (EqualsIgnoringCase(word, u"a")) return Meridiem::Am;
-  if (EqualsIgnoringCase(word, u"p")) return Meridiem::Pm;
+  if (text::EqualsIgnoringCase(word, u"a")) return Meridiem::Am;
+  if (text::EqualsIgnoringCase(word, u"p")) return Meridiem::Pm;
   return Meridiem::None;
 }
 

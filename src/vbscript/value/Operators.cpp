@@ -292,8 +292,8 @@ Result<Variant> Logical(Logic op, const Variant& left, const Variant& right, con
 int CompareStrings(std::u16string_view a, std::u16string_view b, CompareMode mode) {
   const size_t n = a.size() < b.size() ? a.size() : b.size();
   for (size_t i = 0; i < n; ++i) {
-    const char16_t x = mode == CompareMode::Text ? FoldCase(a[i]) : a[i];
-    const char16_t y = mode == CompareMode::Text ? FoldCase(b[i]) : b[i];
+    const char16_t x = mode == CompareMode::Text ? text::FoldCase(a[i]) : a[i];
+    const char16_t y = mode == CompareMode::Text ? text::FoldCase(b[i]) : b[i];
     if (x != y) return x < y ? -1 : 1;
   }
   return a.size() == b.size() ? 0 : (a.size() < b.size() ? -1 : 1);

@@ -152,7 +152,7 @@ class FinestraScriptTest : public QObject {
   void LeParoleVengonoDalleTabelleDelMotoreEDellaLibreria() {
     const ParoleEditor& parole = ParoleEditor::Tutte();
     for (const std::string& parola : parole.ParoleChiave()) {
-      const auto gettoni = vbs::Tokenize(vbs::Utf8ToUtf16(parola));
+      const auto gettoni = vbs::Tokenize(text::Utf8ToUtf16(parola));
       QVERIFY2(gettoni.front().kind != vbs::TokenKind::Identifier, parola.c_str());
     }
     QCOMPARE(parole.Suggerimento("len"), std::string("Len(string)"));

@@ -56,7 +56,7 @@ std::string Evaluate(ScriptControl& engine, std::u16string_view expression) {
   if (!value) return "error " + std::to_string(engine.Error().number);
   if (value->is_empty()) return "Empty";
   auto text = value->to_string(engine.interpreter().locale());
-  return text ? Utf16ToUtf8(text->view()) : "error " + std::to_string(text.error().number);
+  return text ? text::Utf16ToUtf8(text->view()) : "error " + std::to_string(text.error().number);
 }
 
 ScriptControl& English(ScriptControl& engine) {
@@ -81,12 +81,12 @@ TEST(RandomGeneratorTest, EachEngineHasItsOwnSequenceAndResetStartsItAgain) {
 class ScriptedUi final : public UiHandler {
  public:
   int MessageBox(std::u16string_view prompt, int buttons, std::u16string_view title) override {
-    asked.push_back(Utf16ToUtf8(prompt) + "|" + std::to_string(buttons) + "|" + Utf16ToUtf8(title));
+    asked.push_back(text::Utf16ToUtf8(prompt) + "|" + std::to_string(buttons) + "|" + text::Utf16ToUtf8(title));
     return button;
   }
   std::optional<std::u16string> InputBox(std::u16string_view prompt, std::u16string_view title,
                                          std::u16string_view default_text) override {
-    asked.push_back(Utf16ToUtf8(prompt) + "|" + Utf16ToUtf8(title) + "|" + Utf16ToUtf8(default_text));
+    asked.push_back(text::Utf16ToUtf8(prompt) + "|" + text::Utf16ToUtf8(title) + "|" + text::Utf16ToUtf8(default_text));
     return answer;
   }
 

@@ -29,7 +29,7 @@ std::string Printable(std::u16string_view text) {
     if (c < 0x20) {
       out += "\\x" + std::to_string(c);
     } else {
-      out += Utf16ToUtf8(std::u16string_view(&c, 1));
+      out += text::Utf16ToUtf8(std::u16string_view(&c, 1));
     }
   }
   return out;
@@ -120,7 +120,7 @@ TEST(RegExpProgramTest, MatchesAsJavaScriptDoes) {
       {u"\\uD83D", u"\U0001F600", "[\xED\xA0\xBD]"},
   };
   for (const MatchCase& c : cases)
-    EXPECT_EQ(FirstMatch(c.pattern, c.text, c.options), c.expected) << Utf16ToUtf8(c.pattern);
+    EXPECT_EQ(FirstMatch(c.pattern, c.text, c.options), c.expected) << text::Utf16ToUtf8(c.pattern);
 }
 
 TEST(RegExpProgramTest, MalformedPatternsGiveWindowsErrors) {
@@ -130,7 +130,7 @@ TEST(RegExpProgramTest, MalformedPatternsGiveWindowsErrors) {
       {u"a{3,1}", 5017}, {u"\\", 5017}, {u"[b-a]", 5021},
   };
   for (const auto& [pattern, number] : cases)
-    EXPECT_EQ(FirstMatch(pattern, u"a"), "error " + std::to_string(number)) << Utf16ToUtf8(pattern);
+    EXPECT_EQ(FirstMatch(pattern, u"a"), "error " + std::to_string(number)) << text::Utf16ToUtf8(pattern);
   EXPECT_EQ(FirstMatch(std::u16string(600, u'(') + std::u16string(600, u')'), u""), "error 28");
 }
 
@@ -236,18 +236,18 @@ class TextFileTest : public ::testing::Test {
     (void)m_engine.AddCode(u"Set fso = CreateObject(\"Scripting.FileSystemObject\")");
   }
 
-  std::u16string Path(const std::string& name) const { return Utf8ToUtf16((m_folder / name).string()); }
+  std::u16string Path(const std::string& name) const { return text::Utf8ToUtf16((m_folder / name).string()); }
 
   // What ReadAll gives for a file of these bytes, opened with the Format given.
   std::u16string ReadBack(const std::vector<unsigned char>& bytes, int format = 0) {
     ScriviByte(m_folder / "in.txt", bytes);
     auto text = m_engine.Eval(u"fso.OpenTextFile(\"" + Path("in.txt") + u"\", 1, False, " +
-                              Utf8ToUtf16(std::to_string(format)) + u").ReadAll");
-    return text ? std::u16string(text->as_string_view()) : u"error " + Utf8ToUtf16(std::to_string(text.error().number));
+                              text::Utf8ToUtf16(std::to_string(format)) + u").ReadAll");
+    return text ? std::u16string(text->as_string_view()) : u"error " + text::Utf8ToUtf16(std::to_string(text.error().number));
   }
 
   std::vector<unsigned char> Written(const std::u16string& statements) {
-    EXPECT_TRUE(m_engine.AddCode(statements)) << Utf16ToUtf8(m_engine.Error().description);
+    EXPECT_TRUE(m_engine.AddCode(statements)) << text::Utf16ToUtf8(m_engine.Error().description);
     return LeggiByte(m_folder / "out.txt");
   }
 

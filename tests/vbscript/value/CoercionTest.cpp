@@ -291,8 +291,8 @@ TEST(CoercionTest, NumbersSurviveTheRoundTripThroughText) {
       auto text = Variant::Double(value).to_string(*locale);
       ASSERT_TRUE(text);
       auto back = Variant::String(*text).to_double(*locale);
-      ASSERT_TRUE(back) << Utf16ToUtf8(text->view());
-      EXPECT_NEAR(*back, value, std::fabs(value) * 1e-14) << Utf16ToUtf8(text->view());
+      ASSERT_TRUE(back) << text::Utf16ToUtf8(text->view());
+      EXPECT_NEAR(*back, value, std::fabs(value) * 1e-14) << text::Utf16ToUtf8(text->view());
     }
   }
 }

@@ -18,7 +18,7 @@ namespace vbs::testing {
 
 inline std::string Describe(const Variant& value) {
   const Variant& v = value.Deref();
-  const std::string type = Utf16ToUtf8(v.TypeName());
+  const std::string type = text::Utf16ToUtf8(v.TypeName());
   const Locale& en = EnglishLocale();
   char buffer[64];
   switch (v.subtype()) {
@@ -34,9 +34,9 @@ inline std::string Describe(const Variant& value) {
       auto end = std::to_chars(buffer, buffer + sizeof buffer, v.as_double()).ptr;
       return type + " " + std::string(buffer, end);
     }
-    case Subtype::Currency: return type + " " + Utf16ToUtf8(FormatCurrency(v.as_currency(), en));
-    case Subtype::Date: return type + " " + Utf16ToUtf8(FormatDateTime(v.as_date(), en));
-    case Subtype::String: return type + " \"" + Utf16ToUtf8(v.as_string_view()) + "\"";
+    case Subtype::Currency: return type + " " + text::Utf16ToUtf8(FormatCurrency(v.as_currency(), en));
+    case Subtype::Date: return type + " " + text::Utf16ToUtf8(FormatDateTime(v.as_date(), en));
+    case Subtype::String: return type + " \"" + text::Utf16ToUtf8(v.as_string_view()) + "\"";
     case Subtype::Error: return type + " " + std::to_string(v.as_error());
     default: return type;
   }

@@ -86,8 +86,8 @@ class RegExpCompiler {
       Push({Op::Any});
     } else if (node.kind == Kind::Class) {
       Push({Op::Class, false, node.index});
-    } else if (m_program.m_options.ignore_case && LowerCase(node.ch) != UpperCase(node.ch)) {
-      Push({Op::CharFold, false, LowerCase(node.ch)});
+    } else if (m_program.m_options.ignore_case && text::LowerCase(node.ch) != text::UpperCase(node.ch)) {
+      Push({Op::CharFold, false, text::LowerCase(node.ch)});
     } else {
       Push({Op::Char, false, node.ch});
     }
@@ -192,14 +192,14 @@ class RegExpMachine {
   bool InClass(const RegExpProgram::CharClass& cls, char16_t c) const {
     bool found = InRanges(cls.ranges, c);
     if (!found && m_program.m_options.ignore_case)
-      found = InRanges(cls.ranges, LowerCase(c)) || InRanges(cls.ranges, UpperCase(c));
+      found = InRanges(cls.ranges, text::LowerCase(c)) || InRanges(cls.ranges, text::UpperCase(c));
     return found != cls.negated;
   }
 
   bool Test(const Inst& inst, char16_t c) const {
     switch (inst.op) {
       case Op::Char: return c == inst.a;
-      case Op::CharFold: return LowerCase(c) == inst.a;
+      case Op::CharFold: return text::LowerCase(c) == inst.a;
       case Op::Any: return c != u'\n';
       case Op::Class: return InClass(m_program.m_classes[inst.a], c);
       default: return false;
@@ -217,7 +217,7 @@ class RegExpMachine {
     for (int32_t k = 0; k < length; ++k) {
       const char16_t a = m_text[start + k];
       const char16_t b = m_text[pos + k];
-      if (a != b && !(m_program.m_options.ignore_case && LowerCase(a) == LowerCase(b))) return false;
+      if (a != b && !(m_program.m_options.ignore_case && text::LowerCase(a) == text::LowerCase(b))) return false;
     }
     pos += length;
     return true;
