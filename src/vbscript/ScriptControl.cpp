@@ -12,23 +12,19 @@ bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
   return Interpreter::Fold(a) == Interpreter::Fold(b);
 }
 
-constexpr int32_t kLanguageNotSet = 5;
-
-constexpr int32_t kInternalError = 51;
-
 // The last line against a C++ exception that the traps of builtins and objects did not catch (an
 // allocation of the parser's or the compiler's, an object of the host's that throws): an error for
 // the host, never an abort, and the slot stack as it stood before the call.
 template <typename Call>
 auto Contained(Interpreter& interp, Call&& call) -> decltype(call()) {
   const Interpreter::StackMark mark = interp.MarkStack();
-  int32_t number = kAllocationFailed;
+  int32_t number = err::kOutOfMemory;
   try {
     return call();
   } catch (const std::bad_alloc&) {
   } catch (const std::length_error&) {
   } catch (const std::exception&) {
-    number = kInternalError;
+    number = err::kInternalError;
   }
   interp.RewindStack(mark);
   return MakeError(number);
@@ -46,7 +42,7 @@ void ScriptControl::Reset() {
 }
 
 Status ScriptControl::SetLanguage(std::string_view language) {
-  if (!language.empty() && !EqualsIgnoringCase(language, "vbscript")) return MakeError(kLanguageNotSet);
+  if (!language.empty() && !EqualsIgnoringCase(language, "vbscript")) return MakeError(err::kInvalidCall);
   m_language = language.empty() ? "" : "VBScript";
   return Ok();
 }
@@ -63,7 +59,7 @@ Status ScriptControl::SetLocale(int32_t lcid) {
 }
 
 Status ScriptControl::CheckLanguage() const {
-  if (m_language.empty()) return MakeError(kLanguageNotSet);
+  if (m_language.empty()) return MakeError(err::kInvalidCall);
   return Ok();
 }
 
@@ -94,7 +90,7 @@ Result<T> ScriptControl::Guard(Result<T> result) {
 }
 
 Status ScriptControl::AddObject(std::string name, Ref<Object> object, bool add_members) {
-  if (m_interp->FindGlobal(Interpreter::Fold(name))) return MakeError(457);
+  if (m_interp->FindGlobal(Interpreter::Fold(name))) return MakeError(err::kKeyExists);
   m_interp->AddNamedObject(std::move(name), std::move(object), add_members);
   return Ok();
 }

@@ -9,7 +9,7 @@
 
 namespace vbs {
 
-using namespace syntax;
+using namespace err;
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 namespace vbs {
 
-using namespace syntax;
+using namespace err;
 
 namespace {
 
