@@ -13,7 +13,6 @@ namespace {
 
 // As many links as the kernel follows before it gives up with ELOOP.
 constexpr int kMassimoCollegamenti = 40;
-constexpr int32_t kPermessoNegato = 70;
 
 std::string SenzaBarraFinale(const fs::path& percorso) {
   std::string testo = percorso.string();
@@ -56,7 +55,7 @@ std::string Elenco(const std::vector<fs::path>& cartelle) {
 
 vbs::ScriptError Rifiuto(std::string_view funzione, std::string_view azione, const fs::path& percorso,
                          std::string_view motivo) {
-  return vbs::ScriptError{kPermessoNegato,
+  return vbs::ScriptError{vbs::err::kPermissionDenied,
                           text::Utf8ToUtf16(fmt::format("Permesso negato: {} non può {} {} ({})", funzione, azione,
                                                        percorso.string(), motivo)),
                           {},

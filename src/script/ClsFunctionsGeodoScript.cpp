@@ -14,8 +14,6 @@ namespace {
 
 using Funzione = ClsFunctionsGeodoScript::Funzione;
 
-// What a refusal of the file rules raises; the script must not go on as if the file were written.
-constexpr int32_t kErrorePermesso = 70;
 
 struct Tabella {
   std::vector<Funzione> funzioni;
@@ -76,7 +74,8 @@ vbs::Result<vbs::Variant> ClsFunctionsGeodoScript::Invoke(vbs::DispId member, vb
   if (args.size() < funzione.min_args || args.size() > funzione.max_args) return vbs::MakeError(vbs::err::kWrongArgs);
   vbs::CallArgs call(args, m_locale);
   auto risultato = funzione.chiamata(*this, call);
-  if (risultato || risultato.error().number == vbs::err::kAborted || risultato.error().number == kErrorePermesso)
+  if (risultato) return risultato;
+  if (const int32_t numero = risultato.error().number; numero == vbs::err::kAborted || numero == vbs::err::kPermissionDenied)
     return risultato;
   const vbs::ScriptError& errore = risultato.error();
   std::string descrizione = errore.description.empty()
@@ -95,7 +94,7 @@ vbs::Status ClsFunctionsGeodoScript::ControllaInterruzione() const {
 
 vbs::Result<const TabellaEstrazioni*> ClsFunctionsGeodoScript::Archivio() const {
   if (!m_impostazioni.archivio || m_impostazioni.archivio->Vuota())
-    return vbs::ScriptError{5, u"Archivio delle estrazioni non caricato", {}, {}, false};
+    return vbs::ScriptError{vbs::err::kInvalidCall, u"Archivio delle estrazioni non caricato", {}, {}, false};
   return m_impostazioni.archivio;
 }
 

@@ -13,9 +13,6 @@ using vbs::CallArgs;
 using vbs::Result;
 using vbs::Variant;
 
-constexpr int32_t kChiaveGiaPresente = 457;
-constexpr int32_t kArgomentoNonValido = 5;
-
 std::u16string Piegata(std::u16string_view chiave) {
   std::u16string piegata(chiave);
   for (char16_t& c : piegata) c = text::FoldCase(c);
@@ -59,7 +56,7 @@ Result<vbs::Ref<vbs::Enumerator>> Collezione::Enumerate() {
 vbs::Status Collezione::Aggiungi(Variant valore, const std::u16string& chiave) {
   auto voce = std::make_shared<Voce>(Voce{std::move(valore), Piegata(chiave)});
   if (!voce->chiave.empty() && !m_per_chiave.emplace(voce->chiave, voce).second)
-    return vbs::MakeError(kChiaveGiaPresente);
+    return vbs::MakeError(vbs::err::kKeyExists);
   m_voci.push_back(std::move(voce));
   return vbs::Ok();
 }
@@ -68,12 +65,12 @@ Result<size_t> Collezione::Posto(const Variant& indice) const {
   const Variant& valore = indice.Deref();
   if (valore.is_string()) {
     auto it = m_per_chiave.find(Piegata(valore.as_string().view()));
-    if (it == m_per_chiave.end()) return vbs::MakeError(kArgomentoNonValido);
+    if (it == m_per_chiave.end()) return vbs::MakeError(vbs::err::kInvalidCall);
     return static_cast<size_t>(std::find(m_voci.begin(), m_voci.end(), it->second) - m_voci.begin());
   }
   VBS_TRY_ASSIGN(auto numero, valore.to_double(locale()));
   const double posto = std::nearbyint(numero);
-  if (!(posto >= 1 && posto <= static_cast<double>(m_voci.size()))) return vbs::MakeError(kArgomentoNonValido);
+  if (!(posto >= 1 && posto <= static_cast<double>(m_voci.size()))) return vbs::MakeError(vbs::err::kInvalidCall);
   return static_cast<size_t>(posto) - 1;
 }
 
@@ -95,7 +92,7 @@ Result<Variant> Collezione::Add(CallArgs& args) {
     VBS_TRY_ASSIGN(auto testo, args.String(1));
     chiave = std::move(testo);
   }
-  if (args.Has(2) && args.Has(3)) return vbs::MakeError(kArgomentoNonValido);
+  if (args.Has(2) && args.Has(3)) return vbs::MakeError(vbs::err::kInvalidCall);
   std::optional<size_t> dove;
   if (args.Has(2) || args.Has(3)) {
     const bool dopo = args.Has(3);

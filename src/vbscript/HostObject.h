@@ -94,30 +94,30 @@ class HostObject : public Object {
     const auto members = Self::Members();
     if (member == kDefaultMember) {
       auto it = std::find_if(members.begin(), members.end(), [](const Member& m) { return m.is_default; });
-      if (it == members.end()) return MakeError(438);
+      if (it == members.end()) return MakeError(err::kNoMember);
       member = static_cast<DispId>(it - members.begin() + 1);
     }
-    if (member < 1 || static_cast<size_t>(member) > members.size()) return MakeError(438);
+    if (member < 1 || static_cast<size_t>(member) > members.size()) return MakeError(err::kNoMember);
     const Member& m = members[member - 1];
     Self& self = static_cast<Self&>(*this);
     if (kind == InvokeKind::Let || kind == InvokeKind::Set) {
-      if (!m.put || args.empty()) return MakeError(m.get ? 5008 : 438);
+      if (!m.put || args.empty()) return MakeError(m.get ? err::kIllegalMemberAssignment : err::kNoMember);
       Variant value = args.back().Deref();
       auto rest = args.first(args.size() - 1);
-      if (rest.size() < m.min_args || rest.size() > m.max_args) return MakeError(450);
+      if (rest.size() < m.min_args || rest.size() > m.max_args) return MakeError(err::kWrongArgs);
       CallArgs call(rest, *m_locale);
       return (self.*m.put)(call, std::move(value));
     }
-    if (!m.get) return MakeError(438);
+    if (!m.get) return MakeError(err::kNoMember);
     if (m.max_args == 0 && !args.empty()) {
       // folder.SubFolders("x"): the arguments go to the default member of what the property gives.
       CallArgs none({}, *m_locale);
       auto result = (self.*m.get)(none);
       if (!result) return result;
-      if (!result->is_object() || !result->as_object()) return MakeError(450);
+      if (!result->is_object() || !result->as_object()) return MakeError(err::kWrongArgs);
       return result->as_object()->Invoke(kDefaultMember, InvokeKind::Get, args);
     }
-    if (args.size() < m.min_args || args.size() > m.max_args) return MakeError(450);
+    if (args.size() < m.min_args || args.size() > m.max_args) return MakeError(err::kWrongArgs);
     CallArgs call(args, *m_locale);
     return (self.*m.get)(call);
   }

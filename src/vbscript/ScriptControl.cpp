@@ -9,9 +9,6 @@ namespace vbs {
 
 namespace {
 
-constexpr int32_t kLanguageNotSet = 5;
-
-constexpr int32_t kInternalError = 51;
 
 // The last line against a C++ exception that the traps of builtins and objects did not catch (an
 // allocation of the parser's or the compiler's, an object of the host's that throws): an error for
@@ -19,13 +16,13 @@ constexpr int32_t kInternalError = 51;
 template <typename Call>
 auto Contained(Interpreter& interp, Call&& call) -> decltype(call()) {
   const Interpreter::StackMark mark = interp.MarkStack();
-  int32_t number = kAllocationFailed;
+  int32_t number = err::kOutOfMemory;
   try {
     return call();
   } catch (const std::bad_alloc&) {
   } catch (const std::length_error&) {
   } catch (const std::exception&) {
-    number = kInternalError;
+    number = err::kInternalError;
   }
   interp.RewindStack(mark);
   return MakeError(number);
@@ -43,7 +40,7 @@ void ScriptControl::Reset() {
 }
 
 Status ScriptControl::SetLanguage(std::string_view language) {
-  if (!language.empty() && !text::EqualsIgnoringAsciiCase(language, "vbscript")) return MakeError(kLanguageNotSet);
+  if (!language.empty() && !text::EqualsIgnoringAsciiCase(language, "vbscript")) return MakeError(err::kInvalidCall);
   m_language = language.empty() ? "" : "VBScript";
   return Ok();
 }
@@ -60,7 +57,7 @@ Status ScriptControl::SetLocale(int32_t lcid) {
 }
 
 Status ScriptControl::CheckLanguage() const {
-  if (m_language.empty()) return MakeError(kLanguageNotSet);
+  if (m_language.empty()) return MakeError(err::kInvalidCall);
   return Ok();
 }
 
@@ -91,7 +88,7 @@ Result<T> ScriptControl::Guard(Result<T> result) {
 }
 
 Status ScriptControl::AddObject(std::string name, Ref<Object> object, bool add_members) {
-  if (m_interp->FindGlobal(Interpreter::Fold(name))) return MakeError(457);
+  if (m_interp->FindGlobal(Interpreter::Fold(name))) return MakeError(err::kKeyExists);
   m_interp->AddNamedObject(std::move(name), std::move(object), add_members);
   return Ok();
 }

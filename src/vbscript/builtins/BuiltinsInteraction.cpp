@@ -20,8 +20,6 @@ namespace {
 
 using namespace builtin;
 
-constexpr int32_t kPermissionDenied = 70;
-
 // A text argument that may be omitted or Null (both give "").
 Result<std::u16string> OptionalText(Frame& frame, Args args, size_t index) {
   if (!IsGiven(args, index) || IsNull(args[index])) return std::u16string();
@@ -39,7 +37,7 @@ Result<Variant> MsgBoxFunction(Frame& frame, Args args) {
   }
   VBS_TRY_ASSIGN(auto title, OptionalText(frame, args, 2));
   UiHandler* ui = frame.interp.ui();
-  if (!ui) return MakeError(kPermissionDenied);
+  if (!ui) return MakeError(err::kPermissionDenied);
   return Variant::Integer(static_cast<int16_t>(ui->MessageBox(prompt, buttons, title)));
 }
 
@@ -50,7 +48,7 @@ Result<Variant> InputBoxFunction(Frame& frame, Args args) {
   VBS_TRY_ASSIGN(auto title, OptionalText(frame, args, 1));
   VBS_TRY_ASSIGN(auto default_text, OptionalText(frame, args, 2));
   UiHandler* ui = frame.interp.ui();
-  if (!ui) return MakeError(kPermissionDenied);
+  if (!ui) return MakeError(err::kPermissionDenied);
   auto answer = ui->InputBox(prompt, title, default_text);
   if (!answer) return Variant();
   return Variant::String(*answer);

@@ -9,9 +9,6 @@ namespace {
 
 ScriptError CompileError(int32_t number, SourcePos pos) { return MakeError(number, pos); }
 
-constexpr int32_t kNameRedefined = 1041;
-constexpr int32_t kExpectedLiteral = 1045;
-
 }  // namespace
 
 Result<Variant> Compiler::ConstantValue(const ast::Expr& expression, Scope& scope) {
@@ -55,7 +52,7 @@ Result<Variant> Compiler::ConstantValue(const ast::Expr& expression, Scope& scop
     default:
       break;
   }
-  return CompileError(kExpectedLiteral, expression.pos);
+  return CompileError(err::kExpectedLiteral, expression.pos);
 }
 
 Result<std::vector<int32_t>> Compiler::ConstantBounds(const std::vector<ast::ExprPtr>& bounds, Scope& scope) {
@@ -108,7 +105,7 @@ Status Compiler::DeclareClass(ast::ClassStmt& statement, bool option_explicit) {
   Scope constants;
   for (auto& dim : statement.fields) {
     for (ast::VarDecl& var : dim->vars) {
-      if (cls.member_ids.contains(Interpreter::Fold(var.name))) return CompileError(kNameRedefined, var.pos);
+      if (cls.member_ids.contains(Interpreter::Fold(var.name))) return CompileError(err::kNameRedefined, var.pos);
       ClassField field{var.name, var.is_array, {}};
       if (!var.bounds.empty()) {
         VBS_TRY_ASSIGN(auto bounds, ConstantBounds(var.bounds, constants));
@@ -128,11 +125,11 @@ Status Compiler::DeclareClass(ast::ClassStmt& statement, bool option_explicit) {
     if (folded == "class_initialize") cls.initialize = procedure;
     if (folded == "class_terminate") cls.terminate = procedure;
     ClassMember& member = member_named(proc->name, proc->visibility != ast::Visibility::Private);
-    if (member.field >= 0) return CompileError(kNameRedefined, proc->pos);
+    if (member.field >= 0) return CompileError(err::kNameRedefined, proc->pos);
     switch (proc->proc_kind) {
       case ast::ProcedureKind::Sub:
       case ast::ProcedureKind::Function:
-        if (member.method || member.getter) return CompileError(kNameRedefined, proc->pos);
+        if (member.method || member.getter) return CompileError(err::kNameRedefined, proc->pos);
         member.method = procedure;
         break;
       case ast::ProcedureKind::PropertyGet: member.getter = procedure; break;
@@ -158,7 +155,7 @@ Status Compiler::CollectLocals(const ast::Block& block, Scope& scope) {
           if (existing != scope.names.end() && !existing->second.is_constant) {
             if (existing->second.slot < Procedure::kFirstParamSlot + scope.procedure->param_count &&
                 existing->second.slot != Procedure::kResultSlot)
-              return CompileError(kNameRedefined, var.pos);
+              return CompileError(err::kNameRedefined, var.pos);
             continue;
           }
           uint32_t slot = NewSlot(scope);
@@ -213,7 +210,7 @@ Status Compiler::CompileProcedureBody(Procedure& procedure, ast::ProcedureStmt& 
   for (size_t i = 0; i < statement.params.size(); ++i) {
     std::string folded = Interpreter::Fold(statement.params[i].name);
     if (scope.names.contains(folded) && scope.names[folded].slot != Procedure::kResultSlot)
-      return CompileError(kNameRedefined, statement.params[i].pos);
+      return CompileError(err::kNameRedefined, statement.params[i].pos);
     scope.names[folded] = Name{static_cast<uint32_t>(Procedure::kFirstParamSlot + i), false, false, {}};
   }
   VBS_TRY(CollectLocals(statement.body, scope));

@@ -48,10 +48,6 @@ Variant LiteralValue(const ast::LiteralExpr& literal) {
   return Variant();
 }
 
-constexpr int32_t kInvalidMe = 1037;
-constexpr int32_t kSyntaxError = 1002;
-constexpr int32_t kUnqualifiedReference = 505;
-
 // Indexing or a default-member call on a value that a node yields.
 ExprNodePtr WithArgs(SourcePos pos, ExprNodePtr holder, ExprNodes args) {
   return std::make_unique<IndexNode>(pos, std::move(holder), std::move(args));
@@ -165,7 +161,7 @@ Result<ExprNodePtr> Compiler::CompileMember(ast::MemberExpr& member, std::vector
   if (!member.object) {
     // Windows reports ".x" outside With only when it runs.
     if (scope.with_slots.empty())
-      object = std::make_unique<FailingNode>(member.pos, kUnqualifiedReference);
+      object = std::make_unique<FailingNode>(member.pos, err::kUnqualifiedReference);
     else
       object = std::make_unique<LocalNode>(member.pos, scope.with_slots.back());
   } else if (member.object->kind == ast::ExprKind::Me && scope.class_info) {
@@ -254,7 +250,7 @@ Result<ExprNodePtr> Compiler::CompileExpr(ast::Expr& expression, Scope& scope) {
     }
 
     case ast::ExprKind::Me:
-      if (!scope.class_info) return MakeError(kInvalidMe, expression.pos);
+      if (!scope.class_info) return MakeError(err::kInvalidMe, expression.pos);
       return ExprNodePtr(std::make_unique<MeNode>(expression.pos));
 
     case ast::ExprKind::New:
@@ -277,7 +273,7 @@ Result<ExprNodePtr> Compiler::CompileExpr(ast::Expr& expression, Scope& scope) {
       return ExprNodePtr(std::make_unique<ParenNode>(expression.pos, std::move(*inner)));
     }
   }
-  return MakeError(kSyntaxError, expression.pos);
+  return MakeError(err::kSyntaxError, expression.pos);
 }
 
 }  // namespace vbs

@@ -11,8 +11,6 @@ namespace vbs {
 
 namespace {
 
-constexpr int32_t kKeyExists = 457;
-constexpr int32_t kElementNotFound = 32811;
 constexpr size_t kMinSlots = 16;
 
 enum class KeyKind : uint8_t { Empty, Null, Number, String, Object, Array };
@@ -213,7 +211,7 @@ Status Dictionary::Add(const Variant& key, Variant item) {
   const Variant& plain = key.Deref();
   VBS_TRY_ASSIGN(auto hash, HashOf(plain));
   size_t slot = 0;
-  if (Lookup(plain, hash, slot) != kMissing) return MakeError(kKeyExists);
+  if (Lookup(plain, hash, slot) != kMissing) return MakeError(err::kKeyExists);
   Append(plain, std::move(item), hash, slot);
   return Ok();
 }
@@ -269,14 +267,14 @@ Result<Variant> Dictionary::PutKey(CallArgs& args, Variant value) {
   VBS_TRY_ASSIGN(auto new_hash, HashOf(value));
   size_t old_slot = 0;
   const uint32_t entry = Lookup(old_key, old_hash, old_slot);
-  if (entry == kMissing) return MakeError(kElementNotFound);
+  if (entry == kMissing) return MakeError(err::kElementNotFound);
   size_t new_slot = 0;
   const uint32_t clash = Lookup(value, new_hash, new_slot);
   if (clash == entry) {
     std::swap(m_entries[entry].key, value);
     return Variant();
   }
-  if (clash != kMissing) return MakeError(kKeyExists);
+  if (clash != kMissing) return MakeError(err::kKeyExists);
   Erase(kMissing, old_slot);
   (void)Lookup(value, new_hash, new_slot);
   std::swap(m_entries[entry].key, value);
@@ -308,7 +306,7 @@ Result<Variant> Dictionary::Remove(CallArgs& args) {
   VBS_TRY_ASSIGN(auto hash, HashOf(key));
   size_t slot = 0;
   const uint32_t entry = Lookup(key, hash, slot);
-  if (entry == kMissing) return MakeError(kElementNotFound);
+  if (entry == kMissing) return MakeError(err::kElementNotFound);
   Entry removed = std::move(m_entries[entry]);
   Erase(entry, slot);
   CompactIfSparse();

@@ -13,12 +13,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int32_t kFileNotFound = 53;
-constexpr int32_t kFileExists = 58;
-constexpr int32_t kDeviceUnavailable = 68;
-constexpr int32_t kPermissionDenied = 70;
-constexpr int32_t kPathNotFound = 76;
-
 bool IsSeparator(char16_t c) { return c == u'\\' || c == u'/'; }
 bool IsLetter(char16_t c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); }
 bool HasDrive(std::u16string_view path) { return path.size() >= 2 && IsLetter(path[0]) && path[1] == u':'; }
@@ -83,12 +77,12 @@ Result<std::vector<fs::path>> Matching(const fs::path& wanted, EntryKind kind, i
     const fs::file_status status = fs::status(wanted, ec);
     if (!fs::exists(status) || fs::is_directory(status) != (kind == EntryKind::Folder)) {
       const fs::path parent = wanted.parent_path();
-      return MakeError(parent.empty() || fs::is_directory(parent, ec) ? missing : kPathNotFound);
+      return MakeError(parent.empty() || fs::is_directory(parent, ec) ? missing : err::kPathNotFound);
     }
     return std::vector<fs::path>{wanted};
   }
   const fs::path folder = wanted.parent_path().empty() ? fs::path(".") : wanted.parent_path();
-  if (!fs::is_directory(folder, ec)) return MakeError(kPathNotFound);
+  if (!fs::is_directory(folder, ec)) return MakeError(err::kPathNotFound);
   const std::u16string pattern = NameOf(wanted);
   VBS_TRY_ASSIGN(auto entries, ListFolder(folder));
   std::vector<fs::path> found;
@@ -108,7 +102,7 @@ bool EndsWithSeparator(std::u16string_view path) { return !path.empty() && IsSep
 Result<fs::path> TargetFor(const fs::path& from, const fs::path& to, bool folder_meant) {
   std::error_code ec;
   if (fs::is_directory(to, ec)) return to / from.filename();
-  if (folder_meant) return MakeError(kPathNotFound);
+  if (folder_meant) return MakeError(err::kPathNotFound);
   return to;
 }
 
@@ -177,22 +171,22 @@ fs::path FullPath(const fs::path& path) {
 
 ScriptError FileError(const std::error_code& error, int32_t missing) {
   const std::errc code = static_cast<std::errc>(error.value());
-  if (error.category() != std::generic_category() && error.category() != std::system_category()) return MakeError(75);
+  if (error.category() != std::generic_category() && error.category() != std::system_category()) return MakeError(err::kPathFileAccess);
   switch (code) {
     case std::errc::no_such_file_or_directory: return MakeError(missing);
-    case std::errc::not_a_directory: return MakeError(kPathNotFound);
+    case std::errc::not_a_directory: return MakeError(err::kPathNotFound);
     case std::errc::file_exists:
-    case std::errc::directory_not_empty: return MakeError(kFileExists);
+    case std::errc::directory_not_empty: return MakeError(err::kFileExists);
     case std::errc::permission_denied:
     case std::errc::operation_not_permitted:
     case std::errc::read_only_file_system:
     case std::errc::is_a_directory:
     case std::errc::device_or_resource_busy:
-    case std::errc::text_file_busy: return MakeError(kPermissionDenied);
-    case std::errc::no_space_on_device: return MakeError(61);
+    case std::errc::text_file_busy: return MakeError(err::kPermissionDenied);
+    case std::errc::no_space_on_device: return MakeError(err::kDiskFull);
     case std::errc::too_many_files_open:
-    case std::errc::too_many_files_open_in_system: return MakeError(67);
-    default: return MakeError(75);
+    case std::errc::too_many_files_open_in_system: return MakeError(err::kTooManyFiles);
+    default: return MakeError(err::kPathFileAccess);
   }
 }
 
@@ -200,14 +194,14 @@ ScriptError FileError(const std::error_code& error, int32_t missing) {
 
 Status CopyOneFile(const fs::path& from, const fs::path& to, Overwrite overwrite) {
   std::error_code ec;
-  if (fs::exists(to, ec) && fs::equivalent(from, to, ec)) return MakeError(kPermissionDenied);
+  if (fs::exists(to, ec) && fs::equivalent(from, to, ec)) return MakeError(err::kPermissionDenied);
   const fs::file_status status = fs::status(to, ec);
   if (fs::exists(status)) {
-    if (overwrite == Overwrite::No) return MakeError(kFileExists);
-    if (fs::is_directory(status)) return MakeError(kPermissionDenied);
+    if (overwrite == Overwrite::No) return MakeError(err::kFileExists);
+    if (fs::is_directory(status)) return MakeError(err::kPermissionDenied);
   }
   fs::copy_file(from, to, fs::copy_options::overwrite_existing, ec);
-  if (ec) return FileError(ec, kPathNotFound);
+  if (ec) return FileError(ec, err::kPathNotFound);
   return Ok();
 }
 
@@ -215,20 +209,20 @@ Status CopyTree(const fs::path& from, const fs::path& to, Overwrite overwrite) {
   const fs::path source = FullPath(from);
   const fs::path target = FullPath(to);
   // A folder copied into itself would never end.
-  if (target == source || target.string().starts_with(source.string() + "/")) return MakeError(kPermissionDenied);
+  if (target == source || target.string().starts_with(source.string() + "/")) return MakeError(err::kPermissionDenied);
   std::error_code ec;
   fs::create_directories(target, ec);
-  if (ec) return FileError(ec, kPathNotFound);
+  if (ec) return FileError(ec, err::kPathNotFound);
   VBS_TRY_ASSIGN(auto entries, ListFolder(source));
   for (const FolderEntry& entry : entries) {
     const fs::path inside = target / entry.path.filename();
     if (entry.is_link) {
       if (fs::exists(fs::symlink_status(inside, ec))) {
-        if (overwrite == Overwrite::No) return MakeError(kFileExists);
+        if (overwrite == Overwrite::No) return MakeError(err::kFileExists);
         fs::remove(inside, ec);
       }
       fs::copy_symlink(entry.path, inside, ec);
-      if (ec) return FileError(ec, kPathNotFound);
+      if (ec) return FileError(ec, err::kPathNotFound);
     } else if (entry.is_folder) {
       VBS_TRY(CopyTree(entry.path, inside, overwrite));
     } else {
@@ -240,7 +234,7 @@ Status CopyTree(const fs::path& from, const fs::path& to, Overwrite overwrite) {
 
 Status MoveEntry(const fs::path& from, const fs::path& to) {
   std::error_code ec;
-  if (fs::exists(fs::symlink_status(to, ec))) return MakeError(kFileExists);
+  if (fs::exists(fs::symlink_status(to, ec))) return MakeError(err::kFileExists);
   fs::rename(from, to, ec);
   if (ec == std::errc::cross_device_link) {
     if (fs::is_directory(from, ec))
@@ -249,15 +243,15 @@ Status MoveEntry(const fs::path& from, const fs::path& to) {
       VBS_TRY(CopyOneFile(from, to, Overwrite::No));
     fs::remove_all(from, ec);
   }
-  if (ec) return FileError(ec, kPathNotFound);
+  if (ec) return FileError(ec, err::kPathNotFound);
   return Ok();
 }
 
 Status DeleteOneFile(const fs::path& path, Force force) {
-  if (force == Force::No && IsReadOnly(path)) return MakeError(kPermissionDenied);
+  if (force == Force::No && IsReadOnly(path)) return MakeError(err::kPermissionDenied);
   std::error_code ec;
   fs::remove(path, ec);
-  if (ec) return FileError(ec, kFileNotFound);
+  if (ec) return FileError(ec, err::kFileNotFound);
   return Ok();
 }
 
@@ -275,11 +269,11 @@ Result<bool> HoldsReadOnlyFile(const fs::path& folder) {
 Status DeleteTree(const fs::path& path, Force force) {
   if (force == Force::No) {
     VBS_TRY_ASSIGN(auto read_only, HoldsReadOnlyFile(path));
-    if (read_only) return MakeError(kPermissionDenied);
+    if (read_only) return MakeError(err::kPermissionDenied);
   }
   std::error_code ec;
   fs::remove_all(path, ec);
-  if (ec) return FileError(ec, kPathNotFound);
+  if (ec) return FileError(ec, err::kPathNotFound);
   return Ok();
 }
 
@@ -290,7 +284,7 @@ Result<std::vector<FolderEntry>> ListFolder(const fs::path& folder) {
     std::error_code ignored;
     entries.push_back(FolderEntry{it->path(), it->is_directory(ignored), it->is_symlink(ignored)});
   }
-  if (ec) return FileError(ec, kPathNotFound);
+  if (ec) return FileError(ec, err::kPathNotFound);
   return entries;
 }
 
@@ -351,7 +345,7 @@ Result<Variant> FileSystemObject::CopyFile(CallArgs& args) {
   VBS_TRY_ASSIGN(auto to, args.String(1));
   VBS_TRY_ASSIGN(auto overwrite, args.Boolean(2, true));
   const fs::path source = NativePath(from);
-  VBS_TRY_ASSIGN(auto sources, Matching(source, EntryKind::File, kFileNotFound));
+  VBS_TRY_ASSIGN(auto sources, Matching(source, EntryKind::File, err::kFileNotFound));
   const fs::path destination = NativePath(to);
   const bool into_folder = HasWildcards(source) || EndsWithSeparator(to);
   for (const fs::path& one : sources) {
@@ -368,14 +362,14 @@ Result<Variant> FileSystemObject::CopyFolder(CallArgs& args) {
   VBS_TRY_ASSIGN(auto to, args.String(1));
   VBS_TRY_ASSIGN(auto overwrite, args.Boolean(2, true));
   const fs::path source = NativePath(from);
-  VBS_TRY_ASSIGN(auto sources, Matching(source, EntryKind::Folder, kPathNotFound));
+  VBS_TRY_ASSIGN(auto sources, Matching(source, EntryKind::Folder, err::kPathNotFound));
   const fs::path destination = NativePath(to);
   const bool into_folder = HasWildcards(source) || EndsWithSeparator(to);
   for (const fs::path& one : sources) {
     fs::path target = destination;
     if (into_folder) {
       std::error_code ec;
-      if (!fs::is_directory(destination, ec)) return MakeError(kPathNotFound);
+      if (!fs::is_directory(destination, ec)) return MakeError(err::kPathNotFound);
       target = destination / one.filename();
     }
     VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Read, one, "CopyFolder"));
@@ -390,9 +384,9 @@ Result<Variant> FileSystemObject::CreateFolder(CallArgs& args) {
   const fs::path path = NativePath(name);
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, path, "CreateFolder"));
   std::error_code ec;
-  if (fs::exists(fs::symlink_status(path, ec))) return MakeError(kFileExists);
+  if (fs::exists(fs::symlink_status(path, ec))) return MakeError(err::kFileExists);
   fs::create_directory(path, ec);
-  if (ec) return FileError(ec, kPathNotFound);
+  if (ec) return FileError(ec, err::kPathNotFound);
   return Variant::Object(MakeRef<FolderObject>(locale(), FullPath(path), m_policy));
 }
 
@@ -409,7 +403,7 @@ Result<Variant> FileSystemObject::CreateTextFile(CallArgs& args) {
 Result<Variant> FileSystemObject::DeleteFile(CallArgs& args) {
   VBS_TRY_ASSIGN(auto wanted, args.String(0));
   VBS_TRY_ASSIGN(auto force, args.Boolean(1, false));
-  VBS_TRY_ASSIGN(auto files, Matching(NativePath(wanted), EntryKind::File, kFileNotFound));
+  VBS_TRY_ASSIGN(auto files, Matching(NativePath(wanted), EntryKind::File, err::kFileNotFound));
   for (const fs::path& file : files) {
     VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, file, "DeleteFile"));
     VBS_TRY(DeleteOneFile(file, force ? Force::Yes : Force::No));
@@ -420,7 +414,7 @@ Result<Variant> FileSystemObject::DeleteFile(CallArgs& args) {
 Result<Variant> FileSystemObject::DeleteFolder(CallArgs& args) {
   VBS_TRY_ASSIGN(auto wanted, args.String(0));
   VBS_TRY_ASSIGN(auto force, args.Boolean(1, false));
-  VBS_TRY_ASSIGN(auto folders, Matching(NativePath(wanted), EntryKind::Folder, kPathNotFound));
+  VBS_TRY_ASSIGN(auto folders, Matching(NativePath(wanted), EntryKind::Folder, err::kPathNotFound));
   for (const fs::path& folder : folders) {
     VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, folder, "DeleteFolder"));
     VBS_TRY(DeleteTree(folder, force ? Force::Yes : Force::No));
@@ -461,7 +455,7 @@ Result<Variant> FileSystemObject::GetBaseName(CallArgs& args) {
 
 Result<Variant> FileSystemObject::GetDrive(CallArgs& args) {
   VBS_TRY_ASSIGN(auto wanted, args.String(0));
-  if (!NamesDrive(wanted)) return MakeError(kDeviceUnavailable);
+  if (!NamesDrive(wanted)) return MakeError(err::kDeviceUnavailable);
   return Variant::Object(MakeRef<DriveObject>(locale(), m_policy));
 }
 
@@ -481,8 +475,8 @@ Result<Variant> FileSystemObject::GetExtensionName(CallArgs& args) {
 
 Result<Variant> FileSystemObject::GetFile(CallArgs& args) {
   VBS_TRY_ASSIGN(auto path, args.String(0));
-  VBS_TRY_ASSIGN(auto files, Matching(NativePath(path), EntryKind::File, kFileNotFound));
-  if (files.size() != 1) return MakeError(kFileNotFound);
+  VBS_TRY_ASSIGN(auto files, Matching(NativePath(path), EntryKind::File, err::kFileNotFound));
+  if (files.size() != 1) return MakeError(err::kFileNotFound);
   return Variant::Object(MakeRef<FileObject>(locale(), FullPath(files.front()), m_policy));
 }
 
@@ -495,7 +489,7 @@ Result<Variant> FileSystemObject::GetFolder(CallArgs& args) {
   VBS_TRY_ASSIGN(auto path, args.String(0));
   std::error_code ec;
   const fs::path folder = NativePath(path);
-  if (!fs::is_directory(folder, ec)) return MakeError(kPathNotFound);
+  if (!fs::is_directory(folder, ec)) return MakeError(err::kPathNotFound);
   return Variant::Object(MakeRef<FolderObject>(locale(), FullPath(folder), m_policy));
 }
 
@@ -522,7 +516,7 @@ Result<Variant> FileSystemObject::MoveFile(CallArgs& args) {
   VBS_TRY_ASSIGN(auto from, args.String(0));
   VBS_TRY_ASSIGN(auto to, args.String(1));
   const fs::path source = NativePath(from);
-  VBS_TRY_ASSIGN(auto sources, Matching(source, EntryKind::File, kFileNotFound));
+  VBS_TRY_ASSIGN(auto sources, Matching(source, EntryKind::File, err::kFileNotFound));
   const bool into_folder = HasWildcards(source) || EndsWithSeparator(to);
   for (const fs::path& one : sources) {
     VBS_TRY_ASSIGN(auto target, TargetFor(one, NativePath(to), into_folder));
@@ -537,13 +531,13 @@ Result<Variant> FileSystemObject::MoveFolder(CallArgs& args) {
   VBS_TRY_ASSIGN(auto from, args.String(0));
   VBS_TRY_ASSIGN(auto to, args.String(1));
   const fs::path source = NativePath(from);
-  VBS_TRY_ASSIGN(auto sources, Matching(source, EntryKind::Folder, kPathNotFound));
+  VBS_TRY_ASSIGN(auto sources, Matching(source, EntryKind::Folder, err::kPathNotFound));
   const bool into_folder = HasWildcards(source) || EndsWithSeparator(to);
   for (const fs::path& one : sources) {
     fs::path target = NativePath(to);
     if (into_folder) {
       std::error_code ec;
-      if (!fs::is_directory(target, ec)) return MakeError(kPathNotFound);
+      if (!fs::is_directory(target, ec)) return MakeError(err::kPathNotFound);
       target /= one.filename();
     }
     VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Delete, one, "MoveFolder"));

@@ -18,11 +18,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int32_t kBadFileName = 52;
-constexpr int32_t kFileNotFound = 53;
-constexpr int32_t kFileExists = 58;
-constexpr int32_t kPathNotFound = 76;
-
 constexpr int32_t kAttributeReadOnly = 1;
 constexpr int32_t kAttributeHidden = 2;
 constexpr int32_t kAttributeDirectory = 16;
@@ -66,7 +61,7 @@ int32_t AttributesOf(const fs::path& path, bool folder) {
 Result<fs::path> Rename(const fs::path& path, const Variant& value, const Locale& locale, const FileAccessPolicy* policy) {
   VBS_TRY_ASSIGN(auto name, value.to_string(locale));
   const std::u16string_view text = name.view();
-  if (text.empty() || text.find_first_of(u"\\/") != std::u16string_view::npos) return MakeError(kBadFileName);
+  if (text.empty() || text.find_first_of(u"\\/") != std::u16string_view::npos) return MakeError(err::kBadFileName);
   const fs::path target = path.parent_path() / fs::path(text::Utf16ToUtf8(text));
   VBS_TRY(CheckAccess(policy, FileAccess::Delete, path, "Name"));
   VBS_TRY(CheckAccess(policy, FileAccess::Write, target, "Name"));
@@ -144,11 +139,11 @@ std::span<const FileObject::Member> FileObject::Members() {
 
 Result<Variant> FileObject::Attributes(CallArgs&) { return Variant::Long(AttributesOf(m_path, false)); }
 
-Result<Variant> FileObject::DateCreated(CallArgs&) { return DateOf(m_path, Stamp::Created, kFileNotFound); }
+Result<Variant> FileObject::DateCreated(CallArgs&) { return DateOf(m_path, Stamp::Created, err::kFileNotFound); }
 
-Result<Variant> FileObject::DateLastAccessed(CallArgs&) { return DateOf(m_path, Stamp::Accessed, kFileNotFound); }
+Result<Variant> FileObject::DateLastAccessed(CallArgs&) { return DateOf(m_path, Stamp::Accessed, err::kFileNotFound); }
 
-Result<Variant> FileObject::DateLastModified(CallArgs&) { return DateOf(m_path, Stamp::Modified, kFileNotFound); }
+Result<Variant> FileObject::DateLastModified(CallArgs&) { return DateOf(m_path, Stamp::Modified, err::kFileNotFound); }
 
 Result<Variant> FileObject::Drive(CallArgs&) { return Variant::Object(MakeRef<DriveObject>(locale(), m_policy)); }
 
@@ -167,7 +162,7 @@ Result<Variant> FileObject::Path(CallArgs&) { return Variant::String(ScriptPath(
 Result<Variant> FileObject::Size(CallArgs&) {
   std::error_code ec;
   const uintmax_t size = fs::file_size(m_path, ec);
-  if (ec) return FileError(ec, kFileNotFound);
+  if (ec) return FileError(ec, err::kFileNotFound);
   return SizeValue(size);
 }
 
@@ -253,11 +248,11 @@ std::span<const FolderObject::Member> FolderObject::Members() {
 
 Result<Variant> FolderObject::Attributes(CallArgs&) { return Variant::Long(AttributesOf(m_path, true)); }
 
-Result<Variant> FolderObject::DateCreated(CallArgs&) { return DateOf(m_path, Stamp::Created, kPathNotFound); }
+Result<Variant> FolderObject::DateCreated(CallArgs&) { return DateOf(m_path, Stamp::Created, err::kPathNotFound); }
 
-Result<Variant> FolderObject::DateLastAccessed(CallArgs&) { return DateOf(m_path, Stamp::Accessed, kPathNotFound); }
+Result<Variant> FolderObject::DateLastAccessed(CallArgs&) { return DateOf(m_path, Stamp::Accessed, err::kPathNotFound); }
 
-Result<Variant> FolderObject::DateLastModified(CallArgs&) { return DateOf(m_path, Stamp::Modified, kPathNotFound); }
+Result<Variant> FolderObject::DateLastModified(CallArgs&) { return DateOf(m_path, Stamp::Modified, err::kPathNotFound); }
 
 Result<Variant> FolderObject::Drive(CallArgs&) { return Variant::Object(MakeRef<DriveObject>(locale(), m_policy)); }
 
@@ -387,19 +382,19 @@ Result<Variant> FolderListing::Item(CallArgs& args) {
     if (m_kind == Kind::Files) return Variant::Object(MakeRef<FileObject>(locale(), entry.path, m_policy));
     return FolderValue(locale(), entry.path, m_policy);
   }
-  return MakeError(m_kind == Kind::Files ? kFileNotFound : kPathNotFound);
+  return MakeError(m_kind == Kind::Files ? err::kFileNotFound : err::kPathNotFound);
 }
 
 Result<Variant> FolderListing::Add(CallArgs& args) {
   if (m_kind == Kind::Files) return MakeError(err::kNoMember);
   VBS_TRY_ASSIGN(auto name, args.String(0));
-  if (name.empty() || name.find_first_of(u"\\/") != std::u16string::npos) return MakeError(kBadFileName);
+  if (name.empty() || name.find_first_of(u"\\/") != std::u16string::npos) return MakeError(err::kBadFileName);
   const fs::path folder = m_folder / fs::path(text::Utf16ToUtf8(name));
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, folder, "Add"));
   std::error_code ec;
-  if (fs::exists(fs::symlink_status(folder, ec))) return MakeError(kFileExists);
+  if (fs::exists(fs::symlink_status(folder, ec))) return MakeError(err::kFileExists);
   fs::create_directory(folder, ec);
-  if (ec) return FileError(ec, kPathNotFound);
+  if (ec) return FileError(ec, err::kPathNotFound);
   return FolderValue(locale(), folder, m_policy);
 }
 
@@ -429,14 +424,14 @@ std::span<const DriveObject::Member> DriveObject::Members() {
 Result<Variant> DriveObject::AvailableSpace(CallArgs&) {
   std::error_code ec;
   const fs::space_info space = fs::space("/", ec);
-  if (ec) return FileError(ec, kPathNotFound);
+  if (ec) return FileError(ec, err::kPathNotFound);
   return Variant::Double(static_cast<double>(space.available));
 }
 
 Result<Variant> DriveObject::TotalSize(CallArgs&) {
   std::error_code ec;
   const fs::space_info space = fs::space("/", ec);
-  if (ec) return FileError(ec, kPathNotFound);
+  if (ec) return FileError(ec, err::kPathNotFound);
   return Variant::Double(static_cast<double>(space.capacity));
 }
 

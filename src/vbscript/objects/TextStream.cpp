@@ -17,13 +17,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int32_t kFileNotFound = 53;
-constexpr int32_t kBadFileMode = 54;
-constexpr int32_t kFileExists = 58;
-constexpr int32_t kPastEnd = 62;
-constexpr int32_t kPermissionDenied = 70;
-constexpr int32_t kPathFileAccess = 75;
-constexpr int32_t kPathNotFound = 76;
 // How much written text waits before it goes to the disk.
 constexpr size_t kFlushAt = 32768;
 // How much of a file appending looks at to learn its encoding.
@@ -38,7 +31,7 @@ ScriptError ErrnoError(int32_t missing) { return FileError(std::error_code(errno
 ScriptError MissingFile(const fs::path& path) {
   std::error_code ec;
   const fs::path parent = path.parent_path();
-  return MakeError(parent.empty() || fs::is_directory(parent, ec) ? kFileNotFound : kPathNotFound);
+  return MakeError(parent.empty() || fs::is_directory(parent, ec) ? err::kFileNotFound : err::kPathNotFound);
 }
 
 // Up to `limit` bytes of a regular file. A device, a pipe or a socket would never end or would
@@ -46,11 +39,11 @@ ScriptError MissingFile(const fs::path& path) {
 // when the whole of it is wanted.
 Result<std::string> ReadBytes(const fs::path& path, size_t limit) {
   const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-  if (fd < 0) return ErrnoError(kFileNotFound);
+  if (fd < 0) return ErrnoError(err::kFileNotFound);
   struct stat info {};
   if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
     ::close(fd);
-    return MakeError(kPathFileAccess);
+    return MakeError(err::kPathFileAccess);
   }
   if (limit == SIZE_MAX && static_cast<uintmax_t>(info.st_size) > kMaxReadBytes) {
     ::close(fd);
@@ -70,7 +63,7 @@ Result<std::string> ReadBytes(const fs::path& path, size_t limit) {
     bytes.append(buffer, static_cast<size_t>(got));
   }
   ::close(fd);
-  if (failed) return MakeError(kPermissionDenied);
+  if (failed) return MakeError(err::kPermissionDenied);
   return bytes;
 }
 
@@ -148,14 +141,14 @@ Result<Ref<TextStream>> TextStream::Open(const Locale& locale, const fs::path& p
                                          TextFormat format) {
   std::error_code ec;
   const fs::file_status status = fs::status(path, ec);
-  if (fs::is_directory(status)) return MakeError(kPermissionDenied);
+  if (fs::is_directory(status)) return MakeError(err::kPermissionDenied);
   const bool exists = fs::exists(status);
   if (!exists && !create) return MissingFile(path);
-  if (!WritableKind(status)) return MakeError(mode == IoMode::Reading ? kPathFileAccess : kPermissionDenied);
+  if (!WritableKind(status)) return MakeError(mode == IoMode::Reading ? err::kPathFileAccess : err::kPermissionDenied);
   if (mode != IoMode::Reading) return OpenForWriting(locale, path, mode == IoMode::Appending, format);
   if (!exists) {
     std::FILE* file = std::fopen(path.c_str(), "wb");
-    if (!file) return ErrnoError(kPathNotFound);
+    if (!file) return ErrnoError(err::kPathNotFound);
     std::fclose(file);
   }
   VBS_TRY_ASSIGN(auto bytes, ReadBytes(path, SIZE_MAX));
@@ -168,9 +161,9 @@ Result<Ref<TextStream>> TextStream::Open(const Locale& locale, const fs::path& p
 Result<Ref<TextStream>> TextStream::Create(const Locale& locale, const fs::path& path, bool overwrite, TextFormat format) {
   std::error_code ec;
   const fs::file_status status = fs::status(path, ec);
-  if (fs::is_directory(status)) return MakeError(kPermissionDenied);
-  if (fs::exists(status) && !overwrite) return MakeError(kFileExists);
-  if (!WritableKind(status)) return MakeError(kPermissionDenied);
+  if (fs::is_directory(status)) return MakeError(err::kPermissionDenied);
+  if (fs::exists(status) && !overwrite) return MakeError(err::kFileExists);
+  if (!WritableKind(status)) return MakeError(err::kPermissionDenied);
   return OpenForWriting(locale, path, false, format);
 }
 
@@ -197,19 +190,19 @@ Result<Ref<TextStream>> TextStream::OpenForWriting(const Locale& locale, const f
     }
   }
   std::FILE* file = std::fopen(path.c_str(), append ? "ab" : "wb");
-  if (!file) return ErrnoError(kPathNotFound);
+  if (!file) return ErrnoError(err::kPathNotFound);
   Ref<TextStream> stream(new TextStream(locale));
   stream->m_file = file;
   stream->m_encoding = encoding;
-  if (mark && std::fwrite("\xFF\xFE", 1, 2, file) != 2) return ErrnoError(kPathNotFound);
+  if (mark && std::fwrite("\xFF\xFE", 1, 2, file) != 2) return ErrnoError(err::kPathNotFound);
   return stream;
 }
 
 // ---- Reading ----
 
 Status TextStream::CanRead(bool need_more) const {
-  if (!m_reading) return MakeError(kBadFileMode);
-  if (need_more && m_pos >= m_text.size()) return MakeError(kPastEnd);
+  if (!m_reading) return MakeError(err::kBadFileMode);
+  if (need_more && m_pos >= m_text.size()) return MakeError(err::kPastEndOfFile);
   return Ok();
 }
 
@@ -278,7 +271,7 @@ Result<Variant> TextStream::AtEndOfLine(CallArgs&) {
 // ---- Writing ----
 
 Status TextStream::CanWrite() const {
-  if (!m_file) return MakeError(kBadFileMode);
+  if (!m_file) return MakeError(err::kBadFileMode);
   return Ok();
 }
 
@@ -312,7 +305,7 @@ Status TextStream::Flush() {
       break;
   }
   m_pending.clear();
-  if (std::fwrite(bytes.data(), 1, bytes.size(), m_file) != bytes.size()) return ErrnoError(kPathNotFound);
+  if (std::fwrite(bytes.data(), 1, bytes.size(), m_file) != bytes.size()) return ErrnoError(err::kPathNotFound);
   return Ok();
 }
 
@@ -359,7 +352,7 @@ Result<Variant> TextStream::Close(CallArgs&) {
   const bool closed = std::fclose(m_file) == 0;
   m_file = nullptr;
   VBS_TRY(flushed);
-  if (!closed) return ErrnoError(kPathNotFound);
+  if (!closed) return ErrnoError(err::kPathNotFound);
   return Variant();
 }
 

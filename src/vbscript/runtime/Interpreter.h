@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "vbscript/FileAccessPolicy.h"
+#include "vbscript/value/ErrorCodes.h"
 #include "vbscript/value/Locale.h"
 #include "vbscript/value/Object.h"
 #include "vbscript/value/Operators.h"
@@ -231,30 +232,6 @@ class Interpreter {
 
 // Registers the objects every engine offers to CreateObject (Scripting.Dictionary, ...).
 void RegisterStandardObjects(Interpreter& interp);
-
-// Standard error numbers the interpreter raises.
-namespace err {
-inline constexpr int32_t kInvalidCall = 5;
-inline constexpr int32_t kOverflow = 6;
-inline constexpr int32_t kOutOfMemory = 7;
-inline constexpr int32_t kSubscript = 9;
-inline constexpr int32_t kFixedArray = 10;
-inline constexpr int32_t kTypeMismatch = 13;
-inline constexpr int32_t kOutOfStack = 28;
-inline constexpr int32_t kObjectNotSet = 91;
-inline constexpr int32_t kForNotInitialised = 92;
-inline constexpr int32_t kNullUse = 94;
-inline constexpr int32_t kObjectRequired = 424;
-inline constexpr int32_t kCannotCreate = 429;
-inline constexpr int32_t kNoMember = 438;
-inline constexpr int32_t kWrongArgs = 450;
-inline constexpr int32_t kNotCollection = 451;
-inline constexpr int32_t kUndefined = 500;
-inline constexpr int32_t kIllegalAssignment = 501;
-inline constexpr int32_t kNotAClass = 506;
-inline constexpr int32_t kAborted = -2147467260;  // E_ABORT, as a stopped script reports
-inline constexpr int32_t kParamNotFound = -2147352572;  // DISP_E_PARAMNOTFOUND: an omitted argument
-}  // namespace err
 
 inline bool BlockNode::InterruptDue(Frame& frame) { return frame.interp.InterruptDue(); }
 

@@ -10,7 +10,7 @@
 
 namespace vbs {
 
-using namespace syntax;
+using namespace err;
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 namespace vbs {
 
-using namespace syntax;
+using namespace err;
 
 namespace {
 

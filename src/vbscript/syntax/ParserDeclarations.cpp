@@ -5,7 +5,7 @@
 
 namespace vbs {
 
-using namespace syntax;
+using namespace err;
 
 namespace {
 
@@ -261,7 +261,7 @@ void Parser::CheckProcedure(const ast::ProcedureStmt& proc, const Token& name_to
   bool is_let_or_set = proc.proc_kind == ast::ProcedureKind::PropertyLet ||
                        proc.proc_kind == ast::ProcedureKind::PropertySet;
   if (is_let_or_set && proc.params.empty()) Report(kPropertyWithoutArgument, name_token);
-  if (is_let_or_set && proc.is_default) Report(kDefaultNotOnGet, proc.pos);
+  if (is_let_or_set && proc.is_default) Report(kDefaultMisplaced, proc.pos);
   bool is_event = text::EqualsIgnoringAsciiCase(proc.name, "Class_Initialize") ||
                   text::EqualsIgnoringAsciiCase(proc.name, "Class_Terminate");
   if (in_class && is_event && proc.proc_kind == ast::ProcedureKind::Sub && !proc.params.empty()) {

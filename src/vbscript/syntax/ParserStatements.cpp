@@ -5,7 +5,7 @@
 
 namespace vbs {
 
-using namespace syntax;
+using namespace err;
 
 namespace {
 
@@ -490,7 +490,7 @@ ast::StmtPtr Parser::ParseDo() {
     Advance();
     stmt->condition = ParseExpr();
   } else if (CanStartExpression(Kind())) {
-    Fail(kExpectedWhile);
+    Fail(kExpectedWhileOrUntil);
   }
   EndHeader();
   stmt->body = ParseLoopBody(Closer::Loop, &Context::do_depth);
@@ -509,7 +509,7 @@ ast::StmtPtr Parser::ParseDo() {
     Advance();
     stmt->condition = ParseExpr();
   } else if (CanStartExpression(Kind())) {
-    Fail(kExpectedUntil);
+    Fail(kExpectedWhileUntilOrEnd);
   }
   return m_panic ? nullptr : std::move(stmt);
 }

@@ -6,6 +6,8 @@
 
 #include <cstdint>
 
+#include "vbscript/value/ErrorCodes.h"  // the lexer and the parser report err:: numbers
+
 namespace vbs {
 
 enum class TokenKind : uint8_t {
@@ -57,55 +59,5 @@ constexpr bool IsNameToken(TokenKind kind) {
 constexpr bool IsWordToken(TokenKind kind) {
   return kind == TokenKind::Identifier || kind >= TokenKind::And;
 }
-
-// VBScript's compile error numbers, as the lexer and the parser report them.
-namespace syntax {
-constexpr int32_t kOutOfStack = 28;
-constexpr int32_t kSyntaxError = 1002;
-constexpr int32_t kExpectedLParen = 1005;
-constexpr int32_t kExpectedRParen = 1006;
-constexpr int32_t kExpectedRBracket = 1007;
-constexpr int32_t kExpectedIdentifier = 1010;
-constexpr int32_t kExpectedEqual = 1011;
-constexpr int32_t kExpectedIf = 1012;
-constexpr int32_t kExpectedTo = 1013;
-constexpr int32_t kExpectedEnd = 1014;
-constexpr int32_t kExpectedFunction = 1015;
-constexpr int32_t kExpectedSub = 1016;
-constexpr int32_t kExpectedThen = 1017;
-constexpr int32_t kExpectedWend = 1018;
-constexpr int32_t kExpectedLoop = 1019;
-constexpr int32_t kExpectedNext = 1020;
-constexpr int32_t kExpectedCase = 1021;
-constexpr int32_t kExpectedSelect = 1022;
-constexpr int32_t kExpectedExpression = 1023;
-constexpr int32_t kExpectedStatement = 1024;
-constexpr int32_t kExpectedEndOfStatement = 1025;
-constexpr int32_t kExpectedInteger = 1026;
-constexpr int32_t kExpectedWhile = 1027;
-constexpr int32_t kExpectedUntil = 1028;
-constexpr int32_t kExpectedWith = 1029;
-constexpr int32_t kIdentifierTooLong = 1030;
-constexpr int32_t kInvalidNumber = 1031;
-constexpr int32_t kInvalidCharacter = 1032;
-constexpr int32_t kUnterminatedString = 1033;
-constexpr int32_t kInvalidMe = 1037;
-constexpr int32_t kLoopWithoutDo = 1038;
-constexpr int32_t kInvalidExit = 1039;
-constexpr int32_t kNameRedefined = 1041;
-constexpr int32_t kParenthesesOnSubCall = 1044;
-constexpr int32_t kExpectedLiteral = 1045;
-constexpr int32_t kExpectedIn = 1046;
-constexpr int32_t kExpectedClass = 1047;
-constexpr int32_t kOutsideClass = 1048;
-constexpr int32_t kExpectedLetSetGet = 1049;
-constexpr int32_t kExpectedProperty = 1050;
-constexpr int32_t kMultipleDefaults = 1052;
-constexpr int32_t kInitializeWithArguments = 1053;
-constexpr int32_t kPropertyWithoutArgument = 1054;
-constexpr int32_t kUnexpectedNext = 1055;
-constexpr int32_t kDefaultNotOnGet = 1056;
-constexpr int32_t kDefaultWithoutPublic = 1057;
-}  // namespace syntax
 
 }  // namespace vbs

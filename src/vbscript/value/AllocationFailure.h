@@ -12,16 +12,14 @@
 
 namespace vbs {
 
-inline constexpr int32_t kAllocationFailed = 7;
-
 template <typename Call>
 auto TrapAllocationFailure(Call&& call) -> decltype(call()) {
   try {
     return call();
   } catch (const std::bad_alloc&) {
-    return MakeError(kAllocationFailed);
+    return MakeError(err::kOutOfMemory);
   } catch (const std::length_error&) {
-    return MakeError(kAllocationFailed);
+    return MakeError(err::kOutOfMemory);
   }
 }
 

@@ -84,21 +84,21 @@ Result<int64_t> ToWhole(const Variant& value, int64_t min, int64_t max, bool byt
       break;
     case Subtype::String: {
       auto parsed = ParseNumber(v.as_string_view(), locale);
-      if (!parsed) return MakeError(13);
+      if (!parsed) return MakeError(err::kTypeMismatch);
       real = *parsed;
       is_real = true;
       break;
     }
-    case Subtype::Null: return MakeError(94);
-    default: return MakeError(13);
+    case Subtype::Null: return MakeError(err::kNullUse);
+    default: return MakeError(err::kTypeMismatch);
   }
   if (is_real) {
-    if (!std::isfinite(real)) return MakeError(6);
+    if (!std::isfinite(real)) return MakeError(err::kOverflow);
     const double rounded = RoundHalfEven(real);
-    if (rounded < static_cast<double>(min) || rounded > static_cast<double>(max)) return MakeError(6);
+    if (rounded < static_cast<double>(min) || rounded > static_cast<double>(max)) return MakeError(err::kOverflow);
     whole = static_cast<int64_t>(rounded);
   }
-  if (whole < min || whole > max) return MakeError(6);
+  if (whole < min || whole > max) return MakeError(err::kOverflow);
   return whole;
 }
 
@@ -138,9 +138,9 @@ double RoundHalfEven(double value) {
 Result<Variant> ValueOf(const Variant& value) {
   Variant current = value.Deref();
   for (int depth = 0; current.is_object(); ++depth) {
-    if (current.is_nothing()) return MakeError(91);
+    if (current.is_nothing()) return MakeError(err::kObjectNotSet);
     // A default member that keeps returning objects never yields a value.
-    if (depth == 8) return MakeError(13);
+    if (depth == 8) return MakeError(err::kTypeMismatch);
     Ref<Object> object = current.object_ref();
     VBS_TRY_ASSIGN(auto result, object->Invoke(kDefaultMember, InvokeKind::Get, {}));
     Variant next = result.Deref();
@@ -271,7 +271,7 @@ Result<bool> Variant::to_boolean(const Locale& locale) const {
   const Variant& v = plain;
   switch (v.subtype()) {
     case Subtype::Empty: return false;
-    case Subtype::Null: return MakeError(94);
+    case Subtype::Null: return MakeError(err::kNullUse);
     case Subtype::Boolean: return v.as_boolean();
     case Subtype::Byte: return v.as_byte() != 0;
     case Subtype::Integer: return v.as_integer() != 0;
@@ -283,9 +283,9 @@ Result<bool> Variant::to_boolean(const Locale& locale) const {
     case Subtype::String: {
       if (auto word = ParseBooleanWord(v.as_string_view(), locale)) return *word;
       if (auto number = ParseNumber(v.as_string_view(), locale)) return *number != 0;
-      return MakeError(13);
+      return MakeError(err::kTypeMismatch);
     }
-    default: return MakeError(13);
+    default: return MakeError(err::kTypeMismatch);
   }
 }
 
@@ -309,7 +309,7 @@ Result<double> Variant::to_double(const Locale& locale) const {
   const Variant& v = plain;
   switch (v.subtype()) {
     case Subtype::Empty: return 0.0;
-    case Subtype::Null: return MakeError(94);
+    case Subtype::Null: return MakeError(err::kNullUse);
     case Subtype::Boolean: return v.as_boolean() ? -1.0 : 0.0;
     case Subtype::Byte: return static_cast<double>(v.as_byte());
     case Subtype::Integer: return static_cast<double>(v.as_integer());
@@ -320,17 +320,17 @@ Result<double> Variant::to_double(const Locale& locale) const {
     case Subtype::Date: return v.as_date();
     case Subtype::String: {
       auto number = ParseNumber(v.as_string_view(), locale);
-      if (!number) return MakeError(13);
-      if (!std::isfinite(*number)) return MakeError(6);
+      if (!number) return MakeError(err::kTypeMismatch);
+      if (!std::isfinite(*number)) return MakeError(err::kOverflow);
       return *number;
     }
-    default: return MakeError(13);
+    default: return MakeError(err::kTypeMismatch);
   }
 }
 
 Result<float> Variant::to_single(const Locale& locale) const {
   VBS_TRY_ASSIGN(auto real, to_double(locale));
-  if (std::fabs(real) > std::numeric_limits<float>::max()) return MakeError(6);
+  if (std::fabs(real) > std::numeric_limits<float>::max()) return MakeError(err::kOverflow);
   return static_cast<float>(real);
 }
 
@@ -347,7 +347,7 @@ Result<int64_t> Variant::to_currency(const Locale& locale) const {
   const double scaled = RoundHalfEven(real * kCurrencyScale);
   // The largest double below 2^63, so that the cast below is defined.
   constexpr double kLimit = 9223372036854774784.0;
-  if (!(scaled >= -kLimit && scaled <= kLimit)) return MakeError(6);
+  if (!(scaled >= -kLimit && scaled <= kLimit)) return MakeError(err::kOverflow);
   return static_cast<int64_t>(scaled);
 }
 
@@ -359,13 +359,13 @@ Result<double> Variant::to_date(const Locale& locale) const {
   if (v.is_string()) {
     if (auto date = ParseDateTime(v.as_string_view(), locale)) return *date;
     auto number = ParseNumber(v.as_string_view(), locale);
-    if (!number) return MakeError(13);
+    if (!number) return MakeError(err::kTypeMismatch);
     serial = *number;
   } else {
     VBS_TRY_ASSIGN(auto real, v.to_double(locale));
     serial = real;
   }
-  if (!IsValidDateSerial(serial)) return MakeError(6);
+  if (!IsValidDateSerial(serial)) return MakeError(err::kOverflow);
   return serial;
 }
 
@@ -374,7 +374,7 @@ Result<VbString> Variant::to_string(const Locale& locale) const {
   const Variant& v = plain;
   switch (v.subtype()) {
     case Subtype::Empty: return VbString();
-    case Subtype::Null: return MakeError(94);
+    case Subtype::Null: return MakeError(err::kNullUse);
     case Subtype::String: return v.as_string();
     case Subtype::Boolean: return VbString(v.as_boolean() ? locale.true_text : locale.false_text);
     case Subtype::Byte: return VbString(FormatInteger(v.as_byte()));
@@ -384,7 +384,7 @@ Result<VbString> Variant::to_string(const Locale& locale) const {
     case Subtype::Double: return VbString(FormatDouble(v.as_double(), locale));
     case Subtype::Currency: return VbString(FormatCurrency(v.as_currency(), locale));
     case Subtype::Date: return VbString(FormatDateTime(v.as_date(), locale));
-    default: return MakeError(13);
+    default: return MakeError(err::kTypeMismatch);
   }
 }
 
@@ -407,7 +407,7 @@ Result<Variant> ConvertTo(const Variant& value, Subtype target, const Locale& lo
     default: break;
   }
   assert(false && "not a conversion target");
-  return MakeError(13);
+  return MakeError(err::kTypeMismatch);
 }
 
 }  // namespace vbs

@@ -57,7 +57,7 @@ const Locale& EnglishLocale() { return kEnglishUs; }
 Result<const Locale*> LocaleFromLcid(int32_t lcid) {
   if (lcid == static_cast<int32_t>(kLcidItalian)) return &kItalian;
   if (lcid == static_cast<int32_t>(kLcidEnglishUs)) return &kEnglishUs;
-  return MakeError(5);
+  return MakeError(err::kInvalidCall);
 }
 
 }  // namespace vbs

@@ -2,6 +2,6 @@
 
 namespace vbs {
 
-Result<Ref<Enumerator>> Object::Enumerate() { return MakeError(451); }
+Result<Ref<Enumerator>> Object::Enumerate() { return MakeError(err::kNotCollection); }
 
 }  // namespace vbs

@@ -21,7 +21,7 @@ Status ToArithmetic(Variant& v, const Locale& locale) {
     }
     case Subtype::Array:
     case Subtype::Error:
-    case Subtype::Object: return MakeError(13);
+    case Subtype::Object: return MakeError(err::kTypeMismatch);
     default: return Ok();
   }
 }
@@ -62,17 +62,17 @@ Variant FitWhole(int64_t value, Subtype from) {
 }
 
 Result<Variant> FitDouble(double value) {
-  if (!std::isfinite(value)) return MakeError(6);
+  if (!std::isfinite(value)) return MakeError(err::kOverflow);
   return Variant::Double(value);
 }
 
 Result<Variant> FitDate(double value) {
-  if (!IsValidDateSerial(value)) return MakeError(6);
+  if (!IsValidDateSerial(value)) return MakeError(err::kOverflow);
   return Variant::Date(value);
 }
 
 Result<Variant> FitCurrency(__int128 scaled) {
-  if (scaled < INT64_MIN || scaled > INT64_MAX) return MakeError(6);
+  if (scaled < INT64_MIN || scaled > INT64_MAX) return MakeError(err::kOverflow);
   return Variant::Currency(static_cast<int64_t>(scaled));
 }
 
@@ -207,7 +207,7 @@ Result<Variant> IntegerDivision(IntegerOp op, const Variant& left, const Variant
   }
   VBS_TRY_ASSIGN(auto x, a->to_long(locale));
   VBS_TRY_ASSIGN(auto y, b->to_long(locale));
-  if (y == 0) return MakeError(11);
+  if (y == 0) return MakeError(err::kDivisionByZero);
   const int64_t n = x;
   const int64_t d = y;
   return FitWhole(op == IntegerOp::Divide ? n / d : n % d, type);
@@ -232,7 +232,7 @@ Result<Bits> ToBits(const Variant& value, const Locale& locale) {
     case Subtype::Integer: return Bits{false, Subtype::Integer, v.as_integer()};
     case Subtype::Long: return Bits{false, Subtype::Long, v.as_long()};
     case Subtype::Array:
-    case Subtype::Error: return MakeError(13);
+    case Subtype::Error: return MakeError(err::kTypeMismatch);
     case Subtype::String:
       if (auto word = ParseBooleanWord(v.as_string_view(), locale))
         return Bits{false, Subtype::Boolean, *word ? -1 : 0};
@@ -342,7 +342,7 @@ Result<Variant> Divide(const Variant& a, const Variant& b, const Locale& locale)
   bool null = false;
   VBS_TRY(RealOperands(a, b, locale, x, y, null));
   if (null) return Variant::Null();
-  if (y == 0) return MakeError(x == 0 ? 6 : 11);
+  if (y == 0) return MakeError(x == 0 ? err::kOverflow : err::kDivisionByZero);
   return FitDouble(x / y);
 }
 
@@ -360,9 +360,9 @@ Result<Variant> Power(const Variant& a, const Variant& b, const Locale& locale) 
   bool null = false;
   VBS_TRY(RealOperands(a, b, locale, x, y, null));
   if (null) return Variant::Null();
-  if (x == 0 && y < 0) return MakeError(11);
+  if (x == 0 && y < 0) return MakeError(err::kDivisionByZero);
   const double r = std::pow(x, y);
-  if (std::isnan(r)) return MakeError(5);
+  if (std::isnan(r)) return MakeError(err::kInvalidCall);
   return FitDouble(r);
 }
 
@@ -396,7 +396,7 @@ Result<Variant> Compare(BinaryOperator op, const Variant& left, const Variant& r
   if (!b) return b;
   if (a->is_null() || b->is_null()) return Variant::Null();
   for (const Variant* v : {&*a, &*b}) {
-    if (v->is_array() || v->is_error()) return MakeError(13);
+    if (v->is_array() || v->is_error()) return MakeError(err::kTypeMismatch);
   }
   int order = 0;
   if (a->is_string() && b->is_string()) {
@@ -422,7 +422,7 @@ Result<Variant> Compare(BinaryOperator op, const Variant& left, const Variant& r
     default: break;
   }
   assert(false && "not a comparison");
-  return MakeError(5);
+  return MakeError(err::kInvalidCall);
 }
 
 Result<Variant> And(const Variant& a, const Variant& b, const Locale& locale) {
@@ -479,7 +479,7 @@ Result<Variant> Negate(const Variant& value, const Locale& locale) {
     case Subtype::Long: return FitWhole(-WholeOf(v), Subtype::Long);
     case Subtype::Single: return Variant::Single(-v.as_single());
     case Subtype::Currency:
-      if (v.as_currency() == INT64_MIN) return MakeError(6);
+      if (v.as_currency() == INT64_MIN) return MakeError(err::kOverflow);
       return Variant::Currency(-v.as_currency());
     case Subtype::Date: return FitDate(-v.as_date());
     default: return Variant::Double(-v.as_double());
@@ -495,7 +495,7 @@ Result<Variant> Not(const Variant& value, const Locale& locale) {
 Result<bool> Is(const Variant& a, const Variant& b) {
   const Variant& x = a.Deref();
   const Variant& y = b.Deref();
-  if (!x.is_object() || !y.is_object()) return MakeError(424);
+  if (!x.is_object() || !y.is_object()) return MakeError(err::kObjectRequired);
   return x.as_object() == y.as_object();
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+#include "vbscript/value/ErrorCodes.h"
 #include "vbscript/value/Source.h"
 
 namespace vbs {
@@ -94,6 +95,7 @@ struct Unit {};
 using Status = Result<Unit>;
 inline Status Ok() { return Unit{}; }
 
+// `number` is one of the err:: names.
 inline ScriptError MakeError(int32_t number) { return ScriptError{number, {}, {}, {}, false}; }
 inline ScriptError MakeError(int32_t number, SourcePos pos) { return ScriptError{number, {}, {}, pos, true}; }
 

@@ -31,20 +31,20 @@ SafeArray::~SafeArray() {
 Result<Ref<SafeArray>> SafeArray::Allocate(std::span<const ArrayBound> bounds) {
   size_t total = 1;
   for (const ArrayBound& bound : bounds) {
-    if (bound.count() < 0) return MakeError(9);
+    if (bound.count() < 0) return MakeError(err::kSubscript);
     const auto count = static_cast<size_t>(bound.count());
-    if (count != 0 && total > kMaxElements / count) return MakeError(7);
+    if (count != 0 && total > kMaxElements / count) return MakeError(err::kOutOfMemory);
     total *= count;
   }
-  if (total > kMaxElements) return MakeError(7);
+  if (total > kMaxElements) return MakeError(err::kOutOfMemory);
   Ref<SafeArray> array(new SafeArray());
   array->m_bounds.assign(bounds.begin(), bounds.end());
   if (total != 0) {
-    if (!ReserveElements(total)) return MakeError(7);
+    if (!ReserveElements(total)) return MakeError(err::kOutOfMemory);
     array->m_data = new (std::nothrow) Variant[total];
     if (!array->m_data) {
       g_live_elements.fetch_sub(total, std::memory_order_relaxed);
-      return MakeError(7);
+      return MakeError(err::kOutOfMemory);
     }
   }
   array->m_size = total;
@@ -67,22 +67,22 @@ Result<Ref<SafeArray>> SafeArray::FromValues(std::span<const Variant> values) {
 }
 
 Result<int32_t> SafeArray::LBound(int32_t dimension) const {
-  if (dimension < 1 || dimension > static_cast<int32_t>(m_bounds.size())) return MakeError(9);
+  if (dimension < 1 || dimension > static_cast<int32_t>(m_bounds.size())) return MakeError(err::kSubscript);
   return m_bounds[dimension - 1].lower;
 }
 
 Result<int32_t> SafeArray::UBound(int32_t dimension) const {
-  if (dimension < 1 || dimension > static_cast<int32_t>(m_bounds.size())) return MakeError(9);
+  if (dimension < 1 || dimension > static_cast<int32_t>(m_bounds.size())) return MakeError(err::kSubscript);
   return m_bounds[dimension - 1].upper;
 }
 
 Result<size_t> SafeArray::Offset(std::span<const int32_t> indices) const {
-  if (indices.size() != m_bounds.size() || m_bounds.empty()) return MakeError(9);
+  if (indices.size() != m_bounds.size() || m_bounds.empty()) return MakeError(err::kSubscript);
   size_t offset = 0;
   size_t stride = 1;
   for (size_t d = 0; d < indices.size(); ++d) {
     const ArrayBound& bound = m_bounds[d];
-    if (indices[d] < bound.lower || indices[d] > bound.upper) return MakeError(9);
+    if (indices[d] < bound.lower || indices[d] > bound.upper) return MakeError(err::kSubscript);
     offset += static_cast<size_t>(int64_t{indices[d]} - bound.lower) * stride;
     stride *= static_cast<size_t>(bound.count());
   }
@@ -99,7 +99,7 @@ Result<Ref<SafeArray>> SafeArray::Clone() const {
 
 Result<SafeArray*> MutableArray(Variant& variable) {
   Variant& target = variable.Deref();
-  if (!target.is_array()) return MakeError(13);
+  if (!target.is_array()) return MakeError(err::kTypeMismatch);
   SafeArray* array = target.as_array();
   if (array->RefCount() == 1) return array;
   VBS_TRY_ASSIGN(auto copy, array->Clone());
@@ -112,16 +112,16 @@ Status Redim(Variant& variable, std::span<const ArrayBound> bounds, RedimMode mo
   assert(!bounds.empty());
   Variant& target = variable.Deref();
   const bool had_array = target.is_array();
-  if (had_array && (target.IsFixedArray() || target.as_array()->IsLocked())) return MakeError(10);
+  if (had_array && (target.IsFixedArray() || target.as_array()->IsLocked())) return MakeError(err::kFixedArray);
   VBS_TRY_ASSIGN(auto created, SafeArray::Create(bounds));
   if (mode == RedimMode::Preserve && had_array && target.as_array()->DimensionCount() != 0) {
     const SafeArray& old = *target.as_array();
     const auto& old_bounds = old.bounds();
-    if (old_bounds.size() != bounds.size()) return MakeError(9);
+    if (old_bounds.size() != bounds.size()) return MakeError(err::kSubscript);
     for (size_t d = 0; d < bounds.size(); ++d) {
       const bool last = d + 1 == bounds.size();
-      if (bounds[d].lower != old_bounds[d].lower) return MakeError(9);
-      if (!last && bounds[d].upper != old_bounds[d].upper) return MakeError(9);
+      if (bounds[d].lower != old_bounds[d].lower) return MakeError(err::kSubscript);
+      if (!last && bounds[d].upper != old_bounds[d].upper) return MakeError(err::kSubscript);
     }
     // Column-major: keeping every dimension but the last keeps the elements as a prefix.
     const size_t kept = std::min(old.size(), (created)->size());
@@ -143,8 +143,8 @@ Status Redim(Variant& variable, std::span<const ArrayBound> bounds, RedimMode mo
 
 Status Erase(Variant& variable) {
   Variant& target = variable.Deref();
-  if (!target.is_array()) return MakeError(13);
-  if (target.as_array()->IsLocked()) return MakeError(10);
+  if (!target.is_array()) return MakeError(err::kTypeMismatch);
+  if (target.as_array()->IsLocked()) return MakeError(err::kFixedArray);
   if (!target.IsFixedArray()) {
     target.ReplaceArray(SafeArray::CreateUndimensioned());
     return Ok();
@@ -156,14 +156,14 @@ Status Erase(Variant& variable) {
 
 Result<Variant> ReadElement(const Variant& array, std::span<const int32_t> indices) {
   const Variant& target = array.Deref();
-  if (!target.is_array()) return MakeError(13);
+  if (!target.is_array()) return MakeError(err::kTypeMismatch);
   VBS_TRY_ASSIGN(auto offset, target.as_array()->Offset(indices));
   return target.as_array()->elements()[offset];
 }
 
 Status WriteElement(Variant& variable, std::span<const int32_t> indices, Variant value) {
   Variant& target = variable.Deref();
-  if (!target.is_array()) return MakeError(13);
+  if (!target.is_array()) return MakeError(err::kTypeMismatch);
   // Bounds first, so that a bad index does not copy a shared array for nothing.
   VBS_TRY_ASSIGN(auto offset, target.as_array()->Offset(indices));
   VBS_TRY_ASSIGN(auto array, MutableArray(target));

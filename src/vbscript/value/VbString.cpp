@@ -74,9 +74,9 @@ VbString::~VbString() { Release(m_rep); }
 
 Result<VbString> VbString::TryCreate(size_t length, char16_t fill) {
   if (length == 0) return VbString();
-  if (length > kMaxLength) return MakeError(7);
+  if (length > kMaxLength) return MakeError(err::kOutOfMemory);
   Rep* rep = AllocateRep(length);
-  if (!rep) return MakeError(7);
+  if (!rep) return MakeError(err::kOutOfMemory);
   for (size_t i = 0; i < length; ++i) rep->chars()[i] = fill;
   rep->length = static_cast<uint32_t>(length);
   return VbString(rep);
@@ -84,9 +84,9 @@ Result<VbString> VbString::TryCreate(size_t length, char16_t fill) {
 
 Result<VbString> VbString::Concat(std::u16string_view a, std::u16string_view b) {
   if (a.size() + b.size() == 0) return VbString();
-  if (a.size() + b.size() > kMaxLength) return MakeError(7);
+  if (a.size() + b.size() > kMaxLength) return MakeError(err::kOutOfMemory);
   Rep* rep = CopyRep(a, b, a.size() + b.size());
-  if (!rep) return MakeError(7);
+  if (!rep) return MakeError(err::kOutOfMemory);
   return VbString(rep);
 }
 
@@ -98,7 +98,7 @@ bool VbString::IsUnique() const { return !m_rep || m_rep->refs == 1; }
 Status VbString::Append(std::u16string_view text) {
   if (text.empty()) return Ok();
   const size_t length = size() + text.size();
-  if (length > kMaxLength) return MakeError(7);
+  if (length > kMaxLength) return MakeError(err::kOutOfMemory);
   if (m_rep && m_rep->refs == 1 && length <= m_rep->capacity) {
     std::memcpy(m_rep->chars() + m_rep->length, text.data(), text.size() * sizeof(char16_t));
     m_rep->length = static_cast<uint32_t>(length);
@@ -106,17 +106,17 @@ Status VbString::Append(std::u16string_view text) {
   }
   // A new block, filled before the old one is released: `text` may live in the old one.
   Rep* rep = CopyRep(view(), text, GrownCapacity(length));
-  if (!rep) return MakeError(7);
+  if (!rep) return MakeError(err::kOutOfMemory);
   Release(m_rep);
   m_rep = rep;
   return Ok();
 }
 
 Status VbString::Reserve(size_t capacity) {
-  if (capacity > kMaxLength) return MakeError(7);
+  if (capacity > kMaxLength) return MakeError(err::kOutOfMemory);
   if (capacity <= this->capacity() && IsUnique()) return Ok();
   Rep* rep = CopyRep(view(), {}, capacity < size() ? size() : capacity);
-  if (!rep) return MakeError(7);
+  if (!rep) return MakeError(err::kOutOfMemory);
   Release(m_rep);
   m_rep = rep;
   return Ok();

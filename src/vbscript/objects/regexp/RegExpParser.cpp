@@ -7,13 +7,6 @@ namespace vbs::regexp {
 
 namespace {
 
-constexpr int32_t kSyntaxError = 5017;
-constexpr int32_t kUnexpectedQuantifier = 5018;
-constexpr int32_t kExpectedBracket = 5019;
-constexpr int32_t kExpectedParen = 5020;
-constexpr int32_t kInvalidRange = 5021;
-constexpr int32_t kOutOfStack = 28;
-
 // Nesting deeper than this is refused rather than risking the parser's own stack.
 constexpr int kMaxNesting = 500;
 constexpr int32_t kMaxCount = INT32_MAX / 2;
@@ -92,7 +85,7 @@ class PatternParser {
     m_total_groups = CountGroups();
     auto node = Disjunction(0);
     if (!node) return node;
-    if (!AtEnd()) return MakeError(kSyntaxError);  // a ')' without its '('
+    if (!AtEnd()) return MakeError(err::kRegExpSyntax);  // a ')' without its '('
     return node;
   }
   uint32_t groups() const { return m_next_group - 1; }
@@ -122,7 +115,7 @@ class PatternParser {
   }
 
   Result<NodePtr> Disjunction(int depth) {
-    if (depth > kMaxNesting) return MakeError(kOutOfStack);
+    if (depth > kMaxNesting) return MakeError(err::kOutOfStack);
     auto first = Alternative(depth);
     if (!first || Peek() != u'|' || AtEnd()) return first;
     auto alt = Leaf(Kind::Alt);
@@ -165,7 +158,7 @@ class PatternParser {
       if (!group) return group;
       atom = std::move(*group);
     } else if (c == u'*' || c == u'+' || c == u'?' || (c == u'{' && QuantifierAhead())) {
-      return MakeError(kUnexpectedQuantifier);
+      return MakeError(err::kRegExpUnexpectedQuantifier);
     } else if (c == u'\\') {
       auto escape = Escape();
       if (!escape) return escape;
@@ -185,7 +178,7 @@ class PatternParser {
     int32_t max = 0;
     VBS_TRY_ASSIGN(auto quantified, Quantifier(min, max));
     if (!quantified) return atom;
-    if (!quantifiable) return MakeError(kUnexpectedQuantifier);
+    if (!quantifiable) return MakeError(err::kRegExpUnexpectedQuantifier);
     auto repeat = Leaf(Kind::Repeat);
     repeat->min = min;
     repeat->max = max;
@@ -196,7 +189,7 @@ class PatternParser {
     }
     repeat->children.push_back(std::move(atom));
     if (!AtEnd() && (Peek() == u'*' || Peek() == u'+' || Peek() == u'?' || (Peek() == u'{' && QuantifierAhead())))
-      return MakeError(kUnexpectedQuantifier);
+      return MakeError(err::kRegExpUnexpectedQuantifier);
     return repeat;
   }
 
@@ -249,7 +242,7 @@ class PatternParser {
           ++m_pos;
           max = IsDigit(Peek()) ? Number() : -1;
         }
-        if (max >= 0 && max < min) return MakeError(kSyntaxError);
+        if (max >= 0 && max < min) return MakeError(err::kRegExpSyntax);
         break;  // the '}' is consumed below
       default: return false;
     }
@@ -268,7 +261,7 @@ class PatternParser {
         node = Leaf(Kind::Look);
         node->flag = kind == u'!';
       } else {
-        return MakeError(kSyntaxError);
+        return MakeError(err::kRegExpSyntax);
       }
       m_pos += 2;
     } else {
@@ -277,7 +270,7 @@ class PatternParser {
     }
     auto body = Disjunction(depth + 1);
     if (!body) return body;
-    if (AtEnd() || Peek() != u')') return MakeError(kExpectedParen);
+    if (AtEnd() || Peek() != u')') return MakeError(err::kRegExpExpectedParen);
     ++m_pos;
     node->children.push_back(std::move(*body));
     return node;
@@ -340,7 +333,7 @@ class PatternParser {
 
   Result<NodePtr> Escape() {
     ++m_pos;
-    if (AtEnd()) return MakeError(kSyntaxError);
+    if (AtEnd()) return MakeError(err::kRegExpSyntax);
     const char16_t letter = m_pattern[m_pos++];
     switch (letter) {
       case u'd': case u'D': case u'w': case u'W': case u's': case u'S':
@@ -372,7 +365,7 @@ class PatternParser {
       atom.ch = c;
       return atom;
     }
-    if (AtEnd()) return MakeError(kExpectedBracket);
+    if (AtEnd()) return MakeError(err::kRegExpExpectedBracket);
     const char16_t letter = m_pattern[m_pos++];
     switch (letter) {
       case u'd': case u'D': case u'w': case u'W': case u's': case u'S':
@@ -408,7 +401,7 @@ class PatternParser {
     }
     Ranges ranges;
     for (;;) {
-      if (AtEnd()) return MakeError(kExpectedBracket);
+      if (AtEnd()) return MakeError(err::kRegExpExpectedBracket);
       if (Peek() == u']') {
         ++m_pos;
         break;
@@ -423,7 +416,7 @@ class PatternParser {
           ranges.emplace_back(u'-', u'-');
           AddAtom(ranges, last);
         } else if (first.ch > last.ch) {
-          return MakeError(kInvalidRange);
+          return MakeError(err::kRegExpInvalidRange);
         } else {
           ranges.emplace_back(first.ch, last.ch);
         }

@@ -14,7 +14,6 @@ using regexp::Node;
 using regexp::NodePtr;
 using Ranges = std::vector<std::pair<char16_t, char16_t>>;
 
-constexpr int32_t kOutOfStack = 28;
 
 bool IsWordChar(char16_t c) {
   return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9') || c == u'_';
@@ -278,7 +277,7 @@ Result<bool> RegExpMachine::Run(int32_t pc, int32_t pos, int32_t& end) {
   const size_t base = m_stack.size();
   for (;;) {
     if (++m_steps % kInterruptEvery == 0) VBS_TRY(m_interrupt());
-    if (m_stack.size() > kMaxStack) return MakeError(kOutOfStack);
+    if (m_stack.size() > kMaxStack) return MakeError(err::kOutOfStack);
     const Inst& inst = m_code[pc];
     bool ok = true;
     switch (inst.op) {
