@@ -146,10 +146,10 @@ size_t TrovaFineSezione(std::string_view byte, size_t da) {
 }
 
 // Halves go to the even count, as the conversion the files were always read with did.
-size_t ArrotondaAlPari(size_t lunghezza, size_t lunghezzaRecord) {
-  size_t quoziente = lunghezza / lunghezzaRecord;
-  size_t doppioResto = 2 * (lunghezza % lunghezzaRecord);
-  if (doppioResto > lunghezzaRecord || (doppioResto == lunghezzaRecord && quoziente % 2 == 1)) ++quoziente;
+size_t ArrotondaAlPari(size_t lunghezza, size_t lunghezza_record) {
+  size_t quoziente = lunghezza / lunghezza_record;
+  size_t doppio_resto = 2 * (lunghezza % lunghezza_record);
+  if (doppio_resto > lunghezza_record || (doppio_resto == lunghezza_record && quoziente % 2 == 1)) ++quoziente;
   return quoziente;
 }
 

@@ -10,11 +10,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <iterator>
 #include <limits>
 #include <numeric>
 #include <optional>
 #include <random>
-#include <ranges>
 
 #include "ArgomentiLotto.h"
 #include "ArgomentiRitardi.h"
@@ -381,6 +382,25 @@ Result<Variant> NumeroCasuale(Libreria& lib, CallArgs& args) {
   return Variant::Long(distribuzione(lib.Stato<StatoCasuale>().generatore));
 }
 
+// The integers from a value on, walked once: what std::views::iota gives std::sample (the same
+// category and difference type, so the same draws), spelt out because clang 14 rejects libstdc++ 12's
+// iota_view.
+struct Interi {
+  using iterator_category = std::input_iterator_tag;
+  using value_type = int;
+  using difference_type = std::ptrdiff_t;
+  using pointer = const int*;
+  using reference = int;
+  int n;
+  int operator*() const { return n; }
+  Interi& operator++() {
+    ++n;
+    return *this;
+  }
+  Interi operator++(int) { return Interi{n++}; }
+  bool operator==(const Interi&) const = default;
+};
+
 Result<Variant> GetColonnaCasuale(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto quanti, args.Long(0));
   VBS_TRY_ASSIGN(auto massimo, args.Long(2, stats::kNumeriLotto));
@@ -391,8 +411,8 @@ Result<Variant> GetColonnaCasuale(Libreria& lib, CallArgs& args) {
     return ArgomentoNonValido(
         fmt::format("Quantità {} non valida: deve essere compresa tra 1 e {}", quanti, massimo));
   std::vector<int> colonna(static_cast<size_t>(quanti));
-  std::ranges::sample(std::views::iota(1, massimo + 1), colonna.begin(), quanti,
-                      lib.Stato<StatoCasuale>().generatore);
+  std::sample(Interi{1}, Interi{massimo + 1}, colonna.begin(), std::ptrdiff_t{quanti},
+              lib.Stato<StatoCasuale>().generatore);
   std::ranges::sort(colonna);
   args.Out(1) = ArrayDaUno(colonna);
   return Variant();

@@ -21,9 +21,6 @@ using test::Leggi;
 using test::Scrivi;
 using test::CartellaTemporanea;
 
-
-
-
 // A base folder with an archive, the INI, a script of the user's and the output folder, and a
 // folder outside it standing for the user's home. Paths reach the scripts through the globals
 // BASE and FUORI, with a trailing "/".
@@ -52,8 +49,7 @@ class ModalitaProtetta : public ::testing::Test {
     return m_esecutore.Esegui(text::Utf8ToUtf16(codice), m_opzioni);
   }
 
-  // The run ended with error 70 naming the function and the path (`percorso` relative to the
-  // folder outside, or to the base folder when `nella_base`).
+  // The run ended with error 70 naming the function and the path (`percorso` is a part of it).
   void Rifiutato(std::string_view corpo, std::string_view funzione, std::string_view percorso) {
     const EsitoEsecuzione esito = Esegui(corpo);
     ASSERT_EQ(esito.stato, EsitoEsecuzione::Stato::ErroreScript) << corpo;
@@ -87,6 +83,7 @@ struct Caso {
 
 TEST_F(ModalitaProtetta, EveryWayToWriteDeleteOrLaunchOutsideTheOutputFolderIsAScriptError) {
   constexpr std::string_view kFso = "Dim fso: Set fso = CreateObject(\"Scripting.FileSystemObject\")\n";
+  const std::string fuori = m_fuori.Percorso().filename().string();
   const Caso casi[] = {
       // Writing, by the library and by the engine.
       {"ScriviFile FUORI & \".bashrc\", \"rm -rf ~\"", "ScriviFile", ".bashrc"},
@@ -97,7 +94,7 @@ TEST_F(ModalitaProtetta, EveryWayToWriteDeleteOrLaunchOutsideTheOutputFolderIsAS
       {"fso.OpenTextFile(FUORI & \".bashrc\", 8).WriteLine \"x\"", "OpenTextFile", ".bashrc"},
       {"Dim t: Set t = fso.OpenTextFile(FUORI & \"nuovo.txt\", 1, True)", "OpenTextFile", "nuovo.txt"},
       {"fso.CreateFolder FUORI & \"nuova\"", "CreateFolder", "nuova"},
-      {"fso.CopyFile BASE & \"Script/mio.ls\", FUORI", "CopyFile", ""},
+      {"fso.CopyFile BASE & \"Script/mio.ls\", FUORI", "CopyFile", fuori.c_str()},
       {"fso.GetFolder(BASE & \"scriptOutput\").CreateTextFile(FUORI & \"z.txt\")", "CreateTextFile", "z.txt"},
       {"fso.GetFolder(FUORI).SubFolders.Add \"nuova\"", "Add", "nuova"},
       // Deleting, also what lies in the base folder but outside the output folder.
@@ -116,12 +113,12 @@ TEST_F(ModalitaProtetta, EveryWayToWriteDeleteOrLaunchOutsideTheOutputFolderIsAS
       {"LanciaFile BASE & \"Script/mio.ls\"", "LanciaFile", "mio.ls"},
       // Reading outside the base folder.
       {"Dim r: LeggiRigheFileDiTesto FUORI & \".bashrc\", r", "LeggiRigheFileDiTesto", ".bashrc"},
-      {"Dim f: ElencoFileInDirectory FUORI, f", "ElencoFileInDirectory", ""},
+      {"Dim f: ElencoFileInDirectory FUORI, f", "ElencoFileInDirectory", fuori.c_str()},
       {"QuantitaEstrazioniInFile FUORI & \".bashrc\"", "QuantitaEstrazioniInFile", ".bashrc"},
       {"fso.OpenTextFile(FUORI & \".bashrc\").ReadAll", "OpenTextFile", ".bashrc"},
       {"fso.GetFile(FUORI & \".bashrc\").OpenAsTextStream.ReadAll", "OpenAsTextStream", ".bashrc"},
       {"fso.CopyFile FUORI & \".bashrc\", BASE & \"scriptOutput/\"", "CopyFile", ".bashrc"},
-      {"Dim n: n = fso.GetFolder(FUORI).Files.Count", "Files", ""},
+      {"Dim n: n = fso.GetFolder(FUORI).Files.Count", "Files", fuori.c_str()},
       // A page the script names itself goes nowhere but the output folder.
       {"SetNomeFileHtmlOut FUORI & \"x.htm\": AzzeraHtmlOutput", "AzzeraHtmlOutput", "x.htm"},
   };
@@ -225,11 +222,12 @@ TEST_F(ModalitaProtetta, NormalModeAllowsTheUsersFilesButNotTheIniOrTheArchives)
   EXPECT_FALSE(fs::exists(m_fuori / "cartella" / "dentro.txt"));
   Scrivi(m_fuori / "cartella" / "dentro.txt", "dentro");
 
+  const std::string base = m_base.Percorso().filename().string();
   const Caso casi[] = {
       {"ScriviFile BASE & \"lottolab.ini\", \"x\"", "ScriviFile", "lottolab.ini"},
       {"CopiaFile FUORI & \".bashrc\", BASE & \"BaseDati.dat\", True", "CopiaFile", "BaseDati.dat"},
       {"CreateObject(\"Scripting.FileSystemObject\").DeleteFolder Left(BASE, Len(BASE) - 1), True", "DeleteFolder",
-       ""},
+       base.c_str()},
       {"CreateObject(\"Scripting.FileSystemObject\").OpenTextFile(BASE & \"BaseDati.dat\", 2).Write \"x\"",
        "OpenTextFile", "BaseDati.dat"},
   };

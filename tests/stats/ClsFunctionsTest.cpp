@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "stats/ClsFunctions.h"
-#include "stats/Numeri.h"
 
 namespace lottolab::stats {
 namespace {
@@ -56,23 +55,6 @@ TEST(ClsFunctions, CadenzaDelTestoRipulito) {
   for (const CasoTesto& caso : std::initializer_list<CasoTesto>{
            {"12", 2}, {" 12 ", 2}, {"7   ", 7}, {"90", 0}, {"12abc", 0}, {"", 0}, {"   ", 0}}) {
     EXPECT_EQ(ClsFunctions::Cadenza(caso.testo), caso.atteso) << '"' << caso.testo << '"';
-  }
-}
-
-TEST(ClsFunctions, IlRestoRispondeComeLeFunzioniCondivise) {
-  for (int n = -5; n <= 100; ++n) {
-    EXPECT_EQ(ClsFunctions::Cadenza(n), Cadenza(n)) << n;
-    EXPECT_EQ(ClsFunctions::FuoriX(n, 49), FuoriX(n, 49)) << n;
-    EXPECT_EQ(ClsFunctions::DiametraleD(n), DiametraleD(n)) << n;
-    EXPECT_EQ(ClsFunctions::Figura(n), Figura(n)) << n;
-    EXPECT_EQ(ClsFunctions::Decina(n), Decina(n)) << n;
-    EXPECT_EQ(ClsFunctions::DecinaNaturale(n), DecinaNaturale(n)) << n;
-    EXPECT_EQ(ClsFunctions::DecinaCabalistica(n), DecinaCabalistica(n)) << n;
-    EXPECT_EQ(ClsFunctions::ControFigura(n), ControFigura(n)) << n;
-    EXPECT_EQ(ClsFunctions::Radicale(n), Radicale(n)) << n;
-    EXPECT_EQ(ClsFunctions::vert(n), vert(n)) << n;
-    EXPECT_EQ(ClsFunctions::Gemello(n), Gemello(n)) << n;
-    EXPECT_EQ(ClsFunctions::Distanza(n, 7), Distanza(n, 7)) << n;
   }
 }
 
