@@ -18,8 +18,9 @@ std::u16string Analisi(std::u16string_view suffisso) {
          u"  ruote = Array(BA_, CA_, FI_, GE_, MI_, NA_, PA_, RO_, TO_, VE_, NZ_)\n"
          u"  For Each r In ruote\n"
          u"    For n = 1 To 90\n"
-         u"      somma = somma + EstrattoRitardo" + s + u"(r, n) + EstrattoFrequenza" + s +
-         u"(r, n) + EstrattoStorico" + s + u"(r, n)\n"
+         u"      somma = somma + EstrattoRitardo" +
+         s + u"(r, n) + EstrattoFrequenza" + s + u"(r, n) + EstrattoStorico" + s +
+         u"(r, n)\n"
          u"    Next\n"
          u"  Next\n"
          u"  Scrivi somma\n"

@@ -8,8 +8,8 @@
 #include <charconv>
 #include <string>
 
-#include "vbscript/objects/Dictionary.h"
 #include "vbscript/ScriptControl.h"
+#include "vbscript/objects/Dictionary.h"
 
 namespace {
 
@@ -39,7 +39,9 @@ void BM_ScriptStringKeys(benchmark::State& state) {
 BENCHMARK(BM_ScriptStringKeys)->Unit(benchmark::kMillisecond);
 
 void BM_ScriptBuildAndLookUp(benchmark::State& state) {
-  RunScript(state, u"For i = 1 To 1000000 : d.Add i, i : Next\nFor i = 1 To 1000000 : If Not d.Exists(i) Then d.Add 0, 0\nNext");
+  RunScript(
+      state,
+      u"For i = 1 To 1000000 : d.Add i, i : Next\nFor i = 1 To 1000000 : If Not d.Exists(i) Then d.Add 0, 0\nNext");
 }
 BENCHMARK(BM_ScriptBuildAndLookUp)->Unit(benchmark::kMillisecond);
 

@@ -21,10 +21,9 @@ ClsVertice Vertice(int16_t index, const char* caption, int16_t riga, int16_t col
 void BM_QuadratoConDueCondizioni(benchmark::State& state) {
   const TabellaEstrazioni* tab = bench::ArchivioReale(state);
   if (!tab) return;
-  const Struttura quadrato{
-      {Vertice(1, "A", 0, 1), Vertice(2, "B", 0, 2), Vertice(3, "C", 1, 1), Vertice(4, "D", 1, 2)},
-      {{1, 1, 2}, {2, 2, 4}, {3, 4, 3}, {4, 3, 1}},
-      {"[A] = [D]", "Cadenza([B]) = Cadenza([C])"}};
+  const Struttura quadrato{{Vertice(1, "A", 0, 1), Vertice(2, "B", 0, 2), Vertice(3, "C", 1, 1), Vertice(4, "D", 1, 2)},
+                           {{1, 1, 2}, {2, 2, 4}, {3, 4, 3}, {4, 3, 1}},
+                           {"[A] = [D]", "Cadenza([B]) = Cadenza([C])"}};
   size_t trovate = 0;
   for (auto _ : state) {
     auto esito = CercaFigura(*tab, quadrato, {});

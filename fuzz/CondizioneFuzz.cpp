@@ -30,8 +30,7 @@ std::vector<ClsVertice> Vertici() {
 FiguraPiazzata Figura(int a, int b, int c, int d) {
   FiguraPiazzata figura;
   int numeri[] = {a, b, c, d};
-  for (int i = 0; i < 4; ++i)
-    figura.vertici.push_back({10 + i, i * 3 + 1, i + 1, numeri[i], i % 2 == 0});
+  for (int i = 0; i < 4; ++i) figura.vertici.push_back({10 + i, i * 3 + 1, i + 1, numeri[i], i % 2 == 0});
   return figura;
 }
 

@@ -16,7 +16,8 @@ class CartellaTemporanea {
  public:
   CartellaTemporanea() {
     std::random_device caso;
-    m_percorso = std::filesystem::temp_directory_path() / ("lottolab-test-" + std::to_string(caso()) + std::to_string(caso()));
+    m_percorso =
+        std::filesystem::temp_directory_path() / ("lottolab-test-" + std::to_string(caso()) + std::to_string(caso()));
     std::filesystem::create_directories(m_percorso);
   }
   ~CartellaTemporanea() {

@@ -15,8 +15,7 @@ fs::path Configurazione::ArchivioModificabile() const {
 }
 
 std::string Configurazione::IndirizzoRisultati() const {
-  return ini.Leggi(kSezioneGenerale, "sIndirizzoRisultati",
-                   "https://www.igt.it/STORICO_ESTRAZIONI_LOTTO/storico.zip");
+  return ini.Leggi(kSezioneGenerale, "sIndirizzoRisultati", "https://www.igt.it/STORICO_ESTRAZIONI_LOTTO/storico.zip");
 }
 
 Esito<Configurazione> CaricaConfigurazione(const fs::path& base) {

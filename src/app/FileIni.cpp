@@ -91,7 +91,8 @@ std::string FileIni::Leggi(std::string_view sezione, std::string_view chiave, st
 void FileIni::Scrivi(std::string_view sezione, std::string_view chiave, std::string_view valore_dato) {
   // A line break in a value would start a line of its own, read back as another key.
   std::string valore(valore_dato);
-  std::replace_if(valore.begin(), valore.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+  std::replace_if(
+      valore.begin(), valore.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
   std::string testo = fmt::format("{}={}", chiave, valore);
   if (size_t i = IndiceChiave(sezione, chiave); i < m_righe.size()) {
     m_righe[i].testo = testo;

@@ -23,8 +23,6 @@ struct Avviso {
 // qualified name.
 Avviso AvvisoCritico(std::string procedura, int numero, std::string descrizione);
 
-inline Avviso AvvisoEsclamativo(std::string testo) {
-  return Avviso{TipoAvviso::Esclamativo, "", std::move(testo)};
-}
+inline Avviso AvvisoEsclamativo(std::string testo) { return Avviso{TipoAvviso::Esclamativo, "", std::move(testo)}; }
 
 }  // namespace lottolab

@@ -38,8 +38,7 @@ Esito<GruppoData> LeggiData(std::string_view testo, GruppoData base) {
   GruppoData data = base;
   if (parti.size() != 3 || !LeggiIntero16(parti[0], data.giorno) || !LeggiIntero16(parti[1], data.mese) ||
       !LeggiIntero16(parti[2], data.anno)) {
-    return AvvisoEsclamativo(
-        fmt::format("Data non corretta scrivere la data in formato GG/MM/AAAA {}", testo));
+    return AvvisoEsclamativo(fmt::format("Data non corretta scrivere la data in formato GG/MM/AAAA {}", testo));
   }
   return data;
 }

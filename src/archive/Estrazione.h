@@ -28,9 +28,7 @@ struct Estrazione {
   // Wheel-major: wheel w (1..11), position p (1..5) is element (w-1)*5 + (p-1); 0 means absent.
   std::array<uint8_t, kNumeroRuote * kNumeriPerRuota> numeri{};
 
-  uint8_t Numero(int ruota, int posizione) const {
-    return numeri[(ruota - 1) * kNumeriPerRuota + (posizione - 1)];
-  }
+  uint8_t Numero(int ruota, int posizione) const { return numeri[(ruota - 1) * kNumeriPerRuota + (posizione - 1)]; }
   void ImpostaNumero(int ruota, int posizione, int numero) {
     numeri[(ruota - 1) * kNumeriPerRuota + (posizione - 1)] = static_cast<uint8_t>(numero);
   }

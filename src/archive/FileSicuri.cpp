@@ -107,44 +107,26 @@ Avviso ErroreAccesso(const char* procedura, const fs::path& file, const GuastoFi
 
 std::string DescrizioneErrore(int numero) {
   switch (numero) {
-    case ENOENT:
-      return "il file o la cartella non esiste";
+    case ENOENT: return "il file o la cartella non esiste";
     case EACCES:
-    case EPERM:
-      return "permesso negato";
-    case EISDIR:
-      return "è una cartella";
-    case ENOTDIR:
-      return "una parte del percorso non è una cartella";
-    case ENAMETOOLONG:
-      return "nome del file troppo lungo";
-    case ENOSPC:
-      return "spazio su disco esaurito";
-    case EDQUOT:
-      return "quota del disco superata";
-    case EROFS:
-      return "il disco è di sola lettura";
-    case EIO:
-      return "errore di lettura o scrittura sul disco";
+    case EPERM: return "permesso negato";
+    case EISDIR: return "è una cartella";
+    case ENOTDIR: return "una parte del percorso non è una cartella";
+    case ENAMETOOLONG: return "nome del file troppo lungo";
+    case ENOSPC: return "spazio su disco esaurito";
+    case EDQUOT: return "quota del disco superata";
+    case EROFS: return "il disco è di sola lettura";
+    case EIO: return "errore di lettura o scrittura sul disco";
     case EMFILE:
-    case ENFILE:
-      return "troppi file aperti";
-    case ELOOP:
-      return "troppi collegamenti simbolici nel percorso";
-    case EFBIG:
-      return "file troppo grande";
-    case EEXIST:
-      return "esiste già";
-    case ENOTEMPTY:
-      return "la cartella non è vuota";
-    case ENOMEM:
-      return "memoria insufficiente";
-    case EBUSY:
-      return "risorsa occupata";
-    case EXDEV:
-      return "i due percorsi sono su dischi diversi";
-    default:
-      return fmt::format("errore di sistema {} ({})", numero, std::strerror(numero));
+    case ENFILE: return "troppi file aperti";
+    case ELOOP: return "troppi collegamenti simbolici nel percorso";
+    case EFBIG: return "file troppo grande";
+    case EEXIST: return "esiste già";
+    case ENOTEMPTY: return "la cartella non è vuota";
+    case ENOMEM: return "memoria insufficiente";
+    case EBUSY: return "risorsa occupata";
+    case EXDEV: return "i due percorsi sono su dischi diversi";
+    default: return fmt::format("errore di sistema {} ({})", numero, std::strerror(numero));
   }
 }
 

@@ -34,8 +34,8 @@ constexpr size_t kLimiteRisultati = size_t{64} << 20;
 // over two days.
 struct Giornata {
   GruppoData data;
-  int riga = 0;         // the first line of the date, named in the messages about it
-  uint16_t ruote = 0;   // bit r is set when wheel r has a line
+  int riga = 0;        // the first line of the date, named in the messages about it
+  uint16_t ruote = 0;  // bit r is set when wheel r has a line
   std::array<uint8_t, kNumeroRuote * kNumeriPerRuota> numeri{};
 
   bool HaRuota(int r) const { return (ruote >> r) & 1u; }
@@ -69,7 +69,8 @@ bool LeggiDataRisultati(std::string_view testo, GruppoData& data) {
   size_t barra2 = barra1 == std::string_view::npos ? barra1 : testo.find('/', barra1 + 1);
   if (barra2 == std::string_view::npos || barra1 != 4) return false;
   int anno = 0, mese = 0, giorno = 0;
-  if (!LeggiIntero(testo.substr(0, barra1), anno) || !LeggiIntero(testo.substr(barra1 + 1, barra2 - barra1 - 1), mese) ||
+  if (!LeggiIntero(testo.substr(0, barra1), anno) ||
+      !LeggiIntero(testo.substr(barra1 + 1, barra2 - barra1 - 1), mese) ||
       !LeggiIntero(testo.substr(barra2 + 1), giorno))
     return false;
   if (anno > 9999 || mese > 12 || giorno > 31) return false;
@@ -100,8 +101,8 @@ Esito<std::vector<Giornata>> LeggiGiornate(std::string_view testo, const GruppoD
     }
     if (conteggio == 0) continue;
     if (conteggio != kCampiPerRiga) {
-      return ErroreRiga(riga, fmt::format("attesi {} campi (data, ruota e cinque numeri), trovati {}",
-                                          kCampiPerRiga, conteggio));
+      return ErroreRiga(
+          riga, fmt::format("attesi {} campi (data, ruota e cinque numeri), trovati {}", kCampiPerRiga, conteggio));
     }
 
     GruppoData data;
@@ -110,8 +111,8 @@ Esito<std::vector<Giornata>> LeggiGiornate(std::string_view testo, const GruppoD
     }
     if (!DataPossibile(data, oggi)) {
       if (data.anno < kPrimoAnnoLotto) {
-        return ErroreRiga(riga, fmt::format("la data {} è anteriore al {}, anno della prima estrazione", campi[0],
-                                            kPrimoAnnoLotto));
+        return ErroreRiga(
+            riga, fmt::format("la data {} è anteriore al {}, anno della prima estrazione", campi[0], kPrimoAnnoLotto));
       }
       return ErroreRiga(riga, fmt::format("la data {} è nel futuro, oltre domani (oggi è il {}): il file dei "
                                           "risultati non è attendibile",
@@ -202,7 +203,8 @@ int EstrazioniNellUltimoAnno(const TabellaEstrazioni& archivio) {
 
 // Leaves out the draws that the archive already holds, refusing those that contradict it, and numbers
 // the others after the archive's last.
-Esito<std::vector<Estrazione>> EstrazioniNuove(const TabellaEstrazioni& archivio, const std::vector<Giornata>& estrazioni) {
+Esito<std::vector<Estrazione>> EstrazioniNuove(const TabellaEstrazioni& archivio,
+                                               const std::vector<Giornata>& estrazioni) {
   const int archiviate = archivio.EstrazioniArchivio();
   int anno = archiviate > 0 ? archivio[archiviate].data.anno : 0;
   int indice_annuale = EstrazioniNellUltimoAnno(archivio);
@@ -212,9 +214,9 @@ Esito<std::vector<Estrazione>> EstrazioniNuove(const TabellaEstrazioni& archivio
     if (archiviate > 0 && ConfrontaDate(estrazione.data, archivio[archiviate].data) <= 0) {
       int k = archivio.UltimaEstrazioneEntro(estrazione.data);
       if (k == 0 || ConfrontaDate(archivio[k].data, estrazione.data) != 0) {
-        return ErroreRiga(estrazione.riga, fmt::format("l'estrazione del {} non è in archivio, che arriva già al {}",
-                                                       FormattaData(estrazione.data),
-                                                       FormattaData(archivio[archiviate].data)));
+        return ErroreRiga(estrazione.riga,
+                          fmt::format("l'estrazione del {} non è in archivio, che arriva già al {}",
+                                      FormattaData(estrazione.data), FormattaData(archivio[archiviate].data)));
       }
       if (archivio[k].numeri != estrazione.numeri) {
         return ErroreRiga(estrazione.riga, fmt::format("l'estrazione del {} è diversa da quella in archivio",
@@ -310,7 +312,8 @@ Esito<std::string> TestoDaZip(const std::string& contenuto, const fs::path& file
     return Errore(fmt::format("{} dichiara {} byte, più del massimo di {} MB per un file dei risultati", nome,
                               stato.size, kLimiteRisultati >> 20));
   }
-  std::unique_ptr<zip_file_t, ChiudiVoceZip> voce(zip_fopen_index(archivio.get(), static_cast<zip_uint64_t>(scelta), 0));
+  std::unique_ptr<zip_file_t, ChiudiVoceZip> voce(
+      zip_fopen_index(archivio.get(), static_cast<zip_uint64_t>(scelta), 0));
   if (!voce) return Errore(MotivoZip(zip_get_error(archivio.get())));
 
   std::string testo;
@@ -343,7 +346,8 @@ Esito<std::vector<Estrazione>> LeggiNuoveEstrazioni(const TabellaEstrazioni& arc
 Esito<std::vector<Estrazione>> LeggiNuoveEstrazioniDaFile(const TabellaEstrazioni& archivio, const fs::path& file) {
   auto letto = LeggiFileRegolare(file, kLimiteRisultati);
   if (!letto) return letto.Errore();
-  if (!letto->has_value()) return AvvisoEsclamativo(fmt::format("Non esiste il file dei risultati \n{}", file.string()));
+  if (!letto->has_value())
+    return AvvisoEsclamativo(fmt::format("Non esiste il file dei risultati \n{}", file.string()));
   const std::string& contenuto = **letto;
   // A zip is known by its signature, not by its name: downloads are often saved under another one.
   if (contenuto.starts_with("PK\x03\x04") || contenuto.starts_with("PK\x05\x06")) {

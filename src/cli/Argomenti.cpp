@@ -118,8 +118,8 @@ Esito<Intervallo> LeggiIntervallo(const TabellaEstrazioni& tabella, const Argome
     intervallo.fine = *fine;
   }
   if (intervallo.inizio > intervallo.fine)
-    return AvvisoEsclamativo(fmt::format("intervallo vuoto: l'inizio ({}) viene dopo la fine ({})", intervallo.inizio,
-                                         intervallo.fine));
+    return AvvisoEsclamativo(
+        fmt::format("intervallo vuoto: l'inizio ({}) viene dopo la fine ({})", intervallo.inizio, intervallo.fine));
   return intervallo;
 }
 

@@ -33,8 +33,7 @@ constexpr std::array kComandi = {
             ComandoImporta},
     Comando{"aggiorna", "", "scarica i risultati pubblicati e li importa", ComandoAggiorna},
     Comando{"info", "", "numero di estrazioni, prima e ultima data; controlla l'archivio", ComandoInfo},
-    Comando{"ripara", "", "toglie da un archivio l'estrazione incompleta in fondo, dopo averlo copiato",
-            ComandoRipara},
+    Comando{"ripara", "", "toglie da un archivio l'estrazione incompleta in fondo, dopo averlo copiato", ComandoRipara},
     Comando{"estrazione", "ID|GG/MM/AAAA", "mostra un'estrazione", ComandoEstrazione},
     Comando{"ritardo", kParoleStatistica, "",
             [](Contesto& contesto, const Parole& parole) {
@@ -50,8 +49,8 @@ constexpr std::array kComandi = {
             }},
     Comando{"tabellone", "[--ruota VE] [--inizio X] [--fine X]", "", ComandoTabellone},
     Comando{"vbs", "[--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]", "esegue un programma VBScript", ComandoVbs},
-    Comando{"esegui", "SCRIPT.ls [--timeout MINUTI] [--html FILE] [--risposte FILE]",
-            "esegue uno script sull'archivio", ComandoEsegui},
+    Comando{"esegui", "SCRIPT.ls [--timeout MINUTI] [--html FILE] [--risposte FILE]", "esegue uno script sull'archivio",
+            ComandoEsegui},
     Comando{"nuovo-script", "FILE.ls", "scrive lo schema di uno script nuovo", ComandoNuovoScript},
     Comando{"struttura", "FILE", "mostra vertici, linee e condizioni di un file di struttura", ComandoStruttura},
     Comando{"funzioni", "[--html FILE]", "elenca le funzioni degli script (o ne scrive la pagina di riferimento)",
@@ -98,7 +97,8 @@ int EseguiParole(const Parole& argomenti, std::ostream& out, std::ostream& err) 
 
   size_t i = 0;
   while (i < argomenti.size() && argomenti[i] == "--archivio") {
-    if (i + 1 == argomenti.size()) return contesto.Fallisci(AvvisoEsclamativo("manca il valore dell'opzione --archivio"));
+    if (i + 1 == argomenti.size())
+      return contesto.Fallisci(AvvisoEsclamativo("manca il valore dell'opzione --archivio"));
     contesto.archivio = argomenti[i + 1];
     i += 2;
   }
@@ -111,7 +111,8 @@ int EseguiParole(const Parole& argomenti, std::ostream& out, std::ostream& err) 
 
   const auto trovato = std::ranges::find(kComandi, std::string_view(comando), &Comando::nome);
   if (trovato != kComandi.end()) return trovato->esegui(contesto, parole);
-  return contesto.Fallisci(AvvisoEsclamativo(fmt::format("comando sconosciuto: {} (lottolab --help per l'elenco)", comando)));
+  return contesto.Fallisci(
+      AvvisoEsclamativo(fmt::format("comando sconosciuto: {} (lottolab --help per l'elenco)", comando)));
 }
 
 }  // namespace

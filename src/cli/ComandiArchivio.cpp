@@ -22,9 +22,9 @@ int Importa(Contesto& contesto, const fs::path& file) {
   std::error_code ec;
   if (contesto.archivio.has_parent_path()) fs::create_directories(contesto.archivio.parent_path(), ec);
   if (ec)
-    return contesto.Fallisci(AvvisoEsclamativo(
-        fmt::format("impossibile creare la cartella dell'archivio {}: {}",
-                    app::PercorsoPerMessaggio(contesto.archivio.parent_path().string()), app::DescriviErroreDiSistema(ec))));
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format(
+        "impossibile creare la cartella dell'archivio {}: {}",
+        app::PercorsoPerMessaggio(contesto.archivio.parent_path().string()), app::DescriviErroreDiSistema(ec))));
   ClsEstrazioni archivio(contesto.archivio);
   auto importate = ImportaRisultati(archivio, file);
   if (!importate) return contesto.Fallisci(importate.Errore());
@@ -38,9 +38,10 @@ int ComandoImporta(Contesto& contesto, const Parole& parole) {
   if (parole.size() != 1) return contesto.Fallisci(UsoErrato("importa FILE"));
   std::error_code ec;
   if (!fs::exists(parole[0], ec))
-    return contesto.Fallisci(AvvisoEsclamativo(
-        ec ? fmt::format("il file {} non è accessibile: {}", app::PercorsoPerMessaggio(parole[0]), app::DescriviErroreDiSistema(ec))
-           : fmt::format("il file {} non esiste", app::PercorsoPerMessaggio(parole[0]))));
+    return contesto.Fallisci(
+        AvvisoEsclamativo(ec ? fmt::format("il file {} non è accessibile: {}", app::PercorsoPerMessaggio(parole[0]),
+                                           app::DescriviErroreDiSistema(ec))
+                             : fmt::format("il file {} non esiste", app::PercorsoPerMessaggio(parole[0]))));
   return Importa(contesto, parole[0]);
 }
 

@@ -24,9 +24,9 @@ int ComandoStatistica(Contesto& contesto, const Parole& parole, Statistica stati
     numeri.push_back(*numero);
   }
   if (numeri.empty())
-    return contesto.Fallisci(AvvisoEsclamativo(
-        "uso: lottolab ritardo|frequenza|storico [--ruote BA,VE|TT] [--sorte N] [--posizioni 1,3] "
-        "[--inizio X] [--fine X] N1 [N2 ...]"));
+    return contesto.Fallisci(
+        AvvisoEsclamativo("uso: lottolab ritardo|frequenza|storico [--ruote BA,VE|TT] [--sorte N] [--posizioni 1,3] "
+                          "[--inizio X] [--fine X] N1 [N2 ...]"));
 
   auto ruote = LeggiRuote(opzioni.contains("ruote") ? opzioni.at("ruote") : "TT");
   if (!ruote) return contesto.Fallisci(ruote.Errore());

@@ -39,8 +39,10 @@ void ScriviFigura(std::ostream& out, const TabellaEstrazioni& tab, const figures
   fmt::memory_buffer riga;
   fmt::format_to(std::back_inserter(riga), "{} {} ", trovata.estrazione,
                  tab.DataEstrazione(trovata.estrazione).ValoreOppure("?"));
-  for (size_t k = 0; k < ruote.size(); ++k) fmt::format_to(std::back_inserter(riga), "{}{}", k == 0 ? "" : ",", SiglaRuota(ruote[k]));
-  for (const figures::VerticePiazzato& vertice : figura.vertici) fmt::format_to(std::back_inserter(riga), " {:02}", vertice.numero);
+  for (size_t k = 0; k < ruote.size(); ++k)
+    fmt::format_to(std::back_inserter(riga), "{}{}", k == 0 ? "" : ",", SiglaRuota(ruote[k]));
+  for (const figures::VerticePiazzato& vertice : figura.vertici)
+    fmt::format_to(std::back_inserter(riga), " {:02}", vertice.numero);
   riga.push_back('\n');
   out.write(riga.data(), static_cast<std::streamsize>(riga.size()));
 }

@@ -204,8 +204,9 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole) {
       if (!minuti)
         return contesto.Fallisci(AvvisoEsclamativo(fmt::format("--timeout vuole i minuti (0 = Infinito): {}", valore)));
       if (*minuti * 60000 > INT32_MAX)
-        return contesto.Fallisci(AvvisoEsclamativo(fmt::format(
-            "--timeout al massimo {} minuti (circa 24 giorni; 0 = Infinito): {}", script::kMinutiTimeoutMassimi, valore)));
+        return contesto.Fallisci(
+            AvvisoEsclamativo(fmt::format("--timeout al massimo {} minuti (circa 24 giorni; 0 = Infinito): {}",
+                                          script::kMinutiTimeoutMassimi, valore)));
       timeout_ms = *minuti == 0 ? -1 : std::max(1, static_cast<int32_t>(*minuti * 60000));
     } else if (!script_file && !parola.starts_with("--")) {
       script_file = parola;
@@ -253,8 +254,7 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole) {
     case script::EsitoEsecuzione::Stato::ErroreScript:
       contesto.err << script::RapportoErrore(*esito.errore);
       return kUscitaErrore;
-    default:
-      return kUscitaErrore;
+    default: return kUscitaErrore;
   }
 }
 
@@ -263,10 +263,12 @@ int ComandoNuovoScript(Contesto& contesto, const Parole& parole) {
   const fs::path file = parole[0];
   std::error_code ec;
   if (fs::exists(file, ec))
-    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("il file {} esiste già: non lo sovrascrivo", file.string())));
+    return contesto.Fallisci(
+        AvvisoEsclamativo(fmt::format("il file {} esiste già: non lo sovrascrivo", file.string())));
   if (ec)
-    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("impossibile controllare il file {}: {}",
-                                                           app::PercorsoPerMessaggio(file.string()), app::DescriviErroreDiSistema(ec))));
+    return contesto.Fallisci(
+        AvvisoEsclamativo(fmt::format("impossibile controllare il file {}: {}",
+                                      app::PercorsoPerMessaggio(file.string()), app::DescriviErroreDiSistema(ec))));
   std::ofstream out(file, std::ios::binary);
   out << script::kModelloScript;
   if (!out.flush())

@@ -50,8 +50,8 @@ void ScriviPagina(std::ostream& out, const std::unordered_map<std::string, const
         continue;
       }
       auto [argomenti, significato] = ArgomentiESignificato(it->second->descrizione);
-      fmt::print(out, "<tr><td><code>{}</code></td><td>{}</td><td>{}</td></tr>\n", nome,
-                 script::TestoHtml(argomenti), script::TestoHtml(significato));
+      fmt::print(out, "<tr><td><code>{}</code></td><td>{}</td><td>{}</td></tr>\n", nome, script::TestoHtml(argomenti),
+                 script::TestoHtml(significato));
     }
     out << "</table>\n";
   }

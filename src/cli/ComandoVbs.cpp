@@ -52,7 +52,8 @@ int ComandoVbs(Contesto& contesto, const Parole& parole) {
     } else if (nome == "en-US") {
       lcid = 1033;
     } else {
-      return contesto.Fallisci(AvvisoEsclamativo(fmt::format("impostazione locale sconosciuta: {} (it-IT o en-US)", nome)));
+      return contesto.Fallisci(
+          AvvisoEsclamativo(fmt::format("impostazione locale sconosciuta: {} (it-IT o en-US)", nome)));
     }
     i += 2;
   }
@@ -69,17 +70,16 @@ int ComandoVbs(Contesto& contesto, const Parole& parole) {
   motore.SetUiHandler(&ui);
   (void)motore.SetLanguage("VBScript");
   (void)motore.SetLocale(lcid);
-  auto wscript = vbs::MakeRef<WScript>(motore.interpreter(), file.filename().string(),
-                                       (ec ? file : assoluto).string(),
-                                       std::vector<std::string>(parole.begin() + static_cast<std::ptrdiff_t>(i) + 1,
-                                                                parole.end()),
-                                       contesto.out, err);
+  auto wscript = vbs::MakeRef<WScript>(
+      motore.interpreter(), file.filename().string(), (ec ? file : assoluto).string(),
+      std::vector<std::string>(parole.begin() + static_cast<std::ptrdiff_t>(i) + 1, parole.end()), contesto.out, err);
   (void)motore.AddObject("WScript", wscript, false);
   auto esito = motore.AddCode(text::DecodeScriptFile(*contenuto), file.string());
   if (auto codice = wscript->CodiceUscita()) return *codice;
   if (!esito) {
     const vbs::ScriptErrorInfo& errore = motore.Error();
-    fmt::print(err, "{}({}, {}) {}\n", file.string(), errore.line, errore.column, text::Utf16ToUtf8(errore.description));
+    fmt::print(err, "{}({}, {}) {}\n", file.string(), errore.line, errore.column,
+               text::Utf16ToUtf8(errore.description));
     return kUscitaErrore;
   }
   return kUscitaRiuscita;

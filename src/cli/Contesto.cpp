@@ -10,8 +10,10 @@ namespace {
 std::string SuUnaRiga(const std::string& testo) {
   std::string riga;
   for (char c : testo) {
-    if (c != '\n') riga += c;
-    else if (!riga.empty() && riga.back() != ' ') riga += ' ';
+    if (c != '\n')
+      riga += c;
+    else if (!riga.empty() && riga.back() != ' ')
+      riga += ' ';
   }
   while (!riga.empty() && riga.back() == ' ') riga.pop_back();
   return riga;
@@ -19,7 +21,9 @@ std::string SuUnaRiga(const std::string& testo) {
 
 }  // namespace
 
-void SegnalatoreTerminale::Avverti(const std::string& testo) { m_err << "lottolab: attenzione: " << SuUnaRiga(testo) << '\n'; }
+void SegnalatoreTerminale::Avverti(const std::string& testo) {
+  m_err << "lottolab: attenzione: " << SuUnaRiga(testo) << '\n';
+}
 
 void SegnalatoreTerminale::Mostra(const Avviso& avviso) {
   std::string testo = SuUnaRiga(avviso.testo);
@@ -34,7 +38,9 @@ int Contesto::Fallisci(const Avviso& avviso) {
   return segnalatore.CodiceUscita();
 }
 
-Esito<EstrazioniCaricate> Contesto::CaricaTabellaControllata() const { return ClsEstrazioni(archivio).CaricaEControlla(); }
+Esito<EstrazioniCaricate> Contesto::CaricaTabellaControllata() const {
+  return ClsEstrazioni(archivio).CaricaEControlla();
+}
 
 Esito<TabellaEstrazioni> Contesto::CaricaTabella() const {
   auto caricate = CaricaTabellaControllata();

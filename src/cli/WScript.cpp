@@ -104,8 +104,11 @@ class ArgomentiScript final : public vbs::HostObject<ArgomentiScript> {
 
 WScript::WScript(vbs::Interpreter& interp, std::string nome_script, std::string percorso_script,
                  std::vector<std::string> argomenti, std::ostream& out, std::ostream& err)
-    : HostObject(interp.locale()), m_interp(interp), m_nome(std::move(nome_script)),
-      m_percorso(std::move(percorso_script)), m_out(out),
+    : HostObject(interp.locale()),
+      m_interp(interp),
+      m_nome(std::move(nome_script)),
+      m_percorso(std::move(percorso_script)),
+      m_out(out),
       m_stdout(vbs::MakeRef<FlussoTesto>(interp.locale(), out)),
       m_stderr(vbs::MakeRef<FlussoTesto>(interp.locale(), err)),
       m_argomenti(vbs::MakeRef<ArgomentiScript>(interp.locale(), std::move(argomenti))) {}

@@ -13,9 +13,7 @@ namespace lottolab::figures {
 
 namespace {
 
-int64_t Verita(bool vero) {
-  return vero ? -1 : 0;
-}
+int64_t Verita(bool vero) { return vero ? -1 : 0; }
 
 // The arithmetic wraps around instead of overflowing: an absurd text gets an absurd answer, never
 // undefined behaviour.
@@ -104,9 +102,7 @@ bool Condizione::Vale(const FiguraPiazzata& figura) const {
       case Codice::QuantitaFigure: pila[n++] = QuanteDiverse(figura, tabelle, FunzioneNumero::Figura); break;
       case Codice::Opposto: pila[n - 1] = Differenza(0, pila[n - 1]); break;
       case Codice::Non: pila[n - 1] = ~pila[n - 1]; break;
-      case Codice::Numero:
-        pila[n - 1] = tabelle.Applica(static_cast<FunzioneNumero>(argomento), pila[n - 1]);
-        break;
+      case Codice::Numero: pila[n - 1] = tabelle.Applica(static_cast<FunzioneNumero>(argomento), pila[n - 1]); break;
       case Codice::PuntiSu: pila[n - 1] = PuntiSu(figura, pila[n - 1]); break;
       case Codice::ContaPresenze: pila[n - 1] = ContaPresenze(figura, pila[n - 1]); break;
       case Codice::ContaChiusure: pila[n - 1] = ContaChiusure(figura, pila[n - 1]); break;
@@ -135,13 +131,9 @@ bool Condizione::Vale(const FiguraPiazzata& figura) const {
   return pila[0] != 0;
 }
 
-const std::string& Condizione::Testo() const {
-  return m_programma->testo;
-}
+const std::string& Condizione::Testo() const { return m_programma->testo; }
 
-size_t Condizione::Costo() const {
-  return m_programma->costo;
-}
+size_t Condizione::Costo() const { return m_programma->costo; }
 
 Condizione::Condizione(std::unique_ptr<const ProgrammaCondizione> programma) : m_programma(std::move(programma)) {}
 Condizione::Condizione(Condizione&&) noexcept = default;

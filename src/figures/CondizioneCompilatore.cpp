@@ -17,9 +17,9 @@ namespace {
 
 // How a function takes its arguments.
 enum class Argomenti {
-  Valori,    // each argument's value, then the function's instruction
-  Sommati,   // the arguments added one by one, then the function's instruction
-  Vertice,   // one vertex reference, read by the function's instruction itself
+  Valori,   // each argument's value, then the function's instruction
+  Sommati,  // the arguments added one by one, then the function's instruction
+  Vertice,  // one vertex reference, read by the function's instruction itself
 };
 
 constexpr int kSenzaLimite = -1;
@@ -33,9 +33,7 @@ struct Funzione {
   int64_t argomento = 0;
 };
 
-constexpr int64_t Argomento(FunzioneNumero funzione) {
-  return static_cast<int64_t>(funzione);
-}
+constexpr int64_t Argomento(FunzioneNumero funzione) { return static_cast<int64_t>(funzione); }
 
 constexpr std::array kFunzioni = {
     Funzione{"Cadenza", 1, 1, Argomenti::Valori, Codice::Numero, Argomento(FunzioneNumero::Cadenza)},
@@ -100,15 +98,13 @@ int Effetto(Codice codice) {
     case Codice::SommaCiclometricaGlob:
     case Codice::RuotaUnica:
     case Codice::QuantitaCadenze:
-    case Codice::QuantitaFigure:
-      return 1;
+    case Codice::QuantitaFigure: return 1;
     case Codice::Opposto:
     case Codice::Non:
     case Codice::Numero:
     case Codice::PuntiSu:
     case Codice::ContaPresenze:
-    case Codice::ContaChiusure:
-      return 0;
+    case Codice::ContaChiusure: return 0;
     case Codice::Somma:
     case Codice::Differenza:
     case Codice::Prodotto:
@@ -121,8 +117,7 @@ int Effetto(Codice codice) {
     case Codice::E:
     case Codice::O:
     case Codice::DiffCiclometrica:
-    case Codice::Vertibili:
-      return -1;
+    case Codice::Vertibili: return -1;
   }
   return 0;
 }
@@ -135,10 +130,8 @@ bool ScorreIVertici(Codice codice) {
     case Codice::QuantitaFigure:
     case Codice::PuntiSu:
     case Codice::ContaPresenze:
-    case Codice::ContaChiusure:
-      return true;
-    default:
-      return false;
+    case Codice::ContaChiusure: return true;
+    default: return false;
   }
 }
 
@@ -186,8 +179,8 @@ class Compilatore {
         std::ranges::count_if(m_vertici, [](const ClsVertice& vertice) { return vertice.Index != 0; }));
     size_t costo = 0;
     for (const Istruzione& istruzione : m_istruzioni) costo += ScorreIVertici(istruzione.codice) ? vertici : 1;
-    return ProgrammaCondizione{std::string(m_testo), std::move(m_istruzioni), &TabelleNumeri::Uniche(),
-                               m_vertici_letti, costo};
+    return ProgrammaCondizione{std::string(m_testo), std::move(m_istruzioni), &TabelleNumeri::Uniche(), m_vertici_letti,
+                               costo};
   }
 
  private:
@@ -283,8 +276,7 @@ class Compilatore {
       case TipoSimbolo::Nome:
         if (ParolaChiave("Or") || ParolaChiave("And") || ParolaChiave("Not")) return Atteso(kValoreAtteso);
         return Chiamata();
-      default:
-        return Atteso(kValoreAtteso);
+      default: return Atteso(kValoreAtteso);
     }
   }
 
@@ -317,8 +309,7 @@ class Compilatore {
 
   Passo Argomento(const Funzione& funzione, int indice) {
     switch (funzione.argomenti) {
-      case Argomenti::Valori:
-        return Or();
+      case Argomenti::Valori: return Or();
       case Argomenti::Sommati:
         if (auto passo = Or(); !passo) return passo;
         if (indice > 0) return Emetti(Codice::Somma);

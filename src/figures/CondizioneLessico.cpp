@@ -4,22 +4,14 @@ namespace lottolab::figures {
 
 namespace {
 
-bool Spazio(char c) {
-  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
+bool Spazio(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
-bool Cifra(char c) {
-  return c >= '0' && c <= '9';
-}
+bool Cifra(char c) { return c >= '0' && c <= '9'; }
 
-bool Lettera(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
-}
+bool Lettera(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_'; }
 
 // The bytes after the first of a UTF-8 character.
-bool ByteDiSeguito(char c) {
-  return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
-}
+bool ByteDiSeguito(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
 }  // namespace
 
@@ -61,8 +53,7 @@ Simbolo Lessico::Leggi() {
     case '>':
       if (dopo == '=') return simbolo(TipoSimbolo::MaggioreUguale, 2);
       return simbolo(TipoSimbolo::Maggiore, 1);
-    default:
-      return simbolo(TipoSimbolo::Sconosciuto, finche(ByteDiSeguito));
+    default: return simbolo(TipoSimbolo::Sconosciuto, finche(ByteDiSeguito));
   }
 }
 

@@ -9,10 +9,10 @@
 namespace lottolab::figures {
 
 enum class TipoSimbolo {
-  Numero,          // digits only: the language has no fractions
-  Vertice,         // "[...]" closed on the same text
-  VerticeAperto,   // "[" with no "]" after it
-  Nome,            // a function or a keyword
+  Numero,         // digits only: the language has no fractions
+  Vertice,        // "[...]" closed on the same text
+  VerticeAperto,  // "[" with no "]" after it
+  Nome,           // a function or a keyword
   Piu,
   Meno,
   Per,
@@ -25,7 +25,7 @@ enum class TipoSimbolo {
   ParentesiAperta,
   ParentesiChiusa,
   Virgola,
-  Sconosciuto,     // one character the language does not use
+  Sconosciuto,  // one character the language does not use
   Fine,
 };
 

@@ -9,10 +9,10 @@
 namespace lottolab::figures {
 
 struct VerticePiazzato {
-  int id_estr = 0;    // the draw of the vertex's row
-  int ruota = 0;      // 1..11
-  int posizione = 0;  // 1..5
-  int numero = 0;     // 1..90
+  int id_estr = 0;        // the draw of the vertex's row
+  int ruota = 0;          // 1..11
+  int posizione = 0;      // 1..5
+  int numero = 0;         // 1..90
   bool chiusura = false;  // marked UsaPerChiusura
 };
 

@@ -157,7 +157,7 @@ struct Sezione {
   std::string_view marcatore;
   size_t lunghezza_record;
   std::string_view nome;  // for the messages
-  size_t inizio = 0;       // behind the marker
+  size_t inizio = 0;      // behind the marker
   size_t record = 0;
 };
 
@@ -236,8 +236,8 @@ Esito<Struttura> DecodificaStruttura(std::string_view byte) {
   Struttura struttura;
   struttura.vertici = LeggiSezione<ClsVertice>(byte, vertici, LeggiVertice);
   struttura.linee = LeggiSezione<ClsLinea>(byte, linee, LeggiLinea);
-  struttura.condizioni = LeggiSezione<std::string>(
-      byte, condizioni, [](Lettore& lettore) { return lettore.LeggiTesto(kByteCondizione); });
+  struttura.condizioni =
+      LeggiSezione<std::string>(byte, condizioni, [](Lettore& lettore) { return lettore.LeggiTesto(kByteCondizione); });
   if (auto motivo = LimiteSuperato(struttura)) return AvvisoEsclamativo(std::move(*motivo));
   return struttura;
 }
@@ -250,10 +250,10 @@ Esito<Fatto> Scrivi(const fs::path& file, const std::string& byte, size_t vertic
   auto riletta = DecodificaStruttura(byte);
   if (!riletta || riletta->vertici.size() != vertici || riletta->linee.size() != linee ||
       riletta->condizioni.size() != condizioni)
-    return ErroreSalvataggio(file,
-                             riletta ? "un'etichetta, una condizione o un numero della struttura forma la parola "
-                                       "\"fine\", che nel file chiude la sezione: il file non si rileggerebbe intero"
-                                     : riletta.Errore().testo);
+    return ErroreSalvataggio(file, riletta
+                                       ? "un'etichetta, una condizione o un numero della struttura forma la parola "
+                                         "\"fine\", che nel file chiude la sezione: il file non si rileggerebbe intero"
+                                       : riletta.Errore().testo);
   auto scritto = ScriviFileOrdinario(file, byte);
   if (!scritto) return ErroreSalvataggio(file, scritto.Errore().motivo);
   return Fatto{};

@@ -49,17 +49,19 @@ std::optional<std::string> LimiteSuperato(const Struttura& struttura) {
 
 std::optional<std::string> TestoNonAmmesso(std::string_view utf8, size_t caratteri, std::string_view cosa) {
   if (PosizioneFine(utf8) != std::string_view::npos)
-    return fmt::format("{} non può contenere la parola \"fine\" (in nessuna forma di maiuscole e minuscole): nel "
-                       "file della struttura \"fine\" chiude la sezione, e ciò che segue andrebbe perso.",
-                       cosa);
+    return fmt::format(
+        "{} non può contenere la parola \"fine\" (in nessuna forma di maiuscole e minuscole): nel "
+        "file della struttura \"fine\" chiude la sezione, e ciò che segue andrebbe perso.",
+        cosa);
   if (Caratteri(utf8) > caratteri)
     return fmt::format("{} è lunga {} caratteri: il file della struttura ne tiene al massimo {}.", cosa,
                        Caratteri(utf8), caratteri);
   const std::u16string testo = text::Utf8ToUtf16(utf8);
   if (text::Windows1252ToUtf16(text::Utf16ToWindows1252(testo)) != testo)
-    return fmt::format("{} contiene caratteri che il file della struttura non può tenere (solo lettere dell'alfabeto "
-                       "latino, cifre e segni comuni).",
-                       cosa);
+    return fmt::format(
+        "{} contiene caratteri che il file della struttura non può tenere (solo lettere dell'alfabeto "
+        "latino, cifre e segni comuni).",
+        cosa);
   return std::nullopt;
 }
 

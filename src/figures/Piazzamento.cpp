@@ -20,8 +20,8 @@ Forma Orientata(const std::vector<Forma::Punto>& punti, int verso_righe, int ver
   Forma forma;
   for (const Forma::Punto& punto : punti)
     forma.punti.push_back({punto.righe * verso_righe, punto.colonne * verso_colonne, punto.chiusura});
-  const auto [riga_min, riga_max] = std::minmax_element(
-      forma.punti.begin(), forma.punti.end(), [](const auto& a, const auto& b) { return a.righe < b.righe; });
+  const auto [riga_min, riga_max] = std::minmax_element(forma.punti.begin(), forma.punti.end(),
+                                                        [](const auto& a, const auto& b) { return a.righe < b.righe; });
   const auto [colonna_min, colonna_max] = std::minmax_element(
       forma.punti.begin(), forma.punti.end(), [](const auto& a, const auto& b) { return a.colonne < b.colonne; });
   forma.riga_minima = riga_min->righe;

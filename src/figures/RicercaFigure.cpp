@@ -26,10 +26,10 @@ Esito<std::vector<Condizione>> CompilaCondizioni(const Struttura& struttura) {
   size_t costo = 0;
   for (const Condizione& condizione : condizioni) costo += condizione.Costo();
   if (costo > kMassimoCostoCondizioni)
-    return AvvisoEsclamativo(fmt::format(
-        "Le condizioni chiedono troppo lavoro per ogni posizione della figura ({} passi, al massimo {}): "
-        "semplificarle o ridurne il numero.",
-        costo, kMassimoCostoCondizioni));
+    return AvvisoEsclamativo(
+        fmt::format("Le condizioni chiedono troppo lavoro per ogni posizione della figura ({} passi, al massimo {}): "
+                    "semplificarle o ridurne il numero.",
+                    costo, kMassimoCostoCondizioni));
   return condizioni;
 }
 
@@ -37,7 +37,8 @@ Esito<std::vector<Condizione>> CompilaCondizioni(const Struttura& struttura) {
 std::array<bool, kColonneTabella + 1> ColonneAmmesse(const std::vector<int>& ruote) {
   std::array<bool, kColonneTabella + 1> ammesse{};
   for (int colonna = 1; colonna <= kColonneTabella; ++colonna)
-    ammesse[colonna] = ruote.empty() || std::find(ruote.begin(), ruote.end(), RuotaDellaColonna(colonna)) != ruote.end();
+    ammesse[colonna] =
+        ruote.empty() || std::find(ruote.begin(), ruote.end(), RuotaDellaColonna(colonna)) != ruote.end();
   return ammesse;
 }
 
@@ -66,8 +67,8 @@ FiguraPiazzata FigureTrovate::Figura(const TabellaEstrazioni& tab, const FiguraT
   FiguraPiazzata figura;
   figura.vertici.resize(forma.punti.size());
   for (size_t k = 0; k < forma.punti.size(); ++k) figura.vertici[k].chiusura = forma.punti[k].chiusura;
-  [[maybe_unused]] const bool piazzata = Piazza(tab, forma, trovata.estrazione - forma.riga_massima, trovata.colonna,
-                                                ColonneAmmesse({}), figura);
+  [[maybe_unused]] const bool piazzata =
+      Piazza(tab, forma, trovata.estrazione - forma.riga_massima, trovata.colonna, ColonneAmmesse({}), figura);
   assert(piazzata);
   return figura;
 }

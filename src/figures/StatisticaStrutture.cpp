@@ -12,8 +12,8 @@ struct Giocata {
 };
 
 Giocata GiocataDi(const FiguraPiazzata& figura) {
-  const bool marcati = std::any_of(figura.vertici.begin(), figura.vertici.end(),
-                                   [](const VerticePiazzato& v) { return v.chiusura; });
+  const bool marcati =
+      std::any_of(figura.vertici.begin(), figura.vertici.end(), [](const VerticePiazzato& v) { return v.chiusura; });
   Giocata giocata;
   for (const VerticePiazzato& vertice : figura.vertici) {
     if (!marcati || vertice.chiusura) giocata.numeri.push_back(vertice.numero);
@@ -38,8 +38,7 @@ int SorteVinta(const Estrazione& estrazione, const Giocata& giocata) {
   return migliore;
 }
 
-EsitoFigura Segui(const TabellaEstrazioni& tab, const FigureTrovate& trovate, const FiguraTrovata& trovata,
-                  int colpi) {
+EsitoFigura Segui(const TabellaEstrazioni& tab, const FigureTrovate& trovate, const FiguraTrovata& trovata, int colpi) {
   const Giocata giocata = GiocataDi(trovate.Figura(tab, trovata));
   EsitoFigura esito;
   for (int colpo = 1; colpo <= colpi; ++colpo) {
@@ -57,8 +56,8 @@ EsitoFigura Segui(const TabellaEstrazioni& tab, const FigureTrovate& trovate, co
 
 }  // namespace
 
-StatisticaStruttura CalcolaStatistica(const TabellaEstrazioni& tab, const FigureTrovate& trovate, int colpi,
-                                      int inizio, int fine) {
+StatisticaStruttura CalcolaStatistica(const TabellaEstrazioni& tab, const FigureTrovate& trovate, int colpi, int inizio,
+                                      int fine) {
   StatisticaStruttura statistica;
   statistica.casi = static_cast<int>(trovate.elenco.size());
   int somma_colpi = 0;

@@ -13,17 +13,17 @@
 namespace lottolab::figures {
 
 struct EsitoFigura {
-  int colpo = 0;    // the draw after the figure, from 1, of the first win; 0 if none within the colpi
-  int sorte = 0;    // the best sorte won within the colpi, 0 none
+  int colpo = 0;          // the draw after the figure, from 1, of the first win; 0 if none within the colpi
+  int sorte = 0;          // the best sorte won within the colpi, 0 none
   bool in_corso = false;  // no win yet and the archive ends before the colpi are over
 };
 
 struct StatisticaStruttura {
-  int casi = 0;                  // figures found
+  int casi = 0;                    // figures found
   std::array<int, 6> per_sorte{};  // figures whose best sorte was 1..5 (element 0 unused)
-  int negativi = 0;              // figures with no win within the colpi
-  int in_corso = 0;              // figures still open at the end of the archive
-  double colpo_medio = 0;        // the mean draw of the first win, over the figures that won
+  int negativi = 0;                // figures with no win within the colpi
+  int in_corso = 0;                // figures still open at the end of the archive
+  double colpo_medio = 0;          // the mean draw of the first win, over the figures that won
   // Delays of the figure itself over the searched range, counted as the delays of a number are: the
   // draws since the last one that completed a figure (0 when the range's last draw did), and the
   // longest run of draws without one, from the range's start.
@@ -33,7 +33,7 @@ struct StatisticaStruttura {
 };
 
 // `fine` is the last draw of the searched range: the delays are counted up to it.
-StatisticaStruttura CalcolaStatistica(const TabellaEstrazioni& tab, const FigureTrovate& trovate,
-                                      int colpi, int inizio, int fine);
+StatisticaStruttura CalcolaStatistica(const TabellaEstrazioni& tab, const FigureTrovate& trovate, int colpi, int inizio,
+                                      int fine);
 
 }  // namespace lottolab::figures

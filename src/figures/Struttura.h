@@ -13,7 +13,7 @@ namespace lottolab::figures {
 
 // One vertex, with the fields the structure file keeps, in the file's order.
 struct ClsVertice {
-  int16_t Index = 0;  // the vertex's identifier in its structure; 0 is the editor's template, never saved
+  int16_t Index = 0;         // the vertex's identifier in its structure; 0 is the editor's template, never saved
   int32_t IdEstrazione = 0;  // the draw of the row the vertex was drawn on
   bool FulcroOrizz = false;  // the column of this vertex anchors the figure
   bool FulcroVert = false;   // the row of this vertex anchors the figure
@@ -21,9 +21,9 @@ struct ClsVertice {
   int16_t Colonna = 0;       // column of the table of draws (see TabellaFigure.h)
   int16_t Riservato1 = 0;    // two fields the file has room for and nothing sets; kept as read
   int16_t Riservato2 = 0;
-  int16_t VersoVert = 0;   // on the vertical pivot: the figure's vertical direction (see Piazzamento.h)
-  int16_t VersoOrizz = 0;  // on the horizontal pivot: the figure's horizontal direction
-  std::string Caption;     // the label shown on the vertex, UTF-8; the file keeps 5 characters
+  int16_t VersoVert = 0;        // on the vertical pivot: the figure's vertical direction (see Piazzamento.h)
+  int16_t VersoOrizz = 0;       // on the horizontal pivot: the figure's horizontal direction
+  std::string Caption;          // the label shown on the vertex, UTF-8; the file keeps 5 characters
   bool UsaPerChiusura = false;  // the vertex's number belongs to the play that closes the figure
 
   friend bool operator==(const ClsVertice&, const ClsVertice&) = default;

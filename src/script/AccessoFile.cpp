@@ -57,7 +57,7 @@ vbs::ScriptError Rifiuto(std::string_view funzione, std::string_view azione, con
                          std::string_view motivo) {
   return vbs::ScriptError{vbs::err::kPermissionDenied,
                           text::Utf8ToUtf16(fmt::format("Permesso negato: {} non può {} {} ({})", funzione, azione,
-                                                       percorso.string(), motivo)),
+                                                        percorso.string(), motivo)),
                           {},
                           {},
                           false};

@@ -88,7 +88,8 @@ vbs::Result<vbs::Variant> ArrayEstrazione(const Estrazione& estrazione) {
   // The first index varies fastest in storage.
   for (int ruota = 1; ruota <= kNumeroRuote; ++ruota) {
     for (int posizione = 1; posizione <= kNumeriPerRuota; ++posizione)
-      elementi[(ruota - 1) + (posizione - 1) * kNumeroRuote] = vbs::Variant::Integer(estrazione.Numero(ruota, posizione));
+      elementi[(ruota - 1) + (posizione - 1) * kNumeroRuote] =
+          vbs::Variant::Integer(estrazione.Numero(ruota, posizione));
   }
   return vbs::Variant::Array(std::move(array));
 }

@@ -54,8 +54,8 @@ Result<int> EstrazioneArgomento(const TabellaEstrazioni& tab, const CallArgs& ar
                                 std::string_view nome) {
   VBS_TRY_ASSIGN(auto id_estr, args.Long(i, se_omesso));
   if (!tab.Contiene(id_estr)) {
-    return ArgomentoNonValido(fmt::format("{} fuori dall'archivio: {} (le estrazioni vanno da 1 a {})", nome,
-                                          id_estr, tab.EstrazioniArchivio()));
+    return ArgomentoNonValido(fmt::format("{} fuori dall'archivio: {} (le estrazioni vanno da 1 a {})", nome, id_estr,
+                                          tab.EstrazioniArchivio()));
   }
   return id_estr;
 }
@@ -100,7 +100,8 @@ Result<Misura> Completa(const Libreria& lib, const CallArgs& args, Giocata gioca
   misura.giocata = std::move(giocata);
   VBS_TRY_ASSIGN(auto inizio, EstrazioneArgomento(*misura.tab, args, posti.inizio, 1, "Inizio"));
   misura.inizio = inizio;
-  VBS_TRY_ASSIGN(auto fine, EstrazioneArgomento(*misura.tab, args, posti.fine, misura.tab->EstrazioniArchivio(), "Fine"));
+  VBS_TRY_ASSIGN(auto fine,
+                 EstrazioneArgomento(*misura.tab, args, posti.fine, misura.tab->EstrazioniArchivio(), "Fine"));
   misura.fine = fine;
   VBS_TRY_ASSIGN(auto posizioni, PosizioniGiocate(args, posti.posizioni));
   misura.posizioni = posizioni;

@@ -75,8 +75,7 @@ vbs::Result<Intervallo> IntervalloArgomento(const TabellaEstrazioni& tab, const 
 
 // aRuote, aNumeri, Sorte as arguments 0, 1, 2, then the optional ones where `posti` says. A range
 // with Inizio after Fine is accepted here and measures no draw.
-vbs::Result<Misura> MisuraGruppo(const ClsFunctionsGeodoScript& lib, const vbs::CallArgs& args,
-                                 PostiFacoltativi posti);
+vbs::Result<Misura> MisuraGruppo(const ClsFunctionsGeodoScript& lib, const vbs::CallArgs& args, PostiFacoltativi posti);
 
 // Ruota and `quanti_numeri` single numbers (each brought into 1..90) from argument 0, played for as
 // many hits as there are numbers, then the optional ones where `posti` says.

@@ -3,17 +3,16 @@
 #include <algorithm>
 #include <unordered_map>
 
-#include "vbscript/value/ErrorTable.h"
-#include "vbscript/runtime/Interpreter.h"
 #include "text/AsciiCase.h"
 #include "text/Utf.h"
+#include "vbscript/runtime/Interpreter.h"
+#include "vbscript/value/ErrorTable.h"
 
 namespace lottolab::script {
 
 namespace {
 
 using Funzione = ClsFunctionsGeodoScript::Funzione;
-
 
 struct Tabella {
   std::vector<Funzione> funzioni;
@@ -23,11 +22,11 @@ struct Tabella {
 const Tabella& TabellaCompleta() {
   static const Tabella tabella = [] {
     Tabella t;
-    for (auto famiglia : {FunzioniCostanti(), FunzioniEsecuzione(), FunzioniOutput(), FunzioniArchivio(),
-                          FunzioniAritmetica(), FunzioniRitardi(), FunzioniStatistiche(), FunzioniElenchi(),
-                          FunzioniRitardiRelativi(), FunzioniLunghette(),
-                          FunzioniFormazioni(), FunzioniTabelle(), FunzioniTesto(), FunzioniCombinazioni(),
-                          FunzioniArray(), FunzioniFile(), FunzioniDialoghi(), FunzioniEstrazioniAttive(), FunzioniCollezioni()})
+    for (auto famiglia :
+         {FunzioniCostanti(), FunzioniEsecuzione(), FunzioniOutput(), FunzioniArchivio(), FunzioniAritmetica(),
+          FunzioniRitardi(), FunzioniStatistiche(), FunzioniElenchi(), FunzioniRitardiRelativi(), FunzioniLunghette(),
+          FunzioniFormazioni(), FunzioniTabelle(), FunzioniTesto(), FunzioniCombinazioni(), FunzioniArray(),
+          FunzioniFile(), FunzioniDialoghi(), FunzioniEstrazioniAttive(), FunzioniCollezioni()})
       t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =
@@ -75,14 +74,15 @@ vbs::Result<vbs::Variant> ClsFunctionsGeodoScript::Invoke(vbs::DispId member, vb
   vbs::CallArgs call(args, m_locale);
   auto risultato = funzione.chiamata(*this, call);
   if (risultato) return risultato;
-  if (const int32_t numero = risultato.error().number; numero == vbs::err::kAborted || numero == vbs::err::kPermissionDenied)
+  if (const int32_t numero = risultato.error().number;
+      numero == vbs::err::kAborted || numero == vbs::err::kPermissionDenied)
     return risultato;
   const vbs::ScriptError& errore = risultato.error();
   std::string descrizione = errore.description.empty()
                                 ? text::Utf16ToUtf8(vbs::ErrorText(errore.number, m_locale.language))
                                 : text::Utf16ToUtf8(errore.description);
-  m_ospite.Mostra(AvvisoCritico("ClsFunctionsGeodoScript." + std::string(funzione.nome), errore.number,
-                                std::move(descrizione)));
+  m_ospite.Mostra(
+      AvvisoCritico("ClsFunctionsGeodoScript." + std::string(funzione.nome), errore.number, std::move(descrizione)));
   return vbs::Variant();
 }
 

@@ -16,9 +16,9 @@
 
 #include <atomic>
 #include <filesystem>
+#include <memory>
 #include <span>
 #include <string>
-#include <memory>
 #include <string_view>
 #include <typeindex>
 #include <unordered_map>
@@ -38,9 +38,9 @@ namespace lottolab::script {
 
 struct ImpostazioniLibreria {
   const TabellaEstrazioni* archivio = nullptr;  // null when no archive is loaded
-  std::filesystem::path cartella_base;         // holds Script/ and Script/Funzioni/
-  std::filesystem::path cartella_output;       // where the run's HTML pages go: scriptOutput/ of the base
-  std::filesystem::path cartella_dati_app;     // what GetDirectoryAppData gives
+  std::filesystem::path cartella_base;          // holds Script/ and Script/Funzioni/
+  std::filesystem::path cartella_output;        // where the run's HTML pages go: scriptOutput/ of the base
+  std::filesystem::path cartella_dati_app;      // what GetDirectoryAppData gives
   std::string colore_sfondo_html = "#FFFFFF";
   Modalita modalita = Modalita::Normale;
   std::vector<std::filesystem::path> sola_lettura;  // lottolab.ini and the archives

@@ -25,8 +25,8 @@ class DialoghiLibreria {
     return voci.empty() ? std::vector<int>{} : std::vector<int>{0};
   }
   // Up to `quanti` whole numbers from 1 to `massimo`; the default is `proposti`.
-  virtual std::optional<std::vector<int>> ScegliNumeri(const std::string& /*titolo*/, int /*quanti*/,
-                                                       int /*massimo*/, const std::vector<int>& proposti) {
+  virtual std::optional<std::vector<int>> ScegliNumeri(const std::string& /*titolo*/, int /*quanti*/, int /*massimo*/,
+                                                       const std::vector<int>& proposti) {
     return proposti;
   }
   // An amount for each of `voci` (the stakes of a bet, one per sorte); the default is `proposti`.

@@ -69,8 +69,8 @@ void EsecutoreScript::InterrompiSubito() {
 
 ErroreScript EsecutoreScript::Errore(const vbs::ScriptControl& motore) const {
   const vbs::ScriptErrorInfo& info = motore.Error();
-  return ErroreScript{info.number, text::Utf16ToUtf8(info.description), info.line, info.column,
-                      text::Utf16ToUtf8(info.source), info.source_name};
+  return ErroreScript{info.number, text::Utf16ToUtf8(info.description), info.line,
+                      info.column, text::Utf16ToUtf8(info.source),      info.source_name};
 }
 
 EsitoEsecuzione EsecutoreScript::Esegui(std::u16string_view testo, const OpzioniEsecuzione& opzioni) {
@@ -137,7 +137,8 @@ EsitoEsecuzione EsecutoreScript::EseguiNelMotore(vbs::ScriptControl& motore, Cls
       break;
     }
   }
-  if (esito.stato == EsitoEsecuzione::Stato::Completato && !motore.AddCode(espanso->codice_utente, opzioni.nome_script)) {
+  if (esito.stato == EsitoEsecuzione::Stato::Completato &&
+      !motore.AddCode(espanso->codice_utente, opzioni.nome_script)) {
     esito.stato = EsitoEsecuzione::Stato::ErroreScript;
     esito.errore = Errore(motore);
   }

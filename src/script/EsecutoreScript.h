@@ -61,7 +61,7 @@ struct OpzioniEsecuzione {
   int32_t timeout_ms = -1;
   bool multi_output = false;
   bool salva_previsioni = false;
-  std::string nome_file_html;  // empty: NomeFileHtmlOutput of now
+  std::string nome_file_html;          // empty: NomeFileHtmlOutput of now
   std::string nome_script = "script";  // the name errors give for the user's code
   // The window that runs the script, added under "F_Script" with its members as global names; none
   // on the command line.
@@ -72,8 +72,8 @@ struct EsitoEsecuzione {
   enum class Stato { Completato, ErroreScript, InclusioneNonRiuscita, GiaInEsecuzione };
   Stato stato = Stato::Completato;
   std::optional<ErroreScript> errore;
-  std::filesystem::path pagina_html;           // the run's page (single-output run)
-  std::vector<std::filesystem::path> pagine;   // a multi-output run's pages
+  std::filesystem::path pagina_html;          // the run's page (single-output run)
+  std::vector<std::filesystem::path> pagine;  // a multi-output run's pages
 };
 
 class EsecutoreScript {

@@ -97,8 +97,7 @@ Result<Variant> DataEstrToIdEstr(Libreria& lib, CallArgs& args) {
 // Argument i as one wheel of the table (1..11); all the wheels together (TU_) is no single wheel.
 Result<int> RuotaSingola(const CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto ruota, RuotaTabella(args, i));
-  if (ruota < 1 || ruota > kNumeroRuote)
-    return ArgomentoNonValido("Serve una ruota sola: da BA_ a VE_ o NZ_");
+  if (ruota < 1 || ruota > kNumeroRuote) return ArgomentoNonValido("Serve una ruota sola: da BA_ a VE_ o NZ_");
   return ruota;
 }
 

@@ -29,7 +29,6 @@ using namespace famiglia;
 
 constexpr int kNumeri = 90;
 
-
 Variant Numero(double valore) {
   const bool lungo = valore >= std::numeric_limits<int32_t>::min() && valore <= std::numeric_limits<int32_t>::max();
   if (lungo && valore == static_cast<int32_t>(valore)) return Variant::Long(static_cast<int32_t>(valore));
@@ -251,8 +250,8 @@ template <bool Massimo>
 Result<Variant> PosizioneEstremo(Libreria&, CallArgs& args) {
   VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, 0));
   if (valori.empty()) return Variant::Long(0);
-  const auto estremo = Massimo ? std::max_element(valori.begin(), valori.end())
-                               : std::min_element(valori.begin(), valori.end());
+  const auto estremo =
+      Massimo ? std::max_element(valori.begin(), valori.end()) : std::min_element(valori.begin(), valori.end());
   return Variant::Long(static_cast<int32_t>(estremo - valori.begin()) + 1);
 }
 

@@ -18,7 +18,8 @@ using namespace famiglia;
 Result<Collezione*> CollezioneArgomento(const CallArgs& args) {
   const Variant& valore = args[0];
   auto* collezione = valore.is_object() ? dynamic_cast<Collezione*>(valore.as_object()) : nullptr;
-  if (!collezione) return ArgomentoNonValido("Il primo argomento deve essere una collezione creata con GetNewCollection");
+  if (!collezione)
+    return ArgomentoNonValido("Il primo argomento deve essere una collezione creata con GetNewCollection");
   return collezione;
 }
 

@@ -40,7 +40,6 @@ constexpr size_t kGruppiTraControlli = 4096;
 // The widest range the random functions walk or shuffle.
 constexpr int32_t kMassimoIntervalloCasuale = 10'000'000;
 
-
 // A count as a Long while it fits, a Double beyond.
 Variant Conteggio(double conteggio) {
   if (conteggio <= std::numeric_limits<int32_t>::max()) return Variant::Long(static_cast<int32_t>(conteggio));
@@ -307,8 +306,8 @@ Result<double> ProbabilitaArgomenti(const CallArgs& args, size_t i_sorte, size_t
   if (sorte < 1 || sorte > stats::kEstrattiPerRuota)
     return ArgomentoNonValido(fmt::format("Sorte {} non valida: deve essere compresa tra 1 e 5", sorte));
   if (quantita < sorte || quantita > stats::kNumeriLotto)
-    return ArgomentoNonValido(fmt::format(
-        "Quantità di numeri {} non valida: deve essere compresa tra la sorte ({}) e 90", quantita, sorte));
+    return ArgomentoNonValido(
+        fmt::format("Quantità di numeri {} non valida: deve essere compresa tra la sorte ({}) e 90", quantita, sorte));
   return stats::ProbabilitaSorte(sorte, quantita);
 }
 
@@ -408,8 +407,7 @@ Result<Variant> GetColonnaCasuale(Libreria& lib, CallArgs& args) {
     return ArgomentoNonValido(
         fmt::format("Massimo {} non valido: deve essere compreso tra 1 e {}", massimo, kMassimoIntervalloCasuale));
   if (quanti < 1 || quanti > massimo)
-    return ArgomentoNonValido(
-        fmt::format("Quantità {} non valida: deve essere compresa tra 1 e {}", quanti, massimo));
+    return ArgomentoNonValido(fmt::format("Quantità {} non valida: deve essere compresa tra 1 e {}", quanti, massimo));
   std::vector<int> colonna(static_cast<size_t>(quanti));
   std::sample(Interi{1}, Interi{massimo + 1}, colonna.begin(), std::ptrdiff_t{quanti},
               lib.Stato<StatoCasuale>().generatore);

@@ -20,7 +20,6 @@ using namespace famiglia;
 constexpr int kRuotaTutteScript = 11;  // TU_ in the script's numbering
 constexpr int kNazionaleScript = 12;   // NZ_ in the script's numbering
 
-
 vbs::ScriptError RispostaNonValida(const std::string& titolo) {
   return ArgomentoNonValido(fmt::format("Risposta non valida al dialogo \"{}\"", titolo));
 }
@@ -195,9 +194,10 @@ Result<Variant> ScegliPoste(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto titolo, TitoloArgomento(args, 1, u"Scegli le poste"));
   auto poste = lib.ospite().ScegliImporti(titolo, {"Estratto", "Ambo", "Terno", "Quaterna", "Cinquina"}, proposte);
   if (!poste) return Variant::Boolean(false);
-  const bool valide = poste->size() == kNumeriPerRuota &&
-                      std::all_of(poste->begin(), poste->end(), [](double p) { return p >= 0 && p <= kPostaMassima; }) &&
-                      std::any_of(poste->begin(), poste->end(), [](double p) { return p > 0; });
+  const bool valide =
+      poste->size() == kNumeriPerRuota &&
+      std::all_of(poste->begin(), poste->end(), [](double p) { return p >= 0 && p <= kPostaMassima; }) &&
+      std::any_of(poste->begin(), poste->end(), [](double p) { return p > 0; });
   if (!valide) return RispostaNonValida(titolo);
   std::vector<Variant> elementi;
   for (double posta : *poste) elementi.push_back(Variant::Double(posta));

@@ -160,10 +160,9 @@ Result<Variant> AmboPosRit(Libreria& lib, CallArgs& args) {
   const int ruote[] = {ruota};
   const std::vector<int> singole = RuoteSingole(ruote);
   const NumeroInPosizione posti[] = {primo, secondo};
-  return Variant::Long(RitardoConRegola(*archivio, singole, intervallo.inizio, intervallo.fine,
-                                        [&](const Estrazione& estrazione) {
-                                          return InPosizione(estrazione, singole, posti);
-                                        }));
+  return Variant::Long(
+      RitardoConRegola(*archivio, singole, intervallo.inizio, intervallo.fine,
+                       [&](const Estrazione& estrazione) { return InPosizione(estrazione, singole, posti); }));
 }
 
 // Every run between two outings in order, then the open run, so that the last element is RitPos.

@@ -18,7 +18,6 @@ constexpr int kDomenica = 1;  // weekdays numbered as Weekday numbers them: Sund
 constexpr int kGiorniSettimana = 7;
 constexpr int kMesi = 12;
 
-
 // One flag per draw, indexed by IdEstr; a script that changes them before the run marked them
 // starts from every draw active, as a run does.
 std::vector<bool>& Flag(Libreria& lib, const TabellaEstrazioni& archivio) {

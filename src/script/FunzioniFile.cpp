@@ -47,8 +47,8 @@ struct StatoFile {
 };
 
 void Segnala(Libreria& lib, std::string_view funzione, std::string motivo) {
-  lib.ospite().Mostra(Avviso{TipoAvviso::Esclamativo, "ClsFunctionsGeodoScript." + std::string(funzione),
-                             std::move(motivo)});
+  lib.ospite().Mostra(
+      Avviso{TipoAvviso::Esclamativo, "ClsFunctionsGeodoScript." + std::string(funzione), std::move(motivo)});
 }
 
 Result<Variant> NonRiuscito(Libreria& lib, std::string_view funzione, std::string motivo, Variant nulla) {
@@ -59,7 +59,6 @@ Result<Variant> NonRiuscito(Libreria& lib, std::string_view funzione, std::strin
 Result<Variant> NonRiuscito(Libreria& lib, std::string_view funzione, std::string motivo) {
   return NonRiuscito(lib, funzione, std::move(motivo), Variant::Boolean(false));
 }
-
 
 // Argument i as a path: backslashes become '/', a relative name starts from the base folder.
 Result<fs::path> PercorsoArgomento(const Libreria& lib, const CallArgs& args, size_t i) {
@@ -135,7 +134,8 @@ Result<Variant> ScriviFile(Libreria& lib, CallArgs& args) {
     if (fs::exists(file, ec) && !FileEsiste(file))
       return NonRiuscito(lib, "ScriviFile", fmt::format("{} non è un file: non viene scritto", file.string()));
     std::ofstream out(file, std::ios::binary | (aggiungi ? std::ios::app : std::ios::trunc));
-    if (!out) return NonRiuscito(lib, "ScriviFile", fmt::format("Impossibile aprire in scrittura il file {}", file.string()));
+    if (!out)
+      return NonRiuscito(lib, "ScriviFile", fmt::format("Impossibile aprire in scrittura il file {}", file.string()));
     it = aperti.emplace(file, std::move(out)).first;
   }
   it->second << text::Utf16ToUtf8(testo) << '\n';
@@ -180,7 +180,8 @@ Result<Variant> LeggiRigheFileDiTesto(Libreria& lib, CallArgs& args) {
   ScaricaSeAperto(lib, file);
   std::error_code ec;
   if (!fs::exists(file, ec))
-    return NonRiuscito(lib, "LeggiRigheFileDiTesto", fmt::format("Il file {} non esiste", file.string()), Variant::Long(0));
+    return NonRiuscito(lib, "LeggiRigheFileDiTesto", fmt::format("Il file {} non esiste", file.string()),
+                       Variant::Long(0));
   auto contenuto = LeggiFileRegolare(file, kLimiteFileTesto);
   if (!contenuto) return NonRiuscito(lib, "LeggiRigheFileDiTesto", contenuto.Errore().testo, Variant::Long(0));
   std::vector<Variant> righe = Righe(text::DecodeScriptFile(*contenuto));
@@ -230,8 +231,7 @@ Result<Variant> EliminaFile(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto file, PercorsoArgomento(lib, args, 0));
   VBS_TRY(lib.Consenti(vbs::FileAccess::Delete, file, "EliminaFile"));
   std::error_code ec;
-  if (!FileEsiste(file))
-    return NonRiuscito(lib, "EliminaFile", fmt::format("Il file {} non esiste", file.string()));
+  if (!FileEsiste(file)) return NonRiuscito(lib, "EliminaFile", fmt::format("Il file {} non esiste", file.string()));
   ChiudiSeAperto(lib, file);
   if (!fs::remove(file, ec))
     return NonRiuscito(lib, "EliminaFile", fmt::format("Impossibile eliminare il file {}", file.string()));
@@ -284,8 +284,8 @@ Result<Variant> ElencoFileInDirectory(Libreria& lib, CallArgs& args) {
     if (CorrispondeAlFiltro(nome, filtro)) nomi.push_back(std::move(nome));
   }
   if (ec)
-    return NonRiuscito(lib, "ElencoFileInDirectory", fmt::format("Impossibile leggere la cartella {}", cartella.string()),
-                       Variant::Long(0));
+    return NonRiuscito(lib, "ElencoFileInDirectory",
+                       fmt::format("Impossibile leggere la cartella {}", cartella.string()), Variant::Long(0));
   std::sort(nomi.begin(), nomi.end());
   std::vector<Variant> valori;
   valori.reserve(nomi.size());
@@ -332,7 +332,8 @@ Result<Variant> LanciaFile(Libreria& lib, CallArgs& args) {
 
 // The draws of a file in the operator's results layout, read again only when the file changed; null
 // when it cannot be read, after telling the user why; error 70 when the run's rules forbid reading it.
-Result<const std::vector<Estrazione>*> EstrazioniDelFile(Libreria& lib, std::string_view funzione, const fs::path& file) {
+Result<const std::vector<Estrazione>*> EstrazioniDelFile(Libreria& lib, std::string_view funzione,
+                                                         const fs::path& file) {
   VBS_TRY(lib.Consenti(vbs::FileAccess::Read, file, funzione));
   ScaricaSeAperto(lib, file);
   StatoFile& stato = lib.Stato<StatoFile>();
@@ -394,10 +395,8 @@ const Libreria::Funzione kFile[] = {
     {"LeggiRigheFileDiTesto", 2, 2, &LeggiRigheFileDiTesto,
      "NomeFile, aRighe: riempie aRighe(1 To n) con le righe del file di testo, UTF-8 o Windows-1252, e restituisce n "
      "(Long); 0 lasciando aRighe invariato se il file non si può leggere"},
-    {"FileEsistente", 1, 1, &Esistente<&FileEsiste>,
-     "NomeFile: True se il file esiste"},
-    {"DirectoryEsistente", 1, 1, &Esistente<&CartellaEsiste>,
-     "Cartella: True se la cartella esiste"},
+    {"FileEsistente", 1, 1, &Esistente<&FileEsiste>, "NomeFile: True se il file esiste"},
+    {"DirectoryEsistente", 1, 1, &Esistente<&CartellaEsiste>, "Cartella: True se la cartella esiste"},
     {"CreaDirectory", 1, 1, &CreaDirectory,
      "Cartella: crea la cartella e quelle superiori mancanti; True se alla fine esiste"},
     {"CopiaFile", 2, 3, &CopiaFile,

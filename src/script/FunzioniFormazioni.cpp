@@ -24,7 +24,6 @@ namespace {
 
 using namespace famiglia;
 
-
 struct StatoFormazioni {
   std::vector<std::vector<int>> formazioni;
 };
@@ -168,8 +167,9 @@ Result<Variant> StatisticaGruppoFormazioni(Libreria& lib, CallArgs& args) {
   lib.Scrivi(fmt::format(kRiga, "Formazione", "Rit", "RitMax", "IncrMax", "Freq", "Numeri"), lib.colore_testo(), true);
   for (size_t i = 0; i < formazioni.size(); ++i) {
     const stats::StatisticaNumero s = StatisticaDi<kTurbo>(lib, *archivio, formazioni[i], gioco);
-    lib.Scrivi(fmt::format(kRiga, i + 1, s.ritardo, s.storico, s.incr_storico, s.frequenza, NumeriInTesto(formazioni[i])),
-               lib.colore_testo(), false);
+    lib.Scrivi(
+        fmt::format(kRiga, i + 1, s.ritardo, s.storico, s.incr_storico, s.frequenza, NumeriInTesto(formazioni[i])),
+        lib.colore_testo(), false);
   }
   return Variant();
 }

@@ -63,7 +63,8 @@ Result<Variant> Messaggio(Libreria& lib, CallArgs& args) {
 
 const Libreria::Funzione kOutput[] = {
     {"Scrivi", 0, 6, &Scrivi,
-     "[Testo], [Grassetto], [ACapo = True, vedi SetComportamentoACapo], [ColoreSfondo], [ColoreTesto], [Dimensione]: scrive una riga di output"},
+     "[Testo], [Grassetto], [ACapo = True, vedi SetComportamentoACapo], [ColoreSfondo], [ColoreTesto], [Dimensione]: "
+     "scrive una riga di output"},
     {"ScriviConColori", 2, 4, &ScriviConColori,
      "Testo, ColoreTesto, [Grassetto], [ACapo = True]: scrive con un colore"},
     {"ColoreTesto", 1, 1, &ColoreTesto, "Colore: il colore del testo scritto da Scrivi da qui in poi"},

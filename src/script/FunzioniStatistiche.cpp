@@ -32,8 +32,8 @@ constexpr auto kTurbo = Calcolo::kTurbo;
 // The plain forms walk the range, over the columns of the draws.
 StatisticaNumero Percorso(Libreria& lib, const Misura& m) {
   const stats::ColonneRuote& colonne = ColonneDellEsecuzione(lib, *m.tab);
-  return stats::StatisticaCombinazione(colonne, m.giocata.ruote, m.giocata.numeri, m.giocata.sorte, m.fine,
-                                       m.posizioni, m.inizio);
+  return stats::StatisticaCombinazione(colonne, m.giocata.ruote, m.giocata.numeri, m.giocata.sorte, m.fine, m.posizioni,
+                                       m.inizio);
 }
 
 // The index keeps every position: a group measured on some positions only takes the walk.
@@ -73,7 +73,8 @@ void RestituisciFigure(CallArgs& args, size_t i, const StatisticaNumero& dati) {
 template <int kNumeri, Calcolo kCalcolo>
 Result<Variant> StatSuRuota(Libreria& lib, CallArgs& args) {
   constexpr size_t kInizio = kNumeri + 1;
-  VBS_TRY_ASSIGN(auto misura, MisuraSuRuota(lib, args, kNumeri, {.inizio = kInizio, .fine = kInizio + 1, .posizioni = {}}));
+  VBS_TRY_ASSIGN(auto misura,
+                 MisuraSuRuota(lib, args, kNumeri, {.inizio = kInizio, .fine = kInizio + 1, .posizioni = {}}));
   RestituisciFigure(args, kInizio + 2, StatisticaGruppo(lib, misura, kCalcolo));
   return Variant();
 }

@@ -57,7 +57,8 @@ Result<std::vector<Cella>> CelleArgomento(const CallArgs& args, size_t i) {
     return celle;
   }
   const vbs::SafeArray& array = *valore.as_array();
-  if (array.DimensionCount() != 1) return ArgomentoNonValido("I valori della riga vanno dati in un array a una dimensione");
+  if (array.DimensionCount() != 1)
+    return ArgomentoNonValido("I valori della riga vanno dati in un array a una dimensione");
   auto elementi = array.elements();
   if (!elementi.empty() && array.bounds()[0].lower == 0 && elementi[0].is_empty()) elementi = elementi.subspan(1);
   for (const Variant& elemento : elementi) {
@@ -73,12 +74,11 @@ Result<std::string> LarghezzaArgomento(const CallArgs& args, size_t i) {
   std::string larghezza = text::Utf16ToUtf8(testo);
   std::string_view cifre = larghezza;
   if (cifre.ends_with('%')) cifre.remove_suffix(1);
-  const bool valida = !cifre.empty() && std::all_of(cifre.begin(), cifre.end(), [](char c) {
-    return std::isdigit(static_cast<unsigned char>(c));
-  });
+  const bool valida = !cifre.empty() && std::all_of(cifre.begin(), cifre.end(),
+                                                    [](char c) { return std::isdigit(static_cast<unsigned char>(c)); });
   if (!valida)
-    return ArgomentoNonValido(fmt::format("Larghezza non valida: \"{}\" (pixel, come 600, o percentuale, come 80%)",
-                                          larghezza));
+    return ArgomentoNonValido(
+        fmt::format("Larghezza non valida: \"{}\" (pixel, come 600, o percentuale, come 80%)", larghezza));
   if (cifre.find_first_not_of('0') == std::string_view::npos) return std::string();
   return larghezza;
 }
@@ -189,10 +189,12 @@ Result<Variant> CreaPiramideRitardi(Libreria& lib, CallArgs& args) {
   if (ruota < 1 || ruota > kNumeroRuote) return ArgomentoNonValido("Ruota deve essere una sola ruota, BA_ .. NZ_");
   const Estrazione& estrazione = tab[id_estr];
   if (!estrazione.RuotaEstratta(ruota))
-    return ArgomentoNonValido(fmt::format("La ruota {} non è stata estratta nell'estrazione {}", NomeRuota(ruota), id_estr));
+    return ArgomentoNonValido(
+        fmt::format("La ruota {} non è stata estratta nell'estrazione {}", NomeRuota(ruota), id_estr));
 
   std::vector<int> riga;
-  for (int posizione = 1; posizione <= kNumeriPerRuota; ++posizione) riga.push_back(estrazione.Numero(ruota, posizione));
+  for (int posizione = 1; posizione <= kNumeriPerRuota; ++posizione)
+    riga.push_back(estrazione.Numero(ruota, posizione));
   RigaTabella titoli;
   for (int colonna = 1; colonna <= kNumeriPerRuota; ++colonna) titoli.celle.push_back({fmt::format("{}", colonna), {}});
   TabellaOutput tabella(std::move(titoli), 1);
@@ -200,7 +202,8 @@ Result<Variant> CreaPiramideRitardi(Libreria& lib, CallArgs& args) {
     RigaTabella celle;
     celle.allineamento = Allineamento::Centro;
     for (int numero : riga)
-      celle.celle.push_back({fmt::format("{:02} ({})", numero, stats::EstrattoRitardo(tab, ruota, numero, 1, id_estr)), {}});
+      celle.celle.push_back(
+          {fmt::format("{:02} ({})", numero, stats::EstrattoRitardo(tab, ruota, numero, 1, id_estr)), {}});
     tabella.AggiungiRiga(std::move(celle));
     for (size_t i = 0; i + 1 < riga.size(); ++i) riga[i] = stats::Fuori90(riga[i] + riga[i + 1]);
     riga.pop_back();

@@ -31,8 +31,8 @@ Result<const Estrazione*> EstrazioneArgomento(const Libreria& lib, const CallArg
   VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
   VBS_TRY_ASSIGN(auto id_estr, args.Long(i));
   if (!(archivio)->Contiene(id_estr)) {
-    return ArgomentoNonValido(fmt::format("Estrazione fuori dall'archivio: {} (le estrazioni vanno da 1 a {})",
-                                          id_estr, (archivio)->EstrazioniArchivio()));
+    return ArgomentoNonValido(fmt::format("Estrazione fuori dall'archivio: {} (le estrazioni vanno da 1 a {})", id_estr,
+                                          (archivio)->EstrazioniArchivio()));
   }
   return &(*archivio)[id_estr];
 }
@@ -46,7 +46,8 @@ Result<int> RuotaSingola(const CallArgs& args, size_t i) {
 
 // Argument i as table wheels, TU_ standing for all eleven, as does an omitted argument.
 Result<std::vector<int>> RuoteElencate(const CallArgs& args, size_t i) {
-  VBS_TRY_ASSIGN(auto ruote, args.Has(i) ? RuoteArgomento(args, i) : Result<std::vector<int>>(std::vector<int>{kTutteLeRuote}));
+  VBS_TRY_ASSIGN(auto ruote,
+                 args.Has(i) ? RuoteArgomento(args, i) : Result<std::vector<int>>(std::vector<int>{kTutteLeRuote}));
   std::vector<int> elencate;
   for (int ruota : ruote) {
     if (ruota < 1 || ruota > kTutteLeRuote)
@@ -158,7 +159,8 @@ Result<Variant> ScriviMatrice(Libreria& lib, CallArgs& args) {
     for (size_t colonna = 0; colonna < testi[riga].size(); ++colonna) {
       if (colonna > 0) linea += kSpazioColonne;
       const bool numero = elementi[riga][colonna]->is_number();
-      linea += Allinea(testi[riga][colonna], larghezze[colonna], numero ? Allineamento::Destra : Allineamento::Sinistra);
+      linea +=
+          Allinea(testi[riga][colonna], larghezze[colonna], numero ? Allineamento::Destra : Allineamento::Sinistra);
     }
     linea.erase(linea.find_last_not_of(' ') + 1);
     testo += linea + '\n';
@@ -239,8 +241,8 @@ Result<Variant> FormatSpace(Libreria&, CallArgs& args) {
   VBS_TRY_ASSIGN(auto lunghezza, args.Long(1));
   if (lunghezza < 0) return ArgomentoNonValido(fmt::format("Lunghezza non valida: {}", lunghezza));
   VBS_TRY_ASSIGN(auto a_destra, args.Boolean(2, false));
-  return Stringa(Allinea(testo, static_cast<size_t>(lunghezza),
-                         a_destra ? Allineamento::Destra : Allineamento::Sinistra));
+  return Stringa(
+      Allinea(testo, static_cast<size_t>(lunghezza), a_destra ? Allineamento::Destra : Allineamento::Sinistra));
 }
 
 Result<Variant> Format2(Libreria&, CallArgs& args) {
@@ -266,7 +268,8 @@ Result<FormatoNumero> LeggiFormato(std::string_view formato) {
                       interi.find_first_not_of("0#") == std::string_view::npos &&
                       decimali.find_first_not_of("0#") == std::string_view::npos;
   if (!valido)
-    return ArgomentoNonValido(fmt::format("Formato non valido: \"{}\" (cifre 0 e #, un punto per i decimali)", formato));
+    return ArgomentoNonValido(
+        fmt::format("Formato non valido: \"{}\" (cifre 0 e #, un punto per i decimali)", formato));
   letto.zeri_interi = static_cast<size_t>(std::count(interi.begin(), interi.end(), '0'));
   letto.decimali_minimi = static_cast<size_t>(std::count(decimali.begin(), decimali.end(), '0'));
   letto.decimali = decimali.size();
@@ -313,16 +316,23 @@ Result<Variant> NomeNumerato(const CallArgs& args, const std::array<std::string_
 }
 
 Result<Variant> NomeSorte(Libreria&, CallArgs& args) {
-  static constexpr std::array<std::string_view, 10> kSorti{
-      "Ambata", "Ambo", "Terno", "Quaterna", "Cinquina", "Estratto determinato 1", "Estratto determinato 2",
-      "Estratto determinato 3", "Estratto determinato 4", "Estratto determinato 5"};
+  static constexpr std::array<std::string_view, 10> kSorti{"Ambata",
+                                                           "Ambo",
+                                                           "Terno",
+                                                           "Quaterna",
+                                                           "Cinquina",
+                                                           "Estratto determinato 1",
+                                                           "Estratto determinato 2",
+                                                           "Estratto determinato 3",
+                                                           "Estratto determinato 4",
+                                                           "Estratto determinato 5"};
   return NomeNumerato(args, kSorti, "Sorte");
 }
 
 Result<Variant> MeseNome(Libreria&, CallArgs& args) {
-  static constexpr std::array<std::string_view, 12> kMesi{"Gennaio", "Febbraio", "Marzo",     "Aprile",
-                                                          "Maggio",  "Giugno",   "Luglio",    "Agosto",
-                                                          "Settembre", "Ottobre", "Novembre", "Dicembre"};
+  static constexpr std::array<std::string_view, 12> kMesi{"Gennaio",   "Febbraio", "Marzo",    "Aprile",
+                                                          "Maggio",    "Giugno",   "Luglio",   "Agosto",
+                                                          "Settembre", "Ottobre",  "Novembre", "Dicembre"};
   return NomeNumerato(args, kMesi, "Mese");
 }
 

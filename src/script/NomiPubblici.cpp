@@ -5,124 +5,290 @@ namespace lottolab::script {
 namespace {
 
 constexpr std::string_view kGet[] = {
-    "GetPathFileHtml", "GetTestoHtml", "GetCombSviluppo", "GetCombSviluppoRid", "GetCombSviluppate",
-    "GetPercCombSviluppate", "GetCombPermutazioni", "GetAmbiUguali", "GetAmbiUgualiDistanzaX",
-    "GetAmbiUgualiSommaX", "GetAmbiUgualiIsotopi", "GetAmbiUgualiIsotopiDistanzaX",
-    "GetAmbiUgualiIsotopiSommaX", "GetAmbiDistanzaX", "GetAmbiSommaX", "GetCollQuadratoCiclometrico",
-    "GetCollAquiloneCiclometrico", "GetCollParallelepipedi", "GetCollParallelepipediFT",
-    "GetCollParallelepipediQN", "GetArrayNumeriFromFiguraGeodomica", "GetNumeroVerticiFiguraGeodomica",
-    "GetCollFiguraUtente", "GetCollFiguraUtenteFT", "GetCollFiguraUtenteQN", "GetInfoEstrazione",
-    "GetInfoEstrazioneSE", "GetInfoEstrazioneWF", "GetInfoEstrazioneDL", "GetInfoEstrazioneFT",
-    "GetArrayNumeriFromFiguraCiclo", "GetCollTriangoliEquilateri", "GetCollTriangoliIsosceli",
-    "GetCollTrapezioIsoscele", "GetCollRettangoli", "GetEstrazioneCompleta", "GetArrayNumeriRuota",
-    "GetEstrazioneCompletaDL", "GetEstrazioneCompletaSE", "GetEstrazioneCompletaFT",
-    "GetEstrazioneCompletaWF", "GetTabella", "GetTabellaX", "GetDirectoryTemp", "GetDirectoryAppData",
-    "GetNewCollection", "GetNewDisegnoCiclometrico", "GetItemFormazione", "GetItemCollection",
-    "GetElementiFormazione", "GetQElemFormazione", "GetClasseFormazione", "GetSpesa", "GetVincita",
-    "GetGuadagno", "GetNumPerSviluppo", "GetMatriceSistemaRidotto", "GetTabAnalitico", "GetPremioPerSorte",
-    "GetColonnaCasuale", "GetQuantitaGiocateEffettuate", "GetSituazioneGiocate", "GetCollFigureCiclometriche",
-    "GetPremioLotto", "GetColoreHtml", "GetStreamFT", "GetNextLineFT", "GetVettoreProgressione",
-    "GetNumeroUnivoco", "GetRitardoEstratti", "GetRitRel", "GetRitRelTurbo", "GetRitRelMax",
-    "GetRitRelMaxTurbo", "GetANumeri", "GetMotoreSviluppoIntegrale", "GetLunghettePiuRitardate",
+    "GetPathFileHtml",
+    "GetTestoHtml",
+    "GetCombSviluppo",
+    "GetCombSviluppoRid",
+    "GetCombSviluppate",
+    "GetPercCombSviluppate",
+    "GetCombPermutazioni",
+    "GetAmbiUguali",
+    "GetAmbiUgualiDistanzaX",
+    "GetAmbiUgualiSommaX",
+    "GetAmbiUgualiIsotopi",
+    "GetAmbiUgualiIsotopiDistanzaX",
+    "GetAmbiUgualiIsotopiSommaX",
+    "GetAmbiDistanzaX",
+    "GetAmbiSommaX",
+    "GetCollQuadratoCiclometrico",
+    "GetCollAquiloneCiclometrico",
+    "GetCollParallelepipedi",
+    "GetCollParallelepipediFT",
+    "GetCollParallelepipediQN",
+    "GetArrayNumeriFromFiguraGeodomica",
+    "GetNumeroVerticiFiguraGeodomica",
+    "GetCollFiguraUtente",
+    "GetCollFiguraUtenteFT",
+    "GetCollFiguraUtenteQN",
+    "GetInfoEstrazione",
+    "GetInfoEstrazioneSE",
+    "GetInfoEstrazioneWF",
+    "GetInfoEstrazioneDL",
+    "GetInfoEstrazioneFT",
+    "GetArrayNumeriFromFiguraCiclo",
+    "GetCollTriangoliEquilateri",
+    "GetCollTriangoliIsosceli",
+    "GetCollTrapezioIsoscele",
+    "GetCollRettangoli",
+    "GetEstrazioneCompleta",
+    "GetArrayNumeriRuota",
+    "GetEstrazioneCompletaDL",
+    "GetEstrazioneCompletaSE",
+    "GetEstrazioneCompletaFT",
+    "GetEstrazioneCompletaWF",
+    "GetTabella",
+    "GetTabellaX",
+    "GetDirectoryTemp",
+    "GetDirectoryAppData",
+    "GetNewCollection",
+    "GetNewDisegnoCiclometrico",
+    "GetItemFormazione",
+    "GetItemCollection",
+    "GetElementiFormazione",
+    "GetQElemFormazione",
+    "GetClasseFormazione",
+    "GetSpesa",
+    "GetVincita",
+    "GetGuadagno",
+    "GetNumPerSviluppo",
+    "GetMatriceSistemaRidotto",
+    "GetTabAnalitico",
+    "GetPremioPerSorte",
+    "GetColonnaCasuale",
+    "GetQuantitaGiocateEffettuate",
+    "GetSituazioneGiocate",
+    "GetCollFigureCiclometriche",
+    "GetPremioLotto",
+    "GetColoreHtml",
+    "GetStreamFT",
+    "GetNextLineFT",
+    "GetVettoreProgressione",
+    "GetNumeroUnivoco",
+    "GetRitardoEstratti",
+    "GetRitRel",
+    "GetRitRelTurbo",
+    "GetRitRelMax",
+    "GetRitRelMaxTurbo",
+    "GetANumeri",
+    "GetMotoreSviluppoIntegrale",
+    "GetLunghettePiuRitardate",
 };
 
 constexpr std::string_view kAmbo[] = {
-    "AmboFrequenza", "AmboFrequenzaSE", "AmboFrequenzaWF", "AmboFrequenzaDL", "AmboFrequenzaFT",
-    "AmboRitardo", "AmboRitardoSE", "AmboRitardoWF", "AmboRitardoDL", "AmboRitardoFT", "AmboStorico",
-    "AmboStoricoSE", "AmboStoricoWF", "AmboStoricoDL", "AmboStoricoFT", "AmboIncrStorico",
-    "AmboIncrStoricoSE", "AmboIncrStoricoWF", "AmboIncrStoricoDL", "AmboIncrStoricoFT", "AmboPosRit",
-    "AmboPosRitSE", "AmboPosRitWF", "AmboPosRitDL", "AmboPosRitFT", "AmboRitardoTurbo", "AmboFrequenzaTurbo",
-    "AmboStoricoTurbo", "AmboIncrStoricoTurbo",
+    "AmboFrequenza",    "AmboFrequenzaSE",    "AmboFrequenzaWF",   "AmboFrequenzaDL",      "AmboFrequenzaFT",
+    "AmboRitardo",      "AmboRitardoSE",      "AmboRitardoWF",     "AmboRitardoDL",        "AmboRitardoFT",
+    "AmboStorico",      "AmboStoricoSE",      "AmboStoricoWF",     "AmboStoricoDL",        "AmboStoricoFT",
+    "AmboIncrStorico",  "AmboIncrStoricoSE",  "AmboIncrStoricoWF", "AmboIncrStoricoDL",    "AmboIncrStoricoFT",
+    "AmboPosRit",       "AmboPosRitSE",       "AmboPosRitWF",      "AmboPosRitDL",         "AmboPosRitFT",
+    "AmboRitardoTurbo", "AmboFrequenzaTurbo", "AmboStoricoTurbo",  "AmboIncrStoricoTurbo",
 };
 
 constexpr std::string_view kEstratto[] = {
-    "Estratto", "EstrattoSE", "EstrattoWF", "EstrattoDL", "EstrattoFT", "EstrattoFrequenza",
-    "EstrattoFrequenzaDL", "EstrattoFrequenzaSE", "EstrattoFrequenzaWF", "EstrattoFrequenzaFT",
-    "EstrattoRitardo", "EstrattoRitardoDL", "EstrattoRitardoSE", "EstrattoRitardoWF", "EstrattoRitardoFT",
-    "EstrattoStorico", "EstrattoStoricoDL", "EstrattoStoricoSE", "EstrattoStoricoWF", "EstrattoStoricoFT",
-    "EstrattoIncrStorico", "EstrattoIncrStoricoDL", "EstrattoIncrStoricoSE", "EstrattoIncrStoricoFT",
-    "EstrattoRitardoTurbo", "EstrattoStoricoTurbo", "EstrattoFrequenzaTurbo", "EstrattoIncrStoricoTurbo",
+    "Estratto",
+    "EstrattoSE",
+    "EstrattoWF",
+    "EstrattoDL",
+    "EstrattoFT",
+    "EstrattoFrequenza",
+    "EstrattoFrequenzaDL",
+    "EstrattoFrequenzaSE",
+    "EstrattoFrequenzaWF",
+    "EstrattoFrequenzaFT",
+    "EstrattoRitardo",
+    "EstrattoRitardoDL",
+    "EstrattoRitardoSE",
+    "EstrattoRitardoWF",
+    "EstrattoRitardoFT",
+    "EstrattoStorico",
+    "EstrattoStoricoDL",
+    "EstrattoStoricoSE",
+    "EstrattoStoricoWF",
+    "EstrattoStoricoFT",
+    "EstrattoIncrStorico",
+    "EstrattoIncrStoricoDL",
+    "EstrattoIncrStoricoSE",
+    "EstrattoIncrStoricoFT",
+    "EstrattoRitardoTurbo",
+    "EstrattoStoricoTurbo",
+    "EstrattoFrequenzaTurbo",
+    "EstrattoIncrStoricoTurbo",
 };
 
 constexpr std::string_view kSerie[] = {
-    "SerieEstrazioneStorico", "SerieEstrazioneStoricoFT", "SerieStorico", "SerieStoricoSE", "SerieStoricoWF",
-    "SerieStoricoDL", "SerieStoricoFT", "SeriePrima", "SeriePrimaSE", "SeriePrimaWF", "SeriePrimaDL",
-    "SeriePrimaFT", "SerieFreq", "SerieUltima", "SerieFreqSE", "SerieFreqWF", "SerieFreqDL", "SerieFreqFT",
-    "SerieRitardo", "SerieRitardoSE", "SerieRitardoWF", "SerieRitardoDL", "SerieRitardoFT",
-    "SerieRitardoTurbo", "SerieFreqTurbo", "SerieStoricoTurbo",
+    "SerieEstrazioneStorico",
+    "SerieEstrazioneStoricoFT",
+    "SerieStorico",
+    "SerieStoricoSE",
+    "SerieStoricoWF",
+    "SerieStoricoDL",
+    "SerieStoricoFT",
+    "SeriePrima",
+    "SeriePrimaSE",
+    "SeriePrimaWF",
+    "SeriePrimaDL",
+    "SeriePrimaFT",
+    "SerieFreq",
+    "SerieUltima",
+    "SerieFreqSE",
+    "SerieFreqWF",
+    "SerieFreqDL",
+    "SerieFreqFT",
+    "SerieRitardo",
+    "SerieRitardoSE",
+    "SerieRitardoWF",
+    "SerieRitardoDL",
+    "SerieRitardoFT",
+    "SerieRitardoTurbo",
+    "SerieFreqTurbo",
+    "SerieStoricoTurbo",
 };
 
 constexpr std::string_view kImposta[] = {
-    "ImpostaPropColoriCerchioCiclo", "ImpostaPropDrawWidthCerchioCiclo", "ImpostaPropFlagFigureCerchioCiclo",
-    "ImpostaGiocataSE", "ImpostaGiocataWF", "ImpostaGiocataDL", "ImpostaGiocataFT", "ImpostaGiocata",
-    "ImpostaGiocataVirtuale", "ImpostaEstrazione", "ImpostaEstrazioneSE", "ImpostaEstrazioneWF",
-    "ImpostaEstrazioneDL", "ImpostaEstrazioneFT", "ImpostaInterruzioni", "ImpostaNessunaEstrazione",
-    "ImpostaNessunaEstrazioneSE", "ImpostaNessunaEstrazioneWF", "ImpostaNessunaEstrazioneDL",
-    "ImpostaNessunaEstrazioneFT", "ImpostaProgressione", "ImpostaProgressioneVirtuale",
-    "ImpostaProgressioneDL", "ImpostaProgressioneFT", "ImpostaArchivio10ELotto",
+    "ImpostaPropColoriCerchioCiclo",
+    "ImpostaPropDrawWidthCerchioCiclo",
+    "ImpostaPropFlagFigureCerchioCiclo",
+    "ImpostaGiocataSE",
+    "ImpostaGiocataWF",
+    "ImpostaGiocataDL",
+    "ImpostaGiocataFT",
+    "ImpostaGiocata",
+    "ImpostaGiocataVirtuale",
+    "ImpostaEstrazione",
+    "ImpostaEstrazioneSE",
+    "ImpostaEstrazioneWF",
+    "ImpostaEstrazioneDL",
+    "ImpostaEstrazioneFT",
+    "ImpostaInterruzioni",
+    "ImpostaNessunaEstrazione",
+    "ImpostaNessunaEstrazioneSE",
+    "ImpostaNessunaEstrazioneWF",
+    "ImpostaNessunaEstrazioneDL",
+    "ImpostaNessunaEstrazioneFT",
+    "ImpostaProgressione",
+    "ImpostaProgressioneVirtuale",
+    "ImpostaProgressioneDL",
+    "ImpostaProgressioneFT",
+    "ImpostaArchivio10ELotto",
 };
 
 constexpr std::string_view kXls[] = {
-    "XlsMostra", "XlsApriFile", "XlsScrivi", "XlsFormatoCella", "XlsMerge", "XlsLeggi", "XlsChiudi",
-    "XlsSalva", "XlsGetFoglio", "XlsScriviInFoglio", "XlsLeggiinFoglio", "XlsAddFoglio", "XlsMergeInFoglio",
-    "XlsFormatoCellaInFoglio", "XlsScriviC", "XlsScriviCInFoglio", "XlsGetLetteraFromColonna", "XlsAutoFit",
-    "XlsLeft", "XlsRight", "XlsCenter",
+    "XlsMostra",
+    "XlsApriFile",
+    "XlsScrivi",
+    "XlsFormatoCella",
+    "XlsMerge",
+    "XlsLeggi",
+    "XlsChiudi",
+    "XlsSalva",
+    "XlsGetFoglio",
+    "XlsScriviInFoglio",
+    "XlsLeggiinFoglio",
+    "XlsAddFoglio",
+    "XlsMergeInFoglio",
+    "XlsFormatoCellaInFoglio",
+    "XlsScriviC",
+    "XlsScriviCInFoglio",
+    "XlsGetLetteraFromColonna",
+    "XlsAutoFit",
+    "XlsLeft",
+    "XlsRight",
+    "XlsCenter",
 };
 
 constexpr std::string_view kIs[] = {
-    "isIdEstrValido", "isIdEstrValidoSE", "isIdEstrValidoWF", "isIdEstrValidoDL", "isIdEstrValidoFT",
-    "isNumeroValidoLotto", "isRuotaValidaLotto", "isSorteValidaLotto", "isSorteValidaSE", "isSorteValidaWF",
-    "isSorteValidaDL", "isSorteValidaFT", "IsNumeroPresenteInEstrazione", "IsNumeroPresenteInEstrazioneSE",
-    "IsNumeroPresenteInEstrazioneWF", "IsNumeroPresenteInEstrazioneDL", "IsNumeroPresenteInEstrazioneFT",
+    "isIdEstrValido",
+    "isIdEstrValidoSE",
+    "isIdEstrValidoWF",
+    "isIdEstrValidoDL",
+    "isIdEstrValidoFT",
+    "isNumeroValidoLotto",
+    "isRuotaValidaLotto",
+    "isSorteValidaLotto",
+    "isSorteValidaSE",
+    "isSorteValidaWF",
+    "isSorteValidaDL",
+    "isSorteValidaFT",
+    "IsNumeroPresenteInEstrazione",
+    "IsNumeroPresenteInEstrazioneSE",
+    "IsNumeroPresenteInEstrazioneWF",
+    "IsNumeroPresenteInEstrazioneDL",
+    "IsNumeroPresenteInEstrazioneFT",
     "IsUltimaDelMese",
 };
 
 constexpr std::string_view kScrivi[] = {
-    "Scrivi", "ScriviConColori", "ScriviEstrazione", "ScriviEstrazioneSE", "ScriviEstrazioneWF",
-    "ScriviEstrazioneDL", "ScriviEstrazioneFT", "ScriviFile", "ScriviMatrice", "ScriviResoconto",
-    "ScriviResocontoSE", "ScriviResocontoWF", "ScriviResocontoDL", "ScriviResocontoFT",
+    "Scrivi",
+    "ScriviConColori",
+    "ScriviEstrazione",
+    "ScriviEstrazioneSE",
+    "ScriviEstrazioneWF",
+    "ScriviEstrazioneDL",
+    "ScriviEstrazioneFT",
+    "ScriviFile",
+    "ScriviMatrice",
+    "ScriviResoconto",
+    "ScriviResocontoSE",
+    "ScriviResocontoWF",
+    "ScriviResocontoDL",
+    "ScriviResocontoFT",
 };
 
 constexpr std::string_view kStatistica[] = {
-    "StatisticaGruppoFormazioni", "StatisticaGruppoFormazioniSE", "StatisticaGruppoFormazioniWF",
-    "StatisticaGruppoFormazioniFT", "StatisticaGruppoFormazioniDL", "StatisticaFormazione",
-    "StatisticaFormazioneSE", "StatisticaFormazioneWF", "StatisticaFormazioneDL", "StatisticaNumeroOroDL",
-    "StatisticaNumeroOroWF", "StatisticaFormazioneFT", "StatisticaFormazioneTurbo",
-    "StatisticaGruppoFormazioniTurbo",
+    "StatisticaGruppoFormazioni",   "StatisticaGruppoFormazioniSE",    "StatisticaGruppoFormazioniWF",
+    "StatisticaGruppoFormazioniFT", "StatisticaGruppoFormazioniDL",    "StatisticaFormazione",
+    "StatisticaFormazioneSE",       "StatisticaFormazioneWF",          "StatisticaFormazioneDL",
+    "StatisticaNumeroOroDL",        "StatisticaNumeroOroWF",           "StatisticaFormazioneFT",
+    "StatisticaFormazioneTurbo",    "StatisticaGruppoFormazioniTurbo",
 };
 
 constexpr std::string_view kPic[] = {
-    "PicSetDimensioni", "PicColoreSfondo", "PicRiempi", "PicClear", "PicTextWidth", "PicTextHeight",
-    "PicStampaTesto", "PicStampaTestoRT", "PicPunto", "PicLinea", "PicLineaTratteggiata", "PicPoligono",
-    "PicCerchio", "PicEsegui",
+    "PicSetDimensioni",     "PicColoreSfondo", "PicRiempi",        "PicClear",  "PicTextWidth",
+    "PicTextHeight",        "PicStampaTesto",  "PicStampaTestoRT", "PicPunto",  "PicLinea",
+    "PicLineaTratteggiata", "PicPoligono",     "PicCerchio",       "PicEsegui",
 };
 
 constexpr std::string_view kStat[] = {
-    "StatAmbo", "StatAmboSE", "StatAmboWF", "StatAmboDL", "StatAmboFT", "StatEstratto", "StatEstrattoSE",
-    "StatEstrattoWF", "StatEstrattoDL", "StatEstrattoFT", "StatFrzTurbo", "StatAmboTurbo",
+    "StatAmbo",       "StatAmboSE",     "StatAmboWF",     "StatAmboDL",     "StatAmboFT",   "StatEstratto",
+    "StatEstrattoSE", "StatEstrattoWF", "StatEstrattoDL", "StatEstrattoFT", "StatFrzTurbo", "StatAmboTurbo",
 };
 
 constexpr std::string_view kInit[] = {
-    "InitScript", "InitArrayFlagEstrazioniAttive", "InitArrayFlagEstrazioniAttiveFT", "InitSviluppoIntegrale",
-    "InitSviluppoPermutazioni", "InitTabella", "InitTabellaX", "InitGenNumUnivoci", "InitCalcoloRitRel",
+    "InitScript",
+    "InitArrayFlagEstrazioniAttive",
+    "InitArrayFlagEstrazioniAttiveFT",
+    "InitSviluppoIntegrale",
+    "InitSviluppoPermutazioni",
+    "InitTabella",
+    "InitTabellaX",
+    "InitGenNumUnivoci",
+    "InitCalcoloRitRel",
     "InitCalcoloRitRelTurbo",
 };
 
 constexpr std::string_view kData[] = {
-    "DataEstrazione", "DataEstrazioneSE", "DataEstrazioneWF", "DataEstrazioneDL", "DataEstrazioneFT",
-    "DataEstrToIdEstr", "DataEstrToIdEstrDL", "DataEstrToIdEstrSE", "DataEstrToIdEstrWF",
-    "DataEstrToIdEstrFT",
+    "DataEstrazione",   "DataEstrazioneSE",   "DataEstrazioneWF",   "DataEstrazioneDL",   "DataEstrazioneFT",
+    "DataEstrToIdEstr", "DataEstrToIdEstrDL", "DataEstrToIdEstrSE", "DataEstrToIdEstrWF", "DataEstrToIdEstrFT",
 };
 
 constexpr std::string_view kEstrazioni[] = {
-    "EstrazioniArchivio", "EstrazioniArchivioSE", "EstrazioniArchivioWF", "EstrazioniArchivioDL",
-    "EstrazioniArchivioFT", "EstrazioniRicerca", "EstrazioniRicercaSE", "EstrazioniRicercaWF",
-    "EstrazioniRicercaDL", "EstrazioniRicercaFT",
+    "EstrazioniArchivio",   "EstrazioniArchivioSE", "EstrazioniArchivioWF", "EstrazioniArchivioDL",
+    "EstrazioniArchivioFT", "EstrazioniRicerca",    "EstrazioniRicercaSE",  "EstrazioniRicercaWF",
+    "EstrazioniRicercaDL",  "EstrazioniRicercaFT",
 };
 
 constexpr std::string_view kRitardo[] = {
-    "RitardoCombinazione", "RitardoCombinazioneSE", "RitardoCombinazioneWF", "RitardoCombinazioneDL",
-    "RitardoCombinazioneFT", "RitardoEstratto", "RitardoEstrattoDL", "RitardoEstrattoFT",
+    "RitardoCombinazione",      "RitardoCombinazioneSE", "RitardoCombinazioneWF", "RitardoCombinazioneDL",
+    "RitardoCombinazioneFT",    "RitardoEstratto",       "RitardoEstrattoDL",     "RitardoEstrattoFT",
     "RitardoCombinazioneTurbo", "RitardoEstrattoTurbo",
 };
 
@@ -132,55 +298,69 @@ constexpr std::string_view kIndice[] = {
 };
 
 constexpr std::string_view kScegli[] = {
-    "ScegliNumeri", "ScegliRuota", "ScegliEsito", "ScegliRuote", "ScegliDaLista", "ScegliPoste",
-    "ScegliOpzioneMenu", "ScegliDirectory", "ScegliFile", "ScegliRange",
+    "ScegliNumeri", "ScegliRuota",       "ScegliEsito",     "ScegliRuote", "ScegliDaLista",
+    "ScegliPoste",  "ScegliOpzioneMenu", "ScegliDirectory", "ScegliFile",  "ScegliRange",
 };
 
 constexpr std::string_view kStringa[] = {
-    "StringaEstratti", "StringaEstrattiFT", "StringaEstrattiDL", "StringaEstrattiWF", "StringaEstrattiSE",
-    "StringaNumeri", "StringaNumeriDaMatrice", "StringaNumeriToArray", "StringaNumeriToArrayB",
-    "StringaRuote",
+    "StringaEstratti", "StringaEstrattiFT",      "StringaEstrattiDL",    "StringaEstrattiWF",     "StringaEstrattiSE",
+    "StringaNumeri",   "StringaNumeriDaMatrice", "StringaNumeriToArray", "StringaNumeriToArrayB", "StringaRuote",
 };
 
 constexpr std::string_view kSet[] = {
-    "SetFlagSalvaPrevisioniInCorso", "setFromScript", "SetNomeFileHtmlOut", "SetTableWidth", "SetColoreCella",
-    "SetTableWidthX", "SetColoreCellaX", "SetPremioPagatoFT", "SetComportamentoACapo",
+    "SetFlagSalvaPrevisioniInCorso",
+    "setFromScript",
+    "SetNomeFileHtmlOut",
+    "SetTableWidth",
+    "SetColoreCella",
+    "SetTableWidthX",
+    "SetColoreCellaX",
+    "SetPremioPagatoFT",
+    "SetComportamentoACapo",
 };
 
 constexpr std::string_view kEstrazione[] = {
-    "EstrazioneFin", "EstrazioneAttivata", "EstrazioneAttivataSE", "EstrazioneAttivataWF",
-    "EstrazioneAttivataDL", "EstrazioneAttivataFT", "EstrazioneIni", "EstrazioneIniDL", "EstrazioneFinDL",
+    "EstrazioneFin",        "EstrazioneAttivata",   "EstrazioneAttivataSE",
+    "EstrazioneAttivataWF", "EstrazioneAttivataDL", "EstrazioneAttivataFT",
+    "EstrazioneIni",        "EstrazioneIniDL",      "EstrazioneFinDL",
 };
 
 constexpr std::string_view kDisegna[] = {
-    "DisegnaCerchioCiclometrico", "DisegnaEstrazione", "DisegnaEstrazioneQN",
-    "DisegnaEstrazioneFromFiguraCiclometrica", "DisegnaFiguraGeodomica", "DisegnaFiguraGeodomicaFT",
-    "DisegnaFiguraGeodomicaQN", "DisegnaLineaGrafico",
+    "DisegnaCerchioCiclometrico", "DisegnaEstrazione",
+    "DisegnaEstrazioneQN",        "DisegnaEstrazioneFromFiguraCiclometrica",
+    "DisegnaFiguraGeodomica",     "DisegnaFiguraGeodomicaFT",
+    "DisegnaFiguraGeodomicaQN",   "DisegnaLineaGrafico",
 };
 
 constexpr std::string_view kAdd[] = {
-    "AddNumeriToGruppoStatistico", "AddRigaTabella", "AddRigaTabellaX", "AddItemFormazioneMultipla",
-    "AddItemFormazione", "AddRecordAgendaGiocate", "AddLunghettaInGiocata", "AddItemColl",
+    "AddNumeriToGruppoStatistico", "AddRigaTabella",         "AddRigaTabellaX",       "AddItemFormazioneMultipla",
+    "AddItemFormazione",           "AddRecordAgendaGiocate", "AddLunghettaInGiocata", "AddItemColl",
 };
 
 constexpr std::string_view kNumeri[] = {
-    "NumeriDispari", "NumeriPari", "NumeriNulli", "NumeriPrimi", "NumeriNonPrimi", "NumeriRipetuti",
-    "NumeriRipetutiRilevatiE", "NumeriRipetutiRilevatiV",
+    "NumeriDispari",
+    "NumeriPari",
+    "NumeriNulli",
+    "NumeriPrimi",
+    "NumeriNonPrimi",
+    "NumeriRipetuti",
+    "NumeriRipetutiRilevatiE",
+    "NumeriRipetutiRilevatiV",
 };
 
 constexpr std::string_view kVerifica[] = {
-    "VerificaEsito", "VerificaEsitoConGuadagno", "VerificaEsitoSE", "VerificaEsitoWF", "VerificaEsitoDL",
-    "VerificaEsitoFT", "VerificaEsitoTurbo", "VerificaAmbetto",
+    "VerificaEsito",   "VerificaEsitoConGuadagno", "VerificaEsitoSE",    "VerificaEsitoWF",
+    "VerificaEsitoDL", "VerificaEsitoFT",          "VerificaEsitoTurbo", "VerificaAmbetto",
 };
 
 constexpr std::string_view kElenco[] = {
-    "ElencoRitardi", "ElencoRitardiDL", "ElencoRitardiNumeroOroDL", "ElencoRitardiSE", "ElencoRitardiWF",
-    "ElencoRitardiFT", "ElencoFileInDirectory", "ElencoRitardiTurbo",
+    "ElencoRitardi",   "ElencoRitardiDL", "ElencoRitardiNumeroOroDL", "ElencoRitardiSE",
+    "ElencoRitardiWF", "ElencoRitardiFT", "ElencoFileInDirectory",    "ElencoRitardiTurbo",
 };
 
 constexpr std::string_view kSalva[] = {
-    "SalvaEstrazione", "SalvaEstrazioneDL", "SalvaEstrazioneFT", "SalvaEstrazioneSE", "SalvaEstrazioneWF",
-    "SalvaPrevisione", "SalvaColonnaSistema",
+    "SalvaEstrazione",   "SalvaEstrazioneDL", "SalvaEstrazioneFT",   "SalvaEstrazioneSE",
+    "SalvaEstrazioneWF", "SalvaPrevisione",   "SalvaColonnaSistema",
 };
 
 constexpr std::string_view kNumero[] = {
@@ -196,18 +376,18 @@ constexpr std::string_view kMese[] = {
 };
 
 constexpr std::string_view kPiu[] = {
-    "PiuRitardatario", "PiuRitardatarioTurbo", "PiuRitardatari", "PiuRitardatariTurbo", "PiuRitardatarioFT",
-    "PiuRitardatariFT",
+    "PiuRitardatario",     "PiuRitardatarioTurbo", "PiuRitardatari",
+    "PiuRitardatariTurbo", "PiuRitardatarioFT",    "PiuRitardatariFT",
 };
 
 constexpr std::string_view kSomma[] = {
-    "SommaEstratti", "SommaEstrattiDL", "SommaEstrattiSE", "SommaEstrattiWF", "SommaEstrattiFT",
-    "SommaVerticaleInFigura",
+    "SommaEstratti",   "SommaEstrattiDL", "SommaEstrattiSE",
+    "SommaEstrattiWF", "SommaEstrattiFT", "SommaVerticaleInFigura",
 };
 
 constexpr std::string_view kGenera[] = {
-    "GeneraAnalitico", "GeneraAnalitico2", "GeneraAnaliticoRuote", "GeneraAnaliticoFT",
-    "GeneraAnaliticoTurbo", "GeneraAnaliticoTurbo2",
+    "GeneraAnalitico",   "GeneraAnalitico2",     "GeneraAnaliticoRuote",
+    "GeneraAnaliticoFT", "GeneraAnaliticoTurbo", "GeneraAnaliticoTurbo2",
 };
 
 constexpr std::string_view kRit[] = {
@@ -215,8 +395,7 @@ constexpr std::string_view kRit[] = {
 };
 
 constexpr std::string_view kCrea[] = {
-    "CreaDirectory", "CreaTabella", "CreaTabellaOrdinabile", "CreaTabellaX", "CreaPiramideRitardi",
-    "CreaGiocataAgenda",
+    "CreaDirectory", "CreaTabella", "CreaTabellaOrdinabile", "CreaTabellaX", "CreaPiramideRitardi", "CreaGiocataAgenda",
 };
 
 constexpr std::string_view kAnno[] = {
@@ -232,156 +411,264 @@ constexpr std::string_view kGiorno[] = {
 };
 
 constexpr std::string_view kAzzera[] = {
-    "AzzeraHtmlOutput", "AzzeraHtmlOutputMulti", "AzzeraFlagStopProcess", "AzzeraArrayInterruzioni",
+    "AzzeraHtmlOutput",
+    "AzzeraHtmlOutputMulti",
+    "AzzeraFlagStopProcess",
+    "AzzeraArrayInterruzioni",
 };
 
 constexpr std::string_view kPosizione[] = {
-    "Posizione", "PosizioneFT", "PosizioneDL", "PosizioneSE",
+    "Posizione",
+    "PosizioneFT",
+    "PosizioneDL",
+    "PosizioneSE",
 };
 
 constexpr std::string_view kPrima[] = {
-    "PrimaPrecedente", "PrimaPrecedenteFT", "PrimaSuccessiva", "PrimaSuccessivaFT",
+    "PrimaPrecedente",
+    "PrimaPrecedenteFT",
+    "PrimaSuccessiva",
+    "PrimaSuccessivaFT",
 };
 
 constexpr std::string_view kTabellone[] = {
-    "TabelloneAnalitico", "TabelloneAnaliticoRuote", "TabelloneAnaliticoFT", "TabelloneAnaliticoTurbo",
+    "TabelloneAnalitico",
+    "TabelloneAnaliticoRuote",
+    "TabelloneAnaliticoFT",
+    "TabelloneAnaliticoTurbo",
 };
 
 constexpr std::string_view kQuantita[] = {
-    "QuantitaTeoricaCombAlRitX", "QuantitaTeoricaCombMagUgAlRitX", "QuantitaTeoricaCombCompreseTraRit",
+    "QuantitaTeoricaCombAlRitX",
+    "QuantitaTeoricaCombMagUgAlRitX",
+    "QuantitaTeoricaCombCompreseTraRit",
     "QuantitaEstrazioniInFile",
 };
 
 constexpr std::string_view kArray[] = {
-    "ArrayNumeriToBool", "ArrayNumToArrayBNum", "ArrayBNumToArrayNum", "ArrayBToString",
+    "ArrayNumeriToBool",
+    "ArrayNumToArrayBNum",
+    "ArrayBNumToArrayNum",
+    "ArrayBToString",
 };
 
 constexpr std::string_view kAggiorna[] = {
-    "AggiornaArchivio", "AggiornaArchivioWF", "AggiornaArchivioDL", "AggiornaArchivioSE",
+    "AggiornaArchivio",
+    "AggiornaArchivioWF",
+    "AggiornaArchivioDL",
+    "AggiornaArchivioSE",
 };
 
 constexpr std::string_view kApri[] = {
-    "ApriBaseDatiFT", "ApriFileBaseDati", "ApriDirectory",
+    "ApriBaseDatiFT",
+    "ApriFileBaseDati",
+    "ApriDirectory",
 };
 
 constexpr std::string_view kOrdina[] = {
-    "OrdinaMatrice", "OrdinaItemCollection", "OrdinaMatriceTurbo",
+    "OrdinaMatrice",
+    "OrdinaItemCollection",
+    "OrdinaMatriceTurbo",
 };
 
 constexpr std::string_view kDecina[] = {
-    "Decina", "DecinaNaturale", "DecinaCabalistica",
+    "Decina",
+    "DecinaNaturale",
+    "DecinaCabalistica",
 };
 
 constexpr std::string_view kMassimo[] = {
-    "Massimo", "MassimoE", "MassimoV",
+    "Massimo",
+    "MassimoE",
+    "MassimoV",
 };
 
 constexpr std::string_view kMinimo[] = {
-    "Minimo", "MinimoE", "MinimoV",
+    "Minimo",
+    "MinimoE",
+    "MinimoV",
 };
 
 constexpr std::string_view kPos[] = {
-    "PosNumeroRit", "PosNumeroRitFT", "PosNumeroRitTurbo",
+    "PosNumeroRit",
+    "PosNumeroRitFT",
+    "PosNumeroRitTurbo",
 };
 
 constexpr std::string_view kNum[] = {
-    "NumParToNumReale", "NumParToNumPadre", "NumVirtToNumReale",
+    "NumParToNumReale",
+    "NumParToNumPadre",
+    "NumVirtToNumReale",
 };
 
 constexpr std::string_view kLeggi[] = {
-    "LeggiRigheFileDiTesto", "LeggiColonnaSistema", "LeggiEstrazioneDaFile",
+    "LeggiRigheFileDiTesto",
+    "LeggiColonnaSistema",
+    "LeggiEstrazioneDaFile",
 };
 
 constexpr std::string_view kReset[] = {
-    "ResetArchivi", "ResetRitardoRel", "ResetRitardoRelTurbo",
+    "ResetArchivi",
+    "ResetRitardoRel",
+    "ResetRitardoRelTurbo",
 };
 
 constexpr std::string_view kDiff[] = {
-    "DiffCiclometrica", "DiffCiclometricaX",
+    "DiffCiclometrica",
+    "DiffCiclometricaX",
 };
 
 constexpr std::string_view kChiudi[] = {
-    "ChiudiFileHtmlOutput", "ChiudiStreamFT",
+    "ChiudiFileHtmlOutput",
+    "ChiudiStreamFT",
 };
 
 constexpr std::string_view kColora[] = {
-    "ColoraRtfOutput", "ColoraRtfOutputMulti",
+    "ColoraRtfOutput",
+    "ColoraRtfOutputMulti",
 };
 
 constexpr std::string_view kInterrompi[] = {
-    "InterrompiTutteLegiocate", "InterrompiTutteLegiocateVirtuali",
+    "InterrompiTutteLegiocate",
+    "InterrompiTutteLegiocateVirtuali",
 };
 
 constexpr std::string_view kFormat[] = {
-    "Format2", "FormatSpace",
+    "Format2",
+    "FormatSpace",
 };
 
 constexpr std::string_view kNome[] = {
-    "NomeRuota", "NomeSorte",
+    "NomeRuota",
+    "NomeSorte",
 };
 
 constexpr std::string_view kElimina[] = {
-    "EliminaRipetuti", "EliminaFile",
+    "EliminaRipetuti",
+    "EliminaFile",
 };
 
 constexpr std::string_view kOutput[] = {
-    "Output", "OutputVirtuale",
+    "Output",
+    "OutputVirtuale",
 };
 
 constexpr std::string_view kResetta[] = {
-    "ResettaGiocate", "ResettaGiocateVirtuale",
+    "ResettaGiocate",
+    "ResettaGiocateVirtuale",
 };
 
 constexpr std::string_view kClose[] = {
-    "CloseFileHandle", "CloseAllFileHandle",
+    "CloseFileHandle",
+    "CloseAllFileHandle",
 };
 
 constexpr std::string_view kDiametrale[] = {
-    "Diametrale", "DiametraleD",
+    "Diametrale",
+    "DiametraleD",
 };
 
 constexpr std::string_view kFascia[] = {
-    "FasciaIniDL", "FasciaFinDL",
+    "FasciaIniDL",
+    "FasciaFinDL",
 };
 
 constexpr std::string_view kRuota[] = {
-    "RuotaDiametrale", "RuotaGemella",
+    "RuotaDiametrale",
+    "RuotaGemella",
 };
 
 constexpr std::string_view kSviluppo[] = {
-    "SviluppoIntegrale", "SviluppoPermutazioni",
+    "SviluppoIntegrale",
+    "SviluppoPermutazioni",
 };
 
 constexpr std::string_view kDownload[] = {
-    "DownloadFromWeb", "DownloadFromFtp",
+    "DownloadFromWeb",
+    "DownloadFromFtp",
 };
 
 constexpr std::string_view kCopia[] = {
-    "CopiaFile", "CopiaArray",
+    "CopiaFile",
+    "CopiaArray",
 };
 
 constexpr std::string_view kQv[] = {
-    "QvCerchio_InitDisegno", "QvCerchio_TovataFigura",
+    "QvCerchio_InitDisegno",
+    "QvCerchio_TovataFigura",
 };
 
 constexpr std::string_view kMatrice[] = {
-    "MatriceNumToVetNum", "MatriceNumToBNum",
+    "MatriceNumToVetNum",
+    "MatriceNumToBNum",
 };
 
 constexpr std::string_view kRuote[] = {
-    "RuoteSel", "RuoteSelB",
+    "RuoteSel",
+    "RuoteSelB",
 };
 
 constexpr std::string_view kAltre[] = {
-    "StopProcess", "ColoreTesto", "Messaggio", "AvanzamentoElab", "Distanza", "TestoInBandaPassante",
-    "ScriptInterrotto", "Scambia", "DeinizializzaXls", "Cadenza", "Combinazioni", "Permutazioni",
-    "ControFigura", "Figura", "Piramide", "vert", "Radicale", "SiglaRuota", "CicloTeorico", "FormattaStringa",
-    "Gemello", "OraWF", "pari", "dispari", "Primo", "Prob", "Differenza", "Ripetizioni", "Trasposizione",
-    "Grafico", "ForzaIncrementoPuntatoreSvilSisInt", "Vincita", "Includi", "DoEventsEx", "FileEsistente",
-    "DirectoryEsistente", "SplitByChar", "PreparaGrafico", "LayOutGrafico", "InserisciGrafico",
-    "FiltraArrayEstrDieciELotto", "Iif", "UploadFileFtp", "LanciaFile", "ComplAdX", "Dividi", "Moltiplica",
-    "MidX", "VisualizzaFormProgress", "EsportaListviewInXls", "RinominaFile", "PuntiSuArray", "ProporzioneX",
-    "CreateObjectX", "ConvDec", "TestAmbetto", "RimuoviLastChr", "FattN", "FattorialeNum", "AllineaArchivi",
+    "StopProcess",
+    "ColoreTesto",
+    "Messaggio",
+    "AvanzamentoElab",
+    "Distanza",
+    "TestoInBandaPassante",
+    "ScriptInterrotto",
+    "Scambia",
+    "DeinizializzaXls",
+    "Cadenza",
+    "Combinazioni",
+    "Permutazioni",
+    "ControFigura",
+    "Figura",
+    "Piramide",
+    "vert",
+    "Radicale",
+    "SiglaRuota",
+    "CicloTeorico",
+    "FormattaStringa",
+    "Gemello",
+    "OraWF",
+    "pari",
+    "dispari",
+    "Primo",
+    "Prob",
+    "Differenza",
+    "Ripetizioni",
+    "Trasposizione",
+    "Grafico",
+    "ForzaIncrementoPuntatoreSvilSisInt",
+    "Vincita",
+    "Includi",
+    "DoEventsEx",
+    "FileEsistente",
+    "DirectoryEsistente",
+    "SplitByChar",
+    "PreparaGrafico",
+    "LayOutGrafico",
+    "InserisciGrafico",
+    "FiltraArrayEstrDieciELotto",
+    "Iif",
+    "UploadFileFtp",
+    "LanciaFile",
+    "ComplAdX",
+    "Dividi",
+    "Moltiplica",
+    "MidX",
+    "VisualizzaFormProgress",
+    "EsportaListviewInXls",
+    "RinominaFile",
+    "PuntiSuArray",
+    "ProporzioneX",
+    "CreateObjectX",
+    "ConvDec",
+    "TestAmbetto",
+    "RimuoviLastChr",
+    "FattN",
+    "FattorialeNum",
+    "AllineaArchivi",
 };
 
 constexpr FamigliaDiNomi kFamiglie[] = {

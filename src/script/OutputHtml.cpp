@@ -27,9 +27,10 @@ void OutputHtml::Aggiungi(std::string_view parte) {
   if (m_troncato) return;
   if (m_scritti + parte.size() > kLimitePaginaHtml) {
     m_troncato = true;
-    m_file << fmt::format("</pre>\n<p><b><font color=\"#FF0000\">Output troncato: la pagina ha raggiunto {} MB, il "
-                          "resto dell'output non è stato scritto.</font></b></p>\n<pre>\n",
-                          kLimitePaginaHtml >> 20);
+    m_file << fmt::format(
+        "</pre>\n<p><b><font color=\"#FF0000\">Output troncato: la pagina ha raggiunto {} MB, il "
+        "resto dell'output non è stato scritto.</font></b></p>\n<pre>\n",
+        kLimitePaginaHtml >> 20);
     return;
   }
   m_scritti += parte.size();

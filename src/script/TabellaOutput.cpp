@@ -37,11 +37,13 @@ std::string AttributoStile(std::string stile) {
 
 // `tag` is th or td; a title of a sortable table sorts the rows when clicked.
 std::string RigaHtml(const RigaTabella& riga, std::string_view tag, bool ordinabile) {
-  std::string html = "<tr" + AttributoStile(StileCss(riga.colori) +
-                                            fmt::format("text-align:{}", AllineamentoCss(riga.allineamento))) + ">";
+  std::string html =
+      "<tr" + AttributoStile(StileCss(riga.colori) + fmt::format("text-align:{}", AllineamentoCss(riga.allineamento))) +
+      ">";
   const std::string_view clic = ordinabile ? " onclick=\"ordinaTabella(this)\"" : "";
   for (const Cella& cella : riga.celle)
-    html += fmt::format("<{0}{1}{2}>{3}</{0}>", tag, AttributoStile(StileCss(cella.colori)), clic, TestoHtml(cella.testo));
+    html +=
+        fmt::format("<{0}{1}{2}>{3}</{0}>", tag, AttributoStile(StileCss(cella.colori)), clic, TestoHtml(cella.testo));
   return html + "</tr>\n";
 }
 
@@ -59,8 +61,8 @@ void AggiungiTratto(std::vector<TrattoTesto>& tratti, std::string testo, int16_t
 // one run.
 void RigaTesto(std::vector<TrattoTesto>& tratti, const RigaTabella& riga, const std::vector<size_t>& larghezze,
                bool grassetto) {
-  const auto ultima_piena = std::find_if(riga.celle.rbegin(), riga.celle.rend(),
-                                         [](const Cella& cella) { return !cella.testo.empty(); });
+  const auto ultima_piena =
+      std::find_if(riga.celle.rbegin(), riga.celle.rend(), [](const Cella& cella) { return !cella.testo.empty(); });
   const size_t piene = static_cast<size_t>(riga.celle.rend() - ultima_piena);
   const int16_t colore_riga = riga.colori.testo.value_or(kNero);
   for (size_t colonna = 0; colonna < piene; ++colonna) {
@@ -149,7 +151,7 @@ std::string Allinea(std::string_view testo, size_t larghezza, Allineamento allin
   const size_t mostrati = LarghezzaTesto(testo);
   if (mostrati >= larghezza) return std::string(testo);
   const size_t mancanti = larghezza - mostrati;
-  const size_t prima = allineamento == Allineamento::Destra  ? mancanti
+  const size_t prima = allineamento == Allineamento::Destra   ? mancanti
                        : allineamento == Allineamento::Centro ? mancanti / 2
                                                               : 0;
   return std::string(prima, ' ') + std::string(testo) + std::string(mancanti - prima, ' ');
@@ -164,7 +166,6 @@ std::vector<size_t> LarghezzeColonne(const std::vector<std::vector<std::string>>
   }
   return larghezze;
 }
-
 
 vbs::Result<int16_t> ColoreArgomento(const vbs::CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto colore, args.Integer(i));

@@ -16,8 +16,7 @@ struct TabelleEsecuzione {
 TabelleEsecuzione& Tabelle(ClsFunctionsGeodoScript& lib, const TabellaEstrazioni& tab) {
   TabelleEsecuzione& tabelle = lib.Stato<TabelleEsecuzione>();
   if (tabelle.tab != &tab || tabelle.estrazioni != tab.EstrazioniArchivio())
-    tabelle = TabelleEsecuzione{
-        .tab = &tab, .estrazioni = tab.EstrazioniArchivio(), .colonne = {}, .indice = {}};
+    tabelle = TabelleEsecuzione{.tab = &tab, .estrazioni = tab.EstrazioniArchivio(), .colonne = {}, .indice = {}};
   return tabelle;
 }
 

@@ -64,16 +64,11 @@ class RuoteVincenti {
 template <typename Azione>
 auto ConLaSorte(int sorte, std::span<const uint16_t* const> righe, unsigned scelte, Azione azione) {
   switch (sorte) {
-    case 1:
-      return azione(RuoteVincenti<1>(righe, scelte));
-    case 2:
-      return azione(RuoteVincenti<2>(righe, scelte));
-    case 3:
-      return azione(RuoteVincenti<3>(righe, scelte));
-    case 4:
-      return azione(RuoteVincenti<4>(righe, scelte));
-    default:
-      return azione(RuoteVincenti<kNumeriPerRuota>(righe, scelte));
+    case 1: return azione(RuoteVincenti<1>(righe, scelte));
+    case 2: return azione(RuoteVincenti<2>(righe, scelte));
+    case 3: return azione(RuoteVincenti<3>(righe, scelte));
+    case 4: return azione(RuoteVincenti<4>(righe, scelte));
+    default: return azione(RuoteVincenti<kNumeriPerRuota>(righe, scelte));
   }
 }
 

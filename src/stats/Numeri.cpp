@@ -46,15 +46,12 @@ std::string TestoDecimale(double n) {
   // A negative zero is written "0", like any zero.
   if (n == 0) n = 0.0;
   std::array<char, 32> buffer{};
-  const auto esito = std::to_chars(buffer.data(), buffer.data() + buffer.size(), n,
-                                   std::chars_format::general, 15);
+  const auto esito = std::to_chars(buffer.data(), buffer.data() + buffer.size(), n, std::chars_format::general, 15);
   return text::UpperAscii(std::string_view(buffer.data(), esito.ptr));
 }
 
 // The numeric value of one character of a number's text: a sign, a point or an exponent count 0.
-int ValoreCifra(char c) {
-  return c >= '0' && c <= '9' ? c - '0' : 0;
-}
+int ValoreCifra(char c) { return c >= '0' && c <= '9' ? c - '0' : 0; }
 
 template <size_t N>
 int16_t RigaContenente(const std::array<std::string_view, N>& righe, double n) {
@@ -65,9 +62,7 @@ int16_t RigaContenente(const std::array<std::string_view, N>& righe, double n) {
   return 0;
 }
 
-int16_t Verita(bool condizione) {
-  return condizione ? kVero : kFalso;
-}
+int16_t Verita(bool condizione) { return condizione ? kVero : kFalso; }
 
 }  // namespace
 
@@ -83,33 +78,21 @@ std::optional<int16_t> RiduciInX(double n, int16_t base) {
   return static_cast<int16_t>(r);
 }
 
-int16_t FuoriX(double n, int16_t base) {
-  return RiduciInX(n, base).value_or(base);
-}
+int16_t FuoriX(double n, int16_t base) { return RiduciInX(n, base).value_or(base); }
 
-int16_t Fuori90(double n) {
-  return FuoriX(n, 90);
-}
+int16_t Fuori90(double n) { return FuoriX(n, 90); }
 
-int16_t Fuori49(double n) {
-  return FuoriX(n, 49);
-}
+int16_t Fuori49(double n) { return FuoriX(n, 49); }
 
-int16_t Fuori45(double n) {
-  return FuoriX(n, 45);
-}
+int16_t Fuori45(double n) { return FuoriX(n, 45); }
 
-int16_t Fuori42(double n) {
-  return FuoriX(n, 42);
-}
+int16_t Fuori42(double n) { return FuoriX(n, 42); }
 
 std::string MessaggioNumeroTroppoGrande(double n, int16_t base) {
   return fmt::format("Numero {} troppo grande la funzione tornera {}", TestoDecimale(n), base);
 }
 
-int16_t Diametrale(double n) {
-  return Fuori90(n + 45);
-}
+int16_t Diametrale(double n) { return Fuori90(n + 45); }
 
 int16_t DiametraleD(double n) {
   if (!(n >= 1 && n <= 90) || n != std::floor(n)) return 0;
@@ -121,9 +104,7 @@ int16_t DiametraleD(double n) {
   return static_cast<int16_t>(membro == 0 ? 90 : membro);
 }
 
-int16_t Cadenza(double n) {
-  return static_cast<int16_t>(ValoreCifra(TestoDecimale(n).back()));
-}
+int16_t Cadenza(double n) { return static_cast<int16_t>(ValoreCifra(TestoDecimale(n).back())); }
 
 int16_t Figura(double n) {
   double valore = n;
@@ -157,13 +138,9 @@ int16_t DecinaCabalistica(double n) {
   return 0;
 }
 
-int16_t ControFigura(double n) {
-  return RigaContenente(kRigheControFigura, n);
-}
+int16_t ControFigura(double n) { return RigaContenente(kRigheControFigura, n); }
 
-int16_t Radicale(double n) {
-  return RigaContenente(kRigheRadicale, n);
-}
+int16_t Radicale(double n) { return RigaContenente(kRigheRadicale, n); }
 
 int16_t vert(double n) {
   if (n <= 0) return -1;
@@ -196,9 +173,7 @@ int16_t Gemello(double n) {
   return Verita(testo.size() > 1 && ValoreCifra(testo.front()) == ValoreCifra(testo.back()));
 }
 
-int16_t DiffCiclometrica(double a, double b) {
-  return DiffCiclometricaX(a, b, 90);
-}
+int16_t DiffCiclometrica(double a, double b) { return DiffCiclometricaX(a, b, 90); }
 
 int16_t DiffCiclometricaX(double a, double b, int16_t x) {
   if (x < 1) x = 90;
@@ -208,9 +183,7 @@ int16_t DiffCiclometricaX(double a, double b, int16_t x) {
   return Intero16(d);
 }
 
-int16_t Distanza(double a, double b) {
-  return DistanzaX(Fuori90(a), Fuori90(b), 90);
-}
+int16_t Distanza(double a, double b) { return DistanzaX(Fuori90(a), Fuori90(b), 90); }
 
 int16_t DistanzaX(double a, double b, int16_t x) {
   if (x < 1) x = 90;
@@ -221,13 +194,9 @@ int16_t DistanzaX(double a, double b, int16_t x) {
   return Intero16(d);
 }
 
-int16_t Pari(double n) {
-  return Verita(Fuori90(n) % 2 == 0);
-}
+int16_t Pari(double n) { return Verita(Fuori90(n) % 2 == 0); }
 
-int16_t Dispari(double n) {
-  return Verita(Fuori90(n) % 2 != 0);
-}
+int16_t Dispari(double n) { return Verita(Fuori90(n) % 2 != 0); }
 
 int16_t Primo(double n) {
   const int k = Fuori90(n);

@@ -203,7 +203,8 @@ StatisticaNumero StatisticaCombinazione(const TabellaEstrazioni& tab, std::span<
 }
 
 ColonneRuote::ColonneRuote(const TabellaEstrazioni& tab) : m_estrazioni(tab.EstrazioniArchivio()) {
-  for (std::vector<uint8_t>& colonna : m_colonne) colonna.assign(static_cast<size_t>(m_estrazioni) * kNumeriPerRuota, 0);
+  for (std::vector<uint8_t>& colonna : m_colonne)
+    colonna.assign(static_cast<size_t>(m_estrazioni) * kNumeriPerRuota, 0);
   for (int id = 1; id <= m_estrazioni; ++id) {
     const Estrazione& estrazione = tab[id];
     if (!estrazione.Presente()) continue;
@@ -217,7 +218,8 @@ ColonneRuote::ColonneRuote(const TabellaEstrazioni& tab) : m_estrazioni(tab.Estr
     std::vector<int>& contate = m_contate[static_cast<size_t>(ruota - 1)];
     contate.assign(static_cast<size_t>(m_estrazioni) + 1, 0);
     for (int id = 1; id <= m_estrazioni; ++id)
-      contate[static_cast<size_t>(id)] = contate[static_cast<size_t>(id - 1)] + (Numeri(id, (ruota - 1) * kNumeriPerRuota)[0] != 0);
+      contate[static_cast<size_t>(id)] =
+          contate[static_cast<size_t>(id - 1)] + (Numeri(id, (ruota - 1) * kNumeriPerRuota)[0] != 0);
   }
 }
 

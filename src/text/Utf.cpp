@@ -211,7 +211,7 @@ char16_t UpperCase(char16_t c) {
   if (c == 0xFF) return 0x178;
   if (c > 0x100 && c <= 0x17F) return FoldCase(static_cast<char16_t>(c - 1)) == c ? static_cast<char16_t>(c - 1) : c;
   if (c >= 0x3B1 && c <= 0x3C9) return c == 0x3C2 ? char16_t{0x3A3} : static_cast<char16_t>(c - 32);  // Greek
-  if (c >= 0x430 && c <= 0x44F) return static_cast<char16_t>(c - 32);                                // Cyrillic
+  if (c >= 0x430 && c <= 0x44F) return static_cast<char16_t>(c - 32);                                 // Cyrillic
   if (c >= 0x450 && c <= 0x45F) return static_cast<char16_t>(c - 80);
   return c;
 }

@@ -33,10 +33,13 @@ Result<int32_t> CallArgs::Long(size_t i) const {
   return *v;
 }
 
-Result<int32_t> CallArgs::Long(size_t i, int32_t if_missing) const { return Has(i) ? Long(i) : Result<int32_t>(if_missing); }
+Result<int32_t> CallArgs::Long(size_t i, int32_t if_missing) const {
+  return Has(i) ? Long(i) : Result<int32_t>(if_missing);
+}
 
 Result<int16_t> CallArgs::Integer(size_t i) const {
-  if (const Variant& plain = (*this)[i]; plain.is_whole() && plain.as_whole() >= INT16_MIN && plain.as_whole() <= INT16_MAX)
+  if (const Variant& plain = (*this)[i];
+      plain.is_whole() && plain.as_whole() >= INT16_MIN && plain.as_whole() <= INT16_MAX)
     return static_cast<int16_t>(plain.as_whole());
   auto v = (*this)[i].to_integer(m_locale);
   if (!v) return AtArgument(std::move(v).error(), i, m_locale.language);
@@ -61,7 +64,9 @@ Result<bool> CallArgs::Boolean(size_t i) const {
   return *v;
 }
 
-Result<bool> CallArgs::Boolean(size_t i, bool if_missing) const { return Has(i) ? Boolean(i) : Result<bool>(if_missing); }
+Result<bool> CallArgs::Boolean(size_t i, bool if_missing) const {
+  return Has(i) ? Boolean(i) : Result<bool>(if_missing);
+}
 
 Result<std::u16string> CallArgs::String(size_t i) const {
   auto v = (*this)[i].to_string(m_locale);

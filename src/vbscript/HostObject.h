@@ -63,8 +63,8 @@ class HostObject : public Object {
     std::string_view name;
     uint8_t min_args;
     uint8_t max_args;
-    Getter get;       // a call or a read; null for a write-only property
-    Putter put;       // Let and Set (the value apart); null for a method or read-only property
+    Getter get;  // a call or a read; null for a write-only property
+    Putter put;  // Let and Set (the value apart); null for a method or read-only property
     std::string_view description;
     bool is_default = false;
   };

@@ -1,14 +1,13 @@
 #include "ScriptControl.h"
 
 #include "text/AsciiCase.h"
-#include "vbscript/value/AllocationFailure.h"
 #include "vbscript/compile/Compiler.h"
 #include "vbscript/syntax/Parser.h"
+#include "vbscript/value/AllocationFailure.h"
 
 namespace vbs {
 
 namespace {
-
 
 // The last line against a C++ exception that the traps of builtins and objects did not catch (an
 // allocation of the parser's or the compiler's, an object of the host's that throws): an error for
@@ -123,7 +122,8 @@ Result<Variant> ScriptControl::Run(std::string_view procedure, std::span<Variant
   BeginCall();
   if (auto language = CheckLanguage(); !language) return Guard(Result<Variant>(std::move(language).error()));
   const GlobalEntry* entry = m_interp->FindGlobal(Interpreter::Fold(procedure));
-  if (!entry || entry->kind != GlobalEntry::Kind::Procedure) return Guard(Result<Variant>(MakeError(err::kTypeMismatch)));
+  if (!entry || entry->kind != GlobalEntry::Kind::Procedure)
+    return Guard(Result<Variant>(MakeError(err::kTypeMismatch)));
   return Guard(Contained(*m_interp, [&] { return m_interp->Call(*entry->procedure, nullptr, args); }));
 }
 

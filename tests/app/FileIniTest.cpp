@@ -148,8 +148,9 @@ TEST(FileIni, SalvaTuttoONiente) {
   }
   EXPECT_TRUE(fs::is_directory(cartella / "cartella.ini"));
   EXPECT_TRUE(fs::is_fifo(cartella / "tubo"));
-  EXPECT_EQ(NomiNellaCartella(cartella.Percorso()),
-            (std::vector<std::string>{"cartella.ini", "collegato.ini", "lottolab.ini", "tubo", "vero", "verso-tubo.ini"}));
+  EXPECT_EQ(
+      NomiNellaCartella(cartella.Percorso()),
+      (std::vector<std::string>{"cartella.ini", "collegato.ini", "lottolab.ini", "tubo", "vero", "verso-tubo.ini"}));
 }
 
 }  // namespace

@@ -52,7 +52,8 @@ TEST(GetNumeroEstrazioni, QuozienteArrotondatoDellaLunghezza) {
     size_t byte;
     int estrazioni;
   };
-  for (Caso caso : {Caso{0, 0}, Caso{67, 1}, Caso{100 * 67 + 40, 101}, Caso{100 * 67 + 20, 100}, Caso{33, 0}, Caso{34, 1}}) {
+  for (Caso caso :
+       {Caso{0, 0}, Caso{67, 1}, Caso{100 * 67 + 40, 101}, Caso{100 * 67 + 20, 100}, Caso{33, 0}, Caso{34, 1}}) {
     ScriviByte(archivio.Archivio(), std::vector<unsigned char>(caso.byte, 1));
     EXPECT_EQ(*archivio.GetNumeroEstrazioni(), caso.estrazioni) << caso.byte << " bytes";
     EXPECT_EQ(*ClsEstrazioni(cartella / "altro.dat").GetNumeroEstrazioni(archivio.Archivio()), caso.estrazioni);
@@ -154,10 +155,11 @@ TEST(Scritture, RifiutanoUnArchivioDallaLunghezzaNonIntera) {
   ScriviByte(archivio.Archivio(), byte);
   std::ofstream(cartella / "risultati.txt") << "2024/03/13\tBA\t1\t2\t3\t4\t5\n";
 
-  const std::string atteso = "L'archivio " + archivio.Archivio().string() +
-                             " ha 27 byte oltre l'ultima estrazione intera (la sua lunghezza non è un multiplo di 67): "
-                             "non vi si aggiunge nulla, perché ogni estrazione aggiunta sarebbe letta spostata. Per "
-                             "ripararlo: lottolab ripara, che ne fa prima una copia e poi toglie l'estrazione incompleta.";
+  const std::string atteso =
+      "L'archivio " + archivio.Archivio().string() +
+      " ha 27 byte oltre l'ultima estrazione intera (la sua lunghezza non è un multiplo di 67): "
+      "non vi si aggiunge nulla, perché ogni estrazione aggiunta sarebbe letta spostata. Per "
+      "ripararlo: lottolab ripara, che ne fa prima una copia e poi toglie l'estrazione incompleta.";
   auto salvato = archivio.SalvaFileEstrazioni({Draw(2, 33)});
   ASSERT_FALSE(salvato);
   EXPECT_EQ(salvato.Errore().testo, atteso);
@@ -184,7 +186,8 @@ TEST(Scritture, TengonoIPermessiERifiutanoUnArchivioDiSolaLettura) {
   ASSERT_EQ(chmod(archivio.Archivio().c_str(), 0440), 0);
   auto scritto = archivio.ScriviEstrazione(Draw(3, 33), 3);
   ASSERT_FALSE(scritto);
-  EXPECT_EQ(scritto.Errore().testo, "L'archivio " + archivio.Archivio().string() + " è di sola lettura: non vi si può scrivere.");
+  EXPECT_EQ(scritto.Errore().testo,
+            "L'archivio " + archivio.Archivio().string() + " è di sola lettura: non vi si può scrivere.");
 }
 
 // Paths that are not regular files, given as the archive or as the results file: every entry point
@@ -198,8 +201,8 @@ TEST(PercorsiCheNonSonoFile, DannoUnMessaggioSenzaBloccarsi) {
     std::filesystem::path percorso;
     std::string tipo;
   };
-  for (const Caso& caso : {Caso{cartella.Percorso(), "è una cartella"}, Caso{"/dev/zero", "è una periferica"},
-                           Caso{fifo, "è una pipe"}}) {
+  for (const Caso& caso :
+       {Caso{cartella.Percorso(), "è una cartella"}, Caso{"/dev/zero", "è una periferica"}, Caso{fifo, "è una pipe"}}) {
     const std::string atteso = caso.percorso.string() + " " + caso.tipo + ": serve un file ordinario";
     ClsEstrazioni archivio(caso.percorso);
     auto caricato = archivio.CaricaEstrazioni();

@@ -34,13 +34,13 @@ TEST(FileSicuri, LaLetturaDiceIlMotivoSenzaIlNomeDelFile) {
     Genere genere;
     std::string motivo;
   };
-  for (const Caso& caso : {Caso{cartella / "manca", Genere::Assente, "il file o la cartella non esiste"},
-                           Caso{cartella.Percorso(), Genere::NonOrdinario, "è una cartella"},
-                           Caso{cartella / "tubo", Genere::NonOrdinario, "è una pipe"},
-                           Caso{"/dev/zero", Genere::NonOrdinario, "è una periferica"},
-                           Caso{cartella / "cinque", Genere::TroppoGrande, "supera 4 byte"},
-                           Caso{cartella / "cinque" / "x", Genere::Sistema,
-                                "una parte del percorso non è una cartella"}}) {
+  for (const Caso& caso :
+       {Caso{cartella / "manca", Genere::Assente, "il file o la cartella non esiste"},
+        Caso{cartella.Percorso(), Genere::NonOrdinario, "è una cartella"},
+        Caso{cartella / "tubo", Genere::NonOrdinario, "è una pipe"},
+        Caso{"/dev/zero", Genere::NonOrdinario, "è una periferica"},
+        Caso{cartella / "cinque", Genere::TroppoGrande, "supera 4 byte"},
+        Caso{cartella / "cinque" / "x", Genere::Sistema, "una parte del percorso non è una cartella"}}) {
     auto letto = LeggiFileOrdinario(caso.file, 4);
     ASSERT_FALSE(letto) << caso.file;
     EXPECT_EQ(letto.Errore().genere, caso.genere) << caso.file;
@@ -80,8 +80,7 @@ TEST(FileSicuri, LaScritturaSostituisceIlFileVeroENonLasciaAltro) {
 
   auto archivio = SostituisciFile(cartella / "cartella.ini", "x");
   ASSERT_FALSE(archivio);
-  EXPECT_EQ(archivio.Errore().testo,
-            (cartella / "cartella.ini").string() + " è una cartella: serve un file ordinario");
+  EXPECT_EQ(archivio.Errore().testo, (cartella / "cartella.ini").string() + " è una cartella: serve un file ordinario");
 }
 
 }  // namespace

@@ -168,9 +168,7 @@ void PrintTo(const CasoErrore& caso, std::ostream* out) { *out << caso.nome; }
 
 class ErroriDiLettura : public testing::TestWithParam<CasoErrore> {};
 
-TEST_P(ErroriDiLettura, NameTheLineAndTheReason) {
-  EXPECT_EQ(Errore(GetParam().testo), GetParam().messaggio);
-}
+TEST_P(ErroriDiLettura, NameTheLineAndTheReason) { EXPECT_EQ(Errore(GetParam().testo), GetParam().messaggio); }
 
 // Each text starts with a good line and a blank one, so the faulty line is line 3 unless noted.
 #define BUONA "2024/01/02\tBA\t1\t2\t3\t4\t5\n\n"
@@ -321,7 +319,8 @@ TEST_F(ImportaRisultatiSuFile, WritesNothingOnAnyError) {
   esito = ImportaRisultati(m_file, m_cartella / "assente.txt");
   ASSERT_FALSE(esito);
   EXPECT_EQ(esito.Errore().tipo, TipoAvviso::Esclamativo);
-  EXPECT_EQ(esito.Errore().testo, fmt::format("Non esiste il file dei risultati \n{}", (m_cartella / "assente.txt").string()));
+  EXPECT_EQ(esito.Errore().testo,
+            fmt::format("Non esiste il file dei risultati \n{}", (m_cartella / "assente.txt").string()));
   EXPECT_EQ(LeggiFile(m_archivio), prima);
 
   ClsEstrazioni nuovo(m_cartella / "nuovo.dat");
@@ -414,7 +413,8 @@ TEST_F(ImportaRisultatiSuFile, RefusesZipsThatLieAboutTheirSizes) {
            Caso{100u << 20, static_cast<uint32_t>(riga.size()),
                 "lotto.txt dichiara 104857600 byte, più del massimo di 64 MB per un file dei risultati"},
            Caso{1000, static_cast<uint32_t>(riga.size()), "l'archivio zip è incoerente (danneggiato o costruito male)"},
-           Caso{10, static_cast<uint32_t>(riga.size()), "lotto.txt contiene più dei 10 byte dichiarati: lo zip è danneggiato"},
+           Caso{10, static_cast<uint32_t>(riga.size()),
+                "lotto.txt contiene più dei 10 byte dichiarati: lo zip è danneggiato"},
        }) {
     ScriviFile(zip, ZipAMano("lotto.txt", riga, caso.dichiarata, caso.compressa));
     esito = LeggiNuoveEstrazioniDaFile(vuoto, zip);

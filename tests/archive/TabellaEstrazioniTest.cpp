@@ -44,7 +44,8 @@ TEST(LeggiData, AccettaTrePartiSenzaZeriERifiutaIlResto) {
   for (const char* sbagliata : {"12/2020", "1/2/3/2020", "", "aa/bb/cccc"}) {
     auto rifiutata = LeggiData(sbagliata, base);
     ASSERT_FALSE(rifiutata) << sbagliata;
-    EXPECT_EQ(rifiutata.Errore().testo, std::string("Data non corretta scrivere la data in formato GG/MM/AAAA ") + sbagliata);
+    EXPECT_EQ(rifiutata.Errore().testo,
+              std::string("Data non corretta scrivere la data in formato GG/MM/AAAA ") + sbagliata);
     EXPECT_EQ(rifiutata.Errore().tipo, TipoAvviso::Esclamativo);
   }
 }

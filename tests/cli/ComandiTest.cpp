@@ -39,7 +39,8 @@ TEST_F(RigaDiComando, ImportaInfoEdEstrazione) {
 
   EXPECT_EQ(Esegui({"info"}).out, "estrazioni: 3\nprima: 30/04/2005\nultima: 04/05/2005\n");
   auto per_data = Esegui({"estrazione", "4/5/2005"});
-  EXPECT_EQ(per_data.out, "3 04/05/2005 3\nBA 31 32 33 34 35\nRO 41 42 43 44 45\nVE 61 62 63 64 65\nNZ 51 52 53 54 07\n");
+  EXPECT_EQ(per_data.out,
+            "3 04/05/2005 3\nBA 31 32 33 34 35\nRO 41 42 43 44 45\nVE 61 62 63 64 65\nNZ 51 52 53 54 07\n");
   EXPECT_EQ(Esegui({"estrazione", "3"}).out, per_data.out);
 }
 
@@ -88,7 +89,8 @@ TEST_F(LottolabDiProva, UsoElencaIComandi) {
       "  info                      numero di estrazioni, prima e ultima data; controlla l'archivio\n"
       "  ripara                    toglie da un archivio l'estrazione incompleta in fondo, dopo averlo copiato\n"
       "  estrazione ID|GG/MM/AAAA  mostra un'estrazione\n"
-      "  ritardo|frequenza|storico [--ruote BA,VE|TT] [--sorte N] [--posizioni 1,3] [--inizio X] [--fine X] N1 [N2 ...]\n"
+      "  ritardo|frequenza|storico [--ruote BA,VE|TT] [--sorte N] [--posizioni 1,3] [--inizio X] [--fine X] N1 [N2 "
+      "...]\n"
       "  tabellone [--ruota VE] [--inizio X] [--fine X]\n"
       "  vbs [--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]   esegue un programma VBScript\n"
       "  esegui SCRIPT.ls [--timeout MINUTI] [--html FILE] [--risposte FILE]   esegue uno script sull'archivio\n"
@@ -110,16 +112,26 @@ TEST_F(LottolabDiProva, UsoElencaIComandi) {
 TEST_F(RigaDiComando, ArgomentiSbagliatiDannoUnaRigaEdEsito2) {
   ASSERT_EQ(Esegui({"importa", ScriviRisultati("risultati.txt", kRisultati)}).codice, 0);
   const std::vector<std::vector<std::string>> sbagliati = {
-      {"ritardo", "--ruote", "XX", "7"},  {"ritardo", "91"},
-      {"ritardo", "0"},                   {"ritardo", "sette"},
-      {"ritardo", "--sorte", "6", "7"},   {"ritardo", "--sorte", "0", "7"},
-      {"ritardo", "--sorte", "2", "7"},   {"ritardo", "--fine", "01/01/1990", "7"},
-      {"ritardo", "--fine", "12/2020", "7"}, {"ritardo", "--fine", "99", "7"},
-      {"ritardo", "--posizioni", "6", "7"}, {"ritardo"},
-      {"ritardo", "7", "7"},              {"ritardo", "--inizio", "3", "--fine", "1", "7"},
-      {"ritardo", "--colore", "rosso", "7"}, {"tabellone", "--ruota", "ZZ"},
-      {"estrazione", "01/01/2005"},       {"estrazione", "0"},
-      {"comando-inesistente"},            {"importa", "/nessun/file.txt"},
+      {"ritardo", "--ruote", "XX", "7"},
+      {"ritardo", "91"},
+      {"ritardo", "0"},
+      {"ritardo", "sette"},
+      {"ritardo", "--sorte", "6", "7"},
+      {"ritardo", "--sorte", "0", "7"},
+      {"ritardo", "--sorte", "2", "7"},
+      {"ritardo", "--fine", "01/01/1990", "7"},
+      {"ritardo", "--fine", "12/2020", "7"},
+      {"ritardo", "--fine", "99", "7"},
+      {"ritardo", "--posizioni", "6", "7"},
+      {"ritardo"},
+      {"ritardo", "7", "7"},
+      {"ritardo", "--inizio", "3", "--fine", "1", "7"},
+      {"ritardo", "--colore", "rosso", "7"},
+      {"tabellone", "--ruota", "ZZ"},
+      {"estrazione", "01/01/2005"},
+      {"estrazione", "0"},
+      {"comando-inesistente"},
+      {"importa", "/nessun/file.txt"},
   };
   for (const auto& parole : sbagliati) {
     auto uscita = Esegui(parole);
@@ -156,7 +168,8 @@ TEST_F(RigaDiComando, ArchivioRealeFattiNoti) {
 TEST_F(RigaDiComando, UnArchivioGuastoSiDiceERipara) {
   ASSERT_EQ(Esegui({"importa", ScriviRisultati("risultati.txt", kRisultati)}).codice, 0);
   std::ofstream(Archivio(), std::ios::app | std::ios::binary) << std::string(34, '\x07');
-  const std::string avviso = "lottolab: attenzione: L'archivio " + Archivio() + " ha 34 byte oltre l'ultima estrazione intera";
+  const std::string avviso =
+      "lottolab: attenzione: L'archivio " + Archivio() + " ha 34 byte oltre l'ultima estrazione intera";
 
   auto info = Esegui({"info"});
   EXPECT_EQ(info.codice, 1);
@@ -181,8 +194,9 @@ TEST_F(RigaDiComando, UnArchivioGuastoSiDiceERipara) {
   EXPECT_EQ(info.codice, 0);
   EXPECT_EQ(info.out, "estrazioni: 3\nprima: 30/04/2005\nultima: 04/05/2005\n");
   EXPECT_EQ(info.err, "");
-  EXPECT_EQ(Esegui({"ripara"}).out, "L'archivio " + Archivio() + " è già fatto di estrazioni intere (3): nessuna "
-                                    "riparazione necessaria.\n");
+  EXPECT_EQ(Esegui({"ripara"}).out, "L'archivio " + Archivio() +
+                                        " è già fatto di estrazioni intere (3): nessuna "
+                                        "riparazione necessaria.\n");
 }
 
 TEST_F(RigaDiComando, PercorsiCheNonSonoFileDannoUnaRiga) {
@@ -191,9 +205,10 @@ TEST_F(RigaDiComando, PercorsiCheNonSonoFileDannoUnaRiga) {
   const auto risultati = ScriviRisultati("risultati.txt", kRisultati);
   const std::string lungo = (m_base / std::string(5000, 'x')).string();
   for (const std::string& percorso : {m_base.Percorso().string(), std::string("/dev/zero"), fifo, lungo}) {
-    for (const std::vector<std::string>& parole :
-         {std::vector<std::string>{"--archivio", percorso, "info"}, {"--archivio", percorso, "importa", risultati},
-          {"--archivio", percorso, "ripara"}, {"importa", percorso}}) {
+    for (const std::vector<std::string>& parole : {std::vector<std::string>{"--archivio", percorso, "info"},
+                                                   {"--archivio", percorso, "importa", risultati},
+                                                   {"--archivio", percorso, "ripara"},
+                                                   {"importa", percorso}}) {
       auto uscita = Lottolab(parole);
       EXPECT_NE(uscita.codice, 0) << percorso.substr(0, 60) << " " << parole[parole.size() - 1];
       EXPECT_EQ(std::count(uscita.err.begin(), uscita.err.end(), '\n'), 1) << uscita.err;

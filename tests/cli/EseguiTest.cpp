@@ -91,9 +91,8 @@ TEST_F(ComandoEseguiTest, AScriptOrAnswersFileThatIsADeviceOrAPipeIsRefusedAtOnc
 TEST_F(ComandoEseguiTest, AProtectedRunStopsAtItsFirstWriteOutsideTheOutputFolder) {
   test::CartellaTemporanea fuori;
   const fs::path script = m_base / "s.ls";
-  std::ofstream(script, std::ios::binary)
-      << "Sub Main\nScriviFile \"scriptOutput/ok.txt\", \"si\"\nScriviFile \"" << (fuori / "no.txt").string()
-      << "\", \"no\"\nScrivi \"dopo\"\nEnd Sub\n";
+  std::ofstream(script, std::ios::binary) << "Sub Main\nScriviFile \"scriptOutput/ok.txt\", \"si\"\nScriviFile \""
+                                          << (fuori / "no.txt").string() << "\", \"no\"\nScrivi \"dopo\"\nEnd Sub\n";
   auto protetta = Lottolab({"esegui", "--protetto", script.string()});
   EXPECT_EQ(protetta.codice, 1);
   EXPECT_EQ(protetta.out, "");

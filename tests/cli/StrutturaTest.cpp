@@ -16,14 +16,27 @@ class ComandoStrutturaTest : public LottolabDiProva {};
 
 TEST_F(ComandoStrutturaTest, PrintsEveryVertexLineAndCondition) {
   const std::string file = (m_base / "figura.dat").string();
-  const figures::Struttura struttura{
-      {{.Index = 0, .Caption = "T"},
-       {.Index = 3, .IdEstrazione = 123456, .FulcroOrizz = true, .Riga = 2, .Colonna = 37, .Riservato1 = 5,
-        .VersoVert = -1, .VersoOrizz = 1, .Caption = "Città", .UsaPerChiusura = true},
-       {.Index = 4, .IdEstrazione = -70000, .FulcroVert = true, .Riga = -3, .Colonna = 512, .VersoVert = 1,
-        .VersoOrizz = -1, .Caption = ""}},
-      {{1, 3, 4}},
-      {"Cadenza([Città]) = 3", "[4] <> 90"}};
+  const figures::Struttura struttura{{{.Index = 0, .Caption = "T"},
+                                      {.Index = 3,
+                                       .IdEstrazione = 123456,
+                                       .FulcroOrizz = true,
+                                       .Riga = 2,
+                                       .Colonna = 37,
+                                       .Riservato1 = 5,
+                                       .VersoVert = -1,
+                                       .VersoOrizz = 1,
+                                       .Caption = "Città",
+                                       .UsaPerChiusura = true},
+                                      {.Index = 4,
+                                       .IdEstrazione = -70000,
+                                       .FulcroVert = true,
+                                       .Riga = -3,
+                                       .Colonna = 512,
+                                       .VersoVert = 1,
+                                       .VersoOrizz = -1,
+                                       .Caption = ""}},
+                                     {{1, 3, 4}},
+                                     {"Cadenza([Città]) = 3", "[4] <> 90"}};
   ASSERT_TRUE(figures::SalvaStruttura(file, struttura));
 
   auto uscita = Lottolab({"struttura", file});

@@ -10,7 +10,6 @@ namespace {
 
 class ComandoVbsTest : public LottolabDiProva {
  protected:
-
   std::string Script(const std::string& nome, const std::string& byte) {
     auto file = m_base / nome;
     std::ofstream(file, std::ios::binary) << byte;

@@ -22,9 +22,9 @@ namespace lottolab::figures {
 namespace {
 
 namespace fs = std::filesystem;
+using lottolab::test::CartellaTemporanea;
 using lottolab::test::Leggi;
 using lottolab::test::Scrivi;
-using lottolab::test::CartellaTemporanea;
 
 // Writes the file's fields by hand, so that the expected bytes never come from the code under test.
 class Byte {
@@ -57,16 +57,29 @@ class Byte {
   std::string m_byte;
 };
 
-const ClsVertice kVerticeA{.Index = 3, .IdEstrazione = 123456, .FulcroOrizz = true, .Riga = 2, .Colonna = 37,
-                           .Riservato1 = 7, .Riservato2 = -1, .VersoVert = -1, .VersoOrizz = 1, .Caption = "A",
+const ClsVertice kVerticeA{.Index = 3,
+                           .IdEstrazione = 123456,
+                           .FulcroOrizz = true,
+                           .Riga = 2,
+                           .Colonna = 37,
+                           .Riservato1 = 7,
+                           .Riservato2 = -1,
+                           .VersoVert = -1,
+                           .VersoOrizz = 1,
+                           .Caption = "A",
                            .UsaPerChiusura = true};
-const ClsVertice kVerticeB{.Index = 4, .IdEstrazione = -70000, .FulcroVert = true, .Riga = -3, .Colonna = 512,
-                           .VersoVert = 1, .VersoOrizz = -1, .Caption = " B"};
+const ClsVertice kVerticeB{.Index = 4,
+                           .IdEstrazione = -70000,
+                           .FulcroVert = true,
+                           .Riga = -3,
+                           .Colonna = 512,
+                           .VersoVert = 1,
+                           .VersoOrizz = -1,
+                           .Caption = " B"};
 const ClsVertice kModello{.Index = 0, .IdEstrazione = 9, .Riga = 1, .Colonna = 1, .Caption = "T"};
 
 Byte& RecordA(Byte& b) { return b.Vertice(3, 123456, -1, 0, 2, 37, 7, -1, -1, 1, "A    ", -1); }
 Byte& RecordB(Byte& b) { return b.Vertice(4, -70000, 0, -1, -3, 512, 0, 0, 1, -1, " B   ", 0); }
-
 
 // The structure the bytes hold, or the reason they hold none as the test's failure.
 Struttura Decodificata(std::string_view byte) {
@@ -74,7 +87,6 @@ Struttura Decodificata(std::string_view byte) {
   EXPECT_TRUE(letta) << letta.Errore().testo;
   return letta ? *letta : Struttura{};
 }
-
 
 TEST(FileStrutture, VerticesWithoutLinesOrConditionsAndNoTemplate) {
   const Struttura struttura{{kModello, kVerticeA, kVerticeB}, {}, {}};
@@ -143,9 +155,17 @@ TEST(FileStrutture, RoundedCountsReadPastTheEndMarkerAndPastTheFile) {
   // 260 bytes: 0.52 rounds to one record, which the end of the file fills with zeros.
   file.Testo("OFFSET_COND").Testo(std::string(260, 'x')).Testo("FINE");
 
-  const ClsVertice oltre{.Index = 9, .IdEstrazione = 5, .FulcroOrizz = true, .Riga = 6, .Colonna = 8,
-                         .Riservato1 = 0x4607, .Riservato2 = 0x4E49, .VersoVert = 0x4F45, .VersoOrizz = 0x4646,
-                         .Caption = "SET_L", .UsaPerChiusura = true};
+  const ClsVertice oltre{.Index = 9,
+                         .IdEstrazione = 5,
+                         .FulcroOrizz = true,
+                         .Riga = 6,
+                         .Colonna = 8,
+                         .Riservato1 = 0x4607,
+                         .Riservato2 = 0x4E49,
+                         .VersoVert = 0x4F45,
+                         .VersoOrizz = 0x4646,
+                         .Caption = "SET_L",
+                         .UsaPerChiusura = true};
   auto letta = DecodificaStruttura(file.Str());
   ASSERT_TRUE(letta);
   EXPECT_EQ(letta->vertici, (std::vector<ClsVertice>{kVerticeA, oltre}));
@@ -340,7 +360,8 @@ TEST(FileStrutture, AFailedSaveLeavesTheOldFileAndNothingElse) {
             "File " + lungo.string() + " non valido: non si può leggere: nome del file troppo lungo");
   salvata = SalvaStruttura(file / "dentro.dat", {{kVerticeB}, {}, {}});
   ASSERT_FALSE(salvata);
-  EXPECT_TRUE(salvata.Errore().testo.ends_with(": una parte del percorso non è una cartella")) << salvata.Errore().testo;
+  EXPECT_TRUE(salvata.Errore().testo.ends_with(": una parte del percorso non è una cartella"))
+      << salvata.Errore().testo;
 }
 
 // Bytes damaged at random, as a bad disk or a hostile hand leaves them: each reads as a structure
@@ -353,9 +374,7 @@ TEST(FileStrutture, DamagedBytesReadWithinTheLimitsOrNotAtAll) {
   const TabellaEstrazioni tab = test::SeiEstrazioni();
   const std::string_view inserti[] = {"FINE", "fInE", "OFFSET_STRUCT", "OFFSET_LINEE", "OFFSET_COND", "\xFF\xFF"};
   std::mt19937 caso(2026);
-  auto posizione = [&](const std::string& byte) {
-    return std::uniform_int_distribution<size_t>(0, byte.size())(caso);
-  };
+  auto posizione = [&](const std::string& byte) { return std::uniform_int_distribution<size_t>(0, byte.size())(caso); };
   int lette = 0;
   for (int prova = 0; prova < 20000; ++prova) {
     std::string byte = valida;
@@ -380,7 +399,8 @@ TEST(FileStrutture, DamagedBytesReadWithinTheLimitsOrNotAtAll) {
     auto trovate = CercaFigura(tab, *letta, {});
     if (!trovate) continue;
     for (const FiguraTrovata& trovata : trovate->elenco)
-      EXPECT_EQ(trovate->Figura(tab, trovata).vertici.size(), trovate->forme[static_cast<size_t>(trovata.forma)].punti.size());
+      EXPECT_EQ(trovate->Figura(tab, trovata).vertici.size(),
+                trovate->forme[static_cast<size_t>(trovata.forma)].punti.size());
   }
   EXPECT_GT(lette, 1000) << "the damage should leave some files readable";
 }

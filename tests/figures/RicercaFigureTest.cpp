@@ -2,11 +2,11 @@
 
 #include <vector>
 
+#include "FigureDiProva.h"
 #include "figures/LimitiStrutture.h"
 #include "figures/Piazzamento.h"
 #include "figures/RicercaFigure.h"
 #include "figures/StatisticaStrutture.h"
-#include "FigureDiProva.h"
 
 namespace lottolab::figures {
 namespace {
@@ -16,9 +16,7 @@ using test::SeiEstrazioni;
 using test::Vertice;
 
 // A going down one row and right one column to B, both numbers equal.
-Struttura Diagonale() {
-  return Struttura{{Vertice(1, "A", 4, 1), Vertice(2, "B", 5, 2)}, {{1, 1, 2}}, {"[A] = [B]"}};
-}
+Struttura Diagonale() { return Struttura{{Vertice(1, "A", 4, 1), Vertice(2, "B", 5, 2)}, {{1, 1, 2}}, {"[A] = [B]"}}; }
 
 // Bari only is written; the other wheels hold 81..85 (Nazionale from draw 3).
 TabellaEstrazioni TreEstrazioni() {
@@ -58,7 +56,8 @@ TEST(Piazzamento, ColumnsRunWheelAfterWheelAndTheShapeHangsFromItsPivots) {
   EXPECT_EQ(RuotaDellaColonna(6), CA);
   EXPECT_EQ(PosizioneDellaColonna(10), 5);
 
-  Struttura struttura{{Vertice(0, "", 0, 0), Vertice(3, "A", 4, 2), Vertice(5, "B", 6, 7), Vertice(6, "C", 5, 3)}, {}, {}};
+  Struttura struttura{
+      {Vertice(0, "", 0, 0), Vertice(3, "A", 4, 2), Vertice(5, "B", 6, 7), Vertice(6, "C", 5, 3)}, {}, {}};
   struttura.vertici[3].FulcroVert = true;
   struttura.vertici[2].FulcroOrizz = true;
   struttura.vertici[2].VersoOrizz = 2;
@@ -143,7 +142,8 @@ TEST(RicercaFigure, AFigureOfManyVerticesFoundEverywhereGivesBackItsNumbers) {
 // ask hours of work at each cell are refused before the search starts.
 TEST(RicercaFigure, LimitsAndTheConditionsWorkAreCheckedBeforeSearching) {
   Struttura troppi;
-  for (int16_t k = 1; k <= static_cast<int16_t>(kMassimoVertici) + 1; ++k) troppi.vertici.push_back(Vertice(k, "", 0, 1));
+  for (int16_t k = 1; k <= static_cast<int16_t>(kMassimoVertici) + 1; ++k)
+    troppi.vertici.push_back(Vertice(k, "", 0, 1));
   auto rifiutata = CercaFigura(TreEstrazioni(), troppi, {});
   ASSERT_FALSE(rifiutata.Riuscito());
   EXPECT_EQ(rifiutata.Errore().testo, "La struttura ha 101 vertici, al massimo 100.");
@@ -208,10 +208,9 @@ TEST(StatisticaStrutture, EachFigurePlaysItsClosureNumbersOnItsWheelsForTheColpi
 TEST(RicercaFigure, OnTheRealArchiveTheSearchFindsWhatAPlainWalkFinds) {
   LOTTOLAB_RICHIEDI_DATI_REALI();
   const TabellaEstrazioni& tab = lottolab::test::ArchivioReale();
-  const Struttura quadrato{
-      {Vertice(1, "A", 0, 1), Vertice(2, "B", 0, 2), Vertice(3, "C", 1, 1), Vertice(4, "D", 1, 2)},
-      {{1, 1, 2}, {2, 2, 4}, {3, 4, 3}, {4, 3, 1}},
-      {"[A] = [D]", "Cadenza([B]) = Cadenza([C])"}};
+  const Struttura quadrato{{Vertice(1, "A", 0, 1), Vertice(2, "B", 0, 2), Vertice(3, "C", 1, 1), Vertice(4, "D", 1, 2)},
+                           {{1, 1, 2}, {2, 2, 4}, {3, 4, 3}, {4, 3, 1}},
+                           {"[A] = [D]", "Cadenza([B]) = Cadenza([C])"}};
   size_t attese = 0;
   for (int id = 2; id <= tab.EstrazioniArchivio(); ++id)
     for (int c = 1; c < kColonneTabella; ++c) {

@@ -52,9 +52,10 @@ TEST_F(Collezioni, SortingIsStableKeepsTheKeysAndPutsNumbersBeforeTexts) {
 }
 
 TEST_F(Collezioni, ObjectsAreSortedByTheirProperty) {
-  Esegui("Class Figura\n Public Nome, Ritardo\nEnd Class\n"
-         "Function Nuova(n, r)\n Set Nuova = New Figura : Nuova.Nome = n : Nuova.Ritardo = r\nEnd Function\n"
-         "c.Add Nuova(\"uno\", 40)\nc.Add Nuova(\"due\", 7)\nc.Add Nuova(\"tre\", 112)\n");
+  Esegui(
+      "Class Figura\n Public Nome, Ritardo\nEnd Class\n"
+      "Function Nuova(n, r)\n Set Nuova = New Figura : Nuova.Nome = n : Nuova.Ritardo = r\nEnd Function\n"
+      "c.Add Nuova(\"uno\", 40)\nc.Add Nuova(\"due\", 7)\nc.Add Nuova(\"tre\", 112)\n");
   Esegui("OrdinaItemCollection c, -1, \"Ritardo\"\n");
   EXPECT_EQ(Testo("c(1).Nome & c(2).Nome & c(3).Nome"), "treunodue");
   EXPECT_TRUE(Vuoto("OrdinaItemCollection(c, 1, \"Colore\")"));

@@ -282,8 +282,9 @@ TEST_F(Libreria, RitPosCronoDaIRitardiChiusiDaOgniUscitaEPoiQuelloInCorso) {
 // Each delay of the chronology is the delay of the draw before its outing, its last one RitPos's, and
 // with every outing counted the runs and the outings cover the counted draws of the range exactly.
 TEST_F(LibreriaElenchi, LaCronologiaDiRitPosCopreLeEstrazioniContate) {
-  Esegui("Function Somma(a)\n  Dim i, s\n  For i = 1 To UBound(a)\n    s = s + a(i) + 1\n  Next\n"
-         "  Somma = s\nEnd Function\n");
+  Esegui(
+      "Function Somma(a)\n  Dim i, s\n  For i = 1 To UBound(a)\n    s = s + a(i) + 1\n  Next\n"
+      "  Somma = s\nEnd Function\n");
   for (int ruota : {int{BA}, int{NZ}, kTutteLeRuote}) {
     for (int numero : {3, 17, 30}) {
       for (int posizione : {1, 4}) {
@@ -532,15 +533,14 @@ TEST_F(LibreriaErrori, LeLunghetteRifiutanoSviluppiTroppoGrandiESortiOltreLaClas
   std::string novanta = "Array(1";
   for (int n = 2; n <= kMassimoNumero; ++n) novanta += ", " + std::to_string(n);
   novanta += ")";
-  const std::string chiamate[] = {
-      "GetLunghettePiuRitardate " + novanta + ", 4, BA_, AMBO_, 10, r",
-      "GetLunghettePiuRitardate Array(1, 2, 3), 2, BA_, TERNO_, 10, r",
-      "GetLunghettePiuRitardate Array(1, 2, 3), 0, BA_, AMBATA_, 10, r",
-      "GetLunghettePiuRitardate Array(1, 2, 3), 4, BA_, AMBATA_, 10, r",
-      "GetLunghettePiuRitardate Array(), 1, BA_, AMBATA_, 10, r",
-      "GetLunghettePiuRitardate Array(1, 2, 3), 2, 13, AMBO_, 10, r",
-      "GetLunghettePiuRitardate Array(1, 2, 3), 2, BA_, AMBO_, 0, r",
-      "GetLunghettePiuRitardate Array(1, 2, 3), 2, BA_, AMBO_, 1, r, 31"};
+  const std::string chiamate[] = {"GetLunghettePiuRitardate " + novanta + ", 4, BA_, AMBO_, 10, r",
+                                  "GetLunghettePiuRitardate Array(1, 2, 3), 2, BA_, TERNO_, 10, r",
+                                  "GetLunghettePiuRitardate Array(1, 2, 3), 0, BA_, AMBATA_, 10, r",
+                                  "GetLunghettePiuRitardate Array(1, 2, 3), 4, BA_, AMBATA_, 10, r",
+                                  "GetLunghettePiuRitardate Array(), 1, BA_, AMBATA_, 10, r",
+                                  "GetLunghettePiuRitardate Array(1, 2, 3), 2, 13, AMBO_, 10, r",
+                                  "GetLunghettePiuRitardate Array(1, 2, 3), 2, BA_, AMBO_, 0, r",
+                                  "GetLunghettePiuRitardate Array(1, 2, 3), 2, BA_, AMBO_, 1, r, 31"};
   for (const std::string& chiamata : chiamate) AttendiErrore5(chiamata);
   EXPECT_EQ(Testo("GetLunghettePiuRitardate(" + novanta + ", 3, BA_, AMBO_, 1, r)"), "1")
       << "117,480 terni are allowed";

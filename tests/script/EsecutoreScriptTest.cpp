@@ -15,9 +15,9 @@ namespace lottolab::script {
 namespace {
 
 namespace fs = std::filesystem;
+using test::CartellaTemporanea;
 using test::Leggi;
 using test::Scrivi;
-using test::CartellaTemporanea;
 
 class OspiteDiProva final : public InterfacciaScript {
  public:
@@ -51,8 +51,6 @@ class OspiteDiProva final : public InterfacciaScript {
   std::vector<Avviso> m_avvisi;
 };
 
-
-
 class EsecuzioneScript : public ::testing::Test {
  protected:
   EsecuzioneScript() {
@@ -85,7 +83,8 @@ TEST(Inclusioni, TheLineNamesItsFileByTheRulesOfTheBaseFolders) {
 
 TEST(Inclusioni, IncludeLinesBecomeCommentsAndIncludedCodeLosesItsOptions) {
   CartellaTemporanea base;
-  Scrivi(base / "Script/Funzioni/A.ls", "Option Explicit\r\noption compare text\r\nFunction Uno : Uno = 1 : End Function\r\n");
+  Scrivi(base / "Script/Funzioni/A.ls",
+         "Option Explicit\r\noption compare text\r\nFunction Uno : Uno = 1 : End Function\r\n");
   auto espanso = GestioneIncludiFile(u"Option Explicit\nIncludi A.ls\nSub Main\nEnd Sub", {base.Percorso(), {}});
   ASSERT_TRUE(espanso);
   EXPECT_EQ(espanso->codice_utente, u"Option Explicit\n'Includi A.ls\nSub Main\nEnd Sub");
@@ -192,8 +191,8 @@ TEST_F(EsecuzioneScript, ConstantsAreReadOnly) {
 
 TEST_F(EsecuzioneScript, AMultiOutputRunWritesAPagePerOutput) {
   m_opzioni.multi_output = true;
-  auto esito = Esegui(
-      "Sub Main\nScrivi \"primo\"\nColoraRtfOutputMulti\nAzzeraHtmlOutputMulti\nScrivi \"secondo\"\nEnd Sub");
+  auto esito =
+      Esegui("Sub Main\nScrivi \"primo\"\nColoraRtfOutputMulti\nAzzeraHtmlOutputMulti\nScrivi \"secondo\"\nEnd Sub");
   EXPECT_EQ(esito.stato, EsitoEsecuzione::Stato::Completato);
   ASSERT_EQ(esito.pagine.size(), 2u);
   EXPECT_EQ(esito.pagine[0].filename(), "pagina_1.html");
@@ -203,8 +202,9 @@ TEST_F(EsecuzioneScript, AMultiOutputRunWritesAPagePerOutput) {
 }
 
 TEST_F(EsecuzioneScript, ProgressAndNoticesReachTheHost) {
-  auto esito = Esegui("Sub Main\nAvanzamentoElab 5, 20\nAvanzamentoElab 10, 20, 15\nAvanzamentoElab 1, 0\n"
-                      "Messaggio \"quasi\"\nEnd Sub");
+  auto esito = Esegui(
+      "Sub Main\nAvanzamentoElab 5, 20\nAvanzamentoElab 10, 20, 15\nAvanzamentoElab 1, 0\n"
+      "Messaggio \"quasi\"\nEnd Sub");
   EXPECT_EQ(esito.stato, EsitoEsecuzione::Stato::Completato);
   EXPECT_EQ(m_ospite.m_avanzamento, (std::vector<double>{25, 50, 100}));
   EXPECT_EQ(m_ospite.m_messaggi, std::vector<std::string>{"quasi"});

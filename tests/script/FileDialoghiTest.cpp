@@ -16,11 +16,9 @@ namespace lottolab::script {
 namespace {
 
 namespace fs = std::filesystem;
+using test::CartellaTemporanea;
 using test::Leggi;
 using test::Scrivi;
-using test::CartellaTemporanea;
-
-
 
 // Tuesdays and Thursdays across a year's end, a Saturday, and February.
 TabellaEstrazioni TabellaDatata() {
@@ -81,7 +79,9 @@ TEST_F(LibreriaFile, ScriviFileKeepsTheFileOpenUntilClosedAndAppendsUnlessToldOt
 
 TEST_F(LibreriaFile, LeggiRigheFileDiTestoReadsUtf8AndWindows1252) {
   test::ScriviByte(m_cartella / "ansi.txt", {'c', 'a', 'f', 'f', 0xE8, '\r', '\n', 'p', 'e', 'r', 0xF2, 0x80});
-  Scrivi(m_cartella / "utf8.txt", "\xEF\xBB\xBF" "caffè\n\nperò\n");
+  Scrivi(m_cartella / "utf8.txt",
+         "\xEF\xBB\xBF"
+         "caffè\n\nperò\n");
   Scrivi(m_cartella / "vuoto.txt", "");
   Esegui("Dim righe\n");
   EXPECT_EQ(Testo("LeggiRigheFileDiTesto(\"ansi.txt\", righe)"), "2");
@@ -187,7 +187,8 @@ TEST_F(LibreriaFile, DrawsAreReadFromAFileInTheOperatorsLayout) {
   EXPECT_EQ(Testo("QuantitaEstrazioniInFile(\"estrazioni.txt\")"), "2");
   EXPECT_EQ(Testo("LeggiEstrazioneDaFile(\"estrazioni.txt\", 1, numeri)"), "Vero");
   EXPECT_EQ(Testo("numeri(1, 1) & \" \" & numeri(11, 5) & \" \" & numeri(10, 1) & \" \" & UBound(numeri, 1)"),
-            "1 90 0 11") << "Nazionale at 11, an absent wheel holds 0";
+            "1 90 0 11")
+      << "Nazionale at 11, an absent wheel holds 0";
   EXPECT_EQ(Testo("LeggiEstrazioneDaFile(\"estrazioni.txt\", 2, numeri, data)"), "Vero");
   EXPECT_EQ(Testo("numeri(1, 5) & \" \" & numeri(10, 3) & \" \" & data"), "15 23 04/01/2024");
   EXPECT_EQ(Testo("LeggiEstrazioneDaFile(\"estrazioni.txt\", 3, numeri)"), "Falso");
@@ -200,9 +201,9 @@ TEST_F(LibreriaFile, DrawsAreReadFromAFileInTheOperatorsLayout) {
 }
 
 TEST_F(LibreriaFile, BadArgumentsAreError5) {
-  for (std::string_view chiamata :
-       {"ScriviFile(\"\", \"x\")", "FileEsistente(\"\")", "ScegliNumeri(\"t\", 0)", "ScegliNumeri(\"t\", 91)",
-        "ScegliDaLista(3)", "EstrazioniRicerca(5, 2)", "EstrazioniRicerca(1, 7, 13)", "EstrazioniRicerca(1, 7, 0, 8)"}) {
+  for (std::string_view chiamata : {"ScriviFile(\"\", \"x\")", "FileEsistente(\"\")", "ScegliNumeri(\"t\", 0)",
+                                    "ScegliNumeri(\"t\", 91)", "ScegliDaLista(3)", "EstrazioniRicerca(5, 2)",
+                                    "EstrazioniRicerca(1, 7, 13)", "EstrazioniRicerca(1, 7, 0, 8)"}) {
     EXPECT_TRUE(Vuoto(chiamata)) << chiamata;
     EXPECT_TRUE(UnicoAvviso().testo.starts_with("5- ")) << chiamata;
   }
@@ -214,9 +215,10 @@ TEST_F(LibreriaFile, TheRunClosesTheFilesItsScriptLeftOpenEvenAfterAnError) {
   OpzioniEsecuzione opzioni;
   opzioni.libreria.cartella_base = m_cartella.Percorso();
   opzioni.libreria.cartella_output = m_cartella.Percorso();
-  const auto esito = esecutore.Esegui(u"Sub Main\n ScriviFile \"a.txt\", \"uno\"\n ScriviFile \"b.txt\", \"due\"\n"
-                                      u" Err.Raise 1000\nEnd Sub\n",
-                                      opzioni);
+  const auto esito = esecutore.Esegui(
+      u"Sub Main\n ScriviFile \"a.txt\", \"uno\"\n ScriviFile \"b.txt\", \"due\"\n"
+      u" Err.Raise 1000\nEnd Sub\n",
+      opzioni);
   EXPECT_EQ(esito.stato, EsitoEsecuzione::Stato::ErroreScript);
   EXPECT_EQ(Leggi(m_cartella / "a.txt"), "uno\n");
   EXPECT_EQ(Leggi(m_cartella / "b.txt"), "due\n");
@@ -232,8 +234,9 @@ TEST_F(LibreriaFile, ActiveDrawsAreSetOneByOneOrBySearch) {
   EXPECT_TRUE(Vuoto("ImpostaEstrazione(8)"));
   EXPECT_TRUE(UnicoAvviso().testo.starts_with("9- "));
 
-  Esegui("Function Attive\n Dim id\n For id = 1 To 7\n  If EstrazioneAttivata(id) Then Attive = Attive & id\n Next\n"
-         "End Function\n");
+  Esegui(
+      "Function Attive\n Dim id\n For id = 1 To 7\n  If EstrazioneAttivata(id) Then Attive = Attive & id\n Next\n"
+      "End Function\n");
   EXPECT_EQ(Testo("EstrazioniRicerca(1, 7, 1)"), "3");
   EXPECT_EQ(Testo("Attive"), "345");
   EXPECT_EQ(Testo("EstrazioniRicerca(2, 7, 0, 3)"), "2") << "Tuesdays after the first draw";
@@ -370,8 +373,7 @@ TEST_F(Dialoghi, WheelsAndSorteArriveInTheScriptsNumbering) {
 
   Rispondi(std::vector<int>{2});
   EXPECT_EQ(Testo("ScegliEsito = TERNO_"), "Vero");
-  EXPECT_EQ(m_risponde.voci_mostrate,
-            (std::vector<std::string>{"Ambata", "Ambo", "Terno", "Quaterna", "Cinquina"}));
+  EXPECT_EQ(m_risponde.voci_mostrate, (std::vector<std::string>{"Ambata", "Ambo", "Terno", "Quaterna", "Cinquina"}));
   Rispondi(std::nullopt);
   EXPECT_EQ(Testo("ScegliEsito"), "0");
   EXPECT_TRUE(m_ospite.avvisi.empty());

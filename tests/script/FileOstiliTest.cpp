@@ -20,7 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 using test::CartellaTemporanea;
 
-
 class FileOstili : public ::testing::Test {
  protected:
   FileOstili() {
@@ -36,9 +35,7 @@ class FileOstili : public ::testing::Test {
     fs::resize_file(m_grande, kLimiteFileTesto + 1);
   }
 
-  EsitoEsecuzione Esegui(const std::string& codice) {
-    return m_esecutore.Esegui(text::Utf8ToUtf16(codice), m_opzioni);
-  }
+  EsitoEsecuzione Esegui(const std::string& codice) { return m_esecutore.Esegui(text::Utf8ToUtf16(codice), m_opzioni); }
 
   CartellaTemporanea m_base;
   fs::path m_fifo;
@@ -92,17 +89,27 @@ TEST_F(FileOstili, LibraryAndEngineRefuseDevicesAndPipesWithoutWaiting) {
       "Sub Main\n"
       "Dim r\n"
       "Scrivi LeggiRigheFileDiTesto(\"/dev/zero\", r)\n"
-      "Scrivi LeggiRigheFileDiTesto(\"" + m_fifo.string() + "\", r)\n"
-      "Scrivi LeggiRigheFileDiTesto(\"" + m_grande.string() + "\", r)\n"
-      "Scrivi ScriviFile(\"" + m_fifo.string() + "\", \"x\")\n"
+      "Scrivi LeggiRigheFileDiTesto(\"" +
+      m_fifo.string() +
+      "\", r)\n"
+      "Scrivi LeggiRigheFileDiTesto(\"" +
+      m_grande.string() +
+      "\", r)\n"
+      "Scrivi ScriviFile(\"" +
+      m_fifo.string() +
+      "\", \"x\")\n"
       "Scrivi QuantitaEstrazioniInFile(\"/dev/zero\")\n"
       "Dim fso: Set fso = CreateObject(\"Scripting.FileSystemObject\")\n"
       "On Error Resume Next\n"
       "fso.OpenTextFile(\"/dev/zero\").ReadAll\n"
       "Scrivi Err.Number: Err.Clear\n"
-      "fso.OpenTextFile(\"" + m_fifo.string() + "\").ReadAll\n"
+      "fso.OpenTextFile(\"" +
+      m_fifo.string() +
+      "\").ReadAll\n"
       "Scrivi Err.Number: Err.Clear\n"
-      "fso.OpenTextFile(\"" + m_fifo.string() + "\", 8).Write \"x\"\n"
+      "fso.OpenTextFile(\"" +
+      m_fifo.string() +
+      "\", 8).Write \"x\"\n"
       "Scrivi Err.Number: Err.Clear\n"
       "End Sub\n");
   EXPECT_EQ(esito.stato, EsitoEsecuzione::Stato::Completato);

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "archive/DateEstrazione.h"
 #include "LibreriaDiProva.h"
+#include "archive/DateEstrazione.h"
 #include "stats/ArchiviDiProva.h"
 
 namespace lottolab::script {
@@ -54,8 +54,8 @@ TEST_F(LibreriaArchivio, LeRuoteArrivanoNellaNumerazioneDegliScript) {
 }
 
 TEST_F(LibreriaArchivio, UnIndiceFuoriDallArchivioEErrore9ELoScriptProsegue) {
-  for (std::string_view chiamata : {"Estratto(0, 1, 1)", "Estratto(8, 1, 1)", "Estratto(1, 1, 0)",
-                                    "Estratto(1, 1, 6)", "Estratto(1, 13, 6)"}) {
+  for (std::string_view chiamata :
+       {"Estratto(0, 1, 1)", "Estratto(8, 1, 1)", "Estratto(1, 1, 0)", "Estratto(1, 1, 6)", "Estratto(1, 13, 6)"}) {
     EXPECT_TRUE(Vuoto(chiamata)) << chiamata;
     const Avviso avviso = UnicoAvviso();
     EXPECT_EQ(avviso.titolo, "ClsFunctionsGeodoScript.Estratto") << chiamata;
@@ -115,8 +115,7 @@ TEST_F(LibreriaArchivio, DataEstrToIdEstrTrovaSoloLaDataEsatta) {
 TEST_F(LibreriaArchivio, GetEstrazioneCompletaRiempieLaVariabileDelloScript) {
   Esegui("Dim a, esito\nesito = GetEstrazioneCompleta(2, a)");
   EXPECT_EQ(Testo("esito"), "Vero");
-  EXPECT_EQ(Testo("LBound(a, 1) & \"..\" & UBound(a, 1) & \" \" & LBound(a, 2) & \"..\" & UBound(a, 2)"),
-            "1..11 1..5");
+  EXPECT_EQ(Testo("LBound(a, 1) & \"..\" & UBound(a, 1) & \" \" & LBound(a, 2) & \"..\" & UBound(a, 2)"), "1..11 1..5");
   EXPECT_EQ(Testo("a(1, 1) & \" \" & a(1, 5) & \" \" & a(4, 2) & \" \" & a(11, 1)"), "8 12 30 78");
 
   Esegui("Dim b\nb = 7\nesito = GetEstrazioneCompleta(8, b)");
@@ -147,8 +146,9 @@ TEST_F(Libreria, LeVerificheDiNumeriRuoteESortiNonSbaglianoMai) {
   EXPECT_EQ(Testo("isNumeroValidoLotto(0) & isNumeroValidoLotto(91) & isNumeroValidoLotto(2.5) & "
                   "isNumeroValidoLotto(\"x\")"),
             "FalsoFalsoFalsoFalso");
-  EXPECT_EQ(Testo("isRuotaValidaLotto(BA_) & isRuotaValidaLotto(TU_) & isRuotaValidaLotto(NZ_) & isRuotaValidaLotto(13)"),
-            "VeroVeroVeroFalso");
+  EXPECT_EQ(
+      Testo("isRuotaValidaLotto(BA_) & isRuotaValidaLotto(TU_) & isRuotaValidaLotto(NZ_) & isRuotaValidaLotto(13)"),
+      "VeroVeroVeroFalso");
   EXPECT_EQ(Testo("isSorteValidaLotto(AMBATA_) & isSorteValidaLotto(EDET5_) & isSorteValidaLotto(0) & "
                   "isSorteValidaLotto(11)"),
             "VeroVeroFalsoFalso");

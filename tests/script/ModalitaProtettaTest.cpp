@@ -17,9 +17,9 @@ namespace lottolab::script {
 namespace {
 
 namespace fs = std::filesystem;
+using test::CartellaTemporanea;
 using test::Leggi;
 using test::Scrivi;
-using test::CartellaTemporanea;
 
 // A base folder with an archive, the INI, a script of the user's and the output folder, and a
 // folder outside it standing for the user's home. Paths reach the scripts through the globals
@@ -138,15 +138,15 @@ TEST_F(ModalitaProtetta, InsideItsFoldersAProtectedScriptWorksAsUsual) {
   const std::string codice = "includi Lib.ls\n";
   const auto con_inclusione = m_esecutore.Esegui(
       text::Utf8ToUtf16(codice + "Const BASE = \"" + m_base.Percorso().string() +
-                       "/\"\nSub Main\nDim fso: Set fso = CreateObject(\"Scripting.FileSystemObject\")\n"
-                       "ScriviFile BASE & \"scriptOutput/a.txt\", \"uno\", False, True\n"
-                       "CreaDirectory BASE & \"scriptOutput/sotto\"\n"
-                       "CopiaFile BASE & \"Script/mio.ls\", BASE & \"scriptOutput/sotto/copia.ls\"\n"
-                       "fso.CreateTextFile(BASE & \"scriptOutput/b.txt\").Write \"due\"\n"
-                       "fso.DeleteFolder BASE & \"scriptOutput/sotto\"\n"
-                       "Dim r: Scrivi LeggiRigheFileDiTesto(BASE & \"lottolab.ini\", r)\n"
-                       "Scrivi fso.OpenTextFile(BASE & \"scriptOutput/a.txt\").ReadLine\n"
-                       "Scrivi Uno()\nEnd Sub\n"),
+                        "/\"\nSub Main\nDim fso: Set fso = CreateObject(\"Scripting.FileSystemObject\")\n"
+                        "ScriviFile BASE & \"scriptOutput/a.txt\", \"uno\", False, True\n"
+                        "CreaDirectory BASE & \"scriptOutput/sotto\"\n"
+                        "CopiaFile BASE & \"Script/mio.ls\", BASE & \"scriptOutput/sotto/copia.ls\"\n"
+                        "fso.CreateTextFile(BASE & \"scriptOutput/b.txt\").Write \"due\"\n"
+                        "fso.DeleteFolder BASE & \"scriptOutput/sotto\"\n"
+                        "Dim r: Scrivi LeggiRigheFileDiTesto(BASE & \"lottolab.ini\", r)\n"
+                        "Scrivi fso.OpenTextFile(BASE & \"scriptOutput/a.txt\").ReadLine\n"
+                        "Scrivi Uno()\nEnd Sub\n"),
       m_opzioni);
   EXPECT_EQ(con_inclusione.stato, EsitoEsecuzione::Stato::Completato)
       << (con_inclusione.errore ? con_inclusione.errore->descrizione : "");
@@ -177,8 +177,8 @@ TEST_F(ModalitaProtetta, LinksAndDotDotAreJudgedByWhereTheyLead) {
       {"ScriviFile BASE & \"scriptOutput/casa/.bashrc\", \"x\"", "ScriviFile", "casa/.bashrc"},
       {"ScriviFile BASE & \"scriptOutput/bashrc\", \"x\"", "ScriviFile", "bashrc"},
       // A link that points nowhere would create its target.
-      {"CreateObject(\"Scripting.FileSystemObject\").CreateTextFile BASE & \"scriptOutput/sospeso\"",
-       "CreateTextFile", "sospeso"},
+      {"CreateObject(\"Scripting.FileSystemObject\").CreateTextFile BASE & \"scriptOutput/sospeso\"", "CreateTextFile",
+       "sospeso"},
       {"ScriviFile BASE & \"scriptOutput/../lottolab.ini\", \"x\"", "ScriviFile", "lottolab.ini"},
       {"ScriviFile BASE & \"scriptOutput/../../\" & Mid(FUORI, InStrRev(FUORI, \"/\", Len(FUORI) - 1) + 1) & "
        "\".bashrc\", \"x\"",
@@ -201,9 +201,8 @@ TEST_F(ModalitaProtetta, LinksAndDotDotAreJudgedByWhereTheyLead) {
 
 TEST_F(ModalitaProtetta, IncludesFromOutsideTheBaseFolderAreRefused) {
   Scrivi(m_fuori / "Esterna.ls", "Function Due\nDue = 2\nEnd Function\n");
-  const auto esito =
-      m_esecutore.Esegui(text::Utf8ToUtf16("includi " + (m_fuori / "Esterna.ls").string() + "\nSub Main\nEnd Sub\n"),
-                         m_opzioni);
+  const auto esito = m_esecutore.Esegui(
+      text::Utf8ToUtf16("includi " + (m_fuori / "Esterna.ls").string() + "\nSub Main\nEnd Sub\n"), m_opzioni);
   EXPECT_EQ(esito.stato, EsitoEsecuzione::Stato::InclusioneNonRiuscita);
   ASSERT_FALSE(m_ospite.avvisi.empty());
   EXPECT_NE(m_ospite.avvisi.back().testo.find("Permesso negato: includi"), std::string::npos)

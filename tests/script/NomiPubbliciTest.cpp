@@ -42,8 +42,8 @@ TEST(NomiPubblici, TheLibraryBindsOnlyPublicNamesAndEachOnce) {
   std::set<std::string> legati;
   for (const ClsFunctionsGeodoScript::Funzione& funzione : ClsFunctionsGeodoScript::Funzioni()) {
     EXPECT_TRUE(legati.insert(Minuscolo(funzione.nome)).second) << funzione.nome << " is bound twice";
-    const bool costante = std::any_of(costanti.begin(), costanti.end(),
-                                      [&](const auto& c) { return c.nome == funzione.nome; });
+    const bool costante =
+        std::any_of(costanti.begin(), costanti.end(), [&](const auto& c) { return c.nome == funzione.nome; });
     EXPECT_TRUE(costante || pubblici.contains(funzione.nome)) << funzione.nome << " is not a public name";
     EXPECT_FALSE(funzione.descrizione.empty()) << funzione.nome << " has no description";
   }

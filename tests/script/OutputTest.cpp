@@ -25,8 +25,9 @@ std::vector<std::string> RigheScritte(const std::string& testo) {
 
 TEST_F(Libreria, ScriviGoesToANewLineUnlessTheScriptChangesTheDefault) {
   Avvia(Archivio().Estrazione().Tabella());
-  Esegui("Scrivi \"a\"\nSetComportamentoACapo False\nScrivi \"b\"\nScriviConColori \"c\", 2\n"
-         "Scrivi \"d\", , True\nSetComportamentoACapo True\nScrivi \"e\"\n");
+  Esegui(
+      "Scrivi \"a\"\nSetComportamentoACapo False\nScrivi \"b\"\nScriviConColori \"c\", 2\n"
+      "Scrivi \"d\", , True\nSetComportamentoACapo True\nScrivi \"e\"\n");
   EXPECT_EQ(m_ospite.testo, "a\nbcd\ne\n");
 }
 

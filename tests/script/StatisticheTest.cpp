@@ -206,9 +206,9 @@ TEST_F(LibreriaStatistiche, LeFigureDegliEstrattiSonoQuelleDellaDefinizione) {
   for (int ruota = 1; ruota <= kTutteLeRuote; ++ruota) {
     for (int numero = 1; numero <= 12; ++numero) {
       for (bool tutte : {true, false}) {
-        const Riferimento atteso(m_tab, {ruota}, {numero}, 1,
-                                 tutte ? std::array{true, true, true, true, true}
-                                       : std::array{false, true, false, true, false});
+        const Riferimento atteso(
+            m_tab, {ruota}, {numero}, 1,
+            tutte ? std::array{true, true, true, true, true} : std::array{false, true, false, true, false});
         const std::string argomenti = std::to_string(RuotaScript(ruota)) + ", " + std::to_string(numero);
         const std::string_view posizioni = tutte ? "" : ", p";
         for (const Intervallo& i : kIntervalli) {
@@ -277,9 +277,9 @@ TEST_F(LibreriaStatistiche, LeSerieMisuranoIlGruppoComeUnTutto) {
     for (const auto& gruppo : kGruppi) {
       for (int sorte = 1; sorte <= 3; ++sorte) {
         for (bool tutte : {true, false}) {
-          const Riferimento atteso(m_tab, ruote, gruppo, sorte,
-                                   tutte ? std::array{true, true, true, true, true}
-                                         : std::array{true, false, false, false, true});
+          const Riferimento atteso(
+              m_tab, ruote, gruppo, sorte,
+              tutte ? std::array{true, true, true, true, true} : std::array{true, false, false, false, true});
           const std::string argomenti = Lista(nello_script) + ", " + Lista(gruppo) + ", " + std::to_string(sorte);
           const std::string_view posizioni = tutte ? "" : ", p";
           for (const Intervallo& i : kIntervalli) {

@@ -67,15 +67,15 @@ TEST(IndiceVincite, IGruppiHannoLeFigureDelPercorso) {
   const TabellaEstrazioni tab = ArchivioCasuale(150, 14, 3);
   const IndiceVincite indice(tab);
   const std::vector<std::vector<int>> kRuote = {{BA}, {NZ}, {CA}, {kTutteLeRuote}, {CA, FI, NZ}, {NZ, kTutteLeRuote}};
-  const std::vector<std::vector<int>> kGruppi = {{3}, {3, 9}, {9, 9}, {1, 2, 3}, {2, 5, 5, 8}, {1, 4, 7, 10, 13},
-                                                 {2, 3, 5, 7, 11, 13}};
+  const std::vector<std::vector<int>> kGruppi = {
+      {3}, {3, 9}, {9, 9}, {1, 2, 3}, {2, 5, 5, 8}, {1, 4, 7, 10, 13}, {2, 3, 5, 7, 11, 13}};
   for (const auto& ruote : kRuote) {
     for (const auto& numeri : kGruppi) {
       for (int sorte = 1; sorte <= kNumeriPerRuota; ++sorte) {
         for (auto [inizio, fine] : {std::pair{1, 150}, {1, 1}, {6, 6}, {5, 40}, {70, 150}, {30, 29}}) {
-          SCOPED_TRACE(testing::Message() << ruote.size() << " wheels from " << ruote[0] << ", " << numeri.size()
-                                          << " numbers from " << numeri[0] << ", sorte " << sorte << ", draws "
-                                          << inizio << ".." << fine);
+          SCOPED_TRACE(testing::Message()
+                       << ruote.size() << " wheels from " << ruote[0] << ", " << numeri.size() << " numbers from "
+                       << numeri[0] << ", sorte " << sorte << ", draws " << inizio << ".." << fine);
           ASSERT_EQ(indice.Gruppo(ruote, numeri, sorte, inizio, fine),
                     StatisticaCombinazione(tab, ruote, numeri, sorte, fine, kTuttePosizioni, inizio));
           ASSERT_EQ(indice.RitardoGruppo(ruote, numeri, sorte, inizio, fine),

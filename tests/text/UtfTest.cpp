@@ -83,8 +83,8 @@ TEST(UtfTest, UpperAndLowerCaseAreInversesExceptFinalSigma) {
     }
   }
   const std::pair<char16_t, char16_t> pairs[] = {
-      {u'A', u'a'}, {u'Z', u'z'}, {u'À', u'à'}, {u'Þ', u'þ'}, {0x178, u'ÿ'}, {0x100, 0x101},
-      {0x139, 0x13A}, {0x17D, 0x17E}, {u'Α', u'α'}, {u'Ω', u'ω'}, {u'А', u'а'}, {u'Ё', u'ё'},
+      {u'A', u'a'},   {u'Z', u'z'},   {u'À', u'à'}, {u'Þ', u'þ'}, {0x178, u'ÿ'}, {0x100, 0x101},
+      {0x139, 0x13A}, {0x17D, 0x17E}, {u'Α', u'α'}, {u'Ω', u'ω'}, {u'А', u'а'},  {u'Ё', u'ё'},
   };
   for (const auto& [upper, lower] : pairs) {
     EXPECT_EQ(text::LowerCase(upper), lower) << std::hex << int(upper);

@@ -19,9 +19,9 @@ TEST(WildcardTest, StarsQuestionMarksAndCase) {
       {u"?", u"é", true},
       {u"*.TXT", u"estrazioni.txt", true},
       {u"*.txt", u"estrazioni.txt.bak", false},
-      {u"a*b*c", u"aXbYbZc", true},     // the first b is not the one that fits
+      {u"a*b*c", u"aXbYbZc", true},  // the first b is not the one that fits
       {u"a*b*c", u"aXbYcZ", false},
-      {u"*ab", u"aab", true},           // the star must give back what it took
+      {u"*ab", u"aab", true},  // the star must give back what it took
       {u"?.txt", u"ab.txt", false},
       {u"PERCHÈ.*", u"perchè.ls", true},  // Latin letters fold like the script language's
       {u"**?", u"x", true},

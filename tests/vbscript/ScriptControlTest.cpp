@@ -3,10 +3,10 @@
 #include <stdexcept>
 #include <thread>
 
-#include "vbscript/HostObject.h"
-#include "vbscript/value/SafeArray.h"
-#include "vbscript/ScriptControl.h"
 #include "text/Utf.h"
+#include "vbscript/HostObject.h"
+#include "vbscript/ScriptControl.h"
+#include "vbscript/value/SafeArray.h"
 
 namespace vbs {
 namespace {
@@ -157,7 +157,8 @@ TEST_F(Motore, UnaRichiestaDaUnAltroThreadFermaLoScriptAnchePassandoResumeNext) 
 
 TEST_F(Motore, MemoriaEsauritaInUnOggettoEErrore7CheOnErrorIntercetta) {
   ASSERT_TRUE(engine.AddObject("ClsLibreria", MakeRef<Libreria>(engine.interpreter().locale()), true));
-  ASSERT_TRUE(Add("Dim e\nOn Error Resume Next\nEsaurisci 1\ne = Err.Number\nErr.Clear\nEsaurisci 2\ne = e & Err.Number"));
+  ASSERT_TRUE(
+      Add("Dim e\nOn Error Resume Next\nEsaurisci 1\ne = Err.Number\nErr.Clear\nEsaurisci 2\ne = e & Err.Number"));
   EXPECT_EQ(EvalText("e"), "77");
   EXPECT_FALSE(Add("Sub Giu(n)\n Esaurisci n\nEnd Sub\nGiu 2"));
   EXPECT_EQ(engine.Error().number, 7);
@@ -179,8 +180,9 @@ TEST_F(Motore, MemoriaEsauritaInUnOggettoEErrore7CheOnErrorIntercetta) {
 TEST_F(Motore, EvalEExecuteNonTengonoIlCodiceDopoAverloEseguito) {
   ASSERT_TRUE(Add("Dim i, s\nExecuteGlobal \"Sub Esplodi\" & vbLf & \"s = 1 / 0\" & vbLf & \"End Sub\""));
   const size_t sources = engine.interpreter().sources().size();
-  ASSERT_TRUE(Add("For i = 1 To 2000\n s = Eval(i & \" * 2\")\n Execute \"s = s + \" & i\n"
-                  " ExecuteGlobal \"Dim g\" & (i Mod 3)\nNext"));
+  ASSERT_TRUE(
+      Add("For i = 1 To 2000\n s = Eval(i & \" * 2\")\n Execute \"s = s + \" & i\n"
+          " ExecuteGlobal \"Dim g\" & (i Mod 3)\nNext"));
   EXPECT_EQ(EvalText("s"), "6000");
   for (int i = 0; i < 100; ++i) EXPECT_EQ(EvalText(std::to_string(i) + " + 1"), std::to_string(i + 1));
   EXPECT_LE(engine.interpreter().sources().size(), sources + 3) << "the loop, then one entry per kind of run-time code";

@@ -101,7 +101,8 @@ std::vector<std::string> Check(const fs::path& file) {
   for (size_t i = 0; i < std::max(got.size(), expected.output.size()); ++i) {
     std::string want = i < expected.output.size() ? expected.output[i] : "(nothing)";
     std::string have = i < got.size() ? got[i] : "(nothing)";
-    if (want != have) failures.push_back("output " + std::to_string(i + 1) + ": expected \"" + want + "\", got \"" + have + "\"");
+    if (want != have)
+      failures.push_back("output " + std::to_string(i + 1) + ": expected \"" + want + "\", got \"" + have + "\"");
   }
   const vbs::ScriptErrorInfo& error = engine.Error();
   if (expected.error_number == 0 && !result) {
@@ -109,9 +110,10 @@ std::vector<std::string> Check(const fs::path& file) {
                        ": " + text::Utf16ToUtf8(error.description));
   } else if (expected.error_number != 0 &&
              (result || error.number != expected.error_number || error.line != expected.error_line)) {
-    failures.push_back("expected runtime error " + std::to_string(expected.error_number) + " at line " +
-                       std::to_string(expected.error_line) + ", got " +
-                       (result ? std::string("none") : std::to_string(error.number) + " at line " + std::to_string(error.line)));
+    failures.push_back(
+        "expected runtime error " + std::to_string(expected.error_number) + " at line " +
+        std::to_string(expected.error_line) + ", got " +
+        (result ? std::string("none") : std::to_string(error.number) + " at line " + std::to_string(error.line)));
   }
   return failures;
 }

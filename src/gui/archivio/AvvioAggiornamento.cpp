@@ -10,10 +10,10 @@
 #include <memory>
 #include <optional>
 
+#include "archive/Estrazione.h"
 #include "gui/archivio/AggiornamentoArchivio.h"
 #include "gui/comuni/LavoroSenzaEccezioni.h"
 #include "gui/principale/SegnalatoreGui.h"
-#include "archive/Estrazione.h"
 
 namespace lottolab::gui {
 
@@ -94,9 +94,8 @@ void AvviaAggiornamentoArchivio(ContestoGui& contesto, QWidget* finestra) {
   progresso->show();
 
   auto esito = std::make_shared<std::optional<Esito<int>>>();
-  QThread* thread = QThread::create([esito, esegui = lavoro->esegui] {
-    *esito = SenzaEccezioni<int>("AggiornamentoArchivio.Avvia", esegui);
-  });
+  QThread* thread = QThread::create(
+      [esito, esegui = lavoro->esegui] { *esito = SenzaEccezioni<int>("AggiornamentoArchivio.Avvia", esegui); });
   QObject::connect(thread, &QThread::finished, progresso, [&contesto, finestra, progresso, thread, esito] {
     thread->deleteLater();
     progresso->deleteLater();

@@ -10,8 +10,8 @@
 #include <QVBoxLayout>
 
 #include "gui/archivio/AvvioAggiornamento.h"
-#include "gui/principale/Finestre.h"
 #include "gui/archivio/ModelloEstrazioni.h"
+#include "gui/principale/Finestre.h"
 
 namespace lottolab::gui {
 

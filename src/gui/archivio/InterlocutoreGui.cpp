@@ -4,9 +4,9 @@
 
 #include <QMessageBox>
 
-#include "gui/principale/SegnalatoreGui.h"
 #include "archive/DateEstrazione.h"
 #include "archive/RiparaArchivio.h"
+#include "gui/principale/SegnalatoreGui.h"
 
 namespace lottolab::gui {
 

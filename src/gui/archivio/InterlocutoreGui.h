@@ -9,8 +9,8 @@
 #include <QWidget>
 #include <string>
 
-#include "gui/principale/ContestoGui.h"
 #include "app/Segnalatore.h"
+#include "gui/principale/ContestoGui.h"
 
 namespace lottolab::gui {
 

@@ -52,8 +52,7 @@ QVariant ModelloEstrazioni::data(const QModelIndex& index, int role) const {
       // Numbers in a fixed-width font line up from row to row, so a column reads as a column.
       if (colonna >= kPrimaColonnaRuota) return QFontDatabase::systemFont(QFontDatabase::FixedFont);
       return {};
-    default:
-      return {};
+    default: return {};
   }
 }
 

@@ -13,9 +13,9 @@
 
 #include <fmt/format.h>
 
-#include "gui/principale/Impostazioni.h"
 #include "app/Percorsi.h"
 #include "archive/ClsEstrazioni.h"
+#include "gui/principale/Impostazioni.h"
 
 namespace lottolab::gui {
 

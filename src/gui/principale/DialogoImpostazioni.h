@@ -31,7 +31,9 @@ class DialogoImpostazioni : public QDialog {
 
   // Who shows the messages and asks the questions; message boxes unless replaced (tests answer
   // without a window).
-  void ImpostaInterlocutore(std::unique_ptr<Interlocutore> interlocutore) { m_interlocutore = std::move(interlocutore); }
+  void ImpostaInterlocutore(std::unique_ptr<Interlocutore> interlocutore) {
+    m_interlocutore = std::move(interlocutore);
+  }
 
  private:
   void ScegliArchivio();

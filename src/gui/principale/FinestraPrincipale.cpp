@@ -17,9 +17,9 @@
 #include "gui/principale/DialogoImpostazioni.h"
 #include "gui/principale/Finestre.h"
 #include "gui/principale/Impostazioni.h"
+#include "gui/principale/SegnalatoreGui.h"
 #include "gui/script/ScriptRecenti.h"
 #include "gui/strutture/StruttureModello.h"
-#include "gui/principale/SegnalatoreGui.h"
 
 namespace lottolab::gui {
 

@@ -31,7 +31,9 @@ class FinestraPrincipale : public QMainWindow {
   void ApriStruttura(const QString& file);
   // Who tells the user about a damaged archive and asks about its repair; message boxes unless
   // replaced (tests answer without a window).
-  void ImpostaInterlocutore(std::unique_ptr<Interlocutore> interlocutore) { m_interlocutore = std::move(interlocutore); }
+  void ImpostaInterlocutore(std::unique_ptr<Interlocutore> interlocutore) {
+    m_interlocutore = std::move(interlocutore);
+  }
 
  private:
   void CreaMenu();

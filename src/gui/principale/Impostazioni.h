@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "gui/principale/ContestoGui.h"
 #include "app/FileIni.h"
+#include "gui/principale/ContestoGui.h"
 
 namespace lottolab::gui {
 

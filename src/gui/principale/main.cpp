@@ -6,10 +6,10 @@
 #include <QTimer>
 #include <QTranslator>
 
-#include "gui/principale/ContestoGui.h"
-#include "gui/principale/FinestraPrincipale.h"
 #include "app/ErroreInatteso.h"
 #include "app/Percorsi.h"
+#include "gui/principale/ContestoGui.h"
+#include "gui/principale/FinestraPrincipale.h"
 
 namespace {
 
@@ -17,9 +17,7 @@ using lottolab::AvvisoEsclamativo;
 using lottolab::Esito;
 using lottolab::Fatto;
 
-QString TestoEccezione() {
-  return QString::fromStdString(lottolab::app::DescriviEccezioneCorrente());
-}
+QString TestoEccezione() { return QString::fromStdString(lottolab::app::DescriviEccezioneCorrente()); }
 
 // An exception must never cross Qt's event loop: the one that escapes an event handler is shown
 // and the program goes on, as after any refused action. Its message waits for the handler to

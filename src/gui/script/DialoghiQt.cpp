@@ -105,7 +105,7 @@ script::Modalita DialoghiQt::SceltaModalita(const QString& file) {
   box.setEscapeButton(protetta);
   box.exec();
   return box.clickedButton() == protetta || !box.clickedButton() ? script::Modalita::Protetta
-                                                                   : script::Modalita::Normale;
+                                                                 : script::Modalita::Normale;
 }
 
 int DialoghiQt::MessageBox(const QString& testo, int pulsanti, const QString& titolo) {
@@ -120,8 +120,8 @@ int DialoghiQt::MessageBox(const QString& testo, int pulsanti, const QString& ti
 
 std::optional<QString> DialoghiQt::InputBox(const QString& testo, const QString& titolo, const QString& proposto) {
   bool ok = false;
-  const QString risposta = QInputDialog::getText(m_finestra, titolo.isEmpty() ? kTitolo : titolo, testo,
-                                                 QLineEdit::Normal, proposto, &ok);
+  const QString risposta =
+      QInputDialog::getText(m_finestra, titolo.isEmpty() ? kTitolo : titolo, testo, QLineEdit::Normal, proposto, &ok);
   if (!ok) return std::nullopt;
   return risposta;
 }
@@ -183,9 +183,9 @@ std::optional<std::vector<double>> DialoghiQt::ScegliImporti(const std::string& 
 
 std::optional<std::string> DialoghiQt::ScegliPercorso(const std::string& titolo, const std::string& proposto,
                                                       bool cartella) {
-  const QString percorso = cartella
-                               ? QFileDialog::getExistingDirectory(m_finestra, Titolo(titolo), QString::fromStdString(proposto))
-                               : QFileDialog::getOpenFileName(m_finestra, Titolo(titolo), QString::fromStdString(proposto));
+  const QString percorso =
+      cartella ? QFileDialog::getExistingDirectory(m_finestra, Titolo(titolo), QString::fromStdString(proposto))
+               : QFileDialog::getOpenFileName(m_finestra, Titolo(titolo), QString::fromStdString(proposto));
   if (percorso.isEmpty()) return std::nullopt;
   return percorso.toStdString();
 }

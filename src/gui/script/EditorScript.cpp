@@ -109,8 +109,8 @@ QString EditorScript::ParolaPrima(long posizione) {
 void EditorScript::CarattereAggiunto(int carattere) {
   const long posizione = SendScintilla(SCI_GETCURRENTPOS);
   if (carattere == '(' || carattere == ' ') {
-    const QString suggerimento = QString::fromStdString(
-        ParoleEditor::Tutte().Suggerimento(ParolaPrima(posizione - 1).toStdString()));
+    const QString suggerimento =
+        QString::fromStdString(ParoleEditor::Tutte().Suggerimento(ParolaPrima(posizione - 1).toStdString()));
     if (!suggerimento.isEmpty()) SendScintilla(SCI_CALLTIPSHOW, posizione, suggerimento.toUtf8().constData());
     return;
   }
@@ -145,7 +145,9 @@ void EditorScript::VaiA(int riga, int colonna) {
   TogliErrore();
   // From the error to the end of its line, line end excluded.
   const QString testo = text(linea);
-  const int fine = static_cast<int>(testo.size() - (testo.endsWith(QStringLiteral("\r\n")) ? 2 : testo.endsWith('\n') ? 1 : 0));
+  const int fine = static_cast<int>(testo.size() - (testo.endsWith(QStringLiteral("\r\n")) ? 2
+                                                    : testo.endsWith('\n')                 ? 1
+                                                                                           : 0));
   fillIndicatorRange(linea, indice, linea, std::max(fine, indice + 1), kIndicatoreErrore);
   setCursorPosition(linea, indice);
   ensureLineVisible(linea);

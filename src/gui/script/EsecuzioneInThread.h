@@ -10,8 +10,8 @@
 
 #include <memory>
 
-#include "gui/script/OspiteGui.h"
 #include "archive/TabellaEstrazioni.h"
+#include "gui/script/OspiteGui.h"
 #include "script/EsecutoreScript.h"
 
 namespace lottolab::gui {
@@ -28,7 +28,8 @@ class EsecuzioneInThread : public QObject {
 
   // Starts the script over `archivio`, which the run keeps alive: an empty table counts as no
   // archive. While a run is going the new one is refused, and the user told so.
-  bool Avvia(const QString& testo, script::OpzioniEsecuzione opzioni, std::shared_ptr<const TabellaEstrazioni> archivio);
+  bool Avvia(const QString& testo, script::OpzioniEsecuzione opzioni,
+             std::shared_ptr<const TabellaEstrazioni> archivio);
   bool InEsecuzione() const { return m_thread != nullptr; }
   // The cooperative stop the script sees through ScriptInterrotto.
   void Stop();

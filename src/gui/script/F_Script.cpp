@@ -7,10 +7,10 @@
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QTabWidget>
 #include <QTextBrowser>
-#include <QPlainTextEdit>
 #include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -21,11 +21,11 @@
 #include <cmath>
 #include <filesystem>
 
+#include "gui/principale/Impostazioni.h"
+#include "gui/script/DialoghiQt.h"
 #include "gui/script/EditorScript.h"
 #include "gui/script/EsecuzioneInThread.h"
-#include "gui/principale/Impostazioni.h"
 #include "gui/script/ScriptConfigurazione.h"
-#include "gui/script/DialoghiQt.h"
 #include "gui/script/ScriptModalita.h"
 #include "script/LetturaFile.h"
 #include "script/OutputHtml.h"
@@ -124,12 +124,11 @@ void F_Script::CreaComandi(QVBoxLayout* layout) {
   comandi->addWidget(m_timeout);
   m_protetto = comandi->addAction(QStringLiteral("Protetto"));
   m_protetto->setCheckable(true);
-  m_protetto->setToolTip(QStringLiteral(
-      "Modalità protetta: lo script legge solo nella cartella di lottolab, scrive solo in scriptOutput, "
-      "non tocca lottolab.ini né gli archivi e non apre altri programmi"));
-  connect(m_protetto, &QAction::triggered, this, [this](bool attivo) {
-    ImpostaModalita(attivo ? script::Modalita::Protetta : script::Modalita::Normale);
-  });
+  m_protetto->setToolTip(
+      QStringLiteral("Modalità protetta: lo script legge solo nella cartella di lottolab, scrive solo in scriptOutput, "
+                     "non tocca lottolab.ini né gli archivi e non apre altri programmi"));
+  connect(m_protetto, &QAction::triggered, this,
+          [this](bool attivo) { ImpostaModalita(attivo ? script::Modalita::Protetta : script::Modalita::Normale); });
   comandi->addSeparator();
   comando(QStringLiteral("Esegui"), QKeySequence(Qt::Key_F5), &F_Script::Esegui);
   m_stop = comandi->addAction(QStringLiteral("Stop"), this, &F_Script::Ferma);
@@ -185,7 +184,8 @@ void F_Script::Nuovo() {
 
 void F_Script::Apri() {
   if (!ProseguoSenzaSalvare()) return;
-  const QString file = m_dialoghi->FileDaAprire(QString::fromStdString(CartellaScript(m_contesto.Configurazione()).string()));
+  const QString file =
+      m_dialoghi->FileDaAprire(QString::fromStdString(CartellaScript(m_contesto.Configurazione()).string()));
   if (!file.isEmpty()) CaricaFile(file);
 }
 
@@ -257,7 +257,8 @@ void F_Script::Esegui() {
 void F_Script::AggiungiOutput(const std::vector<script::TrattoTesto>& tratti) {
   QTextCursor cursore(m_output->document());
   cursore.movePosition(QTextCursor::End);
-  for (const script::TrattoTesto& tratto : tratti) cursore.insertText(QString::fromStdString(tratto.testo), FormatoDi(tratto));
+  for (const script::TrattoTesto& tratto : tratti)
+    cursore.insertText(QString::fromStdString(tratto.testo), FormatoDi(tratto));
 }
 
 void F_Script::Terminata() {

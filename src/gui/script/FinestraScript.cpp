@@ -1,5 +1,5 @@
-#include "gui/script/F_Script.h"
 #include "gui/principale/Finestre.h"
+#include "gui/script/F_Script.h"
 
 namespace lottolab::gui {
 

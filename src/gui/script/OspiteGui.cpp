@@ -36,7 +36,11 @@ Risposta OspiteGui::SulThreadDellaFinestra(Chiedi chiedi, const Risposta& annull
   // A dropped request leaves the answer as it was: cancelled.
   Risposta risposta = annullato;
   QMetaObject::invokeMethod(
-      this, [&] { if (!m_congedato) risposta = chiedi(); }, Qt::BlockingQueuedConnection);
+      this,
+      [&] {
+        if (!m_congedato) risposta = chiedi();
+      },
+      Qt::BlockingQueuedConnection);
   return risposta;
 }
 
@@ -150,10 +154,12 @@ void OspiteGui::Mostra(const Avviso& avviso) {
     Scrivi(script::TrattoTesto{fmt::format("{}: {}\n", avviso.titolo, avviso.testo), script::kRosso, false});
     return;
   }
-  SulThreadDellaFinestra([&] {
-    m_dialoghi.Avvisa(avviso);
-    return true;
-  }, false);
+  SulThreadDellaFinestra(
+      [&] {
+        m_dialoghi.Avvisa(avviso);
+        return true;
+      },
+      false);
 }
 
 std::optional<std::vector<int>> OspiteGui::ScegliVoci(const std::string& titolo, const std::vector<std::string>& voci,

@@ -99,8 +99,8 @@ class OspiteGui final : public QObject, public script::InterfacciaScript, public
   int64_t m_righe = 0;                        // of this run, handed over or waiting
   int64_t m_caratteri = 0;
   bool m_troncato = false;
-  QElapsedTimer m_ultima_consegna;             // on the window's thread
-  std::set<std::string> m_mostrati;            // the messages of this run shown in a dialog; worker's thread
+  QElapsedTimer m_ultima_consegna;   // on the window's thread
+  std::set<std::string> m_mostrati;  // the messages of this run shown in a dialog; worker's thread
   std::atomic<double> m_percentuale{0};
   std::atomic<bool> m_avanzamento_in_attesa{false};
 };

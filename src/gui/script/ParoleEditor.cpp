@@ -13,13 +13,12 @@ namespace {
 // The lexer keeps its table of reserved words to itself; the editor's test checks that the lexer
 // takes every word here as reserved.
 constexpr std::string_view kParoleChiave[] = {
-    "And",    "ByRef",   "ByVal",    "Call",     "Case",    "Class",   "Const",    "Default",  "Dim",
-    "Do",     "Each",    "Else",     "ElseIf",   "Empty",   "End",     "Eqv",      "Erase",    "Error",
-    "Exit",   "Explicit", "False",   "For",      "Function", "Get",    "GoTo",     "If",       "Imp",
-    "In",     "Is",      "Let",      "Loop",     "Me",      "Mod",     "New",      "Next",     "Not",
-    "Nothing", "Null",   "On",       "Option",   "Or",      "Preserve", "Private", "Property", "Public",
-    "ReDim",  "Rem",     "Resume",   "Select",   "Set",     "Step",    "Stop",     "Sub",      "Then",
-    "To",     "True",    "Until",    "Wend",     "While",   "With",    "Xor",
+    "And",      "ByRef",  "ByVal", "Call",    "Case",   "Class", "Const",  "Default", "Dim",      "Do",      "Each",
+    "Else",     "ElseIf", "Empty", "End",     "Eqv",    "Erase", "Error",  "Exit",    "Explicit", "False",   "For",
+    "Function", "Get",    "GoTo",  "If",      "Imp",    "In",    "Is",     "Let",     "Loop",     "Me",      "Mod",
+    "New",      "Next",   "Not",   "Nothing", "Null",   "On",    "Option", "Or",      "Preserve", "Private", "Property",
+    "Public",   "ReDim",  "Rem",   "Resume",  "Select", "Set",   "Step",   "Stop",    "Sub",      "Then",    "To",
+    "True",     "Until",  "Wend",  "While",   "With",   "Xor",
 };
 
 bool MinoreSenzaMaiuscole(const std::string& a, const std::string& b) {
@@ -53,9 +52,9 @@ const ParoleEditor& ParoleEditor::Tutte() {
 
 ParoleEditor::ParoleEditor() {
   m_parole_chiave.assign(std::begin(kParoleChiave), std::end(kParoleChiave));
-  for (auto famiglia : {vbs::CoreBuiltins(), vbs::CodeBuiltins(), vbs::StringBuiltins(), vbs::MathBuiltins(),
-                        vbs::DateBuiltins(), vbs::FormatBuiltins(), vbs::ConversionBuiltins(),
-                        vbs::InteractionBuiltins()})
+  for (auto famiglia :
+       {vbs::CoreBuiltins(), vbs::CodeBuiltins(), vbs::StringBuiltins(), vbs::MathBuiltins(), vbs::DateBuiltins(),
+        vbs::FormatBuiltins(), vbs::ConversionBuiltins(), vbs::InteractionBuiltins()})
     for (const vbs::Builtin& builtin : famiglia) m_funzioni_vbscript.push_back(DaBuiltin(builtin));
   for (const auto& funzione : script::ClsFunctionsGeodoScript::Funzioni())
     if (!funzione.descrizione.starts_with("(host)")) m_funzioni_libreria.push_back(DaFunzione(funzione));

@@ -1,7 +1,7 @@
 #include "gui/script/ScriptConfigurazione.h"
 
-#include "gui/principale/Impostazioni.h"
 #include "app/Percorsi.h"
+#include "gui/principale/Impostazioni.h"
 
 namespace lottolab::gui {
 

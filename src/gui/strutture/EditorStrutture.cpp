@@ -1,5 +1,5 @@
-#include "gui/strutture/F_EditorStrutture.h"
 #include "gui/principale/Finestre.h"
+#include "gui/strutture/F_EditorStrutture.h"
 
 namespace lottolab::gui {
 

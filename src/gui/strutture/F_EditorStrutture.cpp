@@ -25,10 +25,10 @@
 
 #include <filesystem>
 
+#include "figures/FileStrutture.h"
 #include "gui/strutture/F_InsCondizione.h"
 #include "gui/strutture/F_StatStrutture.h"
 #include "gui/strutture/GrigliaScena.h"
-#include "figures/FileStrutture.h"
 
 namespace lottolab::gui {
 
@@ -124,9 +124,10 @@ F_EditorStrutture::F_EditorStrutture(ContestoGui& contesto, QWidget* parent)
   divisore->addWidget(pannelli);
   divisore->setStretchFactor(0, 1);
 
-  auto* aiuto = new QLabel("Clic su una cella: nuovo vertice. Clic su un vertice: lo seleziona; Ctrl+clic: "
-                           "ne aggiunge un altro alla selezione. Anello rosso: fulcro; arancio: vertice usato per "
-                           "la chiusura.");
+  auto* aiuto = new QLabel(
+      "Clic su una cella: nuovo vertice. Clic su un vertice: lo seleziona; Ctrl+clic: "
+      "ne aggiunge un altro alla selezione. Anello rosso: fulcro; arancio: vertice usato per "
+      "la chiusura.");
   aiuto->setStyleSheet("color: gray");
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(barra);
@@ -327,15 +328,17 @@ void F_EditorStrutture::Aggiorna() {
     const QSignalBlocker blocco_estrazione(m_estrazione);
     m_estrazione->setValue(m_modello.Griglia().ultima_estrazione);
   }
-  m_data->setText(
-      "  " + Testo(m_contesto.Archivio()->DataEstrazione(m_modello.Griglia().ultima_estrazione).ValoreOppure("")) + "  ");
+  m_data->setText("  " +
+                  Testo(m_contesto.Archivio()->DataEstrazione(m_modello.Griglia().ultima_estrazione).ValoreOppure("")) +
+                  "  ");
 
   const int scelta = m_condizioni->currentRow();
   m_condizioni->clear();
   for (const std::string& condizione : m_modello.Condizioni()) m_condizioni->addItem(Testo(condizione));
   m_condizioni->setCurrentRow(std::min(scelta, m_condizioni->count() - 1));
 
-  const QString nome = m_modello.File().empty() ? "nuova" : QString::fromStdU16String(m_modello.File().filename().u16string());
+  const QString nome =
+      m_modello.File().empty() ? "nuova" : QString::fromStdU16String(m_modello.File().filename().u16string());
   setWindowTitle(QString("Struttura: %1[*]").arg(nome));
   setWindowModified(m_modello.Modificata());
   AggiornaPannello();
@@ -352,8 +355,9 @@ void F_EditorStrutture::AggiornaPannello() {
   const figures::ClsVertice& mostrato = vertice ? *vertice : vuoto;
   const QString caption = Testo(mostrato.Caption);
   if (m_caption->text() != caption) m_caption->setText(caption);
-  for (auto [scelta, valore] : {std::pair{m_fulcro_orizz, mostrato.FulcroOrizz}, std::pair{m_fulcro_vert, mostrato.FulcroVert},
-                                std::pair{m_chiusura, mostrato.UsaPerChiusura}}) {
+  for (auto [scelta, valore] :
+       {std::pair{m_fulcro_orizz, mostrato.FulcroOrizz}, std::pair{m_fulcro_vert, mostrato.FulcroVert},
+        std::pair{m_chiusura, mostrato.UsaPerChiusura}}) {
     const QSignalBlocker blocco(scelta);
     scelta->setChecked(valore);
   }
@@ -414,7 +418,9 @@ void F_EditorStrutture::ModificaCondizione() {
 }
 
 void F_EditorStrutture::CercaNellArchivio() {
-  if (!m_ricerca) m_ricerca = new F_StatStrutture(m_contesto, [this] { return m_modello.Struttura(); }, this);
+  if (!m_ricerca)
+    m_ricerca = new F_StatStrutture(
+        m_contesto, [this] { return m_modello.Struttura(); }, this);
   m_ricerca->show();
   m_ricerca->raise();
   m_ricerca->activateWindow();

@@ -83,9 +83,9 @@ void F_InsCondizione::AggiornaScelte() {
 
 void F_InsCondizione::AggiungiForma() {
   const FormaCondizione& forma = FormeCondizione()[static_cast<size_t>(m_forma->currentIndex())];
-  const std::string parte = ComponiCondizione(forma, m_vertice_a->currentText().toStdString(),
-                                              m_vertice_b->currentText().toStdString(), m_numero->value(),
-                                              m_negata->isChecked());
+  const std::string parte =
+      ComponiCondizione(forma, m_vertice_a->currentText().toStdString(), m_vertice_b->currentText().toStdString(),
+                        m_numero->value(), m_negata->isChecked());
   m_testo->setText(QString::fromStdString(
       AccodaCondizione(m_testo->text().toStdString(), m_connettivo->currentText().toStdString(), parte)));
 }
@@ -95,8 +95,9 @@ void F_InsCondizione::accept() {
   m_testo->setText(Testo());
   const std::string testo = Testo().toStdString();
   if (auto errore = VerificaCondizione(testo, m_vertici)) {
-    QMessageBox::warning(this, "Condizione",
-                         QString("%1 (colonna %2)").arg(QString::fromStdString(errore->messaggio)).arg(errore->colonna));
+    QMessageBox::warning(
+        this, "Condizione",
+        QString("%1 (colonna %2)").arg(QString::fromStdString(errore->messaggio)).arg(errore->colonna));
     m_testo->setFocus();
     m_testo->setCursorPosition(static_cast<int>(errore->colonna) - 1);
     return;

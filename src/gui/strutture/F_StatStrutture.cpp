@@ -1,5 +1,6 @@
 #include "gui/strutture/F_StatStrutture.h"
 
+#include <QAbstractTableModel>
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QGridLayout>
@@ -11,7 +12,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QAbstractTableModel>
 #include <QTableView>
 #include <QThread>
 #include <QVBoxLayout>
@@ -65,7 +65,8 @@ class F_StatStrutture::ModelloFigure : public QAbstractTableModel {
   QVariant data(const QModelIndex& indice, int ruolo) const override {
     if (!indice.isValid() || !m_tab) return {};
     if (ruolo == Qt::TextAlignmentRole)
-      return QVariant::fromValue(indice.column() == 0 ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
+      return QVariant::fromValue(indice.column() == 0 ? Qt::AlignRight | Qt::AlignVCenter
+                                                      : Qt::AlignLeft | Qt::AlignVCenter);
     if (ruolo != Qt::DisplayRole) return {};
     const auto k = static_cast<size_t>(indice.row());
     if (indice.column() == 4)
@@ -118,7 +119,8 @@ F_StatStrutture::F_StatStrutture(ContestoGui& contesto, std::function<figures::S
 
   auto* ruote = new QGridLayout;
   for (int ruota = 1; ruota <= kNumeroRuote; ++ruota) {
-    auto* scelta = new QCheckBox(QString::fromUtf8(NomeRuota(ruota).data(), static_cast<qsizetype>(NomeRuota(ruota).size())));
+    auto* scelta =
+        new QCheckBox(QString::fromUtf8(NomeRuota(ruota).data(), static_cast<qsizetype>(NomeRuota(ruota).size())));
     scelta->setChecked(true);
     m_ruote[static_cast<size_t>(ruota - 1)] = scelta;
     ruote->addWidget(scelta, (ruota - 1) / 4, (ruota - 1) % 4);

@@ -60,15 +60,17 @@ void GrigliaScena::Mostra(const TabellaEstrazioni& tab, const StruttureModello& 
     const figures::ClsVertice* inizio = modello.Vertice(linea.Inizio);
     const figures::ClsVertice* fine = modello.Vertice(linea.Fine);
     if (!inizio || !fine) continue;
-    auto* tratto = addLine(QLineF(Cella(inizio->Riga, inizio->Colonna).center(), Cella(fine->Riga, fine->Colonna).center()),
-                           QPen(kColoreLinea, 2.5, Qt::SolidLine, Qt::RoundCap));
+    auto* tratto =
+        addLine(QLineF(Cella(inizio->Riga, inizio->Colonna).center(), Cella(fine->Riga, fine->Colonna).center()),
+                QPen(kColoreLinea, 2.5, Qt::SolidLine, Qt::RoundCap));
     tratto->setZValue(1);
   }
   m_ordine.clear();
   for (const figures::ClsVertice& vertice : modello.Vertici()) {
     int numero = 0;
     if (m_griglia.ContieneRiga(vertice.Riga) && vertice.Colonna >= 1 && vertice.Colonna <= figures::kColonneTabella)
-      numero = m_righe[static_cast<size_t>(vertice.Riga - m_griglia.prima_riga)].numeri[static_cast<size_t>(vertice.Colonna - 1)];
+      numero = m_righe[static_cast<size_t>(vertice.Riga - m_griglia.prima_riga)]
+                   .numeri[static_cast<size_t>(vertice.Colonna - 1)];
     auto* disegnato = new QvVertice(vertice, numero, Cella(vertice.Riga, vertice.Colonna));
     addItem(disegnato);
     disegnato->setSelected(std::find(selezionati.begin(), selezionati.end(), vertice.Index) != selezionati.end());
@@ -107,7 +109,8 @@ void GrigliaScena::drawBackground(QPainter* painter, const QRectF&) {
 
   for (int ruota = 1; ruota <= kNumeroRuote; ++ruota) {
     const QRectF prima = Cella(m_griglia.prima_riga, figures::ColonnaDi(ruota, 1));
-    const QRectF colonne(prima.left(), kAltezzaIntestazione, kNumeriPerRuota * kLarghezzaCella, m_griglia.righe * kAltezzaCella);
+    const QRectF colonne(prima.left(), kAltezzaIntestazione, kNumeriPerRuota * kLarghezzaCella,
+                         m_griglia.righe * kAltezzaCella);
     painter->fillRect(colonne, kSfondoRuota[ruota % 2]);
     const QRectF intestazione(prima.left(), 0, colonne.width(), kAltezzaIntestazione);
     painter->fillRect(intestazione.adjusted(1, 1, -1, -1), kSfondoIntestazione);
@@ -128,7 +131,8 @@ void GrigliaScena::drawBackground(QPainter* painter, const QRectF&) {
     painter->setPen(Qt::black);
     for (int colonna = 1; colonna <= figures::kColonneTabella; ++colonna) {
       const int numero = mostrata.numeri[static_cast<size_t>(colonna - 1)];
-      if (numero != 0) painter->drawText(Cella(riga, colonna), Qt::AlignCenter, QString("%1").arg(numero, 2, 10, QChar('0')));
+      if (numero != 0)
+        painter->drawText(Cella(riga, colonna), Qt::AlignCenter, QString("%1").arg(numero, 2, 10, QChar('0')));
     }
   }
 
@@ -141,7 +145,8 @@ void GrigliaScena::drawBackground(QPainter* painter, const QRectF&) {
   }
   for (int colonna = 0; colonna <= figures::kColonneTabella; ++colonna) {
     const qreal x = kLarghezzaEtichetta + colonna * kLarghezzaCella;
-    painter->setPen(QPen(colonna % kNumeriPerRuota == 0 ? kSfondoIntestazione : kColoreGriglia, colonna % kNumeriPerRuota == 0 ? 1.5 : 0));
+    painter->setPen(QPen(colonna % kNumeriPerRuota == 0 ? kSfondoIntestazione : kColoreGriglia,
+                         colonna % kNumeriPerRuota == 0 ? 1.5 : 0));
     painter->drawLine(QPointF(x, kAltezzaIntestazione), QPointF(x, basso));
   }
 }

@@ -12,9 +12,9 @@
 #include <utility>
 #include <vector>
 
-#include "gui/strutture/StruttureModello.h"
 #include "archive/TabellaEstrazioni.h"
 #include "figures/Piazzamento.h"
+#include "gui/strutture/StruttureModello.h"
 
 namespace lottolab::gui {
 

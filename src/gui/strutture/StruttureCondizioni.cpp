@@ -50,8 +50,8 @@ std::string RiferimentoVertice(const figures::ClsVertice& vertice, std::span<con
   const auto primo = std::find_if(vertici.begin(), vertici.end(), [&](const figures::ClsVertice& altro) {
     return altro.Index != 0 && text::EqualsIgnoringAsciiCase(Ripulito(altro.Caption), caption);
   });
-  const bool per_caption = !caption.empty() && caption.find(']') == std::string_view::npos &&
-                           primo != vertici.end() && primo->Index == vertice.Index;
+  const bool per_caption = !caption.empty() && caption.find(']') == std::string_view::npos && primo != vertici.end() &&
+                           primo->Index == vertice.Index;
   return "[" + (per_caption ? std::string(caption) : std::to_string(vertice.Index)) + "]";
 }
 

@@ -53,7 +53,8 @@ Esito<Fatto> DestinazioneAmmessa(const std::filesystem::path& file, const app::C
 std::string CaptionAmmessa(std::string_view caption) {
   size_t caratteri = 0;
   for (size_t i = 0; i < caption.size(); ++i)
-    if (!ByteDiSeguito(caption[i]) && ++caratteri > figures::kCaratteriCaption) return std::string(caption.substr(0, i));
+    if (!ByteDiSeguito(caption[i]) && ++caratteri > figures::kCaratteriCaption)
+      return std::string(caption.substr(0, i));
   return std::string(caption);
 }
 

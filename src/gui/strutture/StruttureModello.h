@@ -11,10 +11,10 @@
 #include <string_view>
 #include <vector>
 
-#include "gui/strutture/GrigliaEstrazioni.h"
 #include "app/Configurazione.h"
 #include "archive/Esito.h"
 #include "figures/Struttura.h"
+#include "gui/strutture/GrigliaEstrazioni.h"
 
 namespace lottolab::gui {
 

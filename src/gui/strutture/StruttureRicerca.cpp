@@ -40,9 +40,9 @@ Esito<RisultatoRicerca> CercaStruttura(const TabellaEstrazioni& tab, const Richi
   if (!trovate) return trovate.Errore();
   RisultatoRicerca risultato{std::move(trovate).Valore(), std::nullopt, interrotta};
   if (!interrotta) {
-    const int fine = richiesta.fine == 0 ? tab.EstrazioniArchivio() : std::min(richiesta.fine, tab.EstrazioniArchivio());
-    risultato.statistica =
-        figures::CalcolaStatistica(tab, risultato.trovate, richiesta.colpi, richiesta.inizio, fine);
+    const int fine =
+        richiesta.fine == 0 ? tab.EstrazioniArchivio() : std::min(richiesta.fine, tab.EstrazioniArchivio());
+    risultato.statistica = figures::CalcolaStatistica(tab, risultato.trovate, richiesta.colpi, richiesta.inizio, fine);
   }
   return risultato;
 }

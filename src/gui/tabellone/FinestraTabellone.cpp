@@ -133,8 +133,8 @@ void FinestraTabellone::Ricalcola() {
 
 void FinestraTabellone::ApriGrafico(const QModelIndex& indice) {
   const int riga = m_ordinamento->mapToSource(indice).row();
-  auto* grafico = new GraficoRitardi(*m_contesto.Archivio(), m_modello->Ruota(riga), m_modello->Numero(riga),
-                                     m_modello->Fine());
+  auto* grafico =
+      new GraficoRitardi(*m_contesto.Archivio(), m_modello->Ruota(riga), m_modello->Numero(riga), m_modello->Fine());
   grafico->setAttribute(Qt::WA_DeleteOnClose);
   if (QMdiArea* area = AreaAntenata(this))
     area->addSubWindow(grafico)->show();

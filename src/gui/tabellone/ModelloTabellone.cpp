@@ -63,7 +63,7 @@ QVariant ModelloTabellone::data(const QModelIndex& indice, int ruolo) const {
     return colonna == kColonnaRuota ? QString::fromUtf8(NomeRuota(riga.ruota)) : Valore(riga, colonna);
   if (ruolo == Qt::TextAlignmentRole)
     return colonna == kColonnaRuota ? QVariant(Qt::AlignLeft | Qt::AlignVCenter)
-                                     : QVariant(Qt::AlignRight | Qt::AlignVCenter);
+                                    : QVariant(Qt::AlignRight | Qt::AlignVCenter);
   if (colonna == kColonnaRitardo) return DatoRitardo(riga, ruolo);
   return {};
 }

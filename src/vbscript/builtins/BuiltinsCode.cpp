@@ -44,7 +44,9 @@ Result<Variant> Run(Frame& frame, const Variant& code, Frame* scope, std::string
   return Variant();
 }
 
-Result<Variant> ExecuteFunction(Frame& frame, Args args) { return Run(frame, args[0], ProcedureFrame(frame), "Execute"); }
+Result<Variant> ExecuteFunction(Frame& frame, Args args) {
+  return Run(frame, args[0], ProcedureFrame(frame), "Execute");
+}
 
 Result<Variant> ExecuteGlobalFunction(Frame& frame, Args args) { return Run(frame, args[0], nullptr, "ExecuteGlobal"); }
 
@@ -55,7 +57,8 @@ class ProcedureRef final : public Object {
   std::u16string ClassName() const override { return u"Object"; }
   DispId FindMember(std::string_view) override { return kUnknownMember; }
   Result<Variant> Invoke(DispId member, InvokeKind kind, std::span<Variant> args) override {
-    if (member != kDefaultMember || kind == InvokeKind::Let || kind == InvokeKind::Set) return MakeError(err::kNoMember);
+    if (member != kDefaultMember || kind == InvokeKind::Let || kind == InvokeKind::Set)
+      return MakeError(err::kNoMember);
     return m_interp.Call(m_procedure, nullptr, args);
   }
 

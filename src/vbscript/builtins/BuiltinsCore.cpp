@@ -1,9 +1,9 @@
 #include <algorithm>
 
 #include "vbscript/builtins/Builtins.h"
-#include "vbscript/value/Coercion.h"
 #include "vbscript/runtime/ErrObject.h"
 #include "vbscript/runtime/Interpreter.h"
+#include "vbscript/value/Coercion.h"
 #include "vbscript/value/SafeArray.h"
 
 namespace vbs {
@@ -60,7 +60,9 @@ Result<Variant> IsNumericFunction(Frame& frame, Args args) {
   return Variant::Boolean(false);
 }
 
-Result<Variant> VarTypeFunction(Frame&, Args args) { return Variant::Integer(static_cast<int16_t>(args[0].Deref().VarType())); }
+Result<Variant> VarTypeFunction(Frame&, Args args) {
+  return Variant::Integer(static_cast<int16_t>(args[0].Deref().VarType()));
+}
 Result<Variant> TypeNameFunction(Frame&, Args args) { return Variant::String(args[0].Deref().TypeName()); }
 
 template <Subtype target>

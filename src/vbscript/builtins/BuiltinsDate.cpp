@@ -15,12 +15,12 @@
 #include <string>
 #include <utility>
 
+#include "text/Utf.h"
 #include "vbscript/builtins/BuiltinArgs.h"
 #include "vbscript/builtins/Builtins.h"
+#include "vbscript/runtime/RandomGenerator.h"
 #include "vbscript/value/Coercion.h"
 #include "vbscript/value/DateTime.h"
-#include "vbscript/runtime/RandomGenerator.h"
-#include "text/Utf.h"
 
 namespace vbs {
 
@@ -137,7 +137,7 @@ DateTimeParts LocalNow() {
   std::tm local{};
   localtime_r(&now, &local);
   return DateTimeParts{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,
-                       local.tm_hour, local.tm_min, local.tm_sec};
+                       local.tm_hour,        local.tm_min,     local.tm_sec};
 }
 
 double TodaySerial(const DateTimeParts& p) { return *SerialFromDate(p.year, p.month, p.day); }

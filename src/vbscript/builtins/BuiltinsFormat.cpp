@@ -36,7 +36,8 @@ Decimal FromDouble(double value, int significant) {
   if (value == 0) return d;
   char buffer[64];
   const auto end = std::to_chars(buffer, buffer + sizeof buffer, value < 0 ? -value : value,
-                                 std::chars_format::scientific, significant - 1).ptr;
+                                 std::chars_format::scientific, significant - 1)
+                       .ptr;
   const std::string text(buffer, end);  // "1.2345e+03"
   const size_t e = text.find('e');
   for (size_t i = 0; i < e; ++i)

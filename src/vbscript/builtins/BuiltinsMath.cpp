@@ -9,8 +9,8 @@
 
 #include "vbscript/builtins/BuiltinArgs.h"
 #include "vbscript/builtins/Builtins.h"
-#include "vbscript/value/Coercion.h"
 #include "vbscript/runtime/RandomGenerator.h"
+#include "vbscript/value/Coercion.h"
 
 namespace vbs {
 

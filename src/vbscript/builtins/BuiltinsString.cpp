@@ -111,9 +111,7 @@ Result<Variant> ListArg(const Variant& value) {
   return plain;
 }
 
-std::span<const Variant> Elements(const Variant& list) {
-  return list.as_array()->elements();
-}
+std::span<const Variant> Elements(const Variant& list) { return list.as_array()->elements(); }
 
 // ---- Length, pieces and characters ----
 

@@ -11,10 +11,10 @@
 #include <unordered_map>
 #include <vector>
 
-#include "vbscript/syntax/Ast.h"
 #include "vbscript/runtime/ExprNodes.h"
 #include "vbscript/runtime/Interpreter.h"
 #include "vbscript/runtime/StmtNodes.h"
+#include "vbscript/syntax/Ast.h"
 
 namespace vbs {
 
@@ -77,7 +77,8 @@ class Compiler {
   Result<ExprNodePtr> CompileBinary(ast::BinaryExpr& binary, Scope& scope);
   Result<ExprNodes> CompileArgs(std::vector<ast::ExprPtr>& args, Scope& scope);
   // A name, with arguments when it is called or indexed (args null: no parentheses at all).
-  Result<ExprNodePtr> CompileName(const std::string& name, SourcePos pos, std::vector<ast::ExprPtr>* args, Scope& scope);
+  Result<ExprNodePtr> CompileName(const std::string& name, SourcePos pos, std::vector<ast::ExprPtr>* args,
+                                  Scope& scope);
   Result<ExprNodePtr> CompileMember(ast::MemberExpr& member, std::vector<ast::ExprPtr>* args, Scope& scope);
   uint32_t NewSlot(Scope& scope);
 

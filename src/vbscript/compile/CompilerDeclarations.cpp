@@ -31,8 +31,7 @@ Result<Variant> Compiler::ConstantValue(const ast::Expr& expression, Scope& scop
       }
       break;
     }
-    case ast::ExprKind::Paren:
-      return ConstantValue(*static_cast<const ast::ParenExpr&>(expression).inner, scope);
+    case ast::ExprKind::Paren: return ConstantValue(*static_cast<const ast::ParenExpr&>(expression).inner, scope);
     case ast::ExprKind::Unary: {
       auto& unary = static_cast<const ast::UnaryExpr&>(expression);
       auto operand = ConstantValue(*unary.operand, scope);
@@ -49,8 +48,7 @@ Result<Variant> Compiler::ConstantValue(const ast::Expr& expression, Scope& scop
       if (global && global->kind == GlobalEntry::Kind::Constant) return *global->storage;
       break;
     }
-    default:
-      break;
+    default: break;
   }
   return CompileError(err::kExpectedLiteral, expression.pos);
 }
@@ -191,9 +189,10 @@ Status Compiler::CollectLocals(const ast::Block& block, Scope& scope) {
       case ast::StmtKind::While:
         VBS_TRY(CollectLocals(static_cast<const ast::WhileStmt&>(*statement).body, scope));
         break;
-      case ast::StmtKind::With: VBS_TRY(CollectLocals(static_cast<const ast::WithStmt&>(*statement).body, scope)); break;
-      default:
+      case ast::StmtKind::With:
+        VBS_TRY(CollectLocals(static_cast<const ast::WithStmt&>(*statement).body, scope));
         break;
+      default: break;
     }
   }
   return Ok();
@@ -292,10 +291,8 @@ Status Compiler::DeclareGlobal(ast::Stmt& statement, Scope& constants,
       bodies.emplace_back(procedure, &proc);
       break;
     }
-    case ast::StmtKind::Class:
-      return DeclareClass(static_cast<ast::ClassStmt&>(statement), option_explicit);
-    default:
-      break;
+    case ast::StmtKind::Class: return DeclareClass(static_cast<ast::ClassStmt&>(statement), option_explicit);
+    default: break;
   }
   return Ok();
 }

@@ -39,7 +39,8 @@ Variant LiteralValue(const ast::LiteralExpr& literal) {
     case ast::LiteralKind::Integer: return Variant::Integer(static_cast<int16_t>(literal.integer));
     // "&h10&" is an Integer all the same: a Long literal that fits 16 bits narrows, as on Windows.
     case ast::LiteralKind::Long:
-      if (literal.integer >= INT16_MIN && literal.integer <= INT16_MAX) return Variant::Integer(static_cast<int16_t>(literal.integer));
+      if (literal.integer >= INT16_MIN && literal.integer <= INT16_MAX)
+        return Variant::Integer(static_cast<int16_t>(literal.integer));
       return Variant::Long(literal.integer);
     case ast::LiteralKind::Double: return Variant::Double(literal.number);
     case ast::LiteralKind::String: return Variant::String(literal.text);
@@ -122,13 +123,14 @@ Result<ExprNodePtr> Compiler::CompileName(const std::string& name, SourcePos pos
         return ExprNodePtr(std::make_unique<ProcedureCallNode>(pos, global->procedure, std::move(compiled_args)));
       case GlobalEntry::Kind::NamedObject: {
         ExprNodePtr object = std::make_unique<NamedObjectNode>(pos, global->object);
-        return has_args ? ExprNodePtr(std::make_unique<ValueIndexNode>(pos, std::move(object), std::move(compiled_args)))
-                        : std::move(object);
+        return has_args
+                   ? ExprNodePtr(std::make_unique<ValueIndexNode>(pos, std::move(object), std::move(compiled_args)))
+                   : std::move(object);
       }
       case GlobalEntry::Kind::HostMember:
-        return ExprNodePtr(std::make_unique<HostMemberNode>(pos, global->object, global->member, std::move(compiled_args)));
-      case GlobalEntry::Kind::Class:
-        break;
+        return ExprNodePtr(
+            std::make_unique<HostMemberNode>(pos, global->object, global->member, std::move(compiled_args)));
+      case GlobalEntry::Kind::Class: break;
     }
   }
 
@@ -171,7 +173,8 @@ Result<ExprNodePtr> Compiler::CompileMember(ast::MemberExpr& member, std::vector
       const ClassMember& m = scope.class_info->members[id->second - 1];
       if (m.field >= 0) {
         ExprNodePtr field = std::make_unique<FieldNode>(member.pos, static_cast<uint32_t>(m.field));
-        return compiled_args.empty() ? std::move(field) : WithArgs(member.pos, std::move(field), std::move(compiled_args));
+        return compiled_args.empty() ? std::move(field)
+                                     : WithArgs(member.pos, std::move(field), std::move(compiled_args));
       }
       return ExprNodePtr(std::make_unique<MeMemberNode>(member.pos, id->second, std::move(compiled_args)));
     }
@@ -180,7 +183,8 @@ Result<ExprNodePtr> Compiler::CompileMember(ast::MemberExpr& member, std::vector
     VBS_TRY_ASSIGN(auto compiled, CompileExpr(*member.object, scope));
     object = std::move(compiled);
   }
-  return ExprNodePtr(std::make_unique<MemberNode>(member.pos, std::move(object), member.name, std::move(compiled_args)));
+  return ExprNodePtr(
+      std::make_unique<MemberNode>(member.pos, std::move(object), member.name, std::move(compiled_args)));
 }
 
 // Short chains get a node per operator, whose fast paths the arithmetic of loops needs. A long left
@@ -226,13 +230,13 @@ Result<ExprNodePtr> Compiler::CompileBinary(ast::BinaryExpr& binary, Scope& scop
 Result<ExprNodePtr> Compiler::CompileExpr(ast::Expr& expression, Scope& scope) {
   switch (expression.kind) {
     case ast::ExprKind::Literal:
-      return ExprNodePtr(std::make_unique<ConstantNode>(expression.pos, LiteralValue(static_cast<ast::LiteralExpr&>(expression))));
+      return ExprNodePtr(
+          std::make_unique<ConstantNode>(expression.pos, LiteralValue(static_cast<ast::LiteralExpr&>(expression))));
 
     case ast::ExprKind::Name:
       return CompileName(static_cast<ast::NameExpr&>(expression).name, expression.pos, nullptr, scope);
 
-    case ast::ExprKind::Member:
-      return CompileMember(static_cast<ast::MemberExpr&>(expression), nullptr, scope);
+    case ast::ExprKind::Member: return CompileMember(static_cast<ast::MemberExpr&>(expression), nullptr, scope);
 
     case ast::ExprKind::Call: {
       auto& call = static_cast<ast::CallExpr&>(expression);
@@ -254,8 +258,8 @@ Result<ExprNodePtr> Compiler::CompileExpr(ast::Expr& expression, Scope& scope) {
       return ExprNodePtr(std::make_unique<MeNode>(expression.pos));
 
     case ast::ExprKind::New:
-      return ExprNodePtr(std::make_unique<NewNode>(expression.pos,
-                                                   Interpreter::Fold(static_cast<ast::NewExpr&>(expression).class_name)));
+      return ExprNodePtr(std::make_unique<NewNode>(
+          expression.pos, Interpreter::Fold(static_cast<ast::NewExpr&>(expression).class_name)));
 
     case ast::ExprKind::Unary: {
       auto& unary = static_cast<ast::UnaryExpr&>(expression);
@@ -264,8 +268,7 @@ Result<ExprNodePtr> Compiler::CompileExpr(ast::Expr& expression, Scope& scope) {
       return ExprNodePtr(std::make_unique<UnaryNode>(expression.pos, unary.op, std::move(*operand)));
     }
 
-    case ast::ExprKind::Binary:
-      return CompileBinary(static_cast<ast::BinaryExpr&>(expression), scope);
+    case ast::ExprKind::Binary: return CompileBinary(static_cast<ast::BinaryExpr&>(expression), scope);
 
     case ast::ExprKind::Paren: {
       auto inner = CompileExpr(*static_cast<ast::ParenExpr&>(expression).inner, scope);

@@ -40,17 +40,19 @@ Result<StmtNodePtr> Compiler::CompileAssign(ast::AssignStmt& statement, Scope& s
     auto& binary = static_cast<ast::BinaryExpr&>(*statement.value);
     std::string folded = Interpreter::Fold(static_cast<ast::NameExpr&>(*statement.target).name);
     if (binary.op == ast::BinaryOp::Concat && IsName(binary.left.get(), folded)) {
-      VBS_TRY_ASSIGN(auto target, CompileName(static_cast<ast::NameExpr&>(*statement.target).name, statement.target->pos, nullptr, scope));
+      VBS_TRY_ASSIGN(auto target, CompileName(static_cast<ast::NameExpr&>(*statement.target).name,
+                                              statement.target->pos, nullptr, scope));
       if (auto* variable = dynamic_cast<VariableNode*>(target.get())) {
         VBS_TRY_ASSIGN(auto value, CompileExpr(*binary.right, scope));
         target.release();
-        return StmtNodePtr(std::make_unique<AppendNode>(statement.pos, std::unique_ptr<VariableNode>(variable),
-                                                        std::move(value)));
+        return StmtNodePtr(
+            std::make_unique<AppendNode>(statement.pos, std::unique_ptr<VariableNode>(variable), std::move(value)));
       }
     }
     // `n = n + 1` and its kin on a plain variable update it in place.
     if (auto op = UpdateOperator(binary.op); op && IsName(binary.left.get(), folded)) {
-      VBS_TRY_ASSIGN(auto target, CompileName(static_cast<ast::NameExpr&>(*statement.target).name, statement.target->pos, nullptr, scope));
+      VBS_TRY_ASSIGN(auto target, CompileName(static_cast<ast::NameExpr&>(*statement.target).name,
+                                              statement.target->pos, nullptr, scope));
       if (DirectOperand(target.get()).IsVariable()) {
         VBS_TRY_ASSIGN(auto value, CompileExpr(*binary.right, scope));
         return MakeUpdateNode(statement.pos, *op, std::move(target), std::move(value));
@@ -58,9 +60,11 @@ Result<StmtNodePtr> Compiler::CompileAssign(ast::AssignStmt& statement, Scope& s
     }
   }
   VBS_TRY_ASSIGN(auto target, CompileExpr(*statement.target, scope));
-  if (dynamic_cast<ConstantNode*>(target.get())) return StmtNodePtr(std::make_unique<FailNode>(statement.pos, err::kIllegalAssignment));
+  if (dynamic_cast<ConstantNode*>(target.get()))
+    return StmtNodePtr(std::make_unique<FailNode>(statement.pos, err::kIllegalAssignment));
   VBS_TRY_ASSIGN(auto value, CompileExpr(*statement.value, scope));
-  return StmtNodePtr(std::make_unique<AssignNode>(statement.pos, std::move(target), std::move(value), statement.is_set));
+  return StmtNodePtr(
+      std::make_unique<AssignNode>(statement.pos, std::move(target), std::move(value), statement.is_set));
 }
 
 Result<StmtNodePtr> Compiler::CompileFor(ast::ForStmt& statement, Scope& scope) {
@@ -93,61 +97,51 @@ Result<StmtNodePtr> Compiler::CompileGlobalArrays(ast::DimStmt& dim, Scope& scop
 
 Result<StmtNodePtr> Compiler::CompileStatement(ast::Stmt& statement, Scope& scope) {
   switch (statement.kind) {
-    case ast::StmtKind::Assign:
-      return CompileAssign(static_cast<ast::AssignStmt&>(statement), scope);
+    case ast::StmtKind::Assign: return CompileAssign(static_cast<ast::AssignStmt&>(statement), scope);
 
-    case ast::StmtKind::Call:
-      return CompileCall(static_cast<ast::CallStmt&>(statement), scope);
+    case ast::StmtKind::Call: return CompileCall(static_cast<ast::CallStmt&>(statement), scope);
 
-    case ast::StmtKind::Dim:
-      return CompileDim(static_cast<ast::DimStmt&>(statement), scope);
+    case ast::StmtKind::Dim: return CompileDim(static_cast<ast::DimStmt&>(statement), scope);
 
-    case ast::StmtKind::Const:
-      return CompileConst(static_cast<ast::ConstStmt&>(statement), scope);
+    case ast::StmtKind::Const: return CompileConst(static_cast<ast::ConstStmt&>(statement), scope);
 
-    case ast::StmtKind::ReDim:
-      return CompileReDim(static_cast<ast::ReDimStmt&>(statement), scope);
+    case ast::StmtKind::ReDim: return CompileReDim(static_cast<ast::ReDimStmt&>(statement), scope);
 
     case ast::StmtKind::Erase: {
       VBS_TRY_ASSIGN(auto targets, CompileArgs(static_cast<ast::EraseStmt&>(statement).targets, scope));
       return StmtNodePtr(std::make_unique<EraseNode>(statement.pos, std::move(targets)));
     }
 
-    case ast::StmtKind::If:
-      return CompileIf(static_cast<ast::IfStmt&>(statement), scope);
+    case ast::StmtKind::If: return CompileIf(static_cast<ast::IfStmt&>(statement), scope);
 
-    case ast::StmtKind::Select:
-      return CompileSelect(static_cast<ast::SelectStmt&>(statement), scope);
+    case ast::StmtKind::Select: return CompileSelect(static_cast<ast::SelectStmt&>(statement), scope);
 
-    case ast::StmtKind::For:
-      return CompileFor(static_cast<ast::ForStmt&>(statement), scope);
+    case ast::StmtKind::For: return CompileFor(static_cast<ast::ForStmt&>(statement), scope);
 
-    case ast::StmtKind::ForEach:
-      return CompileForEach(static_cast<ast::ForEachStmt&>(statement), scope);
+    case ast::StmtKind::ForEach: return CompileForEach(static_cast<ast::ForEachStmt&>(statement), scope);
 
-    case ast::StmtKind::Do:
-      return CompileDo(static_cast<ast::DoStmt&>(statement), scope);
+    case ast::StmtKind::Do: return CompileDo(static_cast<ast::DoStmt&>(statement), scope);
 
-    case ast::StmtKind::While:
-      return CompileWhile(static_cast<ast::WhileStmt&>(statement), scope);
+    case ast::StmtKind::While: return CompileWhile(static_cast<ast::WhileStmt&>(statement), scope);
 
     case ast::StmtKind::Exit: {
       auto& s = static_cast<ast::ExitStmt&>(statement);
-      Flow flow = s.what == ast::ExitKind::Do ? Flow::ExitDo : s.what == ast::ExitKind::For ? Flow::ExitFor : Flow::ExitProcedure;
+      Flow flow = s.what == ast::ExitKind::Do    ? Flow::ExitDo
+                  : s.what == ast::ExitKind::For ? Flow::ExitFor
+                                                 : Flow::ExitProcedure;
       return StmtNodePtr(std::make_unique<ExitNode>(statement.pos, flow));
     }
 
-    case ast::StmtKind::With:
-      return CompileWith(static_cast<ast::WithStmt&>(statement), scope);
+    case ast::StmtKind::With: return CompileWith(static_cast<ast::WithStmt&>(statement), scope);
 
     case ast::StmtKind::OnError:
-      return StmtNodePtr(std::make_unique<OnErrorNode>(statement.pos, static_cast<ast::OnErrorStmt&>(statement).resume_next));
+      return StmtNodePtr(
+          std::make_unique<OnErrorNode>(statement.pos, static_cast<ast::OnErrorStmt&>(statement).resume_next));
 
     case ast::StmtKind::OptionExplicit:
     case ast::StmtKind::Procedure:
     case ast::StmtKind::Class:
-    case ast::StmtKind::Stop:
-      return StmtNodePtr();
+    case ast::StmtKind::Stop: return StmtNodePtr();
   }
   return StmtNodePtr();
 }
@@ -158,7 +152,8 @@ Result<StmtNodePtr> Compiler::CompileCall(ast::CallStmt& call, Scope& scope) {
   Result<ExprNodePtr> expr = ExprNodePtr();
   bool has_args = call.call_keyword || !call.args.empty();
   if (call.callee->kind == ast::ExprKind::Name) {
-    expr = CompileName(static_cast<ast::NameExpr&>(*call.callee).name, call.callee->pos, has_args ? &call.args : nullptr, scope);
+    expr = CompileName(static_cast<ast::NameExpr&>(*call.callee).name, call.callee->pos,
+                       has_args ? &call.args : nullptr, scope);
   } else if (call.callee->kind == ast::ExprKind::Member) {
     expr = CompileMember(static_cast<ast::MemberExpr&>(*call.callee), has_args ? &call.args : nullptr, scope);
   } else {
@@ -234,14 +229,16 @@ Result<StmtNodePtr> Compiler::CompileSelect(ast::SelectStmt& statement, Scope& s
     cases.push_back(CaseBlock{std::move(values), std::move(body)});
   }
   VBS_TRY_ASSIGN(auto otherwise, CompileBlock(statement.else_body, scope));
-  return StmtNodePtr(std::make_unique<SelectNode>(statement.pos, std::move(subject), std::move(cases), std::move(otherwise)));
+  return StmtNodePtr(
+      std::make_unique<SelectNode>(statement.pos, std::move(subject), std::move(cases), std::move(otherwise)));
 }
 
 Result<StmtNodePtr> Compiler::CompileForEach(ast::ForEachStmt& statement, Scope& scope) {
   VBS_TRY_ASSIGN(auto element, CompileExpr(*statement.element, scope));
   VBS_TRY_ASSIGN(auto collection, CompileExpr(*statement.collection, scope));
   VBS_TRY_ASSIGN(auto body, CompileBlock(statement.body, scope));
-  return StmtNodePtr(std::make_unique<ForEachNode>(statement.pos, std::move(element), std::move(collection), std::move(body)));
+  return StmtNodePtr(
+      std::make_unique<ForEachNode>(statement.pos, std::move(element), std::move(collection), std::move(body)));
 }
 
 Result<StmtNodePtr> Compiler::CompileDo(ast::DoStmt& statement, Scope& scope) {
@@ -251,7 +248,8 @@ Result<StmtNodePtr> Compiler::CompileDo(ast::DoStmt& statement, Scope& scope) {
     condition = std::move(compiled);
   }
   VBS_TRY_ASSIGN(auto body, CompileBlock(statement.body, scope));
-  return StmtNodePtr(std::make_unique<LoopNode>(statement.pos, statement.condition_kind, std::move(condition), std::move(body), false));
+  return StmtNodePtr(std::make_unique<LoopNode>(statement.pos, statement.condition_kind, std::move(condition),
+                                                std::move(body), false));
 }
 
 Result<StmtNodePtr> Compiler::CompileWhile(ast::WhileStmt& statement, Scope& scope) {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "vbscript/runtime/Interpreter.h"
-#include "vbscript/objects/TextStream.h"
 #include "text/Utf.h"
 #include "text/Wildcard.h"
+#include "vbscript/objects/TextStream.h"
+#include "vbscript/runtime/Interpreter.h"
 
 namespace vbs {
 
@@ -146,8 +146,9 @@ fs::path NativePath(std::u16string_view script_path) {
       const std::u16string wanted = text::Utf8ToUtf16(part.string());
       lost = true;
       if (auto entries = ListFolder(resolved.empty() ? fs::path(".") : resolved)) {
-        auto found = std::find_if(entries->begin(), entries->end(),
-                                  [&](const FolderEntry& entry) { return text::EqualsIgnoringCase(NameOf(entry.path), wanted); });
+        auto found = std::find_if(entries->begin(), entries->end(), [&](const FolderEntry& entry) {
+          return text::EqualsIgnoringCase(NameOf(entry.path), wanted);
+        });
         if (found != entries->end()) {
           next = resolved / found->path.filename();
           lost = false;
@@ -171,7 +172,8 @@ fs::path FullPath(const fs::path& path) {
 
 ScriptError FileError(const std::error_code& error, int32_t missing) {
   const std::errc code = static_cast<std::errc>(error.value());
-  if (error.category() != std::generic_category() && error.category() != std::system_category()) return MakeError(err::kPathFileAccess);
+  if (error.category() != std::generic_category() && error.category() != std::system_category())
+    return MakeError(err::kPathFileAccess);
   switch (code) {
     case std::errc::no_such_file_or_directory: return MakeError(missing);
     case std::errc::not_a_directory: return MakeError(err::kPathNotFound);
@@ -296,14 +298,21 @@ FileSystemObject::FileSystemObject(const Locale& locale, FilePolicyRef policy)
 std::span<const FileSystemObject::Member> FileSystemObject::Members() {
   using F = FileSystemObject;
   static const Member kMembers[] = {
-      {"BuildPath", 2, 2, &F::BuildPath, nullptr, "Path, Name: the path with the name appended, with one separator between"},
-      {"CopyFile", 2, 3, &F::CopyFile, nullptr, "Source, Destination[, Overwrite = True]: copies files; wildcards allowed"},
-      {"CopyFolder", 2, 3, &F::CopyFolder, nullptr, "Source, Destination[, Overwrite = True]: copies folders with their content"},
-      {"CreateFolder", 1, 1, &F::CreateFolder, nullptr, "Path: creates the folder and returns it; error 58 when it exists"},
-      {"CreateTextFile", 1, 3, &F::CreateTextFile, nullptr, "FileName[, Overwrite = True, Unicode = False]: a TextStream to write"},
+      {"BuildPath", 2, 2, &F::BuildPath, nullptr,
+       "Path, Name: the path with the name appended, with one separator between"},
+      {"CopyFile", 2, 3, &F::CopyFile, nullptr,
+       "Source, Destination[, Overwrite = True]: copies files; wildcards allowed"},
+      {"CopyFolder", 2, 3, &F::CopyFolder, nullptr,
+       "Source, Destination[, Overwrite = True]: copies folders with their content"},
+      {"CreateFolder", 1, 1, &F::CreateFolder, nullptr,
+       "Path: creates the folder and returns it; error 58 when it exists"},
+      {"CreateTextFile", 1, 3, &F::CreateTextFile, nullptr,
+       "FileName[, Overwrite = True, Unicode = False]: a TextStream to write"},
       {"DeleteFile", 1, 2, &F::DeleteFile, nullptr, "FileSpec[, Force = False]: deletes files; wildcards allowed"},
-      {"DeleteFolder", 1, 2, &F::DeleteFolder, nullptr, "FolderSpec[, Force = False]: deletes folders with their content"},
-      {"DriveExists", 1, 1, &F::DriveExists, nullptr, "DriveSpec: whether the drive exists (every letter names the root)"},
+      {"DeleteFolder", 1, 2, &F::DeleteFolder, nullptr,
+       "FolderSpec[, Force = False]: deletes folders with their content"},
+      {"DriveExists", 1, 1, &F::DriveExists, nullptr,
+       "DriveSpec: whether the drive exists (every letter names the root)"},
       {"Drives", 0, 0, &F::Drives, nullptr, "the drives: the root alone"},
       {"FileExists", 1, 1, &F::FileExists, nullptr, "FileSpec: whether the file exists"},
       {"FolderExists", 1, 1, &F::FolderExists, nullptr, "FolderSpec: whether the folder exists"},
@@ -311,7 +320,8 @@ std::span<const FileSystemObject::Member> FileSystemObject::Members() {
       {"GetBaseName", 1, 1, &F::GetBaseName, nullptr, "Path: the last name without its extension"},
       {"GetDrive", 1, 1, &F::GetDrive, nullptr, "DriveSpec: the Drive"},
       {"GetDriveName", 1, 1, &F::GetDriveName, nullptr, "Path: the drive part (\"C:\"), or \"\""},
-      {"GetExtensionName", 1, 1, &F::GetExtensionName, nullptr, "Path: the extension of the last name, without the dot"},
+      {"GetExtensionName", 1, 1, &F::GetExtensionName, nullptr,
+       "Path: the extension of the last name, without the dot"},
       {"GetFile", 1, 1, &F::GetFile, nullptr, "FilePath: the File; error 53 when missing"},
       {"GetFileName", 1, 1, &F::GetFileName, nullptr, "Path: the last name of the path"},
       {"GetFolder", 1, 1, &F::GetFolder, nullptr, "FolderPath: the Folder; error 76 when missing"},
@@ -336,7 +346,8 @@ Result<Variant> FileSystemObject::BuildPath(CallArgs& args) {
     return Variant::String(path + std::u16string(rest));
   }
   if (!rest.empty() && IsSeparator(rest[0])) return Variant::String(path + name);
-  const char16_t separator = path.find(u'/') != std::u16string::npos && path.find(u'\\') == std::u16string::npos ? u'/' : u'\\';
+  const char16_t separator =
+      path.find(u'/') != std::u16string::npos && path.find(u'\\') == std::u16string::npos ? u'/' : u'\\';
   return Variant::String(path + separator + name);
 }
 
@@ -396,7 +407,8 @@ Result<Variant> FileSystemObject::CreateTextFile(CallArgs& args) {
   VBS_TRY_ASSIGN(auto unicode, args.Boolean(2, false));
   const fs::path path = NativePath(name);
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, path, "CreateTextFile"));
-  VBS_TRY_ASSIGN(auto stream, TextStream::Create(locale(), path, overwrite, unicode ? TextFormat::Unicode : TextFormat::Ansi));
+  VBS_TRY_ASSIGN(auto stream,
+                 TextStream::Create(locale(), path, overwrite, unicode ? TextFormat::Unicode : TextFormat::Ansi));
   return Variant::Object(stream);
 }
 
@@ -462,7 +474,8 @@ Result<Variant> FileSystemObject::GetDrive(CallArgs& args) {
 Result<Variant> FileSystemObject::GetDriveName(CallArgs& args) {
   VBS_TRY_ASSIGN(auto path, args.String(0));
   if (HasDrive(path)) return Variant::String(path.substr(0, 2));
-  if (RootLength(path) > 2) return Variant::String(TrimTrailingSeparators(std::u16string_view(path).substr(0, RootLength(path))));
+  if (RootLength(path) > 2)
+    return Variant::String(TrimTrailingSeparators(std::u16string_view(path).substr(0, RootLength(path))));
   return Variant::String(u"");
 }
 
@@ -501,7 +514,8 @@ Result<Variant> FileSystemObject::GetParentFolderName(CallArgs& args) {
 Result<Variant> FileSystemObject::GetSpecialFolder(CallArgs& args) {
   VBS_TRY_ASSIGN(auto which, args.Long(0));
   if (which < 0 || which > 2) return MakeError(err::kInvalidCall);
-  return Variant::Object(MakeRef<FolderObject>(locale(), which == 2 ? FullPath(TempFolder()) : fs::path("/"), m_policy));
+  return Variant::Object(
+      MakeRef<FolderObject>(locale(), which == 2 ? FullPath(TempFolder()) : fs::path("/"), m_policy));
 }
 
 Result<Variant> FileSystemObject::GetTempName(CallArgs&) {

@@ -50,7 +50,8 @@ ScriptError FileError(const std::error_code& error, int32_t missing);
 // target is error 58; a read-only file is deleted only with Force::Yes (else 70), as on Windows.
 enum class Overwrite { No, Yes };
 enum class Force { No, Yes };
-[[nodiscard]] Status CopyOneFile(const std::filesystem::path& from, const std::filesystem::path& to, Overwrite overwrite);
+[[nodiscard]] Status CopyOneFile(const std::filesystem::path& from, const std::filesystem::path& to,
+                                 Overwrite overwrite);
 // Copies a folder with everything inside, merging into `to` when it exists.
 [[nodiscard]] Status CopyTree(const std::filesystem::path& from, const std::filesystem::path& to, Overwrite overwrite);
 // Renames a file or folder; moves across file systems by copying. An existing `to` is error 58.

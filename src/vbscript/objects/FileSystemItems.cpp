@@ -5,12 +5,12 @@
 #include <algorithm>
 #include <ctime>
 
-#include "vbscript/value/DateTime.h"
-#include "vbscript/objects/FileSystem.h"
-#include "vbscript/runtime/Interpreter.h"
-#include "vbscript/objects/TextStream.h"
 #include "text/AsciiCase.h"
 #include "text/Utf.h"
+#include "vbscript/objects/FileSystem.h"
+#include "vbscript/objects/TextStream.h"
+#include "vbscript/runtime/Interpreter.h"
+#include "vbscript/value/DateTime.h"
 
 namespace vbs {
 
@@ -52,13 +52,15 @@ Variant SizeValue(uintmax_t size) {
 int32_t AttributesOf(const fs::path& path, bool folder) {
   std::error_code ec;
   int32_t attributes = folder ? kAttributeDirectory : kAttributeArchive;
-  if ((fs::status(path, ec).permissions() & fs::perms::owner_write) == fs::perms::none) attributes |= kAttributeReadOnly;
+  if ((fs::status(path, ec).permissions() & fs::perms::owner_write) == fs::perms::none)
+    attributes |= kAttributeReadOnly;
   if (path.filename().string().starts_with('.')) attributes |= kAttributeHidden;
   return attributes;
 }
 
 // Renames in place: the new name must be a name, not a path.
-Result<fs::path> Rename(const fs::path& path, const Variant& value, const Locale& locale, const FileAccessPolicy* policy) {
+Result<fs::path> Rename(const fs::path& path, const Variant& value, const Locale& locale,
+                        const FileAccessPolicy* policy) {
   VBS_TRY_ASSIGN(auto name, value.to_string(locale));
   const std::u16string_view text = name.view();
   if (text.empty() || text.find_first_of(u"\\/") != std::u16string_view::npos) return MakeError(err::kBadFileName);
@@ -250,9 +252,13 @@ Result<Variant> FolderObject::Attributes(CallArgs&) { return Variant::Long(Attri
 
 Result<Variant> FolderObject::DateCreated(CallArgs&) { return DateOf(m_path, Stamp::Created, err::kPathNotFound); }
 
-Result<Variant> FolderObject::DateLastAccessed(CallArgs&) { return DateOf(m_path, Stamp::Accessed, err::kPathNotFound); }
+Result<Variant> FolderObject::DateLastAccessed(CallArgs&) {
+  return DateOf(m_path, Stamp::Accessed, err::kPathNotFound);
+}
 
-Result<Variant> FolderObject::DateLastModified(CallArgs&) { return DateOf(m_path, Stamp::Modified, err::kPathNotFound); }
+Result<Variant> FolderObject::DateLastModified(CallArgs&) {
+  return DateOf(m_path, Stamp::Modified, err::kPathNotFound);
+}
 
 Result<Variant> FolderObject::Drive(CallArgs&) { return Variant::Object(MakeRef<DriveObject>(locale(), m_policy)); }
 
@@ -321,10 +327,12 @@ Result<Variant> FolderObject::CreateTextFile(CallArgs& args) {
   VBS_TRY_ASSIGN(auto name, args.String(0));
   VBS_TRY_ASSIGN(auto overwrite, args.Boolean(1, true));
   VBS_TRY_ASSIGN(auto unicode, args.Boolean(2, false));
-  const bool rooted = !name.empty() && ((name)[0] == u'\\' || (name)[0] == u'/' || (name.size() >= 2 && (name)[1] == u':'));
+  const bool rooted =
+      !name.empty() && ((name)[0] == u'\\' || (name)[0] == u'/' || (name.size() >= 2 && (name)[1] == u':'));
   const fs::path file = NativePath(rooted ? name : ScriptPath(m_path) + u"/" + name);
   VBS_TRY(CheckAccess(m_policy.get(), FileAccess::Write, file, "CreateTextFile"));
-  VBS_TRY_ASSIGN(auto stream, TextStream::Create(locale(), file, overwrite, unicode ? TextFormat::Unicode : TextFormat::Ansi));
+  VBS_TRY_ASSIGN(auto stream,
+                 TextStream::Create(locale(), file, overwrite, unicode ? TextFormat::Unicode : TextFormat::Ansi));
   return Variant::Object(stream);
 }
 
@@ -400,7 +408,8 @@ Result<Variant> FolderListing::Add(CallArgs& args) {
 
 // ---- Drive ----
 
-DriveObject::DriveObject(const Locale& locale, FilePolicyRef policy) : HostObject(locale), m_policy(std::move(policy)) {}
+DriveObject::DriveObject(const Locale& locale, FilePolicyRef policy)
+    : HostObject(locale), m_policy(std::move(policy)) {}
 
 std::span<const DriveObject::Member> DriveObject::Members() {
   using F = DriveObject;
@@ -460,7 +469,8 @@ std::span<const DriveList::Member> DriveList::Members() {
 }
 
 Result<Ref<Enumerator>> DriveList::Enumerate() {
-  return Ref<Enumerator>(MakeRef<SnapshotEnumerator>(std::vector<Variant>{Variant::Object(MakeRef<DriveObject>(locale(), m_policy))}));
+  return Ref<Enumerator>(
+      MakeRef<SnapshotEnumerator>(std::vector<Variant>{Variant::Object(MakeRef<DriveObject>(locale(), m_policy))}));
 }
 
 Result<Variant> DriveList::Count(CallArgs&) { return Variant::Long(1); }

@@ -1,7 +1,7 @@
 #include "vbscript/objects/Dictionary.h"
 #include "vbscript/objects/FileSystem.h"
-#include "vbscript/runtime/Interpreter.h"
 #include "vbscript/objects/regexp/RegExp.h"
+#include "vbscript/runtime/Interpreter.h"
 
 namespace vbs {
 

@@ -74,13 +74,15 @@ std::u16string Utf16LeToText(std::string_view bytes) {
   std::u16string text;
   text.reserve(bytes.size() / 2);
   for (size_t i = 0; i + 1 < bytes.size(); i += 2)
-    text += static_cast<char16_t>(static_cast<unsigned char>(bytes[i]) | (static_cast<unsigned char>(bytes[i + 1]) << 8));
+    text +=
+        static_cast<char16_t>(static_cast<unsigned char>(bytes[i]) | (static_cast<unsigned char>(bytes[i + 1]) << 8));
   return text;
 }
 
 std::u16string Decode(std::string_view bytes, TextFormat format) {
   const text::TextEncoding found = text::DetectEncoding(bytes);
-  const bool has_mark = found == text::TextEncoding::Utf8Bom || found == text::TextEncoding::Utf16LeBom || found == text::TextEncoding::Utf16BeBom;
+  const bool has_mark = found == text::TextEncoding::Utf8Bom || found == text::TextEncoding::Utf16LeBom ||
+                        found == text::TextEncoding::Utf16BeBom;
   if (format == TextFormat::Unicode && !has_mark) return Utf16LeToText(bytes);
   return text::DecodeScriptFile(bytes);
 }
@@ -92,7 +94,7 @@ bool HasNonAscii(std::string_view bytes) {
 }  // namespace
 
 Status CheckTextStreamAccess(const FileAccessPolicy* policy, const fs::path& path, IoMode mode, bool create,
-                            std::string_view function) {
+                             std::string_view function) {
   std::error_code ec;
   const bool creates = create && !fs::exists(path, ec);
   if (mode == IoMode::Reading && !creates) return CheckAccess(policy, FileAccess::Read, path, function);
@@ -158,7 +160,8 @@ Result<Ref<TextStream>> TextStream::Open(const Locale& locale, const fs::path& p
   return stream;
 }
 
-Result<Ref<TextStream>> TextStream::Create(const Locale& locale, const fs::path& path, bool overwrite, TextFormat format) {
+Result<Ref<TextStream>> TextStream::Create(const Locale& locale, const fs::path& path, bool overwrite,
+                                           TextFormat format) {
   std::error_code ec;
   const fs::file_status status = fs::status(path, ec);
   if (fs::is_directory(status)) return MakeError(err::kPermissionDenied);
@@ -167,7 +170,8 @@ Result<Ref<TextStream>> TextStream::Create(const Locale& locale, const fs::path&
   return OpenForWriting(locale, path, false, format);
 }
 
-Result<Ref<TextStream>> TextStream::OpenForWriting(const Locale& locale, const fs::path& path, bool append, TextFormat format) {
+Result<Ref<TextStream>> TextStream::OpenForWriting(const Locale& locale, const fs::path& path, bool append,
+                                                   TextFormat format) {
   Encoding encoding = format == TextFormat::Unicode ? Encoding::Utf16 : Encoding::Ansi;
   bool mark = format == TextFormat::Unicode;
   std::error_code ec;

@@ -64,7 +64,8 @@ DispId ClassInstance::FindMember(std::string_view name) {
 }
 
 Result<Variant> ClassInstance::Invoke(DispId member, InvokeKind kind, std::span<Variant> args) {
-  if (member != kDefaultMember && (member < 1 || !m_info.members[member - 1].is_public)) return MakeError(err::kNoMember);
+  if (member != kDefaultMember && (member < 1 || !m_info.members[member - 1].is_public))
+    return MakeError(err::kNoMember);
   return InvokeMember(member, kind, args);
 }
 

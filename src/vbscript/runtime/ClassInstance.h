@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "vbscript/runtime/Interpreter.h"
-#include "vbscript/value/Object.h"
 #include "vbscript/runtime/Procedure.h"
+#include "vbscript/value/Object.h"
 
 namespace vbs {
 

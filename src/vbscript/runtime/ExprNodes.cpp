@@ -1,10 +1,10 @@
 #include "vbscript/runtime/ExprNodes.h"
 
+#include "vbscript/runtime/ClassInstance.h"
+#include "vbscript/runtime/FastArithmetic.h"
 #include "vbscript/value/AllocationFailure.h"
 #include "vbscript/value/Coercion.h"
-#include "vbscript/runtime/FastArithmetic.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/runtime/ClassInstance.h"
 
 namespace vbs {
 
@@ -145,7 +145,9 @@ Result<Variant*> LateNameNode::Address(Frame& frame) {
   return static_cast<Variant*>(nullptr);
 }
 
-Status LateNameNode::Assign(Frame& frame, Variant value, bool is_set) { return AssignWith(frame, {}, std::move(value), is_set); }
+Status LateNameNode::Assign(Frame& frame, Variant value, bool is_set) {
+  return AssignWith(frame, {}, std::move(value), is_set);
+}
 
 Status LateNameNode::Invoke(Frame& frame) {
   // A name called as a statement that names nothing is a call of a missing procedure.
@@ -182,8 +184,7 @@ Result<Variant> LateNameNode::CallWith(Frame& frame, const ExprNodes& args, Invo
       VBS_TRY(EvalArgs(frame, args, values, true));
       return frame.interp.named_objects()[entry->object].object->Invoke(entry->member, kind, values.span());
     }
-    case GlobalEntry::Kind::Class:
-      break;
+    case GlobalEntry::Kind::Class: break;
   }
   return MakeError(err::kTypeMismatch);
 }
@@ -208,8 +209,7 @@ Status LateNameNode::AssignWith(Frame& frame, const ExprNodes& args, Variant val
           entry->member, is_set ? InvokeKind::Set : InvokeKind::Let, values.span()));
       return Ok();
     }
-    default:
-      return MakeError(err::kIllegalAssignment);
+    default: return MakeError(err::kIllegalAssignment);
   }
 }
 
@@ -247,10 +247,8 @@ Result<Variant> UnaryNode::Eval(Frame& frame) {
       if (operand->is_long() && operand->as_long() != INT32_MIN) return Variant::Long(-operand->as_long());
       if (operand->is_double()) return Variant::Double(-operand->as_double());
       return Negate(*operand, frame.interp.locale());
-    case ast::UnaryOp::Not:
-      return Not(*operand, frame.interp.locale());
-    case ast::UnaryOp::Plus:
-      return operand;
+    case ast::UnaryOp::Not: return Not(*operand, frame.interp.locale());
+    case ast::UnaryOp::Plus: return operand;
   }
   return operand;
 }

@@ -25,7 +25,9 @@ class ArgValues {
   ArgValues& operator=(const ArgValues&) = delete;
 
   ~ArgValues();
-  std::span<Variant> span() { return m_count <= kInline ? std::span<Variant>(m_inline, m_count) : std::span<Variant>(m_more); }
+  std::span<Variant> span() {
+    return m_count <= kInline ? std::span<Variant>(m_inline, m_count) : std::span<Variant>(m_more);
+  }
   void Add(Variant value) {
     if (m_count < kInline) {
       m_inline[m_count++] = std::move(value);
@@ -240,7 +242,10 @@ template <BinaryOperator Op>
 class ArithmeticNode final : public ExprNode {
  public:
   ArithmeticNode(SourcePos pos, ExprNodePtr left, ExprNodePtr right)
-      : ExprNode(pos), m_left(std::move(left)), m_right(std::move(right)), m_left_direct(m_left.get()),
+      : ExprNode(pos),
+        m_left(std::move(left)),
+        m_right(std::move(right)),
+        m_left_direct(m_left.get()),
         m_right_direct(m_right.get()) {}
   Result<Variant> Eval(Frame& frame) override;
 

@@ -1,12 +1,12 @@
 #include "vbscript/runtime/Interpreter.h"
 
-#include "vbscript/builtins/Builtins.h"
-#include "vbscript/runtime/ErrObject.h"
-#include "vbscript/value/SafeArray.h"
-#include "vbscript/runtime/ClassInstance.h"
-#include "vbscript/value/StackLimit.h"
 #include "text/AsciiCase.h"
 #include "text/Utf.h"
+#include "vbscript/builtins/Builtins.h"
+#include "vbscript/runtime/ClassInstance.h"
+#include "vbscript/runtime/ErrObject.h"
+#include "vbscript/value/SafeArray.h"
+#include "vbscript/value/StackLimit.h"
 
 namespace vbs {
 
@@ -33,7 +33,8 @@ Result<Ref<Object>> Interpreter::CreateObject(std::u16string_view name) {
   auto it = m_object_classes.find(Fold(name));
   if (it != m_object_classes.end()) return it->second(*this);
   ScriptError error = MakeError(err::kCannotCreate);
-  error.description = std::u16string(ErrorText(err::kCannotCreate, m_locale->language)) + u": '" + std::u16string(name) + u"'";
+  error.description =
+      std::u16string(ErrorText(err::kCannotCreate, m_locale->language)) + u": '" + std::u16string(name) + u"'";
   return error;
 }
 
@@ -69,8 +70,8 @@ const GlobalEntry* Interpreter::ResolveGlobal(std::string_view folded) {
 
 Variant* Interpreter::DeclareGlobal(const std::string& folded, GlobalEntry::Kind kind) {
   auto it = m_globals.find(folded);
-  if (it != m_globals.end() && (it->second.kind == GlobalEntry::Kind::Variable ||
-                                it->second.kind == GlobalEntry::Kind::Constant)) {
+  if (it != m_globals.end() &&
+      (it->second.kind == GlobalEntry::Kind::Variable || it->second.kind == GlobalEntry::Kind::Constant)) {
     it->second.kind = kind;
     return it->second.storage;
   }
@@ -123,16 +124,16 @@ Procedure& Interpreter::Keep(std::unique_ptr<Procedure> procedure) {
 
 void Interpreter::SetErr(const ScriptError& error) {
   m_err.number = error.number;
-  m_err.description = error.description.empty() ? std::u16string(ErrorText(error.number, m_locale->language))
-                                                : error.description;
+  m_err.description =
+      error.description.empty() ? std::u16string(ErrorText(error.number, m_locale->language)) : error.description;
   if (!error.source.empty()) {
     m_err.source = error.source;
   } else if (IsCompileError(error.number)) {
-    m_err.source = m_locale->language == Language::Italian ? u"Errore di compilazione di VBScript"
-                                                          : u"VBScript compilation error";
+    m_err.source =
+        m_locale->language == Language::Italian ? u"Errore di compilazione di VBScript" : u"VBScript compilation error";
   } else {
-    m_err.source = m_locale->language == Language::Italian ? u"Errore di run-time di VBScript"
-                                                          : u"VBScript runtime error";
+    m_err.source =
+        m_locale->language == Language::Italian ? u"Errore di run-time di VBScript" : u"VBScript runtime error";
   }
 }
 
@@ -141,10 +142,10 @@ bool Interpreter::DeadlinePassed() const { return std::chrono::steady_clock::now
 ScriptError Interpreter::InterruptError() const {
   ScriptError error = MakeError(err::kAborted);
   bool italian = m_locale->language == Language::Italian;
-  error.description = m_abort.load(std::memory_order_relaxed)
-                          ? (italian ? u"Esecuzione dello script interrotta" : u"Script execution stopped")
-                          : (italian ? u"Tempo massimo di esecuzione dello script superato"
-                                     : u"Script execution time-out expired");
+  error.description =
+      m_abort.load(std::memory_order_relaxed)
+          ? (italian ? u"Esecuzione dello script interrotta" : u"Script execution stopped")
+          : (italian ? u"Tempo massimo di esecuzione dello script superato" : u"Script execution time-out expired");
   return error;
 }
 
@@ -237,8 +238,8 @@ Result<Variant> Interpreter::RunFrame(const Procedure& procedure, ClassInstance*
   }
   Frame frame{*this, slots.slots, &procedure, me, nullptr, false};
   auto flow = procedure.body.Exec(frame);
-  Result<Variant> result = flow ? Result<Variant>(std::move(slots.slots[Procedure::kResultSlot]))
-                                : Result<Variant>(std::move(flow).error());
+  Result<Variant> result =
+      flow ? Result<Variant>(std::move(slots.slots[Procedure::kResultSlot])) : Result<Variant>(std::move(flow).error());
   CloseFrame(slots);
   return result;
 }

@@ -18,12 +18,12 @@
 #include <vector>
 
 #include "vbscript/FileAccessPolicy.h"
+#include "vbscript/runtime/Procedure.h"
+#include "vbscript/runtime/RandomGenerator.h"
 #include "vbscript/value/ErrorCodes.h"
 #include "vbscript/value/Locale.h"
 #include "vbscript/value/Object.h"
 #include "vbscript/value/Operators.h"
-#include "vbscript/runtime/Procedure.h"
-#include "vbscript/runtime/RandomGenerator.h"
 #include "vbscript/value/Source.h"
 
 namespace vbs {
@@ -71,11 +71,11 @@ struct CompiledProgram {
 struct GlobalEntry {
   enum class Kind : uint8_t { Variable, Constant, Procedure, Class, NamedObject, HostMember };
   Kind kind = Kind::Variable;
-  Variant* storage = nullptr;      // Variable, Constant
-  Procedure* procedure = nullptr;  // Procedure
-  ClassInfo* class_info = nullptr; // Class
-  uint32_t object = 0;             // NamedObject, HostMember: index into named objects
-  DispId member = kUnknownMember;  // HostMember
+  Variant* storage = nullptr;       // Variable, Constant
+  Procedure* procedure = nullptr;   // Procedure
+  ClassInfo* class_info = nullptr;  // Class
+  uint32_t object = 0;              // NamedObject, HostMember: index into named objects
+  DispId member = kUnknownMember;   // HostMember
 };
 
 struct NamedObject {

@@ -8,8 +8,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "vbscript/syntax/Ast.h"
 #include "vbscript/runtime/Nodes.h"
+#include "vbscript/syntax/Ast.h"
 
 namespace vbs {
 
@@ -44,7 +44,7 @@ struct Procedure {
 struct ClassMember {
   std::string name;
   bool is_public = true;
-  int32_t field = -1;  // index into the instance's fields, or -1
+  int32_t field = -1;           // index into the instance's fields, or -1
   Procedure* method = nullptr;  // Sub or Function
   Procedure* getter = nullptr;
   Procedure* letter = nullptr;

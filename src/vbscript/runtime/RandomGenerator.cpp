@@ -32,8 +32,7 @@ float SecondsSinceMidnight() {
   const std::time_t seconds = std::chrono::system_clock::to_time_t(now);
   std::tm local{};
   localtime_r(&seconds, &local);
-  const auto millis =
-      std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() % 1000;
+  const auto millis = std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() % 1000;
   return static_cast<float>(local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec) +
          static_cast<float>(millis) / 1000.0f;
 }

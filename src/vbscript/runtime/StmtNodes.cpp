@@ -1,7 +1,7 @@
 #include "vbscript/runtime/StmtNodes.h"
 
-#include "vbscript/value/Coercion.h"
 #include "vbscript/runtime/FastArithmetic.h"
+#include "vbscript/value/Coercion.h"
 #include "vbscript/value/SafeArray.h"
 
 namespace vbs {
@@ -154,7 +154,8 @@ Result<Flow> SelectNode::Exec(Frame& frame) {
         if (ResumeIntoBody(frame, value.error())) return block.body.Exec(frame);
         return std::move(value).error();
       }
-      VBS_TRY_ASSIGN(auto equal, Compare(BinaryOperator::Equal, subject, *value, frame.interp.compare_mode(), frame.interp.locale()));
+      VBS_TRY_ASSIGN(auto equal, Compare(BinaryOperator::Equal, subject, *value, frame.interp.compare_mode(),
+                                         frame.interp.locale()));
       if (equal.is_boolean() && equal.as_boolean()) return block.body.Exec(frame);
     }
   }

@@ -21,7 +21,10 @@ class ExprStmtNode final : public StmtNode {
 class AssignNode final : public StmtNode {
  public:
   AssignNode(SourcePos pos, ExprNodePtr target, ExprNodePtr value, bool is_set)
-      : StmtNode(pos), m_target(std::move(target)), m_value(std::move(value)), m_is_set(is_set),
+      : StmtNode(pos),
+        m_target(std::move(target)),
+        m_value(std::move(value)),
+        m_is_set(is_set),
         m_direct_target(m_target.get()) {}
   Result<Flow> Exec(Frame& frame) override;
 
@@ -51,7 +54,10 @@ template <BinaryOperator Op>
 class UpdateNode final : public StmtNode {
  public:
   UpdateNode(SourcePos pos, ExprNodePtr target, ExprNodePtr value)
-      : StmtNode(pos), m_target(std::move(target)), m_value(std::move(value)), m_direct_target(m_target.get()),
+      : StmtNode(pos),
+        m_target(std::move(target)),
+        m_value(std::move(value)),
+        m_direct_target(m_target.get()),
         m_direct_value(m_value.get()) {}
   Result<Flow> Exec(Frame& frame) override;
 
@@ -132,8 +138,13 @@ class ForNode final : public StmtNode {
  public:
   ForNode(SourcePos pos, ExprNodePtr counter, ExprNodePtr from, ExprNodePtr to, ExprNodePtr step, uint32_t temp,
           BlockNode body)
-      : StmtNode(pos), m_counter(std::move(counter)), m_from(std::move(from)), m_to(std::move(to)),
-        m_step(std::move(step)), m_temp(temp), m_body(std::move(body)),
+      : StmtNode(pos),
+        m_counter(std::move(counter)),
+        m_from(std::move(from)),
+        m_to(std::move(to)),
+        m_step(std::move(step)),
+        m_temp(temp),
+        m_body(std::move(body)),
         m_variable(dynamic_cast<VariableNode*>(m_counter.get())) {}
   Result<Flow> Exec(Frame& frame) override;
 
@@ -162,7 +173,10 @@ class ForEachNode final : public StmtNode {
 class LoopNode final : public StmtNode {
  public:
   LoopNode(SourcePos pos, ast::LoopCondition kind, ExprNodePtr condition, BlockNode body, bool is_while_wend)
-      : StmtNode(pos), m_kind(kind), m_condition(std::move(condition)), m_body(std::move(body)),
+      : StmtNode(pos),
+        m_kind(kind),
+        m_condition(std::move(condition)),
+        m_body(std::move(body)),
         m_while_wend(is_while_wend) {}
   Result<Flow> Exec(Frame& frame) override;
 

@@ -19,15 +19,15 @@ namespace vbs::ast {
 // ---- Expressions -------------------------------------------------------------------------------
 
 enum class ExprKind {
-  Literal,     // 12, "x", #1/2/2003#, True, Empty, Null, Nothing
-  Name,        // x
-  Member,      // obj.name, or .name inside With (object is null)
-  Call,        // f(a, b), arr(i), obj.m(a): what it is depends on what the callee turns out to be
-  Me,          // Me
-  New,         // New ClassName
-  Unary,       // -x, Not x
-  Binary,      // a + b, a And b, a Is b, ...
-  Paren,       // (x): kept because a parenthesised argument is passed by value
+  Literal,  // 12, "x", #1/2/2003#, True, Empty, Null, Nothing
+  Name,     // x
+  Member,   // obj.name, or .name inside With (object is null)
+  Call,     // f(a, b), arr(i), obj.m(a): what it is depends on what the callee turns out to be
+  Me,       // Me
+  New,      // New ClassName
+  Unary,    // -x, Not x
+  Binary,   // a + b, a And b, a Is b, ...
+  Paren,    // (x): kept because a parenthesised argument is passed by value
 };
 
 struct Expr {
@@ -84,9 +84,26 @@ struct UnaryExpr : Expr {
 };
 
 enum class BinaryOp {
-  Power, Multiply, Divide, IntDivide, Mod, Add, Subtract, Concat,
-  Equal, NotEqual, Less, Greater, LessEqual, GreaterEqual, Is,
-  And, Or, Xor, Eqv, Imp,
+  Power,
+  Multiply,
+  Divide,
+  IntDivide,
+  Mod,
+  Add,
+  Subtract,
+  Concat,
+  Equal,
+  NotEqual,
+  Less,
+  Greater,
+  LessEqual,
+  GreaterEqual,
+  Is,
+  And,
+  Or,
+  Xor,
+  Eqv,
+  Imp,
 };
 
 // Operators are left-associative, so a long chain (1 + 1 + 1 ...) is a tree as deep as it is long:
@@ -107,8 +124,25 @@ struct ParenExpr : Expr {
 // ---- Statements --------------------------------------------------------------------------------
 
 enum class StmtKind {
-  Assign, Call, Dim, ReDim, Const, Erase, If, Select, For, ForEach, Do, While, Exit, With,
-  OnError, OptionExplicit, Procedure, Class, Stop,
+  Assign,
+  Call,
+  Dim,
+  ReDim,
+  Const,
+  Erase,
+  If,
+  Select,
+  For,
+  ForEach,
+  Do,
+  While,
+  Exit,
+  With,
+  OnError,
+  OptionExplicit,
+  Procedure,
+  Class,
+  Stop,
 };
 
 struct Stmt {
@@ -141,8 +175,8 @@ enum class Visibility { Default, Public, Private };
 struct VarDecl {
   SourcePos pos;
   std::string name;
-  bool is_array = false;           // "Dim a()" (dynamic) or "Dim a(3, 4)"
-  std::vector<ExprPtr> bounds;     // upper bounds; empty for a dynamic array
+  bool is_array = false;        // "Dim a()" (dynamic) or "Dim a(3, 4)"
+  std::vector<ExprPtr> bounds;  // upper bounds; empty for a dynamic array
 };
 
 // Dim, Public and Private variable declarations (also the fields of a class).
@@ -154,7 +188,7 @@ struct DimStmt : Stmt {
 
 struct ReDimItem {
   SourcePos pos;
-  ExprPtr target;                // usually a Name; "ReDim obj.arr(3)" gives a Member
+  ExprPtr target;  // usually a Name; "ReDim obj.arr(3)" gives a Member
   std::vector<ExprPtr> bounds;
 };
 
@@ -214,7 +248,7 @@ struct ForStmt : Stmt {
   ExprPtr counter;  // a Name
   ExprPtr from;
   ExprPtr to;
-  ExprPtr step;     // null: 1
+  ExprPtr step;  // null: 1
   Block body;
 };
 
@@ -271,7 +305,7 @@ enum class ProcedureKind { Sub, Function, PropertyGet, PropertyLet, PropertySet 
 struct Param {
   SourcePos pos;
   std::string name;
-  bool by_val = false;  // ByRef is the default
+  bool by_val = false;    // ByRef is the default
   bool is_array = false;  // "a()"
 };
 

@@ -18,9 +18,9 @@ struct Part {
   int32_t digits = 0;  // of a number: tells a year (3+ digits) from a day or month
 };
 
-constexpr std::array<std::u16string_view, 12> kMonthNames = {
-    u"january", u"february", u"march",     u"april",   u"may",      u"june",
-    u"july",    u"august",   u"september", u"october", u"november", u"december"};
+constexpr std::array<std::u16string_view, 12> kMonthNames = {u"january",   u"february", u"march",    u"april",
+                                                             u"may",       u"june",     u"july",     u"august",
+                                                             u"september", u"october",  u"november", u"december"};
 
 bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
 bool IsLetter(char16_t c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); }

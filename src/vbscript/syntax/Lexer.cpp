@@ -23,26 +23,66 @@ struct Keyword {
 
 // Sorted by word, for a binary search.
 constexpr std::array<Keyword, 61> kKeywords = {{
-    {"and", TokenKind::And},         {"byref", TokenKind::ByRef},     {"byval", TokenKind::ByVal},
-    {"call", TokenKind::Call},       {"case", TokenKind::Case},       {"class", TokenKind::Class},
-    {"const", TokenKind::Const},     {"default", TokenKind::Default}, {"dim", TokenKind::Dim},
-    {"do", TokenKind::Do},           {"each", TokenKind::Each},       {"else", TokenKind::Else},
-    {"elseif", TokenKind::ElseIf},   {"empty", TokenKind::Empty},     {"end", TokenKind::End},
-    {"eqv", TokenKind::Eqv},         {"erase", TokenKind::Erase},     {"error", TokenKind::Error},
-    {"exit", TokenKind::Exit},       {"explicit", TokenKind::Explicit}, {"false", TokenKind::False},
-    {"for", TokenKind::For},         {"function", TokenKind::Function}, {"get", TokenKind::Get},
-    {"goto", TokenKind::GoTo},       {"if", TokenKind::If},           {"imp", TokenKind::Imp},
-    {"in", TokenKind::In},           {"is", TokenKind::Is},           {"let", TokenKind::Let},
-    {"loop", TokenKind::Loop},       {"me", TokenKind::Me},           {"mod", TokenKind::Mod},
-    {"new", TokenKind::New},         {"next", TokenKind::Next},       {"not", TokenKind::Not},
-    {"nothing", TokenKind::Nothing}, {"null", TokenKind::Null},       {"on", TokenKind::On},
-    {"option", TokenKind::Option},   {"or", TokenKind::Or},           {"preserve", TokenKind::Preserve},
-    {"private", TokenKind::Private}, {"property", TokenKind::Property}, {"public", TokenKind::Public},
-    {"redim", TokenKind::ReDim},     {"rem", TokenKind::Rem},         {"resume", TokenKind::Resume},
-    {"select", TokenKind::Select},   {"set", TokenKind::Set},         {"step", TokenKind::Step},
-    {"stop", TokenKind::Stop},       {"sub", TokenKind::Sub},         {"then", TokenKind::Then},
-    {"to", TokenKind::To},           {"true", TokenKind::True},       {"until", TokenKind::Until},
-    {"wend", TokenKind::Wend},       {"while", TokenKind::While},     {"with", TokenKind::With},
+    {"and", TokenKind::And},
+    {"byref", TokenKind::ByRef},
+    {"byval", TokenKind::ByVal},
+    {"call", TokenKind::Call},
+    {"case", TokenKind::Case},
+    {"class", TokenKind::Class},
+    {"const", TokenKind::Const},
+    {"default", TokenKind::Default},
+    {"dim", TokenKind::Dim},
+    {"do", TokenKind::Do},
+    {"each", TokenKind::Each},
+    {"else", TokenKind::Else},
+    {"elseif", TokenKind::ElseIf},
+    {"empty", TokenKind::Empty},
+    {"end", TokenKind::End},
+    {"eqv", TokenKind::Eqv},
+    {"erase", TokenKind::Erase},
+    {"error", TokenKind::Error},
+    {"exit", TokenKind::Exit},
+    {"explicit", TokenKind::Explicit},
+    {"false", TokenKind::False},
+    {"for", TokenKind::For},
+    {"function", TokenKind::Function},
+    {"get", TokenKind::Get},
+    {"goto", TokenKind::GoTo},
+    {"if", TokenKind::If},
+    {"imp", TokenKind::Imp},
+    {"in", TokenKind::In},
+    {"is", TokenKind::Is},
+    {"let", TokenKind::Let},
+    {"loop", TokenKind::Loop},
+    {"me", TokenKind::Me},
+    {"mod", TokenKind::Mod},
+    {"new", TokenKind::New},
+    {"next", TokenKind::Next},
+    {"not", TokenKind::Not},
+    {"nothing", TokenKind::Nothing},
+    {"null", TokenKind::Null},
+    {"on", TokenKind::On},
+    {"option", TokenKind::Option},
+    {"or", TokenKind::Or},
+    {"preserve", TokenKind::Preserve},
+    {"private", TokenKind::Private},
+    {"property", TokenKind::Property},
+    {"public", TokenKind::Public},
+    {"redim", TokenKind::ReDim},
+    {"rem", TokenKind::Rem},
+    {"resume", TokenKind::Resume},
+    {"select", TokenKind::Select},
+    {"set", TokenKind::Set},
+    {"step", TokenKind::Step},
+    {"stop", TokenKind::Stop},
+    {"sub", TokenKind::Sub},
+    {"then", TokenKind::Then},
+    {"to", TokenKind::To},
+    {"true", TokenKind::True},
+    {"until", TokenKind::Until},
+    {"wend", TokenKind::Wend},
+    {"while", TokenKind::While},
+    {"with", TokenKind::With},
     {"xor", TokenKind::Xor},
 }};
 
@@ -111,9 +151,7 @@ class Lexer {
   }
 
  private:
-  char16_t Peek(size_t ahead = 0) const {
-    return m_pos + ahead < m_text.size() ? m_text[m_pos + ahead] : u'\0';
-  }
+  char16_t Peek(size_t ahead = 0) const { return m_pos + ahead < m_text.size() ? m_text[m_pos + ahead] : u'\0'; }
 
   Token Begin(TokenKind kind) const {
     Token token;
@@ -142,8 +180,7 @@ class Lexer {
   // "Rem" is a comment where a statement may begin; elsewhere it is a reserved word out of place.
   bool AtStatementStart() const {
     TokenKind prev = PreviousKind();
-    return prev == TokenKind::Newline || prev == TokenKind::Colon || prev == TokenKind::Then ||
-           prev == TokenKind::Else;
+    return prev == TokenKind::Newline || prev == TokenKind::Colon || prev == TokenKind::Then || prev == TokenKind::Else;
   }
 
   void SkipBlanks() {

@@ -20,9 +20,9 @@
 #include <vector>
 
 #include "vbscript/syntax/Ast.h"
+#include "vbscript/syntax/Token.h"
 #include "vbscript/value/Result.h"
 #include "vbscript/value/Source.h"
-#include "vbscript/syntax/Token.h"
 
 namespace vbs {
 
@@ -49,8 +49,21 @@ class Parser {
 
  private:
   // Keywords that end a block; a block stops at one only when an open construct accepts it.
-  enum class Closer : uint8_t { Loop, Next, Wend, Else, Case, EndIf, EndSelect, EndWith, EndSub,
-                                EndFunction, EndProperty, EndClass, Count };
+  enum class Closer : uint8_t {
+    Loop,
+    Next,
+    Wend,
+    Else,
+    Case,
+    EndIf,
+    EndSelect,
+    EndWith,
+    EndSub,
+    EndFunction,
+    EndProperty,
+    EndClass,
+    Count
+  };
 
   enum class ProcedureScope : uint8_t { None, Sub, Function, Property };
 
@@ -167,8 +180,8 @@ class Parser {
   std::vector<Token> m_tokens;
   size_t m_pos = 0;
   std::vector<ScriptError> m_errors;
-  bool m_panic = false;    // an error was reported in the current statement
-  bool m_aborted = false;  // too many errors or too deep: the rest of the input is ignored
+  bool m_panic = false;           // an error was reported in the current statement
+  bool m_aborted = false;         // too many errors or too deep: the rest of the input is ignored
   bool m_skip_end_check = false;  // a construct reported its missing closer and left the token
   bool m_seen_statement = false;  // "Option Explicit" must come first
   uint32_t m_depth = 0;

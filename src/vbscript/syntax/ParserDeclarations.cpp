@@ -123,13 +123,16 @@ ast::ExprPtr Parser::ParseConstValue() {
     return unary->operand ? std::move(unary) : nullptr;
   }
   switch (Kind()) {
-    case TokenKind::IntegerLiteral: case TokenKind::LongLiteral: case TokenKind::DoubleLiteral:
-    case TokenKind::StringLiteral: case TokenKind::DateLiteral: case TokenKind::True:
-    case TokenKind::False: case TokenKind::Empty: case TokenKind::Null:
-      return ParseLiteral();
-    default:
-      Fail(kExpectedLiteral);
-      return nullptr;
+    case TokenKind::IntegerLiteral:
+    case TokenKind::LongLiteral:
+    case TokenKind::DoubleLiteral:
+    case TokenKind::StringLiteral:
+    case TokenKind::DateLiteral:
+    case TokenKind::True:
+    case TokenKind::False:
+    case TokenKind::Empty:
+    case TokenKind::Null: return ParseLiteral();
+    default: Fail(kExpectedLiteral); return nullptr;
   }
 }
 
@@ -258,8 +261,8 @@ bool Parser::ParseParams(std::vector<ast::Param>& params) {
 }
 
 void Parser::CheckProcedure(const ast::ProcedureStmt& proc, const Token& name_token, bool in_class) {
-  bool is_let_or_set = proc.proc_kind == ast::ProcedureKind::PropertyLet ||
-                       proc.proc_kind == ast::ProcedureKind::PropertySet;
+  bool is_let_or_set =
+      proc.proc_kind == ast::ProcedureKind::PropertyLet || proc.proc_kind == ast::ProcedureKind::PropertySet;
   if (is_let_or_set && proc.params.empty()) Report(kPropertyWithoutArgument, name_token);
   if (is_let_or_set && proc.is_default) Report(kDefaultMisplaced, proc.pos);
   bool is_event = text::EqualsIgnoringAsciiCase(proc.name, "Class_Initialize") ||
@@ -312,9 +315,7 @@ bool Parser::ParseClassMember(ast::ClassStmt& cls) {
       AddClassMember(cls, ParseDim(ast::Visibility::Default, pos));
       return true;
     case TokenKind::Public:
-    case TokenKind::Private:
-      AddClassMember(cls, ParseVisibilityStatement(true));
-      return true;
+    case TokenKind::Private: AddClassMember(cls, ParseVisibilityStatement(true)); return true;
     case TokenKind::Sub:
     case TokenKind::Function:
       AddClassMember(cls, ParseProcedure(ast::Visibility::Default, false, Current(), true));
@@ -337,12 +338,8 @@ bool Parser::ParseClassMember(ast::ClassStmt& cls) {
       return ParseClassMember(cls);
     }
     case TokenKind::Loop:
-    case TokenKind::Next:
-      ReportStrayCloser();
-      return false;
-    default:
-      Fail(kExpectedStatement);
-      return false;
+    case TokenKind::Next: ReportStrayCloser(); return false;
+    default: Fail(kExpectedStatement); return false;
   }
 }
 

@@ -153,9 +153,7 @@ ast::ExprPtr Parser::ParsePrimary() {
   TokenKind kind = Kind();
   if (IsNameToken(kind)) return std::make_unique<ast::NameExpr>(pos, NameOf(Advance()));
   switch (kind) {
-    case TokenKind::Me:
-      Advance();
-      return std::make_unique<ast::MeExpr>(pos);
+    case TokenKind::Me: Advance(); return std::make_unique<ast::MeExpr>(pos);
     case TokenKind::LParen: {
       Advance();
       auto paren = std::make_unique<ast::ParenExpr>(pos);
@@ -174,8 +172,7 @@ ast::ExprPtr Parser::ParsePrimary() {
       member->name = NameOf(Advance());
       return member;
     }
-    default:
-      return ParseLiteral();
+    default: return ParseLiteral();
   }
 }
 
@@ -211,9 +208,7 @@ ast::ExprPtr Parser::ParseLiteral() {
     case TokenKind::Empty: literal->literal = ast::LiteralKind::Empty; break;
     case TokenKind::Null: literal->literal = ast::LiteralKind::Null; break;
     case TokenKind::Nothing: literal->literal = ast::LiteralKind::Nothing; break;
-    default:
-      Fail(kExpectedExpression);
-      return nullptr;
+    default: Fail(kExpectedExpression); return nullptr;
   }
   Advance();
   return literal;
@@ -270,14 +265,25 @@ bool Parser::IsBinaryOperator(TokenKind kind) const { return BinaryOf(kind).has_
 bool Parser::CanStartExpression(TokenKind kind) const {
   if (IsNameToken(kind)) return true;
   switch (kind) {
-    case TokenKind::IntegerLiteral: case TokenKind::LongLiteral: case TokenKind::DoubleLiteral:
-    case TokenKind::StringLiteral: case TokenKind::DateLiteral: case TokenKind::True:
-    case TokenKind::False: case TokenKind::Empty: case TokenKind::Null: case TokenKind::Nothing:
-    case TokenKind::LParen: case TokenKind::Minus: case TokenKind::Plus: case TokenKind::Not:
-    case TokenKind::Me: case TokenKind::New: case TokenKind::Dot: case TokenKind::Invalid:
-      return true;
-    default:
-      return false;
+    case TokenKind::IntegerLiteral:
+    case TokenKind::LongLiteral:
+    case TokenKind::DoubleLiteral:
+    case TokenKind::StringLiteral:
+    case TokenKind::DateLiteral:
+    case TokenKind::True:
+    case TokenKind::False:
+    case TokenKind::Empty:
+    case TokenKind::Null:
+    case TokenKind::Nothing:
+    case TokenKind::LParen:
+    case TokenKind::Minus:
+    case TokenKind::Plus:
+    case TokenKind::Not:
+    case TokenKind::Me:
+    case TokenKind::New:
+    case TokenKind::Dot:
+    case TokenKind::Invalid: return true;
+    default: return false;
   }
 }
 

@@ -11,17 +11,18 @@ namespace {
 
 bool IsCloserKind(TokenKind kind) {
   switch (kind) {
-    case TokenKind::End: case TokenKind::Loop: case TokenKind::Next: case TokenKind::Wend:
-    case TokenKind::Else: case TokenKind::ElseIf: case TokenKind::Case:
-      return true;
-    default:
-      return false;
+    case TokenKind::End:
+    case TokenKind::Loop:
+    case TokenKind::Next:
+    case TokenKind::Wend:
+    case TokenKind::Else:
+    case TokenKind::ElseIf:
+    case TokenKind::Case: return true;
+    default: return false;
   }
 }
 
-bool IsCallee(const ast::Expr& expr) {
-  return expr.kind == ast::ExprKind::Name || expr.kind == ast::ExprKind::Member;
-}
+bool IsCallee(const ast::Expr& expr) { return expr.kind == ast::ExprKind::Name || expr.kind == ast::ExprKind::Member; }
 
 }  // namespace
 
@@ -78,8 +79,8 @@ ast::Block Parser::ParseLine() {
       continue;
     }
     kind = Kind();
-    bool ends_statement = AtSeparator() || kind == TokenKind::Else || kind == TokenKind::ElseIf ||
-                          StopsBlock(kind) || (kind == TokenKind::End && Peek(1).kind == TokenKind::If);
+    bool ends_statement = AtSeparator() || kind == TokenKind::Else || kind == TokenKind::ElseIf || StopsBlock(kind) ||
+                          (kind == TokenKind::End && Peek(1).kind == TokenKind::If);
     if (!ends_statement) {
       Fail(kExpectedEndOfStatement);
       break;
@@ -566,8 +567,7 @@ ast::StmtPtr Parser::ParseExit() {
       stmt->what = ast::ExitKind::Property;
       valid = m_context.procedure == ProcedureScope::Property;
       break;
-    default:
-      break;
+    default: break;
   }
   if (!valid) {
     Fail(kInvalidExit);

@@ -23,25 +23,95 @@ enum class TokenKind : uint8_t {
   StringLiteral,
   DateLiteral,
 
-  LParen, RParen, Comma, Dot,
-  Plus, Minus, Star, Slash, Backslash, Caret, Ampersand,
-  Equal, NotEqual, Less, Greater, LessEqual, GreaterEqual,
+  LParen,
+  RParen,
+  Comma,
+  Dot,
+  Plus,
+  Minus,
+  Star,
+  Slash,
+  Backslash,
+  Caret,
+  Ampersand,
+  Equal,
+  NotEqual,
+  Less,
+  Greater,
+  LessEqual,
+  GreaterEqual,
 
   // Reserved words.
-  And, ByRef, ByVal, Call, Case, Class, Const, Dim, Do, Each, Else, ElseIf, Empty, End, Eqv, Erase,
-  Exit, False, For, Function, If, Imp, In, Is, Loop, Me, Mod, New, Next, Not, Nothing, Null, On,
-  Option, Or, Private, Public, ReDim, Rem, Select, Set, Stop, Sub, Then, To, True, Until, Wend,
-  While, With, Xor,
+  And,
+  ByRef,
+  ByVal,
+  Call,
+  Case,
+  Class,
+  Const,
+  Dim,
+  Do,
+  Each,
+  Else,
+  ElseIf,
+  Empty,
+  End,
+  Eqv,
+  Erase,
+  Exit,
+  False,
+  For,
+  Function,
+  If,
+  Imp,
+  In,
+  Is,
+  Loop,
+  Me,
+  Mod,
+  New,
+  Next,
+  Not,
+  Nothing,
+  Null,
+  On,
+  Option,
+  Or,
+  Private,
+  Public,
+  ReDim,
+  Rem,
+  Select,
+  Set,
+  Stop,
+  Sub,
+  Then,
+  To,
+  True,
+  Until,
+  Wend,
+  While,
+  With,
+  Xor,
 
   // Words with a meaning in one place only, and otherwise ordinary names ("Dim Step" is legal).
-  Default, Error, Explicit, Get, GoTo, Let, Preserve, Property, Resume, Step,
+  Default,
+  Error,
+  Explicit,
+  Get,
+  GoTo,
+  Let,
+  Preserve,
+  Property,
+  Resume,
+  Step,
 };
 
 struct Token {
   TokenKind kind = TokenKind::EndOfInput;
-  bool bracketed = false;  // [name]: offset/length cover the name without the brackets
+  bool bracketed = false;    // [name]: offset/length cover the name without the brackets
   bool after_blank = false;  // blanks precede it on its line: "f .x" passes a With member
-  uint32_t offset = 0;     // into the source text, in UTF-16 units
+  uint32_t offset = 0;       // into the source text, in UTF-16 units
   uint32_t length = 0;
   uint32_t line = 1;
   uint32_t column = 1;
@@ -51,13 +121,9 @@ struct Token {
 
 // True for tokens that may stand where a name is expected: identifiers and the words that are
 // keywords only in one position.
-constexpr bool IsNameToken(TokenKind kind) {
-  return kind == TokenKind::Identifier || kind >= TokenKind::Default;
-}
+constexpr bool IsNameToken(TokenKind kind) { return kind == TokenKind::Identifier || kind >= TokenKind::Default; }
 
 // True for every word, reserved or not: after a "." any word names a member.
-constexpr bool IsWordToken(TokenKind kind) {
-  return kind == TokenKind::Identifier || kind >= TokenKind::And;
-}
+constexpr bool IsWordToken(TokenKind kind) { return kind == TokenKind::Identifier || kind >= TokenKind::And; }
 
 }  // namespace vbs

@@ -151,8 +151,12 @@ Result<Variant> ValueOf(const Variant& value) {
 
 std::optional<bool> ParseBooleanWord(std::u16string_view text, const Locale& locale) {
   const std::u16string_view s = Trim(text);
-  if (text::EqualsIgnoringCase(s, u"True") || text::EqualsIgnoringCase(s, u"#TRUE#") || text::EqualsIgnoringCase(s, locale.true_text)) return true;
-  if (text::EqualsIgnoringCase(s, u"False") || text::EqualsIgnoringCase(s, u"#FALSE#") || text::EqualsIgnoringCase(s, locale.false_text)) return false;
+  if (text::EqualsIgnoringCase(s, u"True") || text::EqualsIgnoringCase(s, u"#TRUE#") ||
+      text::EqualsIgnoringCase(s, locale.true_text))
+    return true;
+  if (text::EqualsIgnoringCase(s, u"False") || text::EqualsIgnoringCase(s, u"#FALSE#") ||
+      text::EqualsIgnoringCase(s, locale.false_text))
+    return false;
   return std::nullopt;
 }
 

@@ -75,7 +75,9 @@ std::optional<double> DayFromParts(const Number& year, int month, int day) {
 int MonthFromName(std::u16string_view word, const Locale& locale) {
   for (const Locale* l : {&locale, &EnglishLocale()}) {
     for (int m = 0; m < 12; ++m) {
-      if (text::EqualsIgnoringCase(word, l->month_names[m]) || text::EqualsIgnoringCase(word, l->month_abbreviations[m])) return m + 1;
+      if (text::EqualsIgnoringCase(word, l->month_names[m]) ||
+          text::EqualsIgnoringCase(word, l->month_abbreviations[m]))
+        return m + 1;
     }
   }
   return 0;
@@ -84,7 +86,8 @@ int MonthFromName(std::u16string_view word, const Locale& locale) {
 bool IsDayName(std::u16string_view word, const Locale& locale) {
   for (const Locale* l : {&locale, &EnglishLocale()}) {
     for (int d = 0; d < 7; ++d) {
-      if (text::EqualsIgnoringCase(word, l->day_names[d]) || text::EqualsIgnoringCase(word, l->day_abbreviations[d])) return true;
+      if (text::EqualsIgnoringCase(word, l->day_names[d]) || text::EqualsIgnoringCase(word, l->day_abbreviations[d]))
+        return true;
     }
   }
   return false;

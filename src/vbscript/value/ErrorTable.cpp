@@ -40,8 +40,6 @@ std::u16string_view ErrorText(int32_t number, Language language) {
 
 bool IsKnownError(int32_t number) { return Find(number) != nullptr; }
 
-bool IsCompileError(int32_t number) {
-  return number >= err::kFirstCompileError && number <= err::kLastCompileError;
-}
+bool IsCompileError(int32_t number) { return number >= err::kFirstCompileError && number <= err::kLastCompileError; }
 
 }  // namespace vbs

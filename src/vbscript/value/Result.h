@@ -102,16 +102,16 @@ inline ScriptError MakeError(int32_t number, SourcePos pos) { return ScriptError
 // Propagates a failed Result out of the calling function.
 #define VBS_TRY(...)                                                 \
   do {                                                               \
-    auto&& vbs_try_result_ = (__VA_ARGS__);                              \
+    auto&& vbs_try_result_ = (__VA_ARGS__);                          \
     if (!vbs_try_result_) return std::move(vbs_try_result_).error(); \
   } while (0)
 
 // Declares or assigns `lhs` from the value of a Result, or propagates its failure out of the calling
 // function: `VBS_TRY_ASSIGN(auto count, args.Long(0));` leaves `count` an int32_t.
 #define VBS_TRY_ASSIGN(lhs, ...) VBS_TRY_ASSIGN_IMPL(lhs, (__VA_ARGS__), VBS_TRY_JOIN(vbs_try_value_, __LINE__))
-#define VBS_TRY_ASSIGN_IMPL(lhs, expr, result)              \
-  auto result = expr;                                       \
-  if (!result) return std::move(result).error();            \
+#define VBS_TRY_ASSIGN_IMPL(lhs, expr, result)   \
+  auto result = expr;                            \
+  if (!result) return std::move(result).error(); \
   lhs = std::move(result).value()
 #define VBS_TRY_JOIN(a, b) VBS_TRY_JOIN_IMPL(a, b)
 #define VBS_TRY_JOIN_IMPL(a, b) a##b

@@ -13,8 +13,8 @@
 #include "archive/ClsEstrazioni.h"
 #include "archive/ImportaRisultati.h"
 #include "gui/archivio/AggiornamentoArchivio.h"
-#include "gui/principale/Finestre.h"
 #include "gui/archivio/ModelloEstrazioni.h"
+#include "gui/principale/Finestre.h"
 
 namespace lottolab::gui {
 namespace {

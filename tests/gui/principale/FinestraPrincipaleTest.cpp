@@ -210,7 +210,8 @@ class FinestraPrincipaleTest : public QObject {
     QCOMPARE(std::filesystem::file_size(archivio), uintmax_t{2 * 67});
     QCOMPARE(stato->text(), QString("Archivio: 2 estrazioni, l'ultima del 03/05/2005"));
     QCOMPARE(prova.messaggi->size(), size_t{1});
-    QVERIFY2(prova.messaggi->back().find("riparato: tolti 34 byte") != std::string::npos, prova.messaggi->back().c_str());
+    QVERIFY2(prova.messaggi->back().find("riparato: tolti 34 byte") != std::string::npos,
+             prova.messaggi->back().c_str());
 
     // A bad record with a whole length is told, with nothing to ask.
     std::fstream file(archivio, std::ios::in | std::ios::out | std::ios::binary);
@@ -232,7 +233,8 @@ class FinestraPrincipaleTest : public QObject {
     QVERIFY(!caricato.Riuscito());
     QVERIFY(caricato.Errore().testo.find("è una cartella") != std::string::npos);
     FinestraPrincipale finestra(*contesto);
-    QCOMPARE(finestra.findChild<QLabel*>("statoArchivio")->text(), QString("Archivio non caricato: vedi Archivio > Impostazioni"));
+    QCOMPARE(finestra.findChild<QLabel*>("statoArchivio")->text(),
+             QString("Archivio non caricato: vedi Archivio > Impostazioni"));
   }
 
   void LImpostazioneDiUnArchivioMancanteVaConfermata() {
@@ -251,7 +253,8 @@ class FinestraPrincipaleTest : public QObject {
       dialogo.findChild<QLineEdit*>("archivio")->setText("Nuovo.dat");
       dialogo.accept();
       QCOMPARE(prova.domande->size(), size_t{1});
-      QVERIFY(prova.domande->front().starts_with("L'archivio " + (*m_cartella / "Nuovo.dat").string() + " non esiste."));
+      QVERIFY(
+          prova.domande->front().starts_with("L'archivio " + (*m_cartella / "Nuovo.dat").string() + " non esiste."));
       QCOMPARE(dialogo.result(), int(conferma ? QDialog::Accepted : QDialog::Rejected));
       QCOMPARE(IniSalvato().Leggi("GENERALE", "sFileBd", ""), std::string(conferma ? "Nuovo.dat" : ""));
       QCOMPARE(finestra.windowTitle(), QString(conferma ? "lottolab - Nuovo.dat" : "lottolab - BaseDati.dat"));

@@ -2,11 +2,11 @@
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBrowser>
-#include <QPlainTextEdit>
 #include <QThread>
 
 #include <fstream>
@@ -101,7 +101,8 @@ std::shared_ptr<const TabellaEstrazioni> ArchivioAMano() {
 }
 
 // Forever, until told to stop or interrupted; writes "via" first so the test knows it runs.
-constexpr auto kFinoAlloStop = "Sub Main\nScrivi \"via\"\nDo Until ScriptInterrotto()\nLoop\nScrivi \"fermato\"\nEnd Sub";
+constexpr auto kFinoAlloStop =
+    "Sub Main\nScrivi \"via\"\nDo Until ScriptInterrotto()\nLoop\nScrivi \"fermato\"\nEnd Sub";
 constexpr auto kSenzaFine = "Sub Main\nScrivi \"via\"\nDo\nLoop\nEnd Sub";
 // Writes as fast as it can and never looks at ScriptInterrotto.
 constexpr auto kAlluvione = "Sub Main\nScrivi \"via\"\nDo\nScrivi \"x\"\nLoop\nEnd Sub";
@@ -164,7 +165,8 @@ class FinestraScriptTest : public QObject {
     const auto nomi = parole.Completamenti("scriv");
     QVERIFY(std::find(nomi.begin(), nomi.end(), "Scrivi") != nomi.end());
     QVERIFY(std::find(nomi.begin(), nomi.end(), "ScriviConColori") != nomi.end());
-    for (const std::string& nome : nomi) QVERIFY2(QString::fromStdString(nome).startsWith("scriv", Qt::CaseInsensitive), nome.c_str());
+    for (const std::string& nome : nomi)
+      QVERIFY2(QString::fromStdString(nome).startsWith("scriv", Qt::CaseInsensitive), nome.c_str());
     const auto con_e = parole.Completamenti("e");
     QVERIFY(std::find(con_e.begin(), con_e.end(), "ElseIf") != con_e.end());
     QVERIFY(std::is_sorted(con_e.begin(), con_e.end(), [](const std::string& a, const std::string& b) {
@@ -177,17 +179,19 @@ class FinestraScriptTest : public QObject {
     DialoghiDiProva dialoghi;
     EsecuzioneInThread esecuzione(dialoghi);
     std::vector<script::TrattoTesto> tratti;
-    connect(&esecuzione.Ospite(), &OspiteGui::TestoScritto, this,
-            [&](const std::vector<script::TrattoTesto>& nuovi) { tratti.insert(tratti.end(), nuovi.begin(), nuovi.end()); });
+    connect(&esecuzione.Ospite(), &OspiteGui::TestoScritto, this, [&](const std::vector<script::TrattoTesto>& nuovi) {
+      tratti.insert(tratti.end(), nuovi.begin(), nuovi.end());
+    });
     QSignalSpy terminata(&esecuzione, &EsecuzioneInThread::Terminata);
     dialoghi.pulsante_msgbox = 7;
     test::CartellaTemporanea base;
     script::OpzioniEsecuzione opzioni;
     opzioni.libreria.cartella_base = base.Percorso();
     opzioni.libreria.cartella_output = base.Percorso();
-    QVERIFY(esecuzione.Avvia("Sub Main\nScrivi \"a\"\nColoreTesto Rosso_\nScrivi Estratto(1, BA_, 1), True\n"
-                             "Scrivi MsgBox(\"Va bene?\", vbYesNo)\nEnd Sub",
-                             opzioni, ArchivioAMano()));
+    QVERIFY(
+        esecuzione.Avvia("Sub Main\nScrivi \"a\"\nColoreTesto Rosso_\nScrivi Estratto(1, BA_, 1), True\n"
+                         "Scrivi MsgBox(\"Va bene?\", vbYesNo)\nEnd Sub",
+                         opzioni, ArchivioAMano()));
     QVERIFY(terminata.wait(kAttesaMs));
     QCOMPARE(esecuzione.Esito().stato, script::EsitoEsecuzione::Stato::Completato);
     QVERIFY(!esecuzione.InEsecuzione());
@@ -203,8 +207,9 @@ class FinestraScriptTest : public QObject {
 
   void LOutputEIDialoghiDellaLibreriaArrivanoNellaFinestra() {
     Apri("[GENERALE]\nsColoreSfondoHtml=#FFEECC\n");
-    Esegui("Sub Main\nDim n\nn = ScegliNumeri(\"Numeri\", 2)\nScrivi n(1) & \"-\" & n(2)\nMessaggio \"fatto\"\n"
-           "AvanzamentoElab 1, 4\nEnd Sub");
+    Esegui(
+        "Sub Main\nDim n\nn = ScegliNumeri(\"Numeri\", 2)\nScrivi n(1) & \"-\" & n(2)\nMessaggio \"fatto\"\n"
+        "AvanzamentoElab 1, 4\nEnd Sub");
     QVERIFY2(m_dialoghi->avvisi.empty(), m_dialoghi->avvisi.empty() ? "" : m_dialoghi->avvisi[0].testo.c_str());
     QCOMPARE(m_finestra->Output()->toPlainText(), QString("7-41\n"));
     QCOMPARE(m_finestra->Avanzamento()->value(), 25);

@@ -16,18 +16,18 @@
 #include <vector>
 
 #include "TempDir.h"
+#include "figures/FigureDiProva.h"
 #include "figures/FileStrutture.h"
 #include "figures/LimitiStrutture.h"
 #include "gui/principale/ContestoGui.h"
-#include "gui/strutture/F_EditorStrutture.h"
 #include "gui/principale/Finestre.h"
+#include "gui/strutture/F_EditorStrutture.h"
+#include "gui/strutture/F_InsCondizione.h"
 #include "gui/strutture/GrigliaScena.h"
 #include "gui/strutture/QvVertice.h"
-#include "gui/strutture/F_InsCondizione.h"
 #include "gui/strutture/StruttureCondizioni.h"
 #include "gui/strutture/StruttureModello.h"
 #include "gui/strutture/StruttureRicerca.h"
-#include "figures/FigureDiProva.h"
 
 namespace lottolab::gui {
 
@@ -127,7 +127,9 @@ class EditorStruttureTest : public QObject {
     std::unique_ptr<QWidget> editor(NuovoEditorStrutture(contesto, QString::fromStdString(file.string())));
     QVERIFY(editor->windowTitle().contains("tre.dat"));
     const QList<QGraphicsItem*> elementi = editor->findChild<QGraphicsView*>()->scene()->items();
-    QCOMPARE(std::count_if(elementi.begin(), elementi.end(), [](QGraphicsItem* e) { return dynamic_cast<QvVertice*>(e); }), 3);
+    QCOMPARE(
+        std::count_if(elementi.begin(), elementi.end(), [](QGraphicsItem* e) { return dynamic_cast<QvVertice*>(e); }),
+        3);
     QCOMPARE(std::count_if(elementi.begin(), elementi.end(),
                            [](QGraphicsItem* e) { return dynamic_cast<QGraphicsLineItem*>(e); }),
              2);
@@ -233,8 +235,9 @@ class EditorStruttureTest : public QObject {
       }
     }
     QCOMPARE(ComponiCondizione(FormeCondizione()[1], "[A]", "[B]", 0, false), std::string("[A] + 1 = [B]"));
-    const auto diff = std::find_if(FormeCondizione().begin(), FormeCondizione().end(),
-                                   [](const FormaCondizione& forma) { return forma.modello.starts_with("DiffCiclometrica"); });
+    const auto diff =
+        std::find_if(FormeCondizione().begin(), FormeCondizione().end(),
+                     [](const FormaCondizione& forma) { return forma.modello.starts_with("DiffCiclometrica"); });
     QCOMPARE(ComponiCondizione(*diff, "[B]", "[A]", 45, true), std::string("Not DiffCiclometrica([B], [A]) = 45"));
 
     QCOMPARE(AccodaCondizione("  ", "Or", "[A] = 3"), std::string("[A] = 3"));
@@ -307,10 +310,13 @@ class EditorStruttureTest : public QObject {
     const TabellaEstrazioni tab = SeiEstrazioni();
     std::atomic<bool> ferma = false;
     std::vector<double> quote;
-    auto risultato = CercaStruttura(tab, SetteEVicino(), [&](double quota) {
-      quote.push_back(quota);
-      ferma = true;
-    }, ferma);
+    auto risultato = CercaStruttura(
+        tab, SetteEVicino(),
+        [&](double quota) {
+          quote.push_back(quota);
+          ferma = true;
+        },
+        ferma);
     QVERIFY(risultato.Riuscito());
     QVERIFY(risultato->interrotta);
     QVERIFY(risultato->trovate.elenco.empty());  // stopped before the first draw
@@ -326,10 +332,13 @@ class EditorStruttureTest : public QObject {
     auto tutte = CercaStruttura(lunga, tre, {}, ferma);
     int avvisi = 0;
     double cercate = 0;
-    auto prime = CercaStruttura(lunga, tre, [&](double quota) {
-      cercate = quota * lunga.EstrazioniArchivio();
-      ferma = ++avvisi == 2;
-    }, ferma);
+    auto prime = CercaStruttura(
+        lunga, tre,
+        [&](double quota) {
+          cercate = quota * lunga.EstrazioniArchivio();
+          ferma = ++avvisi == 2;
+        },
+        ferma);
     QVERIFY(tutte.Riuscito() && prime.Riuscito());
     QVERIFY(prime->interrotta);
     std::vector<int> attese = Estrazioni(*tutte);

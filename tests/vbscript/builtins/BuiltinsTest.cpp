@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "vbscript/runtime/RandomGenerator.h"
-#include "vbscript/ScriptControl.h"
 #include "text/Utf.h"
+#include "vbscript/ScriptControl.h"
+#include "vbscript/runtime/RandomGenerator.h"
 
 namespace vbs {
 namespace {

@@ -6,13 +6,13 @@
 #include <vector>
 
 #include "TempDir.h"
+#include "text/Utf.h"
+#include "vbscript/ScriptControl.h"
 #include "vbscript/objects/Dictionary.h"
 #include "vbscript/objects/FileSystem.h"
-#include "vbscript/runtime/Interpreter.h"
 #include "vbscript/objects/regexp/RegExpProgram.h"
+#include "vbscript/runtime/Interpreter.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/ScriptControl.h"
-#include "text/Utf.h"
 
 namespace vbs {
 namespace {
@@ -125,9 +125,9 @@ TEST(RegExpProgramTest, MatchesAsJavaScriptDoes) {
 
 TEST(RegExpProgramTest, MalformedPatternsGiveWindowsErrors) {
   const std::pair<std::u16string_view, int> cases[] = {
-      {u"a**", 5018}, {u"*a", 5018},  {u"a{2}{3}", 5018}, {u"^*", 5018},    {u"a|?", 5018}, {u"\\b+", 5018},
-      {u"[a", 5019},  {u"[a\\", 5019}, {u"(a", 5020},     {u"(?:a", 5020},  {u"a)", 5017},  {u"(?<a)", 5017},
-      {u"a{3,1}", 5017}, {u"\\", 5017}, {u"[b-a]", 5021},
+      {u"a**", 5018},  {u"*a", 5018},    {u"a{2}{3}", 5018}, {u"^*", 5018}, {u"a|?", 5018},
+      {u"\\b+", 5018}, {u"[a", 5019},    {u"[a\\", 5019},    {u"(a", 5020}, {u"(?:a", 5020},
+      {u"a)", 5017},   {u"(?<a)", 5017}, {u"a{3,1}", 5017},  {u"\\", 5017}, {u"[b-a]", 5021},
   };
   for (const auto& [pattern, number] : cases)
     EXPECT_EQ(FirstMatch(pattern, u"a"), "error " + std::to_string(number)) << text::Utf16ToUtf8(pattern);
@@ -222,7 +222,8 @@ TEST(DictionaryTest, EnumerationSurvivesRemovingMostKeys) {
   }
   ASSERT_TRUE(dictionary->Add(Variant::Long(5000), Variant()));
   while (*(*walker)->Next(key)) seen.push_back(key.as_long());
-  const std::vector<int32_t> expected = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 100, 200, 300, 400, 500, 600, 700, 800, 900, 5000};
+  const std::vector<int32_t> expected = {0,   1,   2,   3,   4,   5,   6,   7,   8,   9,
+                                         100, 200, 300, 400, 500, 600, 700, 800, 900, 5000};
   EXPECT_EQ(seen, expected);
   EXPECT_EQ(dictionary->size(), 11u);
 }
@@ -243,7 +244,8 @@ class TextFileTest : public ::testing::Test {
     ScriviByte(m_folder / "in.txt", bytes);
     auto text = m_engine.Eval(u"fso.OpenTextFile(\"" + Path("in.txt") + u"\", 1, False, " +
                               text::Utf8ToUtf16(std::to_string(format)) + u").ReadAll");
-    return text ? std::u16string(text->as_string_view()) : u"error " + text::Utf8ToUtf16(std::to_string(text.error().number));
+    return text ? std::u16string(text->as_string_view())
+                : u"error " + text::Utf8ToUtf16(std::to_string(text.error().number));
   }
 
   std::vector<unsigned char> Written(const std::u16string& statements) {

@@ -217,15 +217,15 @@ std::string PrintStmt(const Stmt& stmt) {
 }
 
 std::string_view ExprKindName(ExprKind kind) {
-  static constexpr std::string_view kNames[] = {"Literal", "Name", "Member", "Call", "Me",
+  static constexpr std::string_view kNames[] = {"Literal", "Name",  "Member", "Call", "Me",
                                                 "New",     "Unary", "Binary", "Paren"};
   return kNames[static_cast<int>(kind)];
 }
 
 std::string_view StmtKindName(StmtKind kind) {
   static constexpr std::string_view kNames[] = {
-      "Assign", "Call", "Dim", "ReDim", "Const", "Erase", "If", "Select", "For", "ForEach", "Do",
-      "While", "Exit", "With", "OnError", "OptionExplicit", "Procedure", "Class", "Stop"};
+      "Assign", "Call",  "Dim",  "ReDim", "Const",   "Erase",          "If",        "Select", "For", "ForEach",
+      "Do",     "While", "Exit", "With",  "OnError", "OptionExplicit", "Procedure", "Class",  "Stop"};
   return kNames[static_cast<int>(kind)];
 }
 

@@ -29,8 +29,8 @@ TEST(LexerTest, SplitsSourceIntoTokens) {
       {"x = 1", {K::Identifier, K::Equal, K::IntegerLiteral, K::EndOfInput}},
       {"iF a tHEN eLSE", {K::If, K::Identifier, K::Then, K::Else, K::EndOfInput}},
       // After a dot every word is a member name, reserved or not.
-      {"obj.End.Rem.Class", {K::Identifier, K::Dot, K::Identifier, K::Dot, K::Identifier, K::Dot, K::Identifier,
-                             K::EndOfInput}},
+      {"obj.End.Rem.Class",
+       {K::Identifier, K::Dot, K::Identifier, K::Dot, K::Identifier, K::Dot, K::Identifier, K::EndOfInput}},
       {"x = 1 ' comment\ny", {K::Identifier, K::Equal, K::IntegerLiteral, K::Newline, K::Identifier, K::EndOfInput}},
       // "Rem" comments where a statement may start, and is a misplaced word elsewhere.
       {"Rem comment\nx", {K::Newline, K::Identifier, K::EndOfInput}},
@@ -43,12 +43,14 @@ TEST(LexerTest, SplitsSourceIntoTokens) {
       {"a _  \r\n b", {K::Identifier, K::Identifier, K::EndOfInput}},
       {"a _ b", {K::Identifier, K::Invalid, K::Identifier, K::EndOfInput}},
       {"a_b _x", {K::Identifier, K::Invalid, K::Identifier, K::EndOfInput}},
-      {"a\r\nb\rc\nd", {K::Identifier, K::Newline, K::Identifier, K::Newline, K::Identifier, K::Newline,
-                        K::Identifier, K::EndOfInput}},
-      {"<> <= >= =< => >< < > =", {K::NotEqual, K::LessEqual, K::GreaterEqual, K::LessEqual, K::GreaterEqual,
-                                    K::NotEqual, K::Less, K::Greater, K::Equal, K::EndOfInput}},
-      {"+-*/\\^&(),.:", {K::Plus, K::Minus, K::Star, K::Slash, K::Backslash, K::Caret, K::Ampersand, K::LParen,
-                         K::RParen, K::Comma, K::Dot, K::Colon, K::EndOfInput}},
+      {"a\r\nb\rc\nd",
+       {K::Identifier, K::Newline, K::Identifier, K::Newline, K::Identifier, K::Newline, K::Identifier, K::EndOfInput}},
+      {"<> <= >= =< => >< < > =",
+       {K::NotEqual, K::LessEqual, K::GreaterEqual, K::LessEqual, K::GreaterEqual, K::NotEqual, K::Less, K::Greater,
+        K::Equal, K::EndOfInput}},
+      {"+-*/\\^&(),.:",
+       {K::Plus, K::Minus, K::Star, K::Slash, K::Backslash, K::Caret, K::Ampersand, K::LParen, K::RParen, K::Comma,
+        K::Dot, K::Colon, K::EndOfInput}},
       // Hex digits stop at the first letter that is not one.
       {"&h01or&h02", {K::IntegerLiteral, K::Or, K::IntegerLiteral, K::EndOfInput}},
       {"a &b & c", {K::Identifier, K::Ampersand, K::Identifier, K::Ampersand, K::Identifier, K::EndOfInput}},
@@ -146,15 +148,9 @@ struct ErrorCase {
 
 TEST(LexerTest, ReportsLexicalErrorsAsInvalidTokens) {
   const ErrorCase cases[] = {
-      {"x = 1 ? 2", 1032, 1, 7},
-      {"x = \"abc\ny", 1033, 1, 5},
-      {"x = \"abc", 1033, 1, 5},
-      {"\n  [abc", 1007, 2, 3},
-      {"x = #1/2/2003", 1032, 1, 5},
-      {"x = #13/13/2003#", 1002, 1, 5},
-      {"x = #hello#", 1002, 1, 5},
-      {"x = a _ 'comment", 1032, 1, 7},
-      {"x = $", 1032, 1, 5},
+      {"x = 1 ? 2", 1032, 1, 7},   {"x = \"abc\ny", 1033, 1, 5},     {"x = \"abc", 1033, 1, 5},
+      {"\n  [abc", 1007, 2, 3},    {"x = #1/2/2003", 1032, 1, 5},    {"x = #13/13/2003#", 1002, 1, 5},
+      {"x = #hello#", 1002, 1, 5}, {"x = a _ 'comment", 1032, 1, 7}, {"x = $", 1032, 1, 5},
   };
   for (const auto& c : cases) {
     bool found = false;
@@ -194,9 +190,9 @@ TEST(LexerTest, PositionsCountLinesAndColumns) {
     TokenKind kind;
     uint32_t line, column;
   };
-  const Expected expected[] = {{K::Identifier, 1, 1}, {K::Equal, 1, 3},  {K::IntegerLiteral, 1, 5},
-                               {K::Newline, 1, 6},    {K::Identifier, 2, 2}, {K::Plus, 3, 3},
-                               {K::IntegerLiteral, 3, 5}, {K::Newline, 3, 6}, {K::EndOfInput, 4, 1}};
+  const Expected expected[] = {{K::Identifier, 1, 1},     {K::Equal, 1, 3},      {K::IntegerLiteral, 1, 5},
+                               {K::Newline, 1, 6},        {K::Identifier, 2, 2}, {K::Plus, 3, 3},
+                               {K::IntegerLiteral, 3, 5}, {K::Newline, 3, 6},    {K::EndOfInput, 4, 1}};
   ASSERT_EQ(tokens.size(), std::size(expected));
   for (size_t i = 0; i < tokens.size(); ++i) {
     EXPECT_EQ(tokens[i].kind, expected[i].kind) << i;
@@ -257,8 +253,8 @@ TEST(DateLiteralTest, ReadsMonthBeforeDay) {
 }
 
 TEST(DateLiteralTest, RejectsImpossibleDates) {
-  const std::u16string_view cases[] = {u"",          u"2/29/1900",  u"2/30/2000", u"13/13/2003", u"0/1/2003",
-                                       u"1/0/2003",  u"1/1/10000",  u"25:00",     u"10:60",      u"13:00 PM",
+  const std::u16string_view cases[] = {u"",           u"2/29/1900", u"2/30/2000", u"13/13/2003", u"0/1/2003",
+                                       u"1/0/2003",   u"1/1/10000", u"25:00",     u"10:60",      u"13:00 PM",
                                        u"1/2/2003 x", u"hello",     u"1/2/3/4",   u"1:",         u"1/2/2003;"};
   for (auto text : cases) EXPECT_FALSE(ParseDateLiteral(text).has_value()) << std::string(text.begin(), text.end());
 }

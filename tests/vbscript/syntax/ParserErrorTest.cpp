@@ -92,8 +92,7 @@ TEST(ParserErrorTest, ReportsVBScriptNumbersAtTheOffendingToken) {
       {"Default Sub s\nEnd Sub", "error 1048 @1:1"},
       {"Class C\nProperty p\nEnd Class", "error 1049 @2:10"},
       {"Class C\nProperty Get p\nEnd Sub\nEnd Class", "error 1050 @3:5"},
-      {"Class C\nPublic Default Function f: End Function\nPublic Default Sub g: End Sub\nEnd Class",
-       "error 1052 @3:1"},
+      {"Class C\nPublic Default Function f: End Function\nPublic Default Sub g: End Sub\nEnd Class", "error 1052 @3:1"},
       {"Class C\nSub Class_Initialize(x): End Sub\nEnd Class", "error 1053 @2:5"},
       {"Class C\nSub class_terminate(x): End Sub\nEnd Class", "error 1053 @2:5"},
       {"Class C\nProperty Let p(): End Property\nEnd Class", "error 1054 @2:14"},
@@ -188,13 +187,8 @@ TEST(ParserErrorTest, ModerateNestingIsFine) {
 
 TEST(ParserErrorTest, EvalTakesExactlyOneExpression) {
   const ErrorCase cases[] = {
-      {"a = b", "(a = b)"},
-      {"1 2", "error 1025 @1:3"},
-      {"x: y", "error 1025 @1:2"},
-      {"", "error 1023 @1:1"},
-      {"Dim x", "error 1023 @1:1"},
-      {"(1", "error 1006 @1:3"},
-      {"\"open", "error 1033 @1:1"},
+      {"a = b", "(a = b)"},         {"1 2", "error 1025 @1:3"}, {"x: y", "error 1025 @1:2"},   {"", "error 1023 @1:1"},
+      {"Dim x", "error 1023 @1:1"}, {"(1", "error 1006 @1:3"},  {"\"open", "error 1033 @1:1"},
   };
   for (const auto& c : cases) EXPECT_EQ(test::ParseExprToText(c.source), c.errors) << c.source;
 }

@@ -141,7 +141,8 @@ TEST(ParserTest, StatementForms) {
       {"For i = a To b: Next i", "For i = a To b {}"},
       {"For Each x In y\nz x\nNext", "ForEach x In y {z x}"},
       {"for property = 1 to 2\nnext", "For property = 1% To 2% {}"},
-      {"Dim step: step = 1: For i = step To step Step step: Next", "Dim step; step = 1%; For i = step To step Step step {}"},
+      {"Dim step: step = 1: For i = step To step Step step: Next",
+       "Dim step; step = 1%; For i = step To step Step step {}"},
   });
 }
 

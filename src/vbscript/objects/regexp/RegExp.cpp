@@ -99,7 +99,8 @@ RegExpSubMatches::RegExpSubMatches(const Locale& locale, std::vector<Variant> gr
 
 std::span<const RegExpSubMatches::Member> RegExpSubMatches::Members() {
   static const Member kMembers[] = {
-      {"Item", 1, 1, &RegExpSubMatches::Item, nullptr, "Index: the text of group Index + 1; Empty when it took no part", true},
+      {"Item", 1, 1, &RegExpSubMatches::Item, nullptr, "Index: the text of group Index + 1; Empty when it took no part",
+       true},
       {"Count", 0, 0, &RegExpSubMatches::Count, nullptr, "the number of groups of the pattern"},
   };
   return kMembers;

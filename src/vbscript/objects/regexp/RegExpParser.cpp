@@ -43,8 +43,10 @@ Ranges Complement(const Ranges& ranges) {
 Ranges Predefined(char16_t letter) {
   Ranges ranges;
   switch (letter) {
-    case u'd': case u'D': ranges = {{u'0', u'9'}}; break;
-    case u'w': case u'W': ranges = {{u'0', u'9'}, {u'A', u'Z'}, {u'_', u'_'}, {u'a', u'z'}}; break;
+    case u'd':
+    case u'D': ranges = {{u'0', u'9'}}; break;
+    case u'w':
+    case u'W': ranges = {{u'0', u'9'}, {u'A', u'Z'}, {u'_', u'_'}, {u'a', u'z'}}; break;
     default: ranges = {{u'\t', u'\r'}, {u' ', u' '}}; break;
   }
   return letter >= u'A' && letter <= u'Z' ? Complement(ranges) : ranges;
@@ -79,7 +81,8 @@ struct ClassAtom {
 
 class PatternParser {
  public:
-  PatternParser(std::u16string_view pattern, std::vector<CharClass>& classes) : m_pattern(pattern), m_classes(classes) {}
+  PatternParser(std::u16string_view pattern, std::vector<CharClass>& classes)
+      : m_pattern(pattern), m_classes(classes) {}
 
   Result<NodePtr> Parse() {
     m_total_groups = CountGroups();
@@ -336,8 +339,12 @@ class PatternParser {
     if (AtEnd()) return MakeError(err::kRegExpSyntax);
     const char16_t letter = m_pattern[m_pos++];
     switch (letter) {
-      case u'd': case u'D': case u'w': case u'W': case u's': case u'S':
-        return SetNode(Predefined(letter), false);
+      case u'd':
+      case u'D':
+      case u'w':
+      case u'W':
+      case u's':
+      case u'S': return SetNode(Predefined(letter), false);
       default: break;
     }
     if (auto c = CharacterEscape(letter)) return CharNode(*c);
@@ -347,7 +354,8 @@ class PatternParser {
     const size_t digits_start = m_pos - 1;
     int64_t number = letter - u'0';
     size_t end = m_pos;
-    while (end < m_pattern.size() && IsDigit(m_pattern[end])) number = std::min<int64_t>(number * 10 + (m_pattern[end++] - u'0'), kMaxCount);
+    while (end < m_pattern.size() && IsDigit(m_pattern[end]))
+      number = std::min<int64_t>(number * 10 + (m_pattern[end++] - u'0'), kMaxCount);
     if (number <= m_total_groups) {
       m_pos = end;
       auto node = Leaf(Kind::BackRef);
@@ -368,13 +376,16 @@ class PatternParser {
     if (AtEnd()) return MakeError(err::kRegExpExpectedBracket);
     const char16_t letter = m_pattern[m_pos++];
     switch (letter) {
-      case u'd': case u'D': case u'w': case u'W': case u's': case u'S':
+      case u'd':
+      case u'D':
+      case u'w':
+      case u'W':
+      case u's':
+      case u'S':
         atom.is_set = true;
         atom.set = Predefined(letter);
         return atom;
-      case u'b':
-        atom.ch = u'\b';
-        return atom;
+      case u'b': atom.ch = u'\b'; return atom;
       default: break;
     }
     if (auto escaped = CharacterEscape(letter)) {

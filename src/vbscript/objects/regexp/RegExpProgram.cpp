@@ -14,7 +14,6 @@ using regexp::Node;
 using regexp::NodePtr;
 using Ranges = std::vector<std::pair<char16_t, char16_t>>;
 
-
 bool IsWordChar(char16_t c) {
   return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9') || c == u'_';
 }
@@ -152,7 +151,10 @@ class RegExpMachine {
   using Inst = RegExpProgram::Inst;
 
   RegExpMachine(const RegExpProgram& program, std::u16string_view text, const std::function<Status()>& interrupt)
-      : m_program(program), m_code(program.m_code), m_text(text), m_size(static_cast<int32_t>(text.size())),
+      : m_program(program),
+        m_code(program.m_code),
+        m_text(text),
+        m_size(static_cast<int32_t>(text.size())),
         m_interrupt(interrupt) {}
 
   void Reset() {
@@ -247,9 +249,7 @@ bool RegExpMachine::Backtrack(size_t base, int32_t& pc, int32_t& pos) {
     const Entry entry = m_stack.back();
     m_stack.pop_back();
     switch (entry.kind) {
-      case Kind::Undo:
-        m_registers[entry.a] = entry.b;
-        break;
+      case Kind::Undo: m_registers[entry.a] = entry.b; break;
       case Kind::Branch:
         pc = entry.pc;
         pos = entry.a;
@@ -310,9 +310,7 @@ Result<bool> RegExpMachine::Run(int32_t pc, int32_t pos, int32_t& end) {
         m_stack.push_back({Kind::Branch, inst.a, pos, 0});
         ++pc;
         break;
-      case Op::Jump:
-        pc = inst.a;
-        break;
+      case Op::Jump: pc = inst.a; break;
       case Op::Save:
         Set(inst.a, pos);
         ++pc;
@@ -387,9 +385,7 @@ Result<bool> RegExpMachine::Run(int32_t pc, int32_t pos, int32_t& end) {
         break;
       }
       case Op::Succeed:
-      case Op::Match:
-        end = pos;
-        return true;
+      case Op::Match: end = pos; return true;
     }
     if (!ok && !Backtrack(base, pc, pos)) return false;
   }
