@@ -18,6 +18,9 @@
 
 namespace vbs {
 
+// The value a literal of the source stands for.
+Variant LiteralValue(const ast::LiteralExpr& literal);
+
 class Compiler {
  public:
   // `scope`: the frame of the procedure in which Execute or Eval runs the code; null for global code.

@@ -15,21 +15,7 @@ Result<Variant> Compiler::ConstantValue(const ast::Expr& expression, Scope& scop
   switch (expression.kind) {
     case ast::ExprKind::Literal: {
       auto& literal = static_cast<const ast::LiteralExpr&>(expression);
-      switch (literal.literal) {
-        case ast::LiteralKind::Empty: return Variant();
-        case ast::LiteralKind::Null: return Variant::Null();
-        case ast::LiteralKind::Nothing: return Variant::Nothing();
-        case ast::LiteralKind::Boolean: return Variant::Boolean(literal.boolean);
-        case ast::LiteralKind::Integer: return Variant::Integer(static_cast<int16_t>(literal.integer));
-        case ast::LiteralKind::Long:
-          if (literal.integer >= INT16_MIN && literal.integer <= INT16_MAX)
-            return Variant::Integer(static_cast<int16_t>(literal.integer));
-          return Variant::Long(literal.integer);
-        case ast::LiteralKind::Double: return Variant::Double(literal.number);
-        case ast::LiteralKind::String: return Variant::String(literal.text);
-        case ast::LiteralKind::Date: return Variant::Date(literal.number);
-      }
-      break;
+      return LiteralValue(literal);
     }
     case ast::ExprKind::Paren: return ConstantValue(*static_cast<const ast::ParenExpr&>(expression).inner, scope);
     case ast::ExprKind::Unary: {

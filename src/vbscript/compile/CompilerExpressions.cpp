@@ -30,6 +30,13 @@ BinaryOperator ToOperator(ast::BinaryOp op) {
   return BinaryOperator::Equal;
 }
 
+// Indexing or a default-member call on a value that a node yields.
+ExprNodePtr WithArgs(SourcePos pos, ExprNodePtr holder, ExprNodes args) {
+  return std::make_unique<IndexNode>(pos, std::move(holder), std::move(args));
+}
+
+}  // namespace
+
 Variant LiteralValue(const ast::LiteralExpr& literal) {
   switch (literal.literal) {
     case ast::LiteralKind::Empty: return Variant();
@@ -48,13 +55,6 @@ Variant LiteralValue(const ast::LiteralExpr& literal) {
   }
   return Variant();
 }
-
-// Indexing or a default-member call on a value that a node yields.
-ExprNodePtr WithArgs(SourcePos pos, ExprNodePtr holder, ExprNodes args) {
-  return std::make_unique<IndexNode>(pos, std::move(holder), std::move(args));
-}
-
-}  // namespace
 
 Result<ExprNodes> Compiler::CompileArgs(std::vector<ast::ExprPtr>& args, Scope& scope) {
   ExprNodes nodes;
