@@ -23,7 +23,7 @@ class Subscripts {
       } else if (arg.is_long()) {
         m_values[i] = arg.as_long();
       } else {
-        VBS_TRY_ASSIGN(auto index, arg.to_long(locale));
+        VBS_TRY_ASSIGN(auto&& index, arg.to_long(locale));
         m_values[i] = index;
       }
     }
@@ -94,7 +94,7 @@ Result<Variant> ClassInstance::InvokeMember(DispId member, InvokeKind kind, std:
         field = std::move(value);
         return Variant();
       }
-      VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+      VBS_TRY_ASSIGN(auto&& plain, ValueOf(value));
       field = std::move(plain);
       return Variant();
     }
@@ -155,7 +155,7 @@ Status AssignIndexed(Variant& holder, std::span<Variant> args, Variant value, bo
     VBS_TRY(indices.Read(args, locale));
     if (is_set && !value.is_object()) return MakeError(err::kObjectRequired);
     if (!is_set) {
-      VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+      VBS_TRY_ASSIGN(auto&& plain, ValueOf(value));
       value = std::move(plain);
     }
     return WriteElement(target, indices.span(), std::move(value));
@@ -163,7 +163,7 @@ Status AssignIndexed(Variant& holder, std::span<Variant> args, Variant value, bo
   if (target.is_object()) {
     if (!target.as_object()) return MakeError(err::kObjectNotSet);
     if (!is_set) {
-      VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+      VBS_TRY_ASSIGN(auto&& plain, ValueOf(value));
       value = std::move(plain);
     }
     std::vector<Variant> all(args.begin(), args.end());

@@ -7,7 +7,7 @@ namespace vbs {
 namespace {
 
 Result<std::u16string> Text(const Variant& value, const Locale& locale) {
-  VBS_TRY_ASSIGN(auto text, value.to_string(locale));
+  VBS_TRY_ASSIGN(auto&& text, value.to_string(locale));
   return text.ToU16String();
 }
 
@@ -31,7 +31,7 @@ std::span<const ErrObject::Member> ErrObject::Members() {
 Result<Variant> ErrObject::GetNumber(CallArgs&) { return Variant::Long(m_interp.err().number); }
 
 Result<Variant> ErrObject::PutNumber(CallArgs&, Variant value) {
-  VBS_TRY_ASSIGN(auto number, value.to_long(m_interp.locale()));
+  VBS_TRY_ASSIGN(auto&& number, value.to_long(m_interp.locale()));
   m_interp.err().number = number;
   return Variant();
 }
@@ -39,7 +39,7 @@ Result<Variant> ErrObject::PutNumber(CallArgs&, Variant value) {
 Result<Variant> ErrObject::GetDescription(CallArgs&) { return Variant::String(m_interp.err().description); }
 
 Result<Variant> ErrObject::PutDescription(CallArgs&, Variant value) {
-  VBS_TRY_ASSIGN(auto text, Text(value, m_interp.locale()));
+  VBS_TRY_ASSIGN(auto&& text, Text(value, m_interp.locale()));
   m_interp.err().description = std::move(text);
   return Variant();
 }
@@ -47,7 +47,7 @@ Result<Variant> ErrObject::PutDescription(CallArgs&, Variant value) {
 Result<Variant> ErrObject::GetSource(CallArgs&) { return Variant::String(m_interp.err().source); }
 
 Result<Variant> ErrObject::PutSource(CallArgs&, Variant value) {
-  VBS_TRY_ASSIGN(auto text, Text(value, m_interp.locale()));
+  VBS_TRY_ASSIGN(auto&& text, Text(value, m_interp.locale()));
   m_interp.err().source = std::move(text);
   return Variant();
 }
@@ -57,18 +57,18 @@ Result<Variant> ErrObject::GetHelpFile(CallArgs&) { return Variant::String(u"");
 Result<Variant> ErrObject::GetHelpContext(CallArgs&) { return Variant::Long(0); }
 
 Result<Variant> ErrObject::Raise(CallArgs& args) {
-  VBS_TRY_ASSIGN(auto number, args.Long(0));
+  VBS_TRY_ASSIGN(auto&& number, args.Long(0));
   // 0 and positive numbers past 16 bits are no error numbers: Raise itself is called wrongly.
   if (number == 0 || number > 0xFFFF) return MakeError(err::kInvalidCall);
   ScriptError error = MakeError(number);
   // What Raise is not told is kept from the Err object as it stands, as Windows does.
   error.source = m_interp.err().source;
   if (args.Has(1)) {
-    VBS_TRY_ASSIGN(auto source, args.String(1));
+    VBS_TRY_ASSIGN(auto&& source, args.String(1));
     error.source = std::move(source);
   }
   if (args.Has(2)) {
-    VBS_TRY_ASSIGN(auto description, args.String(2));
+    VBS_TRY_ASSIGN(auto&& description, args.String(2));
     error.description = std::move(description);
   }
   return error;

@@ -46,13 +46,13 @@ Status EvalArgs(Frame& frame, std::span<const ExprNodePtr> args, ArgValues& out,
       continue;
     }
     if (by_reference && !arg->ForcesByVal()) {
-      VBS_TRY_ASSIGN(auto address, arg->AddressForArgument(frame, out));
+      VBS_TRY_ASSIGN(auto&& address, arg->AddressForArgument(frame, out));
       if (address) {
         out.Add(Variant::Reference(address));
         continue;
       }
     }
-    VBS_TRY_ASSIGN(auto value, arg->Eval(frame));
+    VBS_TRY_ASSIGN(auto&& value, arg->Eval(frame));
     out.Add(std::move(value));
   }
   return Ok();
@@ -73,7 +73,7 @@ Status StoreInto(Variant& target, Variant value, bool is_set) {
     target = std::move(value);
     return Ok();
   }
-  VBS_TRY_ASSIGN(auto plain, LetValue(std::move(value)));
+  VBS_TRY_ASSIGN(auto&& plain, LetValue(std::move(value)));
   target = std::move(plain);
   return Ok();
 }
@@ -113,7 +113,7 @@ Status VariableNode::Invoke(Frame& frame) {
   // A variable named alone as a statement calls the default member of the object it holds.
   Variant& value = Storage(frame).Deref();
   if (!value.is_object()) return Ok();
-  VBS_TRY_ASSIGN(auto object, RequireObject(value));
+  VBS_TRY_ASSIGN(auto&& object, RequireObject(value));
   VBS_TRY((object)->Invoke(kDefaultMember, InvokeKind::Method, {}));
   return Ok();
 }
@@ -161,7 +161,7 @@ Result<Variant> LateNameNode::CallWith(Frame& frame, const ExprNodes& args, Invo
   ArgValues values;
   if (!entry) {
     if (!args.empty()) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
-    VBS_TRY_ASSIGN(auto storage, ImplicitStorage(frame));
+    VBS_TRY_ASSIGN(auto&& storage, ImplicitStorage(frame));
     return *storage;
   }
   switch (entry->kind) {
@@ -194,7 +194,7 @@ Status LateNameNode::AssignWith(Frame& frame, const ExprNodes& args, Variant val
   ArgValues values;
   if (!entry) {
     if (!args.empty()) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
-    VBS_TRY_ASSIGN(auto storage, ImplicitStorage(frame));
+    VBS_TRY_ASSIGN(auto&& storage, ImplicitStorage(frame));
     return StoreInto(*storage, std::move(value), is_set);
   }
   switch (entry->kind) {
@@ -228,12 +228,12 @@ Result<Variant> NewNode::Eval(Frame& frame) {
   // RegExp is built in: New RegExp makes the engine's object even when a script declares a class
   // of that name.
   if (m_name == "regexp") {
-    VBS_TRY_ASSIGN(auto object, frame.interp.CreateObject(u"VBScript.RegExp"));
+    VBS_TRY_ASSIGN(auto&& object, frame.interp.CreateObject(u"VBScript.RegExp"));
     return Variant::Object(object);
   }
   const GlobalEntry* entry = frame.interp.FindGlobal(m_name);
   if (!entry || entry->kind != GlobalEntry::Kind::Class) return MakeError(err::kNotAClass);
-  VBS_TRY_ASSIGN(auto instance, frame.interp.NewInstance(*entry->class_info));
+  VBS_TRY_ASSIGN(auto&& instance, frame.interp.NewInstance(*entry->class_info));
   return Variant::Object(instance);
 }
 
@@ -327,7 +327,7 @@ Result<Variant> IsNode::Eval(Frame& frame) {
   if (!left) return left;
   auto right = m_right->Eval(frame);
   if (!right) return right;
-  VBS_TRY_ASSIGN(auto same, Is(*left, *right));
+  VBS_TRY_ASSIGN(auto&& same, Is(*left, *right));
   return Variant::Boolean(same);
 }
 
@@ -339,7 +339,7 @@ Result<Variant> OperatorChainNode::Eval(Frame& frame) {
     auto right = step.operand->Eval(frame);
     if (!right) return right;
     if (step.is) {
-      VBS_TRY_ASSIGN(auto same, Is(accumulated, *right));
+      VBS_TRY_ASSIGN(auto&& same, Is(accumulated, *right));
       accumulated = Variant::Boolean(same);
       continue;
     }
@@ -365,7 +365,7 @@ Result<Variant> ProcedureCallNode::Eval(Frame& frame) {
   if (!m_all_direct) return EvalArgsFirst(frame);
   if (m_args.size() != m_procedure->param_count) return MakeError(err::kWrongArgs);
   // Plain variables and constants go straight into the parameter slots.
-  VBS_TRY_ASSIGN(auto callee, frame.interp.OpenFrame(m_procedure->slot_count));
+  VBS_TRY_ASSIGN(auto&& callee, frame.interp.OpenFrame(m_procedure->slot_count));
   for (size_t i = 0; i < m_args.size(); ++i) {
     Variant& param = callee.slots[Procedure::kFirstParamSlot + i];
     Variant* storage = m_direct[i].Storage(frame);
@@ -440,7 +440,7 @@ Result<Variant> IndexNode::Eval(Frame& frame) {
   if (Variant* element = DirectElement(frame, false)) return *element;
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, false));
-  VBS_TRY_ASSIGN(auto address, m_holder->Address(frame));
+  VBS_TRY_ASSIGN(auto&& address, m_holder->Address(frame));
   if (address) return IndexValue(*address, values.span(), frame.interp.locale());
   auto holder = m_holder->Eval(frame);
   if (!holder) return holder;
@@ -455,11 +455,11 @@ Result<Variant*> IndexNode::AddressForArgument(Frame& frame, ArgValues& args) {
   VBS_TRY(EvalArgs(frame, m_args, values, false));
   std::vector<int32_t> indices;
   for (Variant& index : values.span()) {
-    VBS_TRY_ASSIGN(auto i, index.Deref().to_long(frame.interp.locale()));
+    VBS_TRY_ASSIGN(auto&& i, index.Deref().to_long(frame.interp.locale()));
     indices.push_back(i);
   }
-  VBS_TRY_ASSIGN(auto array, MutableArray(**holder));
-  VBS_TRY_ASSIGN(auto offset, (array)->Offset(indices));
+  VBS_TRY_ASSIGN(auto&& array, MutableArray(**holder));
+  VBS_TRY_ASSIGN(auto&& offset, (array)->Offset(indices));
   args.Lock(Ref<SafeArray>(array));
   return &(array)->elements()[offset];
 }
@@ -473,9 +473,9 @@ Status IndexNode::Assign(Frame& frame, Variant value, bool is_set) {
   }
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, false));
-  VBS_TRY_ASSIGN(auto address, m_holder->Address(frame));
+  VBS_TRY_ASSIGN(auto&& address, m_holder->Address(frame));
   if (address) return AssignIndexed(*address, values.span(), std::move(value), is_set, frame.interp.locale());
-  VBS_TRY_ASSIGN(auto holder, m_holder->Eval(frame));
+  VBS_TRY_ASSIGN(auto&& holder, m_holder->Eval(frame));
   if (!holder.is_object()) return MakeError(err::kIllegalAssignment);
   return AssignIndexed(holder, values.span(), std::move(value), is_set, frame.interp.locale());
 }
@@ -488,7 +488,7 @@ Status LateCallNode::Invoke(Frame& frame) {
 Result<Variant> MemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) {
   auto holder = m_object->Eval(frame);
   if (!holder) return holder;
-  VBS_TRY_ASSIGN(auto object, RequireObject(*holder));
+  VBS_TRY_ASSIGN(auto&& object, RequireObject(*holder));
   Object* target = object;
   const void* layout = target->MemberLayout();
   DispId member;
@@ -514,7 +514,7 @@ Result<Variant> MemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) 
 Result<Variant> MemberNode::Eval(Frame& frame) { return Call(frame, InvokeKind::Get, nullptr); }
 
 Status MemberNode::Assign(Frame& frame, Variant value, bool is_set) {
-  VBS_TRY_ASSIGN(auto assigned, AssignedValue(std::move(value), is_set));
+  VBS_TRY_ASSIGN(auto&& assigned, AssignedValue(std::move(value), is_set));
   return Discard(Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &assigned));
 }
 
@@ -527,7 +527,7 @@ Result<Variant> MeMemberNode::Eval(Frame& frame) {
 }
 
 Status MeMemberNode::Assign(Frame& frame, Variant value, bool is_set) {
-  VBS_TRY_ASSIGN(auto assigned, AssignedValue(std::move(value), is_set));
+  VBS_TRY_ASSIGN(auto&& assigned, AssignedValue(std::move(value), is_set));
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, true));
   values.Add(std::move(assigned));
@@ -563,7 +563,7 @@ Result<Variant> HostMemberNode::Call(Frame& frame, InvokeKind kind, Variant* val
 Result<Variant> HostMemberNode::Eval(Frame& frame) { return Call(frame, InvokeKind::Get, nullptr); }
 
 Status HostMemberNode::Assign(Frame& frame, Variant value, bool is_set) {
-  VBS_TRY_ASSIGN(auto assigned, AssignedValue(std::move(value), is_set));
+  VBS_TRY_ASSIGN(auto&& assigned, AssignedValue(std::move(value), is_set));
   return Discard(Call(frame, is_set ? InvokeKind::Set : InvokeKind::Let, &assigned));
 }
 
@@ -578,7 +578,7 @@ Result<Variant> ValueIndexNode::Eval(Frame& frame) {
 }
 
 Status ValueIndexNode::Assign(Frame& frame, Variant value, bool is_set) {
-  VBS_TRY_ASSIGN(auto callee, m_callee->Eval(frame));
+  VBS_TRY_ASSIGN(auto&& callee, m_callee->Eval(frame));
   if (!callee.is_object()) return MakeError(err::kIllegalAssignment);
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, false));

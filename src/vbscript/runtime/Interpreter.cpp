@@ -201,7 +201,7 @@ Status InitialiseArrays(const Procedure& procedure, Variant* slots) {
   for (const auto& [slot, uppers] : procedure.fixed_arrays) {
     std::vector<ArrayBound> bounds;
     for (int32_t upper : uppers) bounds.push_back({0, upper});
-    VBS_TRY_ASSIGN(auto array, SafeArray::Create(bounds));
+    VBS_TRY_ASSIGN(auto&& array, SafeArray::Create(bounds));
     slots[slot] = Variant::Array(array);
     slots[slot].MarkFixedArray();
   }
@@ -219,7 +219,7 @@ Status InitialiseArrays(const Procedure& procedure, Variant* slots) {
 
 Result<Variant> Interpreter::Call(const Procedure& procedure, ClassInstance* me, std::span<Variant> args) {
   if (args.size() != procedure.param_count) return MakeError(err::kWrongArgs);
-  VBS_TRY_ASSIGN(auto frame, OpenFrame(procedure.slot_count));
+  VBS_TRY_ASSIGN(auto&& frame, OpenFrame(procedure.slot_count));
   for (uint32_t i = 0; i < procedure.param_count; ++i) {
     Variant& arg = args[i];
     Variant& param = frame.slots[Procedure::kFirstParamSlot + i];
@@ -253,7 +253,7 @@ Result<Ref<ClassInstance>> Interpreter::NewInstance(ClassInfo& info) {
 }
 
 Status Interpreter::RunProgram(const CompiledProgram& program, Frame* outer, bool resume_next) {
-  VBS_TRY_ASSIGN(auto slots, OpenFrame(program.temp_count));
+  VBS_TRY_ASSIGN(auto&& slots, OpenFrame(program.temp_count));
   Frame frame{*this, slots.slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer, resume_next};
   auto flow = program.body.Exec(frame);
   CloseFrame(slots);
@@ -262,7 +262,7 @@ Status Interpreter::RunProgram(const CompiledProgram& program, Frame* outer, boo
 }
 
 Result<Variant> Interpreter::EvalProgram(const CompiledProgram& program, Frame* outer) {
-  VBS_TRY_ASSIGN(auto slots, OpenFrame(program.temp_count));
+  VBS_TRY_ASSIGN(auto&& slots, OpenFrame(program.temp_count));
   Frame frame{*this, slots.slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer, false};
   auto value = program.expression->Eval(frame);
   CloseFrame(slots);

@@ -11,7 +11,7 @@ namespace {
 bool IsInterruption(const ScriptError& error) { return error.number == err::kAborted; }
 
 Result<bool> Condition(Frame& frame, ExprNode& condition) {
-  VBS_TRY_ASSIGN(auto value, condition.Eval(frame));
+  VBS_TRY_ASSIGN(auto&& value, condition.Eval(frame));
   if (value.is_boolean()) return value.as_boolean();
   return IsTrue(value, frame.interp.locale());
 }
@@ -57,7 +57,7 @@ Result<Flow> ExprStmtNode::Exec(Frame& frame) {
 }
 
 Result<Flow> AssignNode::Exec(Frame& frame) {
-  VBS_TRY_ASSIGN(auto value, m_value->Eval(frame));
+  VBS_TRY_ASSIGN(auto&& value, m_value->Eval(frame));
   if (!m_is_set && !value.is_object() && !value.IsRef()) {
     if (Variant* target = m_direct_target.Storage(frame)) {
       *target = std::move(value);
@@ -69,7 +69,7 @@ Result<Flow> AssignNode::Exec(Frame& frame) {
 }
 
 Result<Flow> AppendNode::Exec(Frame& frame) {
-  VBS_TRY_ASSIGN(auto value, m_value->Eval(frame));
+  VBS_TRY_ASSIGN(auto&& value, m_value->Eval(frame));
   VBS_TRY(ConcatAssign(m_target->Storage(frame).Deref(), value, frame.interp.locale()));
   return Flow::Normal;
 }
@@ -83,7 +83,7 @@ Result<Flow> UpdateNode<Op>::Exec(Frame& frame) {
     return Store(target, target, *value, frame);
   }
   const Variant current = target;  // taken first: evaluating the right side may change the variable
-  VBS_TRY_ASSIGN(auto value, m_value->Eval(frame));
+  VBS_TRY_ASSIGN(auto&& value, m_value->Eval(frame));
   if (TryFastApply<Op>(current, value, target)) [[likely]]
     return Flow::Normal;
   return Store(target, current, value, frame);
@@ -91,7 +91,7 @@ Result<Flow> UpdateNode<Op>::Exec(Frame& frame) {
 
 template <BinaryOperator Op>
 Result<Flow> UpdateNode<Op>::Store(Variant& target, const Variant& current, const Variant& value, Frame& frame) {
-  VBS_TRY_ASSIGN(auto result, ApplyBinary(Op, current, value, frame.interp.compare_mode(), frame.interp.locale()));
+  VBS_TRY_ASSIGN(auto&& result, ApplyBinary(Op, current, value, frame.interp.compare_mode(), frame.interp.locale()));
   target = std::move(result);
   return Flow::Normal;
 }
@@ -111,15 +111,15 @@ StmtNodePtr MakeUpdateNode(SourcePos pos, BinaryOperator op, ExprNodePtr target,
 
 Result<Flow> RedimNode::Exec(Frame& frame) {
   for (RedimTarget& item : m_targets) {
-    VBS_TRY_ASSIGN(auto address, item.target->Address(frame));
+    VBS_TRY_ASSIGN(auto&& address, item.target->Address(frame));
     if (!address) return MakeError(err::kTypeMismatch);
     // Without Preserve a fixed array refuses before its new bounds are even looked at; with
     // Preserve the bounds are read first, as Windows does.
     if (!m_preserve && (address)->IsFixedArray()) return MakeError(err::kFixedArray);
     std::vector<ArrayBound> bounds;
     for (ExprNodePtr& bound : item.bounds) {
-      VBS_TRY_ASSIGN(auto value, bound->Eval(frame));
-      VBS_TRY_ASSIGN(auto upper, value.to_long(frame.interp.locale()));
+      VBS_TRY_ASSIGN(auto&& value, bound->Eval(frame));
+      VBS_TRY_ASSIGN(auto&& upper, value.to_long(frame.interp.locale()));
       bounds.push_back({0, upper});
     }
     VBS_TRY(Redim(*address, bounds, m_preserve ? RedimMode::Preserve : RedimMode::Discard));
@@ -129,7 +129,7 @@ Result<Flow> RedimNode::Exec(Frame& frame) {
 
 Result<Flow> EraseNode::Exec(Frame& frame) {
   for (ExprNodePtr& target : m_targets) {
-    VBS_TRY_ASSIGN(auto address, target->Address(frame));
+    VBS_TRY_ASSIGN(auto&& address, target->Address(frame));
     if (!address) return MakeError(err::kTypeMismatch);
     VBS_TRY(Erase(*address));
   }
@@ -146,7 +146,7 @@ Result<Flow> IfNode::Exec(Frame& frame) {
 }
 
 Result<Flow> SelectNode::Exec(Frame& frame) {
-  VBS_TRY_ASSIGN(auto subject, m_subject->Eval(frame));
+  VBS_TRY_ASSIGN(auto&& subject, m_subject->Eval(frame));
   for (CaseBlock& block : m_cases) {
     for (ExprNodePtr& candidate : block.values) {
       auto value = candidate->Eval(frame);
@@ -154,8 +154,8 @@ Result<Flow> SelectNode::Exec(Frame& frame) {
         if (ResumeIntoBody(frame, value.error())) return block.body.Exec(frame);
         return std::move(value).error();
       }
-      VBS_TRY_ASSIGN(auto equal, Compare(BinaryOperator::Equal, subject, *value, frame.interp.compare_mode(),
-                                         frame.interp.locale()));
+      VBS_TRY_ASSIGN(auto&& equal, Compare(BinaryOperator::Equal, subject, *value, frame.interp.compare_mode(),
+                                           frame.interp.locale()));
       if (equal.is_boolean() && equal.as_boolean()) return block.body.Exec(frame);
     }
   }
@@ -183,21 +183,21 @@ Result<Flow> ForNode::Exec(Frame& frame) {
     if (!value) return header_failed(value.error());
     step = std::move(*value);
   }
-  VBS_TRY_ASSIGN(auto plain_from, LetValue(std::move(*from)));
-  VBS_TRY_ASSIGN(auto plain_to, LetValue(std::move(*to)));
-  VBS_TRY_ASSIGN(auto plain_step, LetValue(std::move(step)));
+  VBS_TRY_ASSIGN(auto&& plain_from, LetValue(std::move(*from)));
+  VBS_TRY_ASSIGN(auto&& plain_to, LetValue(std::move(*to)));
+  VBS_TRY_ASSIGN(auto&& plain_step, LetValue(std::move(step)));
   Variant& limit = frame.slots[m_temp];
   Variant& increment = frame.slots[m_temp + 1];
   limit = std::move(plain_to);
   increment = std::move(plain_step);
-  VBS_TRY_ASSIGN(auto step_value, increment.to_double(locale));
+  VBS_TRY_ASSIGN(auto&& step_value, increment.to_double(locale));
   const BinaryOperator keep_going = step_value >= 0 ? BinaryOperator::LessEqual : BinaryOperator::GreaterEqual;
 
   VBS_TRY(m_counter->Assign(frame, std::move(plain_from), false));
   Flow report = Flow::Normal;
   auto step_counter = [&]() -> Status {
-    VBS_TRY_ASSIGN(auto current, m_counter->Eval(frame));
-    VBS_TRY_ASSIGN(auto next, Add(current, increment, locale));
+    VBS_TRY_ASSIGN(auto&& current, m_counter->Eval(frame));
+    VBS_TRY_ASSIGN(auto&& next, Add(current, increment, locale));
     return m_counter->Assign(frame, std::move(next), false);
   };
   bool body_ran = false;  // set when the fast loop hands over right after a run of the body
@@ -237,8 +237,8 @@ Result<Flow> ForNode::Exec(Frame& frame) {
   }
   if (body_ran) VBS_TRY(step_counter());
   for (;;) {
-    VBS_TRY_ASSIGN(auto counter, m_counter->Eval(frame));
-    VBS_TRY_ASSIGN(auto within, Compare(keep_going, counter, limit, CompareMode::Binary, locale));
+    VBS_TRY_ASSIGN(auto&& counter, m_counter->Eval(frame));
+    VBS_TRY_ASSIGN(auto&& within, Compare(keep_going, counter, limit, CompareMode::Binary, locale));
     if (!within.is_boolean() || !within.as_boolean()) break;
     VBS_TRY(frame.interp.CheckInterrupt());
     auto flow = m_body.Exec(frame);
@@ -276,7 +276,7 @@ Result<Flow> ForEachNode::Exec(Frame& frame) {
     VBS_TRY(frame.interp.CheckInterrupt());
     bool is_object = element.is_object();
     VBS_TRY(m_element->Assign(frame, std::move(element), is_object));
-    VBS_TRY_ASSIGN(auto flow, m_body.Exec(frame));
+    VBS_TRY_ASSIGN(auto&& flow, m_body.Exec(frame));
     return LeavesLoop(flow, Flow::ExitFor, report);
   };
 
@@ -284,7 +284,7 @@ Result<Flow> ForEachNode::Exec(Frame& frame) {
     Ref<SafeArray> array(collection->as_array());
     ArrayLock lock(array);
     for (size_t i = 0; i < array->size(); ++i) {
-      VBS_TRY_ASSIGN(auto leave, visit(array->elements()[i]));
+      VBS_TRY_ASSIGN(auto&& leave, visit(array->elements()[i]));
       if (leave) return report;
     }
     return Flow::Normal;
@@ -295,12 +295,12 @@ Result<Flow> ForEachNode::Exec(Frame& frame) {
     if (!flow) return flow;
     return LeavesLoop(*flow, Flow::ExitFor, report) ? report : Flow::Normal;
   }
-  VBS_TRY_ASSIGN(auto enumerator, collection->as_object()->Enumerate());
+  VBS_TRY_ASSIGN(auto&& enumerator, collection->as_object()->Enumerate());
   for (;;) {
     Variant element;
-    VBS_TRY_ASSIGN(auto more, (enumerator)->Next(element));
+    VBS_TRY_ASSIGN(auto&& more, (enumerator)->Next(element));
     if (!more) break;
-    VBS_TRY_ASSIGN(auto leave, visit(std::move(element)));
+    VBS_TRY_ASSIGN(auto&& leave, visit(std::move(element)));
     if (leave) return report;
   }
   // A collection walked to its end leaves the loop variable Empty, as Windows does.
@@ -325,7 +325,7 @@ Result<Flow> LoopNode::Exec(Frame& frame) {
     if (m_while_wend ? *flow != Flow::Normal : LeavesLoop(*flow, Flow::ExitDo, report))
       return m_while_wend ? *flow : report;
     if (m_condition && !check_before) {
-      VBS_TRY_ASSIGN(auto holds, Condition(frame, *m_condition));
+      VBS_TRY_ASSIGN(auto&& holds, Condition(frame, *m_condition));
       if (holds == until) break;
     }
   }
@@ -349,7 +349,7 @@ Result<Flow> DimArrayNode::Exec(Frame&) {
     }
     std::vector<ArrayBound> bounds;
     for (int32_t upper : item.uppers) bounds.push_back({0, upper});
-    VBS_TRY_ASSIGN(auto array, SafeArray::Create(bounds));
+    VBS_TRY_ASSIGN(auto&& array, SafeArray::Create(bounds));
     *item.storage = Variant::Array(array);
     item.storage->MarkFixedArray();
   }

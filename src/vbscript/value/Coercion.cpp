@@ -50,7 +50,7 @@ std::optional<double> ParseRadix(std::u16string_view s) {
 
 // The value as a whole number in [min, max], rounded half to even; error 6 outside.
 Result<int64_t> ToWhole(const Variant& value, int64_t min, int64_t max, bool byte_target, const Locale& locale) {
-  VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+  VBS_TRY_ASSIGN(auto&& plain, ValueOf(value));
   const Variant& v = plain;
   int64_t whole = 0;
   double real = 0;
@@ -142,7 +142,7 @@ Result<Variant> ValueOf(const Variant& value) {
     // A default member that keeps returning objects never yields a value.
     if (depth == 8) return MakeError(err::kTypeMismatch);
     Ref<Object> object = current.object_ref();
-    VBS_TRY_ASSIGN(auto result, object->Invoke(kDefaultMember, InvokeKind::Get, {}));
+    VBS_TRY_ASSIGN(auto&& result, object->Invoke(kDefaultMember, InvokeKind::Get, {}));
     Variant next = result.Deref();
     current = std::move(next);
   }
@@ -271,7 +271,7 @@ std::u16string FormatCurrency(int64_t scaled, const Locale& locale) {
 }
 
 Result<bool> Variant::to_boolean(const Locale& locale) const {
-  VBS_TRY_ASSIGN(auto plain, ValueOf(*this));
+  VBS_TRY_ASSIGN(auto&& plain, ValueOf(*this));
   const Variant& v = plain;
   switch (v.subtype()) {
     case Subtype::Empty: return false;
@@ -294,22 +294,22 @@ Result<bool> Variant::to_boolean(const Locale& locale) const {
 }
 
 Result<uint8_t> Variant::to_byte(const Locale& locale) const {
-  VBS_TRY_ASSIGN(auto whole, ToWhole(*this, 0, 255, true, locale));
+  VBS_TRY_ASSIGN(auto&& whole, ToWhole(*this, 0, 255, true, locale));
   return static_cast<uint8_t>(whole);
 }
 
 Result<int16_t> Variant::to_integer(const Locale& locale) const {
-  VBS_TRY_ASSIGN(auto whole, ToWhole(*this, INT16_MIN, INT16_MAX, false, locale));
+  VBS_TRY_ASSIGN(auto&& whole, ToWhole(*this, INT16_MIN, INT16_MAX, false, locale));
   return static_cast<int16_t>(whole);
 }
 
 Result<int32_t> Variant::to_long(const Locale& locale) const {
-  VBS_TRY_ASSIGN(auto whole, ToWhole(*this, INT32_MIN, INT32_MAX, false, locale));
+  VBS_TRY_ASSIGN(auto&& whole, ToWhole(*this, INT32_MIN, INT32_MAX, false, locale));
   return static_cast<int32_t>(whole);
 }
 
 Result<double> Variant::to_double(const Locale& locale) const {
-  VBS_TRY_ASSIGN(auto plain, ValueOf(*this));
+  VBS_TRY_ASSIGN(auto&& plain, ValueOf(*this));
   const Variant& v = plain;
   switch (v.subtype()) {
     case Subtype::Empty: return 0.0;
@@ -333,7 +333,7 @@ Result<double> Variant::to_double(const Locale& locale) const {
 }
 
 Result<float> Variant::to_single(const Locale& locale) const {
-  VBS_TRY_ASSIGN(auto real, to_double(locale));
+  VBS_TRY_ASSIGN(auto&& real, to_double(locale));
   if (std::fabs(real) > std::numeric_limits<float>::max()) return MakeError(err::kOverflow);
   return static_cast<float>(real);
 }
@@ -347,7 +347,7 @@ Result<int64_t> Variant::to_currency(const Locale& locale) const {
     case Subtype::Long: return int64_t{v.as_long()} * kCurrencyScale;
     default: break;
   }
-  VBS_TRY_ASSIGN(auto real, to_double(locale));
+  VBS_TRY_ASSIGN(auto&& real, to_double(locale));
   const double scaled = RoundHalfEven(real * kCurrencyScale);
   // The largest double below 2^63, so that the cast below is defined.
   constexpr double kLimit = 9223372036854774784.0;
@@ -356,7 +356,7 @@ Result<int64_t> Variant::to_currency(const Locale& locale) const {
 }
 
 Result<double> Variant::to_date(const Locale& locale) const {
-  VBS_TRY_ASSIGN(auto plain, ValueOf(*this));
+  VBS_TRY_ASSIGN(auto&& plain, ValueOf(*this));
   const Variant& v = plain;
   double serial = 0;
   if (v.is_date()) return v.as_date();
@@ -366,7 +366,7 @@ Result<double> Variant::to_date(const Locale& locale) const {
     if (!number) return MakeError(err::kTypeMismatch);
     serial = *number;
   } else {
-    VBS_TRY_ASSIGN(auto real, v.to_double(locale));
+    VBS_TRY_ASSIGN(auto&& real, v.to_double(locale));
     serial = real;
   }
   if (!IsValidDateSerial(serial)) return MakeError(err::kOverflow);
@@ -374,7 +374,7 @@ Result<double> Variant::to_date(const Locale& locale) const {
 }
 
 Result<VbString> Variant::to_string(const Locale& locale) const {
-  VBS_TRY_ASSIGN(auto plain, ValueOf(*this));
+  VBS_TRY_ASSIGN(auto&& plain, ValueOf(*this));
   const Variant& v = plain;
   switch (v.subtype()) {
     case Subtype::Empty: return VbString();

@@ -15,7 +15,7 @@ namespace {
 Status ToArithmetic(Variant& v, const Locale& locale) {
   switch (v.subtype()) {
     case Subtype::String: {
-      VBS_TRY_ASSIGN(auto number, v.to_double(locale));
+      VBS_TRY_ASSIGN(auto&& number, v.to_double(locale));
       v = Variant::Double(number);
       return Ok();
     }
@@ -126,7 +126,7 @@ Result<Variant> Arithmetic(Arith op, const Variant& left, const Variant& right, 
   if (a->is_null() || b->is_null()) return Variant::Null();
   if (op == Arith::Add) {
     if (a->is_string() && b->is_string()) {
-      VBS_TRY_ASSIGN(auto joined, VbString::Concat(a->as_string_view(), b->as_string_view()));
+      VBS_TRY_ASSIGN(auto&& joined, VbString::Concat(a->as_string_view(), b->as_string_view()));
       return Variant::String(std::move(joined));
     }
     if (a->is_empty() && b->is_string()) return *b;
@@ -174,8 +174,8 @@ Result<Variant> Arithmetic(Arith op, const Variant& left, const Variant& right, 
 
 // Both operands as Doubles for / and ^; `null` set when either is Null.
 Status RealOperands(const Variant& left, const Variant& right, const Locale& locale, double& x, double& y, bool& null) {
-  VBS_TRY_ASSIGN(auto a, ValueOf(left));
-  VBS_TRY_ASSIGN(auto b, ValueOf(right));
+  VBS_TRY_ASSIGN(auto&& a, ValueOf(left));
+  VBS_TRY_ASSIGN(auto&& b, ValueOf(right));
   null = a.is_null() || b.is_null();
   if (null) return Ok();
   VBS_TRY(ToArithmetic(a, locale));
@@ -205,8 +205,8 @@ Result<Variant> IntegerDivision(IntegerOp op, const Variant& left, const Variant
   } else if (narrow(a->subtype()) && narrow(b->subtype())) {
     type = Subtype::Integer;
   }
-  VBS_TRY_ASSIGN(auto x, a->to_long(locale));
-  VBS_TRY_ASSIGN(auto y, b->to_long(locale));
+  VBS_TRY_ASSIGN(auto&& x, a->to_long(locale));
+  VBS_TRY_ASSIGN(auto&& y, b->to_long(locale));
   if (y == 0) return MakeError(err::kDivisionByZero);
   const int64_t n = x;
   const int64_t d = y;
@@ -222,7 +222,7 @@ struct Bits {
 };
 
 Result<Bits> ToBits(const Variant& value, const Locale& locale) {
-  VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+  VBS_TRY_ASSIGN(auto&& plain, ValueOf(value));
   const Variant& v = plain;
   switch (v.subtype()) {
     case Subtype::Null: return Bits{true, Subtype::Integer, 0};
@@ -239,7 +239,7 @@ Result<Bits> ToBits(const Variant& value, const Locale& locale) {
       break;
     default: break;
   }
-  VBS_TRY_ASSIGN(auto whole, v.to_long(locale));
+  VBS_TRY_ASSIGN(auto&& whole, v.to_long(locale));
   return Bits{false, Subtype::Long, whole};
 }
 
@@ -261,8 +261,8 @@ Subtype LogicalType(Subtype a, Subtype b) {
 enum class Logic { And, Or, Xor, Eqv, Imp };
 
 Result<Variant> Logical(Logic op, const Variant& left, const Variant& right, const Locale& locale) {
-  VBS_TRY_ASSIGN(auto a, ToBits(left, locale));
-  VBS_TRY_ASSIGN(auto b, ToBits(right, locale));
+  VBS_TRY_ASSIGN(auto&& a, ToBits(left, locale));
+  VBS_TRY_ASSIGN(auto&& b, ToBits(right, locale));
   if (a.null && b.null) return Variant::Null();
   if (a.null || b.null) {
     // Only a side that decides the result alone gives a value.
@@ -375,16 +375,16 @@ Result<Variant> Concat(const Variant& a, const Variant& b, const Locale& locale)
   VbString left;
   VbString right;
   if (!x->is_null()) {
-    VBS_TRY_ASSIGN(auto s, x->to_string(locale));
+    VBS_TRY_ASSIGN(auto&& s, x->to_string(locale));
     left = std::move(s);
   }
   if (!y->is_null()) {
-    VBS_TRY_ASSIGN(auto s, y->to_string(locale));
+    VBS_TRY_ASSIGN(auto&& s, y->to_string(locale));
     right = std::move(s);
   }
   if (right.empty()) return Variant::String(std::move(left));
   if (left.empty()) return Variant::String(std::move(right));
-  VBS_TRY_ASSIGN(auto joined, VbString::Concat(left.view(), right.view()));
+  VBS_TRY_ASSIGN(auto&& joined, VbString::Concat(left.view(), right.view()));
   return Variant::String(std::move(joined));
 }
 
@@ -487,7 +487,7 @@ Result<Variant> Negate(const Variant& value, const Locale& locale) {
 }
 
 Result<Variant> Not(const Variant& value, const Locale& locale) {
-  VBS_TRY_ASSIGN(auto bits, ToBits(value, locale));
+  VBS_TRY_ASSIGN(auto&& bits, ToBits(value, locale));
   if (bits.null) return Variant::Null();
   return MakeBits(bits.type, ~bits.bits);
 }
@@ -502,7 +502,7 @@ Result<bool> Is(const Variant& a, const Variant& b) {
 Result<bool> IsTrue(const Variant& condition, const Locale& locale) {
   const Variant& v = condition.Deref();
   if (v.is_boolean()) return v.as_boolean();
-  VBS_TRY_ASSIGN(auto plain, ValueOf(v));
+  VBS_TRY_ASSIGN(auto&& plain, ValueOf(v));
   if (plain.is_null()) return false;
   return plain.to_boolean(locale);
 }
@@ -510,15 +510,15 @@ Result<bool> IsTrue(const Variant& condition, const Locale& locale) {
 Status ConcatAssign(Variant& target, const Variant& value, const Locale& locale) {
   Variant& t = target.Deref();
   if (!t.is_string()) {
-    VBS_TRY_ASSIGN(auto joined, Concat(t, value, locale));
+    VBS_TRY_ASSIGN(auto&& joined, Concat(t, value, locale));
     t = std::move(joined);
     return Ok();
   }
   const Variant& v = value.Deref();
   if (v.is_string()) return t.AppendInPlace(v.as_string_view());
-  VBS_TRY_ASSIGN(auto plain, ValueOf(v));
+  VBS_TRY_ASSIGN(auto&& plain, ValueOf(v));
   if (plain.is_null()) return Ok();
-  VBS_TRY_ASSIGN(auto text, plain.to_string(locale));
+  VBS_TRY_ASSIGN(auto&& text, plain.to_string(locale));
   return t.AppendInPlace(text.view());
 }
 

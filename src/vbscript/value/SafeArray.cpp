@@ -102,7 +102,7 @@ Result<SafeArray*> MutableArray(Variant& variable) {
   if (!target.is_array()) return MakeError(err::kTypeMismatch);
   SafeArray* array = target.as_array();
   if (array->RefCount() == 1) return array;
-  VBS_TRY_ASSIGN(auto copy, array->Clone());
+  VBS_TRY_ASSIGN(auto&& copy, array->Clone());
   SafeArray* result = copy.get();
   target.ReplaceArray(std::move(copy));
   return result;
@@ -113,7 +113,7 @@ Status Redim(Variant& variable, std::span<const ArrayBound> bounds, RedimMode mo
   Variant& target = variable.Deref();
   const bool had_array = target.is_array();
   if (had_array && (target.IsFixedArray() || target.as_array()->IsLocked())) return MakeError(err::kFixedArray);
-  VBS_TRY_ASSIGN(auto created, SafeArray::Create(bounds));
+  VBS_TRY_ASSIGN(auto&& created, SafeArray::Create(bounds));
   if (mode == RedimMode::Preserve && had_array && target.as_array()->DimensionCount() != 0) {
     const SafeArray& old = *target.as_array();
     const auto& old_bounds = old.bounds();
@@ -149,7 +149,7 @@ Status Erase(Variant& variable) {
     target.ReplaceArray(SafeArray::CreateUndimensioned());
     return Ok();
   }
-  VBS_TRY_ASSIGN(auto array, MutableArray(target));
+  VBS_TRY_ASSIGN(auto&& array, MutableArray(target));
   for (Variant& element : (array)->elements()) element = Variant();
   return Ok();
 }
@@ -157,7 +157,7 @@ Status Erase(Variant& variable) {
 Result<Variant> ReadElement(const Variant& array, std::span<const int32_t> indices) {
   const Variant& target = array.Deref();
   if (!target.is_array()) return MakeError(err::kTypeMismatch);
-  VBS_TRY_ASSIGN(auto offset, target.as_array()->Offset(indices));
+  VBS_TRY_ASSIGN(auto&& offset, target.as_array()->Offset(indices));
   return target.as_array()->elements()[offset];
 }
 
@@ -165,8 +165,8 @@ Status WriteElement(Variant& variable, std::span<const int32_t> indices, Variant
   Variant& target = variable.Deref();
   if (!target.is_array()) return MakeError(err::kTypeMismatch);
   // Bounds first, so that a bad index does not copy a shared array for nothing.
-  VBS_TRY_ASSIGN(auto offset, target.as_array()->Offset(indices));
-  VBS_TRY_ASSIGN(auto array, MutableArray(target));
+  VBS_TRY_ASSIGN(auto&& offset, target.as_array()->Offset(indices));
+  VBS_TRY_ASSIGN(auto&& array, MutableArray(target));
   (array)->elements()[offset] = std::move(value);
   return Ok();
 }
