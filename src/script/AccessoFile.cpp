@@ -60,7 +60,8 @@ vbs::ScriptError Rifiuto(std::string_view funzione, std::string_view azione, con
                                                         percorso.string(), motivo)),
                           {},
                           {},
-                          false};
+                          false,
+                          {}};
 }
 
 }  // namespace

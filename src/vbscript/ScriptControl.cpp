@@ -74,8 +74,7 @@ Result<T> ScriptControl::Guard(Result<T> result) {
   if (result) return result;
   const ScriptError& error = result.error();
   m_error.number = error.number;
-  m_error.description = error.description.empty() ? std::u16string(ErrorText(error.number, m_interp->locale().language))
-                                                  : error.description;
+  m_error.description = ErrorMessage(error, m_interp->locale().language);
   m_interp->SetErr(error);
   m_error.source = m_interp->err().source;
   if (error.has_pos) {

@@ -140,7 +140,7 @@ TEST_F(EsecuzioneScript, ErrorsGiveTheLineOfTheUsersFileAndThePageIsStillClosed)
   EXPECT_EQ(esito.errore->riga, 5u);
   EXPECT_EQ(esito.errore->colonna, 1u);
   EXPECT_EQ(RapportoErrore(*esito.errore),
-            "Errore script !\n500 - Variabile non definita\nLinea   : 5\nColonna : 1\nSource : "
+            "Errore script !\n500 - Variabile non definita: 'x'\nLinea   : 5\nColonna : 1\nSource : "
             "Errore di run-time di VBScript\n");
   EXPECT_EQ(m_ospite.Testo(), "2\n");
   EXPECT_TRUE(Leggi(esito.pagina_html).ends_with("</html>\n"));
@@ -152,6 +152,18 @@ TEST_F(EsecuzioneScript, ErrorsGiveTheLineOfTheUsersFileAndThePageIsStillClosed)
   EXPECT_EQ(nellInclusione.errore->numero, 11);
   EXPECT_EQ(nellInclusione.errore->riga, 3u);
   EXPECT_EQ(nellInclusione.errore->codice, "Lib.ls") << "the line is the included file's";
+}
+
+// A procedure of an included file means by a name it does not declare the global that the user's
+// script made by assigning it; the library's names stay the library's.
+TEST_F(EsecuzioneScript, IncludedProceduresSeeTheGlobalsTheScriptMadeByAssignment) {
+  Scrivi(m_base / "Script/Funzioni/Lib.ls",
+         "Function Conta\nconteggio = conteggio + 1\nConta = conteggio\nEnd Function\n");
+  auto esito = Esegui(
+      "includi Lib.ls\nconteggio = 10\nSub Main\nFor r = 1 To 2\nScrivi Conta() & \" \" & r & \" \" & TU_\nNext\n"
+      "Scrivi conteggio & \" \" & r\nEnd Sub");
+  EXPECT_EQ(esito.stato, EsitoEsecuzione::Stato::Completato);
+  EXPECT_EQ(m_ospite.Testo(), "11 1 11\n12 2 11\n12 3\n");
 }
 
 TEST_F(EsecuzioneScript, AScriptWithoutMainFailsAtTheCallOfMain) {

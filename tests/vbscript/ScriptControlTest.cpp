@@ -124,7 +124,35 @@ TEST_F(Motore, LErroreDiceNumeroRigaEColonna) {
 
   ASSERT_TRUE(engine.SetLocale(1033));
   EXPECT_FALSE(Add("Sub S\nEnd Sub\nS 1\n"));
-  EXPECT_EQ(text::Utf16ToUtf8(engine.Error().description), "Wrong number of arguments or invalid property assignment");
+  EXPECT_EQ(text::Utf16ToUtf8(engine.Error().description),
+            "Wrong number of arguments or invalid property assignment: 'S'");
+}
+
+// The message a host shows names the name, the built-in or the object that failed, as Windows
+// does; Err.Description keeps the plain text that scripts compare.
+TEST_F(Motore, IlMessaggioNominaCioCheNonVaErrDescriptionNo) {
+  const std::pair<const char*, const char*> casi[] = {
+      {"ImpostaGiocata 1, 2", "Tipo non corrispondente: 'ImpostaGiocata'"},
+      {"Dim t : t = Trova(1)", "Tipo non corrispondente: 'Trova'"},
+      {"Option Explicit\nnonDichiarata = 1", "Variabile non definita: 'nonDichiarata'"},
+      {"Dim v : v = CLng(\"abc\")", "Tipo non corrispondente: 'CLng'"},
+      {"Dim m : m = Mid(\"abc\", 0)", "Chiamata di routine o argomento non validi: 'Mid'"},
+      {"Dim d : Set d = CreateObject(\"Scripting.Dictionary\") : d.Aggiungi 1",
+       "Proprietà o metodo non supportati dall'oggetto: 'd.Aggiungi'"},
+      {"Dim e : e.Fai", "Necessario oggetto: 'e'"},
+      {"Function F(a) : End Function : Dim r : r = F(1, 2)",
+       "Numero di argomenti errato o assegnazione di proprietà non valida: 'F'"},
+      {"Dim o : Set o = CreateObject(\"Nessuna.Classe\")",
+       "Il componente ActiveX non può creare l'oggetto: 'Nessuna.Classe'"},
+  };
+  for (const auto& [codice, messaggio] : casi) {
+    engine.Reset();
+    EXPECT_FALSE(Add(codice)) << codice;
+    EXPECT_EQ(text::Utf16ToUtf8(engine.Error().description), messaggio) << codice;
+  }
+  engine.Reset();
+  ASSERT_TRUE(Add("On Error Resume Next\nImpostaGiocata 1\nDim t : t = Err.Description"));
+  EXPECT_EQ(EvalText("t"), "Tipo non corrispondente");
 }
 
 TEST_F(Motore, SenzaLinguaggioNienteGira) {

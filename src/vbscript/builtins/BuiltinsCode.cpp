@@ -48,7 +48,12 @@ Result<Variant> ExecuteFunction(Frame& frame, Args args) {
   return Run(frame, args[0], ProcedureFrame(frame), "Execute");
 }
 
-Result<Variant> ExecuteGlobalFunction(Frame& frame, Args args) { return Run(frame, args[0], nullptr, "ExecuteGlobal"); }
+// The calling procedure sees the globals that the code made, for the names it uses undeclared.
+Result<Variant> ExecuteGlobalFunction(Frame& frame, Args args) {
+  VBS_TRY(Run(frame, args[0], nullptr, "ExecuteGlobal"));
+  if (Frame* caller = ProcedureFrame(frame)) frame.interp.RebindImplicitNames(*caller);
+  return Variant();
+}
 
 // What GetRef returns: calling it, or reading its default member, calls the procedure.
 class ProcedureRef final : public Object {

@@ -35,6 +35,7 @@ class Compiler {
     bool outer = false;  // a slot of the enclosing procedure's frame (Execute, Eval)
     bool is_constant = false;
     Variant value;
+    bool implicit = false;  // used undeclared in a procedure
   };
 
   // Where names are looked up while one procedure (or one unit of global code) is compiled.
@@ -79,9 +80,12 @@ class Compiler {
   Result<ExprNodePtr> CompileExpr(ast::Expr& expression, Scope& scope);
   Result<ExprNodePtr> CompileBinary(ast::BinaryExpr& binary, Scope& scope);
   Result<ExprNodes> CompileArgs(std::vector<ast::ExprPtr>& args, Scope& scope);
-  // A name, with arguments when it is called or indexed (args null: no parentheses at all).
-  Result<ExprNodePtr> CompileName(const std::string& name, SourcePos pos, std::vector<ast::ExprPtr>* args,
-                                  Scope& scope);
+  // A name, with arguments when it is called or indexed (args null: no parentheses at all);
+  // `as_statement` for a name called alone as a statement.
+  Result<ExprNodePtr> CompileName(const std::string& name, SourcePos pos, std::vector<ast::ExprPtr>* args, Scope& scope,
+                                  bool as_statement = false);
+  // A name looked up when it runs; `slot` is the procedure's slot for it, or -1.
+  ExprNodePtr LateName(const std::string& name, SourcePos pos, int32_t slot, ExprNodes* args, const Scope& scope);
   Result<ExprNodePtr> CompileMember(ast::MemberExpr& member, std::vector<ast::ExprPtr>* args, Scope& scope);
   uint32_t NewSlot(Scope& scope);
 

@@ -30,6 +30,17 @@ BinaryOperator ToOperator(ast::BinaryOp op) {
   return BinaryOperator::Equal;
 }
 
+// An expression as the source writes it when it is a name or a chain of names, for messages.
+std::string NameChainText(const ast::Expr* expression) {
+  if (!expression) return {};
+  if (expression->kind == ast::ExprKind::Name) return static_cast<const ast::NameExpr&>(*expression).name;
+  if (expression->kind == ast::ExprKind::Me) return "Me";
+  if (expression->kind != ast::ExprKind::Member) return {};
+  const auto& member = static_cast<const ast::MemberExpr&>(*expression);
+  std::string object = NameChainText(member.object.get());
+  return object.empty() ? std::string() : object + "." + member.name;
+}
+
 // Indexing or a default-member call on a value that a node yields.
 ExprNodePtr WithArgs(SourcePos pos, ExprNodePtr holder, ExprNodes args) {
   return std::make_unique<IndexNode>(pos, std::move(holder), std::move(args));
@@ -71,7 +82,7 @@ Result<ExprNodes> Compiler::CompileArgs(std::vector<ast::ExprPtr>& args, Scope& 
 }
 
 Result<ExprNodePtr> Compiler::CompileName(const std::string& name, SourcePos pos, std::vector<ast::ExprPtr>* args,
-                                          Scope& scope) {
+                                          Scope& scope, bool as_statement) {
   std::string folded = Interpreter::Fold(name);
   ExprNodes compiled_args;
   if (args) {
@@ -85,6 +96,10 @@ Result<ExprNodePtr> Compiler::CompileName(const std::string& name, SourcePos pos
   auto local = scope.names.find(folded);
   const bool calls_itself = local != scope.names.end() && has_args && local->second.slot == Procedure::kResultSlot &&
                             !local->second.is_constant && (local->second.outer || scope.procedure);
+  // A name used undeclared stays late when it is called or indexed: the global of that name may be
+  // a procedure or an array that appeared after this code was compiled.
+  if (local != scope.names.end() && local->second.implicit && (args || as_statement))
+    return LateName(name, pos, local->second.slot, args ? &compiled_args : nullptr, scope);
   if (local != scope.names.end() && !calls_itself) {
     const Name& n = local->second;
     if (n.is_constant) {
@@ -142,14 +157,30 @@ Result<ExprNodePtr> Compiler::CompileName(const std::string& name, SourcePos pos
   if (const Builtin* builtin = m_interp.FindBuiltin(folded))
     return ExprNodePtr(std::make_unique<BuiltinCallNode>(pos, builtin, std::move(compiled_args)));
 
-  // Unknown for now: resolved when it runs. Inside a procedure a variable created by use is local.
-  int32_t implicit_slot = -1;
-  if ((scope.procedure || m_outer) && !scope.option_explicit) {
-    implicit_slot = static_cast<int32_t>(NewSlot(scope));
-    scope.names[folded] = Name{static_cast<uint32_t>(implicit_slot), false, false, {}};
+  // Unknown for now. In a procedure the name gets a slot that each call binds to the global of
+  // that name if there is one by then, and that is otherwise the call's own variable.
+  if (scope.procedure && !scope.option_explicit) {
+    const uint32_t slot = NewSlot(scope);
+    Name implicit{slot, false, false, {}};
+    implicit.implicit = true;
+    scope.names[folded] = implicit;
+    scope.procedure->implicit_names.push_back({folded, slot});
+    scope.procedure->slot_names.resize(slot + 1);
+    scope.procedure->slot_names[slot] = folded;
+    if (args || as_statement) return LateName(name, pos, slot, args ? &compiled_args : nullptr, scope);
+    return ExprNodePtr(std::make_unique<LocalNode>(pos, slot));
   }
-  auto late = std::make_unique<LateNameNode>(pos, folded, implicit_slot, scope.option_explicit);
-  if (args) return ExprNodePtr(std::make_unique<LateCallNode>(pos, std::move(late), std::move(compiled_args)));
+  return LateName(name, pos, -1, args ? &compiled_args : nullptr, scope);
+}
+
+ExprNodePtr Compiler::LateName(const std::string& name, SourcePos pos, int32_t slot, ExprNodes* args,
+                               const Scope& scope) {
+  LateNameNode::Fallback fallback = scope.option_explicit ? LateNameNode::Fallback::Undefined
+                                    : slot >= 0           ? LateNameNode::Fallback::Slot
+                                    : m_outer             ? LateNameNode::Fallback::CallVariable
+                                                          : LateNameNode::Fallback::Global;
+  auto late = std::make_unique<LateNameNode>(pos, Interpreter::Fold(name), name, slot, fallback);
+  if (args) return ExprNodePtr(std::make_unique<LateCallNode>(pos, std::move(late), std::move(*args)));
   return ExprNodePtr(std::move(late));
 }
 
@@ -183,8 +214,8 @@ Result<ExprNodePtr> Compiler::CompileMember(ast::MemberExpr& member, std::vector
     VBS_TRY_ASSIGN(auto compiled, CompileExpr(*member.object, scope));
     object = std::move(compiled);
   }
-  return ExprNodePtr(
-      std::make_unique<MemberNode>(member.pos, std::move(object), member.name, std::move(compiled_args)));
+  return ExprNodePtr(std::make_unique<MemberNode>(member.pos, std::move(object), NameChainText(member.object.get()),
+                                                  member.name, std::move(compiled_args)));
 }
 
 // Short chains get a node per operator, whose fast paths the arithmetic of loops needs. A long left

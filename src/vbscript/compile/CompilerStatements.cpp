@@ -1,5 +1,7 @@
 #include "vbscript/compile/Compiler.h"
 
+#include <algorithm>
+
 #include <optional>
 
 namespace vbs {
@@ -153,7 +155,7 @@ Result<StmtNodePtr> Compiler::CompileCall(ast::CallStmt& call, Scope& scope) {
   bool has_args = call.call_keyword || !call.args.empty();
   if (call.callee->kind == ast::ExprKind::Name) {
     expr = CompileName(static_cast<ast::NameExpr&>(*call.callee).name, call.callee->pos,
-                       has_args ? &call.args : nullptr, scope);
+                       has_args ? &call.args : nullptr, scope, !has_args);
   } else if (call.callee->kind == ast::ExprKind::Member) {
     expr = CompileMember(static_cast<ast::MemberExpr&>(*call.callee), has_args ? &call.args : nullptr, scope);
   } else {
@@ -169,14 +171,26 @@ Result<StmtNodePtr> Compiler::CompileCall(ast::CallStmt& call, Scope& scope) {
 
 Result<StmtNodePtr> Compiler::CompileDim(ast::DimStmt& dim, Scope& scope) {
   // Inside procedures, Dims were gathered beforehand; in global code they are globals already.
-  // Code that Execute runs inside a procedure keeps its own variables in its own slots.
   if (!scope.procedure && !m_outer) return CompileGlobalArrays(dim, scope);
   if (scope.procedure) return StmtNodePtr();
+  // Code that Execute runs inside a procedure: a Dim makes a variable of that call, even where
+  // the procedure used the name undeclared and so meant a global by it.
+  const auto& implicit = m_outer->procedure->implicit_names;
+  std::vector<DimInCallNode::Item> items;
   for (ast::VarDecl& var : dim.vars) {
     std::string folded = Interpreter::Fold(var.name);
-    if (!scope.names.contains(folded)) scope.names[folded] = Name{NewSlot(scope), false, false, {}};
+    int32_t slot = -1;
+    if (auto known = scope.names.find(folded); known != scope.names.end()) {
+      auto used_undeclared = std::find_if(implicit.begin(), implicit.end(),
+                                          [&](const Procedure::ImplicitName& name) { return name.folded == folded; });
+      if (!known->second.outer || used_undeclared == implicit.end()) continue;
+      slot = static_cast<int32_t>(used_undeclared->slot);
+    }
+    VBS_TRY_ASSIGN(auto uppers, ConstantBounds(var.bounds, scope));
+    items.push_back(DimInCallNode::Item{std::move(folded), slot, std::move(uppers), var.is_array});
   }
-  return StmtNodePtr();
+  if (items.empty()) return StmtNodePtr();
+  return StmtNodePtr(std::make_unique<DimInCallNode>(dim.pos, std::move(items)));
 }
 
 Result<StmtNodePtr> Compiler::CompileConst(ast::ConstStmt& constant, Scope& scope) {
@@ -191,15 +205,17 @@ Result<StmtNodePtr> Compiler::CompileConst(ast::ConstStmt& constant, Scope& scop
 Result<StmtNodePtr> Compiler::CompileReDim(ast::ReDimStmt& redim, Scope& scope) {
   std::vector<RedimTarget> targets;
   for (ast::ReDimItem& item : redim.items) {
-    // ReDim also declares: a name not known yet becomes a variable of the current scope.
+    // ReDim also declares: in global code a name not known yet becomes a global; in a procedure
+    // it is a name used undeclared (a global of that name if one exists by then), and under
+    // Option Explicit a variable of the procedure.
     if (item.target->kind == ast::ExprKind::Name) {
       std::string folded = Interpreter::Fold(static_cast<ast::NameExpr&>(*item.target).name);
       if (!scope.names.contains(folded) && !m_interp.ResolveGlobal(folded) &&
           !(scope.class_info && scope.class_info->member_ids.contains(folded))) {
-        if (scope.procedure || m_outer)
-          scope.names[folded] = Name{NewSlot(scope), false, false, {}};
-        else
+        if (!scope.procedure && !m_outer)
           m_interp.DeclareGlobal(folded);
+        else if (scope.procedure && scope.option_explicit)
+          scope.names[folded] = Name{NewSlot(scope), false, false, {}};
       }
     }
     VBS_TRY_ASSIGN(auto target, CompileExpr(*item.target, scope));

@@ -4,6 +4,7 @@
 #include "vbscript/runtime/FastArithmetic.h"
 #include "vbscript/value/AllocationFailure.h"
 #include "vbscript/value/Coercion.h"
+#include "vbscript/value/ErrorTable.h"
 #include "vbscript/value/SafeArray.h"
 
 namespace vbs {
@@ -97,6 +98,13 @@ Result<Object*> RequireObject(const Variant& value) {
   return v.as_object();
 }
 
+// A built-in's own failure names the built-in; what fails in the code that Eval and Execute run
+// is that code's error, not theirs.
+[[gnu::noinline]] ScriptError BuiltinFailure(ScriptError error, const Builtin& builtin) {
+  if (builtin.name == "Eval" || builtin.name == "Execute" || builtin.name == "ExecuteGlobal") return error;
+  return WithName(std::move(error), builtin.name);
+}
+
 }  // namespace
 
 // ---- Variables ----
@@ -122,6 +130,17 @@ Variant& FieldNode::Storage(Frame& frame) { return frame.me->field(m_index); }
 
 // ---- Late-bound names ----
 
+Variant* LateNameNode::OwnVariable(Frame& frame) {
+  if (m_slot >= 0) {
+    Variant& slot = frame.slots[m_slot];
+    if (slot.IsRef() || !slot.is_empty()) return &slot.Deref();
+  } else if (m_fallback == Fallback::CallVariable && frame.outer && frame.outer->dynamic) {
+    auto it = frame.outer->dynamic->find(m_name);
+    if (it != frame.outer->dynamic->end()) return &it->second;
+  }
+  return nullptr;
+}
+
 const GlobalEntry* LateNameNode::Resolve(Frame& frame) {
   if (m_generation != frame.interp.generation()) {
     m_entry = frame.interp.ResolveGlobal(m_name);
@@ -130,17 +149,30 @@ const GlobalEntry* LateNameNode::Resolve(Frame& frame) {
   return m_entry;
 }
 
-Result<Variant*> LateNameNode::ImplicitStorage(Frame& frame) {
-  if (m_explicit) return MakeError(err::kUndefined);
-  if (m_implicit_slot >= 0) return &frame.slots[m_implicit_slot].Deref();
-  return frame.interp.DeclareGlobal(m_name);
+Result<Variant*> LateNameNode::NewStorage(Frame& frame) {
+  switch (m_fallback) {
+    case Fallback::Global: return frame.interp.DeclareGlobal(m_name);
+    case Fallback::Slot: return &frame.slots[m_slot].Deref();
+    case Fallback::CallVariable: {
+      Frame& owner = *frame.outer;
+      if (!owner.dynamic) owner.dynamic = std::make_unique<std::unordered_map<std::string, Variant>>();
+      return &(*owner.dynamic)[m_name];
+    }
+    case Fallback::Undefined: break;
+  }
+  return Unknown(err::kUndefined);
+}
+
+ScriptError LateNameNode::Unknown(int32_t number) const {
+  return NamedError(m_fallback == Fallback::Undefined ? err::kUndefined : number, m_spelling);
 }
 
 Result<Variant> LateNameNode::Eval(Frame& frame) { return CallWith(frame, {}, InvokeKind::Get); }
 
 Result<Variant*> LateNameNode::Address(Frame& frame) {
+  if (Variant* own = OwnVariable(frame)) return own;
   const GlobalEntry* entry = Resolve(frame);
-  if (!entry) return ImplicitStorage(frame);
+  if (!entry) return NewStorage(frame);
   if (entry->kind == GlobalEntry::Kind::Variable) return entry->storage;
   return static_cast<Variant*>(nullptr);
 }
@@ -151,18 +183,23 @@ Status LateNameNode::Assign(Frame& frame, Variant value, bool is_set) {
 
 Status LateNameNode::Invoke(Frame& frame) {
   // A name called as a statement that names nothing is a call of a missing procedure.
-  if (!Resolve(frame)) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
+  if (!OwnVariable(frame) && !Resolve(frame)) return Unknown(err::kTypeMismatch);
   VBS_TRY(CallWith(frame, {}, InvokeKind::Method));
   return Ok();
 }
 
 Result<Variant> LateNameNode::CallWith(Frame& frame, const ExprNodes& args, InvokeKind kind) {
-  const GlobalEntry* entry = Resolve(frame);
   ArgValues values;
+  if (Variant* own = OwnVariable(frame)) {
+    if (args.empty()) return *own;
+    VBS_TRY(EvalArgs(frame, args, values, false));
+    return IndexValue(*own, values.span(), frame.interp.locale());
+  }
+  const GlobalEntry* entry = Resolve(frame);
   if (!entry) {
-    if (!args.empty()) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
-    VBS_TRY_ASSIGN(auto&& storage, ImplicitStorage(frame));
-    return *storage;
+    // Reading a name that nothing has yet gives Empty and makes nothing.
+    if (!args.empty() || m_fallback == Fallback::Undefined) return Unknown(err::kTypeMismatch);
+    return Variant();
   }
   switch (entry->kind) {
     case GlobalEntry::Kind::Variable:
@@ -186,15 +223,20 @@ Result<Variant> LateNameNode::CallWith(Frame& frame, const ExprNodes& args, Invo
     }
     case GlobalEntry::Kind::Class: break;
   }
-  return MakeError(err::kTypeMismatch);
+  return Unknown(err::kTypeMismatch);
 }
 
 Status LateNameNode::AssignWith(Frame& frame, const ExprNodes& args, Variant value, bool is_set) {
-  const GlobalEntry* entry = Resolve(frame);
   ArgValues values;
+  if (Variant* own = OwnVariable(frame)) {
+    if (args.empty()) return StoreInto(*own, std::move(value), is_set);
+    VBS_TRY(EvalArgs(frame, args, values, false));
+    return AssignIndexed(*own, values.span(), std::move(value), is_set, frame.interp.locale());
+  }
+  const GlobalEntry* entry = Resolve(frame);
   if (!entry) {
-    if (!args.empty()) return MakeError(m_explicit ? err::kUndefined : err::kTypeMismatch);
-    VBS_TRY_ASSIGN(auto&& storage, ImplicitStorage(frame));
+    if (!args.empty()) return Unknown(err::kTypeMismatch);
+    VBS_TRY_ASSIGN(auto&& storage, NewStorage(frame));
     return StoreInto(*storage, std::move(value), is_set);
   }
   switch (entry->kind) {
@@ -363,7 +405,7 @@ ProcedureCallNode::ProcedureCallNode(SourcePos pos, const Procedure* procedure, 
 
 Result<Variant> ProcedureCallNode::Eval(Frame& frame) {
   if (!m_all_direct) return EvalArgsFirst(frame);
-  if (m_args.size() != m_procedure->param_count) return MakeError(err::kWrongArgs);
+  if (m_args.size() != m_procedure->param_count) return NamedError(err::kWrongArgs, m_procedure->name);
   // Plain variables and constants go straight into the parameter slots.
   VBS_TRY_ASSIGN(auto&& callee, frame.interp.OpenFrame(m_procedure->slot_count));
   for (size_t i = 0; i < m_args.size(); ++i) {
@@ -399,10 +441,14 @@ Result<Variant> BuiltinCallNode::Eval(Frame& frame) {
 Status BuiltinCallNode::Invoke(Frame& frame) { return Discard(Call(frame)); }
 
 Result<Variant> BuiltinCallNode::Call(Frame& frame) {
-  if (m_args.size() < m_builtin->min_args || m_args.size() > m_builtin->max_args) return MakeError(err::kWrongArgs);
+  if (m_args.size() < m_builtin->min_args || m_args.size() > m_builtin->max_args)
+    return NamedError(err::kWrongArgs, m_builtin->name);
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, m_builtin->wants_references));
-  return TrapAllocationFailure([&] { return m_builtin->function(frame, values.span()); });
+  auto result = TrapAllocationFailure([&] { return m_builtin->function(frame, values.span()); });
+  if (!result) [[unlikely]]
+    return BuiltinFailure(std::move(result).error(), *m_builtin);
+  return result;
 }
 
 IndexNode::IndexNode(SourcePos pos, ExprNodePtr holder, ExprNodes args)
@@ -488,8 +534,14 @@ Status LateCallNode::Invoke(Frame& frame) {
 Result<Variant> MemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) {
   auto holder = m_object->Eval(frame);
   if (!holder) return holder;
-  VBS_TRY_ASSIGN(auto&& object, RequireObject(*holder));
-  Object* target = object;
+  auto object = RequireObject(*holder);
+  if (!object) [[unlikely]] {
+    ScriptError error = std::move(object).error();
+    if (error.number == err::kObjectRequired && !m_object_text.empty())
+      return WithName(std::move(error), m_object_text);
+    return error;
+  }
+  Object* target = *object;
   const void* layout = target->MemberLayout();
   DispId member;
   if (layout && layout == m_layout) {
@@ -501,7 +553,8 @@ Result<Variant> MemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) 
       m_member = member;
     }
   }
-  if (member == kUnknownMember) return MakeError(err::kNoMember);
+  if (member == kUnknownMember)
+    return NamedError(err::kNoMember, m_object_text.empty() ? m_name : m_object_text + "." + m_name);
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, true));
   if (value) values.Add(std::move(*value));

@@ -130,8 +130,17 @@ class FieldNode final : public VariableNode {
 // name up again only when globals have changed since its last look.
 class LateNameNode final : public ExprNode {
  public:
-  LateNameNode(SourcePos pos, std::string folded, int32_t implicit_slot, bool option_explicit)
-      : ExprNode(pos), m_name(std::move(folded)), m_implicit_slot(implicit_slot), m_explicit(option_explicit) {}
+  // Where the name lives when it is assigned while nothing of that name exists yet.
+  enum class Fallback : uint8_t {
+    Global,        // global code: a new global variable
+    Slot,          // a procedure: its slot for the name
+    CallVariable,  // code that Execute runs in a procedure: a new variable of that call
+    Undefined,     // Option Explicit: error 500
+  };
+
+  // `spelling`: the name as the source writes it, for messages.
+  LateNameNode(SourcePos pos, std::string folded, std::string spelling, int32_t slot, Fallback fallback)
+      : ExprNode(pos), m_name(std::move(folded)), m_spelling(std::move(spelling)), m_slot(slot), m_fallback(fallback) {}
   Result<Variant> Eval(Frame& frame) override;
   Result<Variant*> Address(Frame& frame) override;
   Status Assign(Frame& frame, Variant value, bool is_set) override;
@@ -141,15 +150,20 @@ class LateNameNode final : public ExprNode {
   Status AssignWith(Frame& frame, const ExprNodes& args, Variant value, bool is_set);
 
  private:
+  // The variable of the running procedure that the name means by now (its slot bound to a global
+  // or holding a value, or a variable that Execute made in the call), or null.
+  Variant* OwnVariable(Frame& frame);
   // The global entry, or null when the name is still unknown.
   const GlobalEntry* Resolve(Frame& frame);
-  // Storage for a name that is no global: the implicit local slot, or a global created now;
-  // error 500 under Option Explicit.
-  Result<Variant*> ImplicitStorage(Frame& frame);
+  // Storage for a name that nothing has yet, made now as the fallback says.
+  Result<Variant*> NewStorage(Frame& frame);
+  // The error for a name that names nothing: 500 under Option Explicit, else `number`.
+  ScriptError Unknown(int32_t number) const;
 
   std::string m_name;
-  int32_t m_implicit_slot;
-  bool m_explicit;
+  std::string m_spelling;
+  int32_t m_slot;
+  Fallback m_fallback;
   uint64_t m_generation = ~uint64_t{0};
   const GlobalEntry* m_entry = nullptr;
 };
@@ -373,8 +387,14 @@ class LateCallNode final : public ExprNode {
 // member's number is cached per object class.
 class MemberNode final : public ExprNode {
  public:
-  MemberNode(SourcePos pos, ExprNodePtr object, std::string name, ExprNodes args)
-      : ExprNode(pos), m_object(std::move(object)), m_name(std::move(name)), m_args(std::move(args)) {}
+  // `object_text`: the object as the source writes it when it is a name or a chain of names
+  // ("fso.Drives"), for messages; empty otherwise.
+  MemberNode(SourcePos pos, ExprNodePtr object, std::string object_text, std::string name, ExprNodes args)
+      : ExprNode(pos),
+        m_object(std::move(object)),
+        m_object_text(std::move(object_text)),
+        m_name(std::move(name)),
+        m_args(std::move(args)) {}
   Result<Variant> Eval(Frame& frame) override;
   Status Assign(Frame& frame, Variant value, bool is_set) override;
   Status Invoke(Frame& frame) override;
@@ -383,6 +403,7 @@ class MemberNode final : public ExprNode {
   Result<Variant> Call(Frame& frame, InvokeKind kind, Variant* value);
 
   ExprNodePtr m_object;
+  std::string m_object_text;
   std::string m_name;
   ExprNodes m_args;
   const void* m_layout = nullptr;

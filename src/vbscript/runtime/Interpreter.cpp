@@ -33,8 +33,7 @@ Result<Ref<Object>> Interpreter::CreateObject(std::u16string_view name) {
   auto it = m_object_classes.find(Fold(name));
   if (it != m_object_classes.end()) return it->second(*this);
   ScriptError error = MakeError(err::kCannotCreate);
-  error.description =
-      std::u16string(ErrorText(err::kCannotCreate, m_locale->language)) + u": '" + std::u16string(name) + u"'";
+  error.identifier = name;
   return error;
 }
 
@@ -209,6 +208,24 @@ Status InitialiseArrays(const Procedure& procedure, Variant* slots) {
   return Ok();
 }
 
+// A name the procedure does not declare means the global of that name when there is one as the call
+// starts: its slot refers to the global, as a ByRef parameter refers to the caller's variable.
+void BindImplicitNames(Interpreter& interp, const Procedure& procedure, Variant* slots) {
+  if (procedure.bound_generation != interp.generation()) {
+    procedure.bound_globals.clear();
+    for (const Procedure::ImplicitName& name : procedure.implicit_names) {
+      const GlobalEntry* global = interp.FindGlobal(name.folded);
+      procedure.bound_globals.push_back(global && global->kind == GlobalEntry::Kind::Variable ? global->storage
+                                                                                              : nullptr);
+    }
+    procedure.bound_generation = interp.generation();
+  }
+  for (size_t i = 0; i < procedure.implicit_names.size(); ++i) {
+    if (Variant* global = procedure.bound_globals[i])
+      slots[procedure.implicit_names[i].slot] = Variant::Reference(global);
+  }
+}
+
 // Out of line, so that the call path keeps a single, inlined CloseFrame.
 [[gnu::noinline]] ScriptError AbandonFrame(Interpreter& interp, const FrameSlots& slots, ScriptError error) {
   interp.CloseFrame(slots);
@@ -236,12 +253,23 @@ Result<Variant> Interpreter::RunFrame(const Procedure& procedure, ClassInstance*
     if (auto arrays = InitialiseArrays(procedure, slots.slots); !arrays) [[unlikely]]
       return AbandonFrame(*this, slots, std::move(arrays).error());
   }
-  Frame frame{*this, slots.slots, &procedure, me, nullptr, false};
+  if (!procedure.implicit_names.empty()) BindImplicitNames(*this, procedure, slots.slots);
+  Frame frame{*this, slots.slots, &procedure, me, nullptr, false, nullptr};
   auto flow = procedure.body.Exec(frame);
   Result<Variant> result =
       flow ? Result<Variant>(std::move(slots.slots[Procedure::kResultSlot])) : Result<Variant>(std::move(flow).error());
   CloseFrame(slots);
   return result;
+}
+
+void Interpreter::RebindImplicitNames(Frame& frame) {
+  if (!frame.procedure) return;
+  for (const Procedure::ImplicitName& name : frame.procedure->implicit_names) {
+    Variant& slot = frame.slots[name.slot];
+    if (slot.IsRef() || !slot.is_empty()) continue;
+    const GlobalEntry* global = FindGlobal(name.folded);
+    if (global && global->kind == GlobalEntry::Kind::Variable) slot = Variant::Reference(global->storage);
+  }
 }
 
 Result<Ref<ClassInstance>> Interpreter::NewInstance(ClassInfo& info) {
@@ -254,7 +282,8 @@ Result<Ref<ClassInstance>> Interpreter::NewInstance(ClassInfo& info) {
 
 Status Interpreter::RunProgram(const CompiledProgram& program, Frame* outer, bool resume_next) {
   VBS_TRY_ASSIGN(auto&& slots, OpenFrame(program.temp_count));
-  Frame frame{*this, slots.slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer, resume_next};
+  Frame frame{*this,       slots.slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer,
+              resume_next, nullptr};
   auto flow = program.body.Exec(frame);
   CloseFrame(slots);
   if (!flow) return std::move(flow).error();
@@ -263,7 +292,8 @@ Status Interpreter::RunProgram(const CompiledProgram& program, Frame* outer, boo
 
 Result<Variant> Interpreter::EvalProgram(const CompiledProgram& program, Frame* outer) {
   VBS_TRY_ASSIGN(auto&& slots, OpenFrame(program.temp_count));
-  Frame frame{*this, slots.slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer, false};
+  Frame frame{*this, slots.slots, outer ? outer->procedure : nullptr, outer ? outer->me : nullptr, outer,
+              false, nullptr};
   auto value = program.expression->Eval(frame);
   CloseFrame(slots);
   return value;

@@ -58,6 +58,9 @@ struct Frame {
   ClassInstance* me = nullptr;           // the instance whose method runs, if any
   Frame* outer = nullptr;                // the procedure's frame, for code run by Execute/Eval in it
   bool resume_next = false;
+  // Variables that code run by Execute creates in this call of a procedure, by folded name: the
+  // procedure's own code does not name them, so they need no slot.
+  std::unique_ptr<std::unordered_map<std::string, Variant>> dynamic;
 };
 
 // A unit of code as compiled: global code of AddCode/ExecuteGlobal/ExecuteStatement, or the code of
@@ -144,6 +147,9 @@ class Interpreter {
   // and gives the frame back.
   Result<FrameSlots> OpenFrame(uint32_t count);
   Result<Variant> RunFrame(const Procedure& procedure, ClassInstance* me, const FrameSlots& frame);
+  // Binds the frame's slots of names its procedure uses undeclared to the globals that exist now
+  // (ExecuteGlobal may create some during a call); a slot the call already uses as its own stays.
+  void RebindImplicitNames(Frame& frame);
   Result<Ref<ClassInstance>> NewInstance(ClassInfo& info);
   // Keeps the host's compiled code alive as long as the engine.
   CompiledProgram& Keep(std::unique_ptr<CompiledProgram> program);

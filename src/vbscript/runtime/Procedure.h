@@ -32,6 +32,17 @@ struct Procedure {
   std::vector<std::pair<uint32_t, std::vector<int32_t>>> fixed_arrays;
   // Slots declared `Dim a()`: they start as arrays without dimensions.
   std::vector<uint32_t> dynamic_arrays;
+  // Names the procedure uses without declaring them. Each call binds such a slot to the global of
+  // that name when one exists as the call starts; otherwise the slot is a variable of the call.
+  struct ImplicitName {
+    std::string folded;
+    uint32_t slot;
+  };
+  std::vector<ImplicitName> implicit_names;
+  // The globals last found for implicit_names, valid while the engine's globals stay as they were
+  // at `bound_generation`: calls in a loop bind without looking names up.
+  mutable std::vector<Variant*> bound_globals;
+  mutable uint64_t bound_generation = ~uint64_t{0};
   BlockNode body;
   ClassInfo* owner = nullptr;
 

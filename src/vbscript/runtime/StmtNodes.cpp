@@ -341,17 +341,41 @@ Result<Flow> WithNode::Exec(Frame& frame) {
   return flow;
 }
 
+namespace {
+
+// Puts in a variable what `Dim a(2, 3)` or `Dim a()` makes: the fixed mark belongs to the variable.
+Status DimArray(Variant& variable, const std::vector<int32_t>& uppers, bool fixed) {
+  if (!fixed) {
+    variable = Variant::Array(SafeArray::CreateUndimensioned());
+    return Ok();
+  }
+  std::vector<ArrayBound> bounds;
+  for (int32_t upper : uppers) bounds.push_back({0, upper});
+  VBS_TRY_ASSIGN(auto&& array, SafeArray::Create(bounds));
+  variable = Variant::Array(array);
+  variable.MarkFixedArray();
+  return Ok();
+}
+
+}  // namespace
+
 Result<Flow> DimArrayNode::Exec(Frame&) {
+  for (Item& item : m_items) VBS_TRY(DimArray(*item.storage, item.uppers, item.fixed));
+  return Flow::Normal;
+}
+
+Result<Flow> DimInCallNode::Exec(Frame& frame) {
+  Frame& call = *frame.outer;
   for (Item& item : m_items) {
-    if (!item.fixed) {
-      *item.storage = Variant::Array(SafeArray::CreateUndimensioned());
-      continue;
+    Variant* variable;
+    if (item.slot >= 0) {
+      variable = &call.slots[item.slot];
+      *variable = Variant();
+    } else {
+      if (!call.dynamic) call.dynamic = std::make_unique<std::unordered_map<std::string, Variant>>();
+      variable = &(*call.dynamic)[item.folded];
     }
-    std::vector<ArrayBound> bounds;
-    for (int32_t upper : item.uppers) bounds.push_back({0, upper});
-    VBS_TRY_ASSIGN(auto&& array, SafeArray::Create(bounds));
-    *item.storage = Variant::Array(array);
-    item.storage->MarkFixedArray();
+    if (item.is_array) VBS_TRY(DimArray(*variable, item.uppers, !item.uppers.empty()));
   }
   return Flow::Normal;
 }

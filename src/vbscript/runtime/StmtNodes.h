@@ -232,6 +232,23 @@ class DimArrayNode final : public StmtNode {
   std::vector<Item> m_items;
 };
 
+// Dim in code that Execute runs inside a procedure: each name becomes a variable of that call of
+// the procedure, in the slot the procedure has for it or among the call's own variables.
+class DimInCallNode final : public StmtNode {
+ public:
+  struct Item {
+    std::string folded;
+    int32_t slot;  // the procedure's slot for the name, or -1
+    std::vector<int32_t> uppers;
+    bool is_array;
+  };
+  DimInCallNode(SourcePos pos, std::vector<Item> items) : StmtNode(pos), m_items(std::move(items)) {}
+  Result<Flow> Exec(Frame& frame) override;
+
+ private:
+  std::vector<Item> m_items;
+};
+
 // A statement that fails when run: a compile-time finding that VBScript reports only at run time,
 // such as an assignment to a constant.
 class FailNode final : public StmtNode {

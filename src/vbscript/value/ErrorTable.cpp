@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "text/Utf.h"
 #include "vbscript/value/ErrorCodes.h"
 
 namespace vbs {
@@ -41,5 +42,23 @@ std::u16string_view ErrorText(int32_t number, Language language) {
 bool IsKnownError(int32_t number) { return Find(number) != nullptr; }
 
 bool IsCompileError(int32_t number) { return number >= err::kFirstCompileError && number <= err::kLastCompileError; }
+
+ScriptError NamedError(int32_t number, std::string_view name) {
+  ScriptError error = MakeError(number);
+  error.identifier = text::Utf8ToUtf16(name);
+  return error;
+}
+
+ScriptError WithName(ScriptError error, std::string_view name) {
+  if (error.identifier.empty()) error.identifier = text::Utf8ToUtf16(name);
+  return error;
+}
+
+std::u16string ErrorMessage(const ScriptError& error, Language language) {
+  std::u16string message =
+      error.description.empty() ? std::u16string(ErrorText(error.number, language)) : error.description;
+  if (!error.identifier.empty()) message += u": '" + error.identifier + u"'";
+  return message;
+}
 
 }  // namespace vbs

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "vbscript/value/Result.h"
+
 namespace vbs {
 
 enum class Language { Italian, English };
@@ -18,5 +20,14 @@ std::u16string_view ErrorText(int32_t number, Language language);
 bool IsKnownError(int32_t number);
 // Whether the number is a compile (syntax) error rather than a runtime error.
 bool IsCompileError(int32_t number);
+
+// The error naming what it is about, as Windows does for a name that names nothing or a built-in
+// function that failed: the host's message reads "Tipo non corrispondente: 'ImpostaGiocata'".
+ScriptError NamedError(int32_t number, std::string_view name);
+// Names what an error is about when nothing has named it yet.
+ScriptError WithName(ScriptError error, std::string_view name);
+// The text a host shows for an error: its description, or the standard text of its number, and
+// the name it is about.
+std::u16string ErrorMessage(const ScriptError& error, Language language);
 
 }  // namespace vbs

@@ -23,6 +23,9 @@ struct ScriptError {
   std::u16string source;       // empty: the engine's own name for runtime/compile errors
   SourcePos pos;
   bool has_pos = false;
+  // What the error is about, as Windows names it after the text in the message a host shows
+  // ("Variabile non definita: 'x'"); Err.Description leaves it out.
+  std::u16string identifier;
 };
 
 // Frees an error; out of line, so that the success path, which only tests the pointer, stays small.
@@ -96,8 +99,8 @@ using Status = Result<Unit>;
 inline Status Ok() { return Unit{}; }
 
 // `number` is one of the err:: names.
-inline ScriptError MakeError(int32_t number) { return ScriptError{number, {}, {}, {}, false}; }
-inline ScriptError MakeError(int32_t number, SourcePos pos) { return ScriptError{number, {}, {}, pos, true}; }
+inline ScriptError MakeError(int32_t number) { return ScriptError{number, {}, {}, {}, false, {}}; }
+inline ScriptError MakeError(int32_t number, SourcePos pos) { return ScriptError{number, {}, {}, pos, true, {}}; }
 
 // Propagates a failed Result out of the calling function.
 #define VBS_TRY(...)                                                 \

@@ -356,11 +356,11 @@ class FinestraScriptTest : public QObject {
     QCOMPARE(riga, 4);
     QCOMPARE(colonna, 4);
     const QString output = m_finestra->Output()->toPlainText();
-    QVERIFY(output.startsWith("2\nErrore script !\n500 - Variabile non definita\nLinea   : 5\nColonna : 5\n"));
+    QVERIFY(output.startsWith("2\nErrore script !\n500 - Variabile non definita: 'y'\nLinea   : 5\nColonna : 5\n"));
     QCOMPARE(m_dialoghi->avvisi.size(), size_t{1});
     QCOMPARE(m_dialoghi->avvisi[0].tipo, TipoAvviso::Critico);
     QCOMPARE(m_dialoghi->avvisi[0].titolo, std::string("EseguiScript"));
-    QCOMPARE(m_dialoghi->avvisi[0].testo, std::string("Variabile non definita"));
+    QCOMPARE(m_dialoghi->avvisi[0].testo, std::string("Variabile non definita: 'y'"));
 
     // An error inside the included file leaves the caret alone: its line is the other file's.
     std::ofstream(m_base->Percorso() / "Script/Funzioni/Lib.ls") << "Function Due\nDue = 2 / 0\nEnd Function\n";
