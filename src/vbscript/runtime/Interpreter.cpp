@@ -131,13 +131,11 @@ void Interpreter::SetErr(const ScriptError& error) {
   if (!error.source.empty()) {
     m_err.source = error.source;
   } else if (IsCompileError(error.number)) {
-    m_err.source =
-        m_locale.language == Language::Italian ? u"Errore di compilazione di Microsoft VBScript"
-                                                         : u"Microsoft VBScript compilation error";
+    m_err.source = m_locale.language == Language::Italian ? u"Errore di compilazione di Microsoft VBScript"
+                                                          : u"Microsoft VBScript compilation error";
   } else {
-    m_err.source =
-        m_locale.language == Language::Italian ? u"Errore di run-time di Microsoft VBScript"
-                                                         : u"Microsoft VBScript runtime error";
+    m_err.source = m_locale.language == Language::Italian ? u"Errore di run-time di Microsoft VBScript"
+                                                          : u"Microsoft VBScript runtime error";
   }
 }
 

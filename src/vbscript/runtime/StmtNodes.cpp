@@ -295,7 +295,8 @@ Result<Flow> ForEachNode::Exec(Frame& frame) {
     }
     return Flow::Normal;
   }
-  if (!collection->is_object() || !collection->as_object()) return once_without_collection(MakeError(err::kNotCollection));
+  if (!collection->is_object() || !collection->as_object())
+    return once_without_collection(MakeError(err::kNotCollection));
   auto enumerator = collection->as_object()->Enumerate();
   if (!enumerator) return once_without_collection(enumerator.error());
   for (;;) {
