@@ -22,7 +22,8 @@ Result<std::string> TestoDi(const Variant& valore, const vbs::Locale& locale) {
 
 }  // namespace
 
-// StdOut and StdErr: Write, WriteLine, WriteBlankLines.
+// StdOut and StdErr: Write, WriteLine, WriteBlankLines, and Line and Column as a text file counts
+// them (from 1; Line the line breaks written, Column the characters since the last one).
 class FlussoTesto final : public vbs::HostObject<FlussoTesto> {
  public:
   FlussoTesto(const vbs::Locale& locale, std::ostream& flusso) : HostObject(locale), m_flusso(flusso) {}
@@ -31,6 +32,8 @@ class FlussoTesto final : public vbs::HostObject<FlussoTesto> {
         {"Write", 1, 1, &FlussoTesto::Write, nullptr, "Text: writes the text"},
         {"WriteLine", 0, 1, &FlussoTesto::WriteLine, nullptr, "[Text]: writes the text and a line break"},
         {"WriteBlankLines", 1, 1, &FlussoTesto::WriteBlankLines, nullptr, "N: writes N line breaks"},
+        {"Line", 0, 0, &FlussoTesto::Line, nullptr, "the current line number, from 1"},
+        {"Column", 0, 0, &FlussoTesto::Column, nullptr, "the current column, from 1"},
     };
     return kMembri;
   }
@@ -39,24 +42,45 @@ class FlussoTesto final : public vbs::HostObject<FlussoTesto> {
  private:
   Result<Variant> Write(CallArgs& args) {
     VBS_TRY_ASSIGN(auto testo, TestoDi(args[0], args.locale()));
-    m_flusso << testo << std::flush;
+    Scrivi(testo);
+    m_flusso << std::flush;
     return Variant();
   }
   Result<Variant> WriteLine(CallArgs& args) {
     if (args.size() > 0) {
       VBS_TRY_ASSIGN(auto testo, TestoDi(args[0], args.locale()));
-      m_flusso << testo;
+      Scrivi(testo);
     }
-    m_flusso << '\n' << std::flush;
+    Scrivi("\n");
+    m_flusso << std::flush;
     return Variant();
   }
   Result<Variant> WriteBlankLines(CallArgs& args) {
     VBS_TRY_ASSIGN(auto righe, args.Long(0));
-    for (int32_t i = 0; i < righe; ++i) m_flusso << '\n';
+    for (int32_t i = 0; i < righe; ++i) Scrivi("\n");
     return Variant();
+  }
+  Result<Variant> Line(CallArgs&) { return Variant::Long(m_riga); }
+  Result<Variant> Column(CallArgs&) { return Variant::Long(m_colonna); }
+
+  // Columns count UTF-16 units, as the script's strings do: a UTF-8 continuation byte adds none,
+  // and a character past the Basic Multilingual Plane (a four-byte lead) adds two.
+  void Scrivi(std::string_view testo) {
+    m_flusso << testo;
+    for (char c : testo) {
+      const auto byte = static_cast<unsigned char>(c);
+      if (c == '\n') {
+        ++m_riga;
+        m_colonna = 1;
+      } else if ((byte & 0xC0) != 0x80) {
+        m_colonna += byte >= 0xF0 ? 2 : 1;
+      }
+    }
   }
 
   std::ostream& m_flusso;
+  int32_t m_riga = 1;
+  int32_t m_colonna = 1;
 };
 
 // WScript.Arguments: Count, Length, Item(i) (the default), For Each.

@@ -55,13 +55,9 @@ std::string Elenco(const std::vector<fs::path>& cartelle) {
 
 vbs::ScriptError Rifiuto(std::string_view funzione, std::string_view azione, const fs::path& percorso,
                          std::string_view motivo) {
-  return vbs::ScriptError{vbs::err::kPermissionDenied,
-                          text::Utf8ToUtf16(fmt::format("Permesso negato: {} non può {} {} ({})", funzione, azione,
-                                                        percorso.string(), motivo)),
-                          {},
-                          {},
-                          false,
-                          {}};
+  return vbs::MakeError(vbs::err::kPermissionDenied,
+                        text::Utf8ToUtf16(fmt::format("Permesso negato: {} non può {} {} ({})", funzione, azione,
+                                                      percorso.string(), motivo)));
 }
 
 }  // namespace

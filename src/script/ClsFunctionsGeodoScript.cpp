@@ -94,7 +94,7 @@ vbs::Status ClsFunctionsGeodoScript::ControllaInterruzione() const {
 
 vbs::Result<const TabellaEstrazioni*> ClsFunctionsGeodoScript::Archivio() const {
   if (!m_impostazioni.archivio || m_impostazioni.archivio->Vuota())
-    return vbs::ScriptError{vbs::err::kInvalidCall, u"Archivio delle estrazioni non caricato", {}, {}, false, {}};
+    return vbs::MakeError(vbs::err::kInvalidCall, u"Archivio delle estrazioni non caricato");
   return m_impostazioni.archivio;
 }
 

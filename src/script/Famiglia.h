@@ -21,7 +21,7 @@ namespace lottolab::script {
 
 // Error 5, "invalid procedure call", with the reason an argument is refused.
 inline vbs::ScriptError ArgomentoNonValido(std::string_view descrizione) {
-  return vbs::ScriptError{vbs::err::kInvalidCall, text::Utf8ToUtf16(descrizione), {}, {}, false, {}};
+  return vbs::MakeError(vbs::err::kInvalidCall, text::Utf8ToUtf16(descrizione));
 }
 
 }  // namespace lottolab::script

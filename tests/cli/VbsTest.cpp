@@ -64,5 +64,19 @@ TEST_F(ComandoVbsTest, ArgomentiUscitaEdErrori) {
   EXPECT_NE(periferica.err.find("/dev/zero è una periferica"), std::string::npos) << periferica.err;
 }
 
+TEST_F(ComandoVbsTest, StdOutContaRigheEColonne) {
+  // Each stream counts what went through it alone, in characters: "è" is one, as in the script.
+  auto script = Script("colonne.vbs",
+                       "Dim o : Set o = WScript.StdOut\n"
+                       "o.Write \"ab\xC3\xA8\" : c = o.Column\n"
+                       "o.WriteLine \"!\" : o.WriteBlankLines 2 : o.Write \"x\"\n"
+                       "o.Write c & \" \" & o.Line & \" \" & o.Column & \" \" & WScript.StdErr.Column\n"
+                       "If o.Column > 1 Then o.WriteLine\n"
+                       "WScript.Echo o.Line, o.Column\n");
+  auto uscita = Esegui({script});
+  EXPECT_EQ(uscita.codice, 0) << uscita.err;
+  EXPECT_EQ(uscita.out, "ab\xC3\xA8!\n\n\nx4 4 2 1\n5 1\n");
+}
+
 }  // namespace
 }  // namespace lottolab::cli

@@ -141,7 +141,7 @@ TEST_F(EsecuzioneScript, ErrorsGiveTheLineOfTheUsersFileAndThePageIsStillClosed)
   EXPECT_EQ(esito.errore->colonna, 1u);
   EXPECT_EQ(RapportoErrore(*esito.errore),
             "Errore script !\n500 - Variabile non definita: 'x'\nLinea   : 5\nColonna : 1\nSource : "
-            "Errore di run-time di VBScript\n");
+            "Errore di run-time di Microsoft VBScript\n");
   EXPECT_EQ(m_ospite.Testo(), "2\n");
   EXPECT_TRUE(Leggi(esito.pagina_html).ends_with("</html>\n"));
   EXPECT_EQ(esito.errore->codice, "script");

@@ -26,6 +26,9 @@ struct Builtin {
   bool wants_references = false;
   // Statements in function form (Randomize): used for a value they are a type mismatch.
   bool gives_no_value = false;
+  // Conversions to a number or a date: called as a statement, their value thrown away, they fail
+  // with error 458 once the conversion itself has succeeded, as in Windows.
+  bool needs_a_use = false;
 };
 
 // Every built-in, for lookup by folded name.

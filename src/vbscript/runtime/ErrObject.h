@@ -22,7 +22,9 @@ class ErrObject final : public HostObject<ErrObject> {
   Result<Variant> GetSource(CallArgs& args);
   Result<Variant> PutSource(CallArgs& args, Variant value);
   Result<Variant> GetHelpFile(CallArgs& args);
+  Result<Variant> PutHelpFile(CallArgs& args, Variant value);
   Result<Variant> GetHelpContext(CallArgs& args);
+  Result<Variant> PutHelpContext(CallArgs& args, Variant value);
   Result<Variant> Raise(CallArgs& args);
   Result<Variant> Clear(CallArgs& args);
 

@@ -438,7 +438,11 @@ Result<Variant> BuiltinCallNode::Eval(Frame& frame) {
   return Call(frame);
 }
 
-Status BuiltinCallNode::Invoke(Frame& frame) { return Discard(Call(frame)); }
+Status BuiltinCallNode::Invoke(Frame& frame) {
+  VBS_TRY(Discard(Call(frame)));
+  if (m_builtin->needs_a_use) return MakeError(err::kUnsupportedAutomationType);
+  return Ok();
+}
 
 Result<Variant> BuiltinCallNode::Call(Frame& frame) {
   if (m_args.size() < m_builtin->min_args || m_args.size() > m_builtin->max_args)

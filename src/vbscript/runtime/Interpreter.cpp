@@ -19,7 +19,7 @@ constexpr uint32_t kMaxCallDepth = 10000;
 
 }  // namespace
 
-Interpreter::Interpreter() : m_locale(&ItalianLocale()), m_link(std::make_shared<EngineLink>()) {
+Interpreter::Interpreter() : m_locale(ItalianLocale()), m_link(std::make_shared<EngineLink>()) {
   m_link->interp = this;
   m_err_object = MakeRef<ErrObject>(*this);
   RegisterStandardObjects(*this);
@@ -123,16 +123,18 @@ Procedure& Interpreter::Keep(std::unique_ptr<Procedure> procedure) {
 
 void Interpreter::SetErr(const ScriptError& error) {
   m_err.number = error.number;
+  m_err.help_file = error.help_file;
+  m_err.help_context = error.help_context;
   m_err.description =
-      error.description.empty() ? std::u16string(ErrorText(error.number, m_locale->language)) : error.description;
+      error.description.empty() ? std::u16string(ErrorText(error.number, m_locale.language)) : error.description;
   if (!error.source.empty()) {
     m_err.source = error.source;
   } else if (IsCompileError(error.number)) {
-    m_err.source =
-        m_locale->language == Language::Italian ? u"Errore di compilazione di VBScript" : u"VBScript compilation error";
+    m_err.source = m_locale.language == Language::Italian ? u"Errore di compilazione di Microsoft VBScript"
+                                                          : u"Microsoft VBScript compilation error";
   } else {
-    m_err.source =
-        m_locale->language == Language::Italian ? u"Errore di run-time di VBScript" : u"VBScript runtime error";
+    m_err.source = m_locale.language == Language::Italian ? u"Errore di run-time di Microsoft VBScript"
+                                                          : u"Microsoft VBScript runtime error";
   }
 }
 
@@ -140,7 +142,7 @@ bool Interpreter::DeadlinePassed() const { return std::chrono::steady_clock::now
 
 ScriptError Interpreter::InterruptError() const {
   ScriptError error = MakeError(err::kAborted);
-  bool italian = m_locale->language == Language::Italian;
+  bool italian = m_locale.language == Language::Italian;
   error.description =
       m_abort.load(std::memory_order_relaxed)
           ? (italian ? u"Esecuzione dello script interrotta" : u"Script execution stopped")

@@ -92,6 +92,8 @@ struct ErrState {
   int32_t number = 0;
   std::u16string description;
   std::u16string source;
+  std::u16string help_file;
+  int32_t help_context = 0;
 };
 
 class Interpreter {
@@ -102,8 +104,10 @@ class Interpreter {
   Interpreter& operator=(const Interpreter&) = delete;
 
   SourceTable& sources() { return m_sources; }
-  const Locale& locale() const { return *m_locale; }
-  void SetLocale(const Locale& locale) { m_locale = &locale; }
+  // The current locale lives in the engine, and SetLocale overwrites it in place: the objects a
+  // script made keep a reference to it, and so read and print the way the script last asked.
+  const Locale& locale() const { return m_locale; }
+  void SetLocale(const Locale& locale) { m_locale = locale; }
   CompareMode compare_mode() const { return CompareMode::Binary; }
 
   UiHandler* ui() const { return m_allow_ui ? m_ui : nullptr; }
@@ -205,7 +209,7 @@ class Interpreter {
   [[gnu::noinline]] Result<FrameSlots> OpenFrameInNewSegment(uint32_t count);
 
   SourceTable m_sources;
-  const Locale* m_locale;
+  Locale m_locale;
   UiHandler* m_ui = nullptr;
   bool m_allow_ui = true;
 

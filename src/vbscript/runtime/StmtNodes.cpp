@@ -266,12 +266,18 @@ class ArrayLock {
 }  // namespace
 
 Result<Flow> ForEachNode::Exec(Frame& frame) {
-  auto collection = m_collection->Eval(frame);
-  if (!collection) {
-    if (!ResumeIntoBody(frame, collection.error())) return std::move(collection).error();
-    return m_body.Exec(frame);
-  }
   Flow report = Flow::Normal;
+  // What is no collection is error 451; under "On Error Resume Next" the body runs once, as the
+  // statement after the failed For Each, and Next fails again with 451 and leaves the loop.
+  auto once_without_collection = [&](const ScriptError& error) -> Result<Flow> {
+    if (!ResumeIntoBody(frame, error)) return ScriptError(error);
+    VBS_TRY_ASSIGN(auto&& flow, m_body.Exec(frame));
+    if (LeavesLoop(flow, Flow::ExitFor, report)) return report;
+    if (!ResumeIntoBody(frame, MakeError(err::kNotCollection))) return MakeError(err::kNotCollection);
+    return Flow::Normal;
+  };
+  auto collection = m_collection->Eval(frame);
+  if (!collection) return once_without_collection(collection.error());
   auto visit = [&](Variant element) -> Result<bool> {
     VBS_TRY(frame.interp.CheckInterrupt());
     bool is_object = element.is_object();
@@ -289,16 +295,13 @@ Result<Flow> ForEachNode::Exec(Frame& frame) {
     }
     return Flow::Normal;
   }
-  if (!collection->is_object() || !collection->as_object()) {
-    if (!ResumeIntoBody(frame, MakeError(err::kNotCollection))) return MakeError(err::kNotCollection);
-    auto flow = m_body.Exec(frame);
-    if (!flow) return flow;
-    return LeavesLoop(*flow, Flow::ExitFor, report) ? report : Flow::Normal;
-  }
-  VBS_TRY_ASSIGN(auto&& enumerator, collection->as_object()->Enumerate());
+  if (!collection->is_object() || !collection->as_object())
+    return once_without_collection(MakeError(err::kNotCollection));
+  auto enumerator = collection->as_object()->Enumerate();
+  if (!enumerator) return once_without_collection(enumerator.error());
   for (;;) {
     Variant element;
-    VBS_TRY_ASSIGN(auto&& more, (enumerator)->Next(element));
+    VBS_TRY_ASSIGN(auto&& more, (*enumerator)->Next(element));
     if (!more) break;
     VBS_TRY_ASSIGN(auto&& leave, visit(std::move(element)));
     if (leave) return report;

@@ -2,8 +2,8 @@
 
 // The regional settings that change how values read and print: CStr(0.5) is "0,5" on Italian
 // Windows and "0.5" on English, CDbl("1.5") is 15 on Italian Windows (the period groups thousands
-// there). A Locale is plain immutable data; the engine holds a pointer to the current one, which
-// SetLocale changes, so two engines can run with different settings side by side.
+// there). A Locale is plain data; each engine holds its own copy of the current one, which
+// SetLocale overwrites, so two engines can run with different settings side by side.
 
 #include <array>
 #include <cstdint>

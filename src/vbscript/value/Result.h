@@ -26,6 +26,9 @@ struct ScriptError {
   // What the error is about, as Windows names it after the text in the message a host shows
   // ("Variabile non definita: 'x'"); Err.Description leaves it out.
   std::u16string identifier;
+  // What Err.Raise was told beyond number, source and description; a runtime error has none.
+  std::u16string help_file;
+  int32_t help_context = 0;
 };
 
 // Frees an error; out of line, so that the success path, which only tests the pointer, stays small.
@@ -99,8 +102,23 @@ using Status = Result<Unit>;
 inline Status Ok() { return Unit{}; }
 
 // `number` is one of the err:: names.
-inline ScriptError MakeError(int32_t number) { return ScriptError{number, {}, {}, {}, false, {}}; }
-inline ScriptError MakeError(int32_t number, SourcePos pos) { return ScriptError{number, {}, {}, pos, true, {}}; }
+inline ScriptError MakeError(int32_t number) {
+  ScriptError error;
+  error.number = number;
+  return error;
+}
+inline ScriptError MakeError(int32_t number, SourcePos pos) {
+  ScriptError error = MakeError(number);
+  error.pos = pos;
+  error.has_pos = true;
+  return error;
+}
+// An error whose text says more than the standard one for its number.
+inline ScriptError MakeError(int32_t number, std::u16string description) {
+  ScriptError error = MakeError(number);
+  error.description = std::move(description);
+  return error;
+}
 
 // Propagates a failed Result out of the calling function.
 #define VBS_TRY(...)                                                 \
