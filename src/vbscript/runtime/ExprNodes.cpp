@@ -402,7 +402,8 @@ Result<Variant> BuiltinCallNode::Call(Frame& frame) {
   if (m_args.size() < m_builtin->min_args || m_args.size() > m_builtin->max_args) return MakeError(err::kWrongArgs);
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, m_builtin->wants_references));
-  return TrapAllocationFailure([&] { return m_builtin->function(frame, values.span()); });
+  CallArgs args(values.span(), frame.interp.locale(), ArgumentNaming::Plain);
+  return TrapAllocationFailure([&] { return m_builtin->function(frame, args); });
 }
 
 IndexNode::IndexNode(SourcePos pos, ExprNodePtr holder, ExprNodes args)

@@ -1,10 +1,12 @@
 // What the script tests cannot reach: the random generator's state bit for bit, two engines side by
-// side, and MsgBox and InputBox talking to a host's user interface.
+// side, the exact text of a built-in's error, and MsgBox and InputBox talking to a host's user
+// interface.
 
 #include <gtest/gtest.h>
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "text/Utf.h"
@@ -75,6 +77,26 @@ TEST(RandomGeneratorTest, EachEngineHasItsOwnSequenceAndResetStartsItAgain) {
   EXPECT_EQ(Evaluate(second, u"Rnd"), "0.7055475");
   first.Reset();
   EXPECT_EQ(Evaluate(first, u"Rnd"), "0.7055475");
+}
+
+// A built-in's bad argument gives the table's text alone, as Windows does, not the position a host
+// object's member adds.
+TEST(BuiltinErrorTest, BadArgumentKeepsThePlainTextOfTheErrorTable) {
+  ScriptControl engine;
+  English(engine);
+  const std::pair<std::u16string_view, std::u16string_view> cases[] = {
+      {u"CLng(\"abc\")", u"Type mismatch"},
+      {u"Mid(\"abc\", \"x\")", u"Type mismatch"},
+      {u"InStr(1, \"abc\", \"b\", 2)", u"Invalid procedure call or argument"},
+      {u"Replace(\"abc\", \"b\", \"c\", 1, -1, \"x\")", u"Type mismatch"},
+      {u"WeekdayName(1, \"x\")", u"Type mismatch"},
+      {u"Round(1.5, \"x\")", u"Type mismatch"},
+      {u"FormatNumber(1, 2, \"x\")", u"Type mismatch"},
+  };
+  for (const auto& [expression, description] : cases) {
+    EXPECT_FALSE(engine.Eval(expression).ok()) << text::Utf16ToUtf8(expression);
+    EXPECT_EQ(engine.Error().description, description) << text::Utf16ToUtf8(expression);
+  }
 }
 
 // A user interface that records what it was asked and answers as told.
