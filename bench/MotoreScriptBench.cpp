@@ -133,8 +133,8 @@ void Compare(benchmark::State& state, const Program& program) {
   state.counters["x_Lua"] = best / lua;
 }
 
-#define CONFRONTO(nome, programma)                                              \
-  void BM_##nome(benchmark::State& state) { Compare(state, programma); }       \
+#define CONFRONTO(nome, programma)                                       \
+  void BM_##nome(benchmark::State& state) { Compare(state, programma); } \
   BENCHMARK(BM_##nome)->Unit(benchmark::kMillisecond)->MinTime(0.5)
 
 CONFRONTO(CicloNonDichiarato, kUndeclaredLoop);

@@ -148,9 +148,7 @@ class UiSenzaRisposte final : public vbs::UiHandler {
   explicit UiSenzaRisposte(std::ostream& err) : m_err(err) {}
   int MessageBox(std::u16string_view prompt, int buttons, std::u16string_view) override {
     m_err << text::Utf16ToUtf8(prompt) << '\n';
-    constexpr int kPrimoPulsante[] = {1, 1, 3, 6, 6, 4};  // OK, OK, Abort, Yes, Yes, Retry
-    const int gruppo = buttons & 0x7;
-    return gruppo < 6 ? kPrimoPulsante[gruppo] : 1;
+    return vbs::FirstButton(buttons);
   }
   std::optional<std::u16string> InputBox(std::u16string_view prompt, std::u16string_view,
                                          std::u16string_view predefinito) override {

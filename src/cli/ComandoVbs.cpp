@@ -22,9 +22,7 @@ class UiTerminale final : public vbs::UiHandler {
   explicit UiTerminale(std::ostream& out) : m_out(out) {}
   int MessageBox(std::u16string_view prompt, int buttons, std::u16string_view) override {
     m_out << text::Utf16ToUtf8(prompt) << '\n' << std::flush;
-    constexpr int kPrimoPulsante[] = {1, 1, 3, 6, 6, 4};  // OK, OK, Abort, Yes, Yes, Retry
-    int gruppo = buttons & 0x7;
-    return gruppo < 6 ? kPrimoPulsante[gruppo] : 1;
+    return vbs::FirstButton(buttons);
   }
   std::optional<std::u16string> InputBox(std::u16string_view prompt, std::u16string_view,
                                          std::u16string_view) override {

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "archive/Estrazione.h"
-#include "vbscript/HostObject.h"
+#include "vbscript/value/CallArgs.h"
 
 namespace lottolab::script {
 

@@ -28,7 +28,8 @@
 #include "InterfacciaScript.h"
 #include "OutputHtml.h"
 #include "archive/TabellaEstrazioni.h"
-#include "vbscript/HostObject.h"
+#include "vbscript/value/CallArgs.h"
+#include "vbscript/value/Object.h"
 
 namespace vbs {
 class Interpreter;

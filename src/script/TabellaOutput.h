@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "InterfacciaScript.h"
-#include "vbscript/HostObject.h"
+#include "vbscript/value/CallArgs.h"
 
 namespace lottolab::script {
 

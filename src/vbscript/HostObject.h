@@ -13,44 +13,12 @@
 #include <string_view>
 
 #include "text/AsciiCase.h"
-#include "text/Utf.h"
 #include "vbscript/value/AllocationFailure.h"
-#include "vbscript/value/Coercion.h"
+#include "vbscript/value/CallArgs.h"
 #include "vbscript/value/Locale.h"
 #include "vbscript/value/Object.h"
 
 namespace vbs {
-
-// The arguments of one call as a host member sees them. Each may be a reference to the caller's
-// variable: Out() writes back through it, so a member can fill an array the script passed.
-class CallArgs {
- public:
-  CallArgs(std::span<Variant> args, const Locale& locale) : m_args(args), m_locale(locale) {}
-
-  size_t size() const { return m_args.size(); }
-  const Locale& locale() const { return m_locale; }
-  // Whether argument i was given (an omitted optional argument counts as missing).
-  bool Has(size_t i) const;
-  const Variant& operator[](size_t i) const { return m_args[i].Deref(); }
-  // The caller's variable behind argument i (or the argument's own value when none was passed).
-  Variant& Out(size_t i) { return m_args[i].Deref(); }
-
-  Result<int32_t> Long(size_t i) const;
-  Result<int32_t> Long(size_t i, int32_t if_missing) const;
-  Result<int16_t> Integer(size_t i) const;
-  Result<double> Double(size_t i) const;
-  Result<double> Double(size_t i, double if_missing) const;
-  Result<bool> Boolean(size_t i) const;
-  Result<bool> Boolean(size_t i, bool if_missing) const;
-  Result<std::u16string> String(size_t i) const;
-  Result<std::u16string> String(size_t i, std::u16string_view if_missing) const;
-  // The plain value of argument i: references and objects' default members resolved.
-  Result<Variant> Value(size_t i) const;
-
- private:
-  std::span<Variant> m_args;
-  const Locale& m_locale;
-};
 
 // Member numbers start at 1; the row flagged as default also answers kDefaultMember.
 template <typename Self>

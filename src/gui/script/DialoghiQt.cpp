@@ -21,6 +21,13 @@ const QString kFiltroScript = QStringLiteral("File script (*.ls);;Tutti (*.*)");
 
 QString Titolo(const std::string& titolo) { return titolo.empty() ? kTitolo : QString::fromStdString(titolo); }
 
+// The engine's texts are UTF-16, as QString's.
+QString Testo(std::u16string_view testo) {
+  return QString::fromUtf16(testo.data(), static_cast<qsizetype>(testo.size()));
+}
+
+QString Titolo(std::u16string_view titolo) { return titolo.empty() ? kTitolo : Testo(titolo); }
+
 // MsgBox's groups of buttons (the lowest three bits of its argument), in MsgBox's order.
 QMessageBox::StandardButtons PulsantiMsgBox(int gruppo) {
   switch (gruppo) {
@@ -108,9 +115,9 @@ script::Modalita DialoghiQt::SceltaModalita(const QString& file) {
                                                                  : script::Modalita::Normale;
 }
 
-int DialoghiQt::MessageBox(const QString& testo, int pulsanti, const QString& titolo) {
-  QMessageBox box(IconaMsgBox(pulsanti & 0x70), titolo.isEmpty() ? kTitolo : titolo, testo,
-                  PulsantiMsgBox(pulsanti & 0x7), m_finestra);
+int DialoghiQt::MessageBox(std::u16string_view testo, int pulsanti, std::u16string_view titolo) {
+  QMessageBox box(IconaMsgBox(pulsanti & 0x70), Titolo(titolo), Testo(testo), PulsantiMsgBox(pulsanti & 0x7),
+                  m_finestra);
   const auto tutti = box.buttons();
   const int predefinito = (pulsanti >> 8) & 0x3;
   if (predefinito < tutti.size()) box.setDefaultButton(qobject_cast<QPushButton*>(tutti[predefinito]));
@@ -118,12 +125,13 @@ int DialoghiQt::MessageBox(const QString& testo, int pulsanti, const QString& ti
   return CodiceMsgBox(box.standardButton(box.clickedButton()));
 }
 
-std::optional<QString> DialoghiQt::InputBox(const QString& testo, const QString& titolo, const QString& proposto) {
+std::optional<std::u16string> DialoghiQt::InputBox(std::u16string_view testo, std::u16string_view titolo,
+                                                   std::u16string_view proposto) {
   bool ok = false;
   const QString risposta =
-      QInputDialog::getText(m_finestra, titolo.isEmpty() ? kTitolo : titolo, testo, QLineEdit::Normal, proposto, &ok);
+      QInputDialog::getText(m_finestra, Titolo(titolo), Testo(testo), QLineEdit::Normal, Testo(proposto), &ok);
   if (!ok) return std::nullopt;
-  return risposta;
+  return risposta.toStdU16String();
 }
 
 std::optional<std::vector<int>> DialoghiQt::ScegliVoci(const std::string& titolo, const std::vector<std::string>& voci,

@@ -17,8 +17,9 @@ class DialoghiQt final : public DialoghiScript {
   QString FileDaAprire(const QString& cartella) override;
   QString FileDaSalvare(const QString& proposto) override;
   script::Modalita SceltaModalita(const QString& file) override;
-  int MessageBox(const QString& testo, int pulsanti, const QString& titolo) override;
-  std::optional<QString> InputBox(const QString& testo, const QString& titolo, const QString& proposto) override;
+  int MessageBox(std::u16string_view testo, int pulsanti, std::u16string_view titolo) override;
+  std::optional<std::u16string> InputBox(std::u16string_view testo, std::u16string_view titolo,
+                                         std::u16string_view proposto) override;
   std::optional<std::vector<int>> ScegliVoci(const std::string& titolo, const std::vector<std::string>& voci,
                                              bool multipla) override;
   std::optional<std::vector<int>> ScegliNumeri(const std::string& titolo, int quanti, int massimo,

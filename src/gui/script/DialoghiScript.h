@@ -2,21 +2,22 @@
 
 // Everything the script window and a running script ask the user, in one place: the window shows
 // real dialogs, a test answers in their stead. The library's dialogs are the ones every host of
-// scripts answers (script::DialoghiLibreria). Called on the window's thread only.
+// scripts answers (script::DialoghiLibreria), MsgBox and InputBox the engine's (vbs::UiHandler).
+// Called on the window's thread only.
 
 #include <QString>
 
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "archive/Avviso.h"
 #include "script/AccessoFile.h"
 #include "script/DialoghiLibreria.h"
+#include "vbscript/runtime/UiHandler.h"
 
 namespace lottolab::gui {
 
-class DialoghiScript : public script::DialoghiLibreria {
+class DialoghiScript : public script::DialoghiLibreria, public vbs::UiHandler {
  public:
   virtual ~DialoghiScript() = default;
 
@@ -29,11 +30,6 @@ class DialoghiScript : public script::DialoghiLibreria {
   // The mode for a script opened from outside the user's scripts folder; closing the question
   // chooses the protected mode.
   virtual script::Modalita SceltaModalita(const QString& file) = 0;
-
-  // The engine's MsgBox: the button pressed, as MsgBox's result codes.
-  virtual int MessageBox(const QString& testo, int pulsanti, const QString& titolo) = 0;
-  // The engine's InputBox: nothing when the user cancels.
-  virtual std::optional<QString> InputBox(const QString& testo, const QString& titolo, const QString& proposto) = 0;
 };
 
 }  // namespace lottolab::gui

@@ -21,10 +21,6 @@ namespace {
 
 constexpr int kPulsanteAnnulla = 2;
 
-QString Testo(std::u16string_view testo) {
-  return QString::fromUtf16(testo.data(), static_cast<qsizetype>(testo.size()));
-}
-
 }  // namespace
 
 OspiteGui::OspiteGui(DialoghiScript& dialoghi, QObject* parent) : QObject(parent), m_dialoghi(dialoghi) {}
@@ -188,19 +184,13 @@ std::optional<std::string> OspiteGui::ScegliPercorso(const std::string& titolo, 
 }
 
 int OspiteGui::MessageBox(std::u16string_view prompt, int buttons, std::u16string_view title) {
-  return SulThreadDellaFinestra([&] { return m_dialoghi.MessageBox(Testo(prompt), buttons, Testo(title)); },
-                                kPulsanteAnnulla);
+  return SulThreadDellaFinestra([&] { return m_dialoghi.MessageBox(prompt, buttons, title); }, kPulsanteAnnulla);
 }
 
 std::optional<std::u16string> OspiteGui::InputBox(std::u16string_view prompt, std::u16string_view title,
                                                   std::u16string_view default_text) {
-  return SulThreadDellaFinestra(
-      [&]() -> std::optional<std::u16string> {
-        auto risposta = m_dialoghi.InputBox(Testo(prompt), Testo(title), Testo(default_text));
-        if (!risposta) return std::nullopt;
-        return risposta->toStdU16String();
-      },
-      std::optional<std::u16string>());
+  return SulThreadDellaFinestra([&] { return m_dialoghi.InputBox(prompt, title, default_text); },
+                                std::optional<std::u16string>());
 }
 
 }  // namespace lottolab::gui

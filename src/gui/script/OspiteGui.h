@@ -21,12 +21,7 @@
 
 #include "gui/script/DialoghiScript.h"
 #include "script/InterfacciaScript.h"
-
-// The engine's header names a member "slots", which Qt keeps as a macro.
-#pragma push_macro("slots")
-#undef slots
-#include "vbscript/runtime/Interpreter.h"
-#pragma pop_macro("slots")
+#include "vbscript/runtime/UiHandler.h"
 
 namespace lottolab::gui {
 

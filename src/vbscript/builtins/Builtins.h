@@ -2,13 +2,15 @@
 
 // The language's built-in functions, registered by tables: one family per file, each row a name,
 // its arity, the function and a one-line description. The compiler resolves a name to its row
-// once; a call checks the arity and hands over the argument values.
+// once; a call checks the arity and hands over the argument values in a CallArgs, whose
+// conversions keep Windows' plain error texts.
 
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <string_view>
 
+#include "vbscript/value/CallArgs.h"
 #include "vbscript/value/Result.h"
 #include "vbscript/value/Variant.h"
 
@@ -20,7 +22,7 @@ struct Builtin {
   std::string_view name;
   uint8_t min_args;
   uint8_t max_args;
-  Result<Variant> (*function)(Frame& frame, std::span<Variant> args);
+  Result<Variant> (*function)(Frame& frame, CallArgs& args);
   std::string_view description;
   // Functions that see the caller's variables (Eval, Execute) get references to them.
   bool wants_references = false;

@@ -9,8 +9,6 @@ namespace vbs {
 
 namespace {
 
-using Args = std::span<Variant>;
-
 // The frame whose variables the code sees: the procedure running Eval or Execute, or none at
 // global level (where the code is global code).
 Frame* ProcedureFrame(Frame& frame) {
@@ -22,21 +20,21 @@ Frame* ProcedureFrame(Frame& frame) {
 // the compiled code lives only while it runs: what it declares (procedures, classes, variables)
 // is owned by the engine, not by the code. A loop calling Eval a million times thus runs in flat
 // memory.
-Result<uint32_t> SourceOf(Frame& frame, const Variant& code, std::string_view name) {
-  VBS_TRY_ASSIGN(auto text, code.Deref().to_string(frame.interp.locale()));
+Result<uint32_t> SourceOf(Frame& frame, const CallArgs& args, std::string_view name) {
+  VBS_TRY_ASSIGN(auto text, args.Text(0));
   return frame.interp.sources().Reuse(name, text.ToU16String());
 }
 
-Result<Variant> EvalFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto source, SourceOf(frame, args[0], "Eval"));
+Result<Variant> EvalFunction(Frame& frame, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto source, SourceOf(frame, args, "Eval"));
   VBS_TRY_ASSIGN(auto expression, ParseExpression(frame.interp.sources(), source));
   Frame* scope = ProcedureFrame(frame);
   VBS_TRY_ASSIGN(auto program, Compiler(frame.interp, scope).CompileExpression(*expression));
   return frame.interp.EvalProgram(*program, scope);
 }
 
-Result<Variant> Run(Frame& frame, const Variant& code, Frame* scope, std::string_view name) {
-  VBS_TRY_ASSIGN(auto source, SourceOf(frame, code, name));
+Result<Variant> Run(Frame& frame, const CallArgs& args, Frame* scope, std::string_view name) {
+  VBS_TRY_ASSIGN(auto source, SourceOf(frame, args, name));
   ParseResult parsed = ParseProgram(frame.interp.sources(), source);
   if (!parsed.errors.empty()) return parsed.errors.front();
   VBS_TRY_ASSIGN(auto program, Compiler(frame.interp, scope).CompileProgram(parsed.program));
@@ -44,13 +42,13 @@ Result<Variant> Run(Frame& frame, const Variant& code, Frame* scope, std::string
   return Variant();
 }
 
-Result<Variant> ExecuteFunction(Frame& frame, Args args) {
-  return Run(frame, args[0], ProcedureFrame(frame), "Execute");
+Result<Variant> ExecuteFunction(Frame& frame, CallArgs& args) {
+  return Run(frame, args, ProcedureFrame(frame), "Execute");
 }
 
 // The calling procedure sees the globals that the code made, for the names it uses undeclared.
-Result<Variant> ExecuteGlobalFunction(Frame& frame, Args args) {
-  VBS_TRY(Run(frame, args[0], nullptr, "ExecuteGlobal"));
+Result<Variant> ExecuteGlobalFunction(Frame& frame, CallArgs& args) {
+  VBS_TRY(Run(frame, args, nullptr, "ExecuteGlobal"));
   if (Frame* caller = ProcedureFrame(frame)) frame.interp.RebindImplicitNames(*caller);
   return Variant();
 }
@@ -72,8 +70,8 @@ class ProcedureRef final : public Object {
   const Procedure& m_procedure;
 };
 
-Result<Variant> GetRefFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto name, args[0].Deref().to_string(frame.interp.locale()));
+Result<Variant> GetRefFunction(Frame& frame, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto name, args.Text(0));
   const GlobalEntry* entry = frame.interp.FindGlobal(Interpreter::Fold(name.view()));
   if (!entry || entry->kind != GlobalEntry::Kind::Procedure) return MakeError(err::kInvalidCall);
   return Variant::Object(MakeRef<ProcedureRef>(frame.interp, *entry->procedure));

@@ -6,7 +6,6 @@
 #include <optional>
 #include <string>
 
-#include "vbscript/builtins/BuiltinArgs.h"
 #include "vbscript/builtins/Builtins.h"
 #include "vbscript/value/Coercion.h"
 #include "vbscript/value/DateTime.h"
@@ -15,27 +14,25 @@ namespace vbs {
 
 namespace {
 
-using namespace builtin;
-
 // ---- Hex and Oct ----
 
 // The bit pattern Hex and Oct print: Integer, Byte and Boolean values as 16 bits (Hex(-1) is
 // "FFFF"), everything else rounded to a Long (Hex(-32768) is "FFFF8000", since the literal is a
 // Long). Nullopt for Null.
-Result<std::optional<uint32_t>> DigitsValue(Frame& frame, const Variant& value) {
-  VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+Result<std::optional<uint32_t>> DigitsValue(const CallArgs& args) {
+  VBS_TRY_ASSIGN(auto plain, args.Value(0));
   const Variant& v = plain;
   if (v.is_null()) return std::optional<uint32_t>();
   if (v.is_integer()) return std::optional<uint32_t>(static_cast<uint16_t>(v.as_integer()));
   if (v.is_byte()) return std::optional<uint32_t>(v.as_byte());
   if (v.is_boolean()) return std::optional<uint32_t>(v.as_boolean() ? 0xFFFFu : 0u);
-  VBS_TRY_ASSIGN(auto whole, v.to_long(frame.interp.locale()));
+  VBS_TRY_ASSIGN(auto whole, v.to_long(args.locale()));
   return std::optional<uint32_t>(static_cast<uint32_t>(whole));
 }
 
 template <unsigned kBits>
-Result<Variant> DigitsFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto value, DigitsValue(frame, args[0]));
+Result<Variant> DigitsFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto value, DigitsValue(args));
   if (!value) return Variant::Null();
   uint32_t rest = *value;
   std::u16string digits;
@@ -61,8 +58,8 @@ int64_t WholeCurrency(int64_t scaled, Direction direction) {
 }
 
 template <Direction direction>
-Result<Variant> WholeFunction(Frame& frame, Args args) {
-  auto plain = ValueOf(args[0]);
+Result<Variant> WholeFunction(Frame&, CallArgs& args) {
+  auto plain = args.Value(0);
   if (!plain) return plain;
   const Variant& v = *plain;
   switch (v.subtype()) {
@@ -76,7 +73,7 @@ Result<Variant> WholeFunction(Frame& frame, Args args) {
     case Subtype::Currency: return Variant::Currency(WholeCurrency(v.as_currency(), direction));
     case Subtype::Date: return Variant::Date(WholePart(v.as_date(), direction));
     default: {
-      VBS_TRY_ASSIGN(auto real, v.to_double(frame.interp.locale()));
+      VBS_TRY_ASSIGN(auto real, v.to_double(args.locale()));
       return Variant::Double(WholePart(real, direction));
     }
   }
@@ -105,14 +102,14 @@ int64_t RoundCurrency(int64_t scaled, int32_t digits) {
 
 // Round(number [, digits]): banker's rounding; digits below 0 are error 5. Booleans and the
 // integer subtypes come back unchanged.
-Result<Variant> RoundFunction(Frame& frame, Args args) {
+Result<Variant> RoundFunction(Frame&, CallArgs& args) {
   int32_t digits = 0;
-  if (IsGiven(args, 1)) {
-    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[1]));
+  if (args.Has(1)) {
+    VBS_TRY_ASSIGN(auto n, args.Long(1));
     if (n < 0) return MakeError(err::kInvalidCall);
     digits = n;
   }
-  auto plain = ValueOf(args[0]);
+  auto plain = args.Value(0);
   if (!plain) return plain;
   const Variant& v = *plain;
   switch (v.subtype()) {
@@ -126,7 +123,7 @@ Result<Variant> RoundFunction(Frame& frame, Args args) {
     case Subtype::Currency: return Variant::Currency(RoundCurrency(v.as_currency(), digits));
     case Subtype::Date: return Variant::Date(RoundToDigits(v.as_date(), digits));
     default: {
-      VBS_TRY_ASSIGN(auto real, v.to_double(frame.interp.locale()));
+      VBS_TRY_ASSIGN(auto real, v.to_double(args.locale()));
       return Variant::Double(RoundToDigits(real, digits));
     }
   }
@@ -135,12 +132,12 @@ Result<Variant> RoundFunction(Frame& frame, Args args) {
 // ---- IsDate ----
 
 // True for a Date and for text that reads as a date or time; never an error.
-Result<Variant> IsDateFunction(Frame& frame, Args args) {
-  auto plain = ValueOf(args[0]);
+Result<Variant> IsDateFunction(Frame&, CallArgs& args) {
+  auto plain = args.Value(0);
   if (!plain) return Variant::Boolean(false);
   if (plain->is_date()) return Variant::Boolean(true);
   if (!plain->is_string()) return Variant::Boolean(false);
-  return Variant::Boolean(ParseDateTime(plain->as_string_view(), frame.interp.locale()).has_value());
+  return Variant::Boolean(ParseDateTime(plain->as_string_view(), args.locale()).has_value());
 }
 
 const Builtin kConversion[] = {

@@ -10,43 +10,41 @@ namespace vbs {
 
 namespace {
 
-using Args = std::span<Variant>;
+Result<Variant> ErrFunction(Frame& frame, CallArgs&) {
+  return Variant::Object(Ref<Object>(&frame.interp.err_object()));
+}
 
-const Locale& LocaleOf(Frame& frame) { return frame.interp.locale(); }
-
-Result<Variant> ErrFunction(Frame& frame, Args) { return Variant::Object(Ref<Object>(&frame.interp.err_object())); }
-
-Result<Variant> ArrayFunction(Frame&, Args args) {
+Result<Variant> ArrayFunction(Frame&, CallArgs& args) {
   std::vector<Variant> values;
   values.reserve(args.size());
-  for (Variant& arg : args) values.push_back(arg.Deref());
+  for (size_t i = 0; i < args.size(); ++i) values.push_back(args[i]);
   VBS_TRY_ASSIGN(auto array, SafeArray::FromValues(values));
   return Variant::Array(array);
 }
 
-Result<Variant> Bound(Frame& frame, Args args, bool upper) {
-  const Variant& value = args[0].Deref();
+Result<Variant> Bound(const CallArgs& args, bool upper) {
+  const Variant& value = args[0];
   if (value.is_null()) return MakeError(err::kTypeMismatch);
   if (!value.is_array()) return MakeError(err::kTypeMismatch);
   int32_t dimension = 1;
   if (args.size() > 1) {
-    VBS_TRY_ASSIGN(auto d, args[1].Deref().to_long(LocaleOf(frame)));
+    VBS_TRY_ASSIGN(auto d, args.Long(1));
     dimension = d;
   }
   VBS_TRY_ASSIGN(auto bound, upper ? value.as_array()->UBound(dimension) : value.as_array()->LBound(dimension));
   return Variant::Long(bound);
 }
 
-Result<Variant> UBoundFunction(Frame& frame, Args args) { return Bound(frame, args, true); }
-Result<Variant> LBoundFunction(Frame& frame, Args args) { return Bound(frame, args, false); }
+Result<Variant> UBoundFunction(Frame&, CallArgs& args) { return Bound(args, true); }
+Result<Variant> LBoundFunction(Frame&, CallArgs& args) { return Bound(args, false); }
 
-Result<Variant> IsArrayFunction(Frame&, Args args) { return Variant::Boolean(args[0].Deref().is_array()); }
-Result<Variant> IsNullFunction(Frame&, Args args) { return Variant::Boolean(args[0].Deref().is_null()); }
-Result<Variant> IsEmptyFunction(Frame&, Args args) { return Variant::Boolean(args[0].Deref().is_empty()); }
-Result<Variant> IsObjectFunction(Frame&, Args args) { return Variant::Boolean(args[0].Deref().is_object()); }
+Result<Variant> IsArrayFunction(Frame&, CallArgs& args) { return Variant::Boolean(args[0].is_array()); }
+Result<Variant> IsNullFunction(Frame&, CallArgs& args) { return Variant::Boolean(args[0].is_null()); }
+Result<Variant> IsEmptyFunction(Frame&, CallArgs& args) { return Variant::Boolean(args[0].is_empty()); }
+Result<Variant> IsObjectFunction(Frame&, CallArgs& args) { return Variant::Boolean(args[0].is_object()); }
 
-Result<Variant> IsNumericFunction(Frame& frame, Args args) {
-  const Variant& given = args[0].Deref();
+Result<Variant> IsNumericFunction(Frame&, CallArgs& args) {
+  const Variant& given = args[0];
   // An object answers through its default value.
   Variant value;
   if (given.is_object()) {
@@ -56,27 +54,22 @@ Result<Variant> IsNumericFunction(Frame& frame, Args args) {
   }
   const Variant& v = given.is_object() ? value : given;
   if (v.is_number() || v.is_boolean() || v.is_empty()) return Variant::Boolean(true);
-  if (v.is_string()) return Variant::Boolean(ParseNumber(v.as_string_view(), LocaleOf(frame)).has_value());
+  if (v.is_string()) return Variant::Boolean(ParseNumber(v.as_string_view(), args.locale()).has_value());
   return Variant::Boolean(false);
 }
 
-Result<Variant> VarTypeFunction(Frame&, Args args) {
-  return Variant::Integer(static_cast<int16_t>(args[0].Deref().VarType()));
+Result<Variant> VarTypeFunction(Frame&, CallArgs& args) {
+  return Variant::Integer(static_cast<int16_t>(args[0].VarType()));
 }
-Result<Variant> TypeNameFunction(Frame&, Args args) { return Variant::String(args[0].Deref().TypeName()); }
+Result<Variant> TypeNameFunction(Frame&, CallArgs& args) { return Variant::String(args[0].TypeName()); }
 
 template <Subtype target>
-Result<Variant> Convert(Frame& frame, Args args) {
-  return ConvertTo(args[0].Deref(), target, LocaleOf(frame));
+Result<Variant> Convert(Frame&, CallArgs& args) {
+  return ConvertTo(args[0], target, args.locale());
 }
 
-Result<std::u16string> TextOf(Frame& frame, const Variant& value) {
-  VBS_TRY_ASSIGN(auto text, value.Deref().to_string(LocaleOf(frame)));
-  return text.ToU16String();
-}
-
-Result<Variant> CreateObjectFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto name, TextOf(frame, args[0]));
+Result<Variant> CreateObjectFunction(Frame& frame, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto name, args.String(0));
   VBS_TRY_ASSIGN(auto object, frame.interp.CreateObject(name));
   return Variant::Object(object);
 }

@@ -16,7 +16,6 @@
 #include <utility>
 
 #include "text/Utf.h"
-#include "vbscript/builtins/BuiltinArgs.h"
 #include "vbscript/builtins/Builtins.h"
 #include "vbscript/runtime/RandomGenerator.h"
 #include "vbscript/value/Coercion.h"
@@ -25,8 +24,6 @@
 namespace vbs {
 
 namespace {
-
-using namespace builtin;
 
 constexpr int32_t kSecondsPerDay = 86400;
 constexpr int kSunday = 1;
@@ -83,19 +80,19 @@ int SystemFirstWeekOfYear(const Locale& locale) { return locale.lcid == kLcidIta
 
 // An optional firstdayofweek (1-7) or firstweekofyear (1-3) argument: `fallback` when omitted, the
 // system setting for 0; other values are error 5.
-Result<int> WeekSetting(Frame& frame, Args args, size_t index, int max, int fallback, int system) {
-  if (!IsGiven(args, index)) return fallback;
-  VBS_TRY_ASSIGN(auto n, LongArg(frame, args[index]));
+Result<int> WeekSetting(const CallArgs& args, size_t index, int max, int fallback, int system) {
+  if (!args.Has(index)) return fallback;
+  VBS_TRY_ASSIGN(auto n, args.Long(index));
   if (n < 0 || n > max) return MakeError(err::kInvalidCall);
   return n == 0 ? system : n;
 }
 
-Result<int> FirstDayOfWeek(Frame& frame, Args args, size_t index) {
-  return WeekSetting(frame, args, index, 7, kSunday, SystemFirstDayOfWeek(frame.interp.locale()));
+Result<int> FirstDayOfWeek(const CallArgs& args, size_t index) {
+  return WeekSetting(args, index, 7, kSunday, SystemFirstDayOfWeek(args.locale()));
 }
 
-Result<int> FirstWeekOfYear(Frame& frame, Args args, size_t index) {
-  return WeekSetting(frame, args, index, 3, kFirstJan1, SystemFirstWeekOfYear(frame.interp.locale()));
+Result<int> FirstWeekOfYear(const CallArgs& args, size_t index) {
+  return WeekSetting(args, index, 3, kFirstJan1, SystemFirstWeekOfYear(args.locale()));
 }
 
 // 1 for the first day of the week, 7 for the last.
@@ -122,11 +119,11 @@ int WeekOfYear(const Moment& m, int first_day, int first_week) {
 
 // ---- Reading a date argument ----
 
-// The argument as a Date serial, or nullopt for Null.
-Result<std::optional<double>> DateOrNull(Frame& frame, const Variant& value) {
-  VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+// Argument i as a Date serial, or nullopt for Null.
+Result<std::optional<double>> DateOrNull(const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto plain, args.Value(i));
   if (plain.is_null()) return std::optional<double>();
-  VBS_TRY_ASSIGN(auto serial, plain.to_date(frame.interp.locale()));
+  VBS_TRY_ASSIGN(auto serial, plain.to_date(args.locale()));
   return std::optional<double>(serial);
 }
 
@@ -143,52 +140,47 @@ DateTimeParts LocalNow() {
 double TodaySerial(const DateTimeParts& p) { return *SerialFromDate(p.year, p.month, p.day); }
 double TimeSerialOf(const DateTimeParts& p) { return *SerialFromTime(p.hour, p.minute, p.second); }
 
-Result<Variant> DateFunction(Frame&, Args) { return Variant::Date(TodaySerial(LocalNow())); }
-Result<Variant> TimeFunction(Frame&, Args) { return Variant::Date(TimeSerialOf(LocalNow())); }
-Result<Variant> NowFunction(Frame&, Args) {
+Result<Variant> DateFunction(Frame&, CallArgs&) { return Variant::Date(TodaySerial(LocalNow())); }
+Result<Variant> TimeFunction(Frame&, CallArgs&) { return Variant::Date(TimeSerialOf(LocalNow())); }
+Result<Variant> NowFunction(Frame&, CallArgs&) {
   const DateTimeParts now = LocalNow();
   return Variant::Date(TodaySerial(now) + TimeSerialOf(now));
 }
-Result<Variant> TimerFunction(Frame&, Args) { return Variant::Single(SecondsSinceMidnight()); }
+Result<Variant> TimerFunction(Frame&, CallArgs&) { return Variant::Single(SecondsSinceMidnight()); }
 
 // ---- Parts ----
 
 template <int DateTimeParts::*field>
-Result<Variant> PartFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[0]));
+Result<Variant> PartFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(args, 0));
   if (!serial) return Variant::Null();
   return Variant::Integer(static_cast<int16_t>(SplitSerial(*serial).*field));
 }
 
 // Weekday(date [, firstdayofweek]): the first day is checked before a Null date gives Null.
-Result<Variant> WeekdayFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto first_day, FirstDayOfWeek(frame, args, 1));
-  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[0]));
+Result<Variant> WeekdayFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto first_day, FirstDayOfWeek(args, 1));
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(args, 0));
   if (!serial) return Variant::Null();
   return Variant::Integer(static_cast<int16_t>(DayOfWeek(MomentOf(*serial).day, first_day)));
 }
 
-Result<bool> AbbreviateArg(Frame& frame, Args args, size_t index) {
-  if (!IsGiven(args, index)) return false;
-  return BooleanArg(frame, args[index]);
-}
-
 // WeekdayName(weekday [, abbreviate [, firstdayofweek]]): weekday 1 is the first day of the week.
-Result<Variant> WeekdayNameFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto abbreviate, AbbreviateArg(frame, args, 1));
-  VBS_TRY_ASSIGN(auto first_day, FirstDayOfWeek(frame, args, 2));
-  VBS_TRY_ASSIGN(auto weekday, LongArg(frame, args[0]));
+Result<Variant> WeekdayNameFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto abbreviate, args.Boolean(1, false));
+  VBS_TRY_ASSIGN(auto first_day, FirstDayOfWeek(args, 2));
+  VBS_TRY_ASSIGN(auto weekday, args.Long(0));
   if (weekday < 1 || weekday > 7) return MakeError(err::kInvalidCall);
-  const Locale& locale = frame.interp.locale();
+  const Locale& locale = args.locale();
   const size_t index = static_cast<size_t>(weekday - 1 + first_day - 1) % 7;
   return Variant::String(abbreviate ? locale.day_abbreviations[index] : locale.day_names[index]);
 }
 
-Result<Variant> MonthNameFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto abbreviate, AbbreviateArg(frame, args, 1));
-  VBS_TRY_ASSIGN(auto month, LongArg(frame, args[0]));
+Result<Variant> MonthNameFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto abbreviate, args.Boolean(1, false));
+  VBS_TRY_ASSIGN(auto month, args.Long(0));
   if (month < 1 || month > 12) return MakeError(err::kInvalidCall);
-  const Locale& locale = frame.interp.locale();
+  const Locale& locale = args.locale();
   const auto index = static_cast<size_t>(month - 1);
   return Variant::String(abbreviate ? locale.month_abbreviations[index] : locale.month_names[index]);
 }
@@ -198,10 +190,10 @@ Result<Variant> MonthNameFunction(Frame& frame, Args args) {
 // DateSerial(year, month, day): years 0-29 are 2000-2029 and 30-99 are 1930-1999; months and days
 // beyond their range carry over (month 14 is February of the next year, day 0 the last of the
 // month before). Error 5 outside the range of dates.
-Result<Variant> DateSerialFunction(Frame& frame, Args args) {
+Result<Variant> DateSerialFunction(Frame&, CallArgs& args) {
   int32_t values[3];
   for (size_t i = 0; i < 3; ++i) {
-    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[i]));
+    VBS_TRY_ASSIGN(auto n, args.Long(i));
     values[i] = n;
   }
   int64_t year = values[0];
@@ -217,24 +209,24 @@ Result<Variant> DateSerialFunction(Frame& frame, Args args) {
 
 // TimeSerial(hour, minute, second): any values, carried over into days (25:00 is 1:00 of
 // 31 December 1899, -1:00 is 23:00 of 29 December 1899).
-Result<Variant> TimeSerialFunction(Frame& frame, Args args) {
+Result<Variant> TimeSerialFunction(Frame&, CallArgs& args) {
   int64_t seconds = 0;
   for (size_t i = 0; i < 3; ++i) {
-    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[i]));
+    VBS_TRY_ASSIGN(auto n, args.Long(i));
     seconds = seconds * 60 + n;
   }
   VBS_TRY_ASSIGN(auto serial, SerialOf(0, seconds));
   return Variant::Date(serial);
 }
 
-Result<Variant> DateValueFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[0]));
+Result<Variant> DateValueFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(args, 0));
   if (!serial) return Variant::Null();
   return Variant::Date(static_cast<double>(MomentOf(*serial).day));
 }
 
-Result<Variant> TimeValueFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[0]));
+Result<Variant> TimeValueFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(args, 0));
   if (!serial) return Variant::Null();
   return Variant::Date(static_cast<double>(MomentOf(*serial).second) / kSecondsPerDay);
 }
@@ -245,8 +237,8 @@ enum class Interval { Year, Quarter, Month, DayOfYear, Day, Weekday, Week, Hour,
 
 // The interval argument ("yyyy", "q", "m", "y", "d", "w", "ww", "h", "n", "s", in any case):
 // error 94 for Null, 5 for anything else.
-Result<Interval> IntervalArg(Frame& frame, const Variant& value) {
-  VBS_TRY_ASSIGN(auto text, TextArg(frame, value));
+Result<Interval> IntervalArg(const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto text, args.Text(i));
   static constexpr std::pair<std::u16string_view, Interval> kNames[] = {
       {u"yyyy", Interval::Year}, {u"q", Interval::Quarter}, {u"m", Interval::Month}, {u"y", Interval::DayOfYear},
       {u"d", Interval::Day},     {u"w", Interval::Weekday}, {u"ww", Interval::Week}, {u"h", Interval::Hour},
@@ -275,10 +267,10 @@ Result<double> AddMonths(double serial, int64_t months) {
 // DateAdd(interval, number, date): the number is rounded to a whole one; adding months keeps the
 // day where the month has it and takes the month's last day otherwise (31 January + 1 month is
 // 28 or 29 February). "y" and "w" add days, as on Windows.
-Result<Variant> DateAddFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto interval, IntervalArg(frame, args[0]));
-  VBS_TRY_ASSIGN(auto number, DoubleArg(frame, args[1]));
-  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[2]));
+Result<Variant> DateAddFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto interval, IntervalArg(args, 0));
+  VBS_TRY_ASSIGN(auto number, args.Double(1));
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(args, 2));
   if (!serial) return Variant::Null();
   const double n = RoundHalfEven(number);
   if (std::fabs(n) > 1e12) return MakeError(err::kInvalidCall);
@@ -313,12 +305,12 @@ Result<Variant> DateAddFunction(Frame& frame, Args args) {
 // DateDiff(interval, date1, date2 [, firstdayofweek [, firstweekofyear]]): how many interval
 // boundaries lie between the dates ("yyyy" from 31 December to 1 January is 1); "w" counts whole
 // weeks, "ww" the weeks' first days. A Long; error 6 when it does not fit.
-Result<Variant> DateDiffFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto interval, IntervalArg(frame, args[0]));
-  VBS_TRY_ASSIGN(auto first_day, FirstDayOfWeek(frame, args, 3));
-  VBS_TRY(FirstWeekOfYear(frame, args, 4));
-  VBS_TRY_ASSIGN(auto d1, DateOrNull(frame, args[1]));
-  VBS_TRY_ASSIGN(auto d2, DateOrNull(frame, args[2]));
+Result<Variant> DateDiffFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto interval, IntervalArg(args, 0));
+  VBS_TRY_ASSIGN(auto first_day, FirstDayOfWeek(args, 3));
+  VBS_TRY(FirstWeekOfYear(args, 4));
+  VBS_TRY_ASSIGN(auto d1, DateOrNull(args, 1));
+  VBS_TRY_ASSIGN(auto d2, DateOrNull(args, 2));
   if (!d1 || !d2) return Variant::Null();
   const Moment a = MomentOf(*d1);
   const Moment b = MomentOf(*d2);
@@ -346,11 +338,11 @@ Result<Variant> DateDiffFunction(Frame& frame, Args args) {
 // DatePart(interval, date [, firstdayofweek [, firstweekofyear]]): one part of a date, an Integer.
 // With vbFirstFourDays the last days of December may be week 1 of the next year, and the first
 // days of January the last week of the year before.
-Result<Variant> DatePartFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto interval, IntervalArg(frame, args[0]));
-  VBS_TRY_ASSIGN(auto first_day, FirstDayOfWeek(frame, args, 2));
-  VBS_TRY_ASSIGN(auto first_week, FirstWeekOfYear(frame, args, 3));
-  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[1]));
+Result<Variant> DatePartFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto interval, IntervalArg(args, 0));
+  VBS_TRY_ASSIGN(auto first_day, FirstDayOfWeek(args, 2));
+  VBS_TRY_ASSIGN(auto first_week, FirstWeekOfYear(args, 3));
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(args, 1));
   if (!serial) return Variant::Null();
   const Moment m = MomentOf(*serial);
   const DateTimeParts& p = m.parts;
@@ -394,16 +386,16 @@ std::u16string ShortTime(const DateTimeParts& p, const Locale& locale) {
 
 // FormatDateTime(date [, format]): 0 as CStr, 1 the long date, 2 the short date, 3 the long time,
 // 4 hours and minutes on the 24-hour clock. A Null date is error 13, not 94.
-Result<Variant> FormatDateTimeFunction(Frame& frame, Args args) {
+Result<Variant> FormatDateTimeFunction(Frame&, CallArgs& args) {
   int32_t format = 0;
-  if (IsGiven(args, 1)) {
-    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[1]));
+  if (args.Has(1)) {
+    VBS_TRY_ASSIGN(auto n, args.Long(1));
     if (n < 0 || n > 4) return MakeError(err::kInvalidCall);
     format = n;
   }
-  VBS_TRY_ASSIGN(auto serial, DateOrNull(frame, args[0]));
+  VBS_TRY_ASSIGN(auto serial, DateOrNull(args, 0));
   if (!serial) return MakeError(err::kTypeMismatch);
-  const Locale& locale = frame.interp.locale();
+  const Locale& locale = args.locale();
   const DateTimeParts p = SplitSerial(*serial);
   switch (format) {
     case 1: return Variant::String(LongDate(p, *serial, locale));

@@ -11,15 +11,12 @@
 #include <charconv>
 #include <string>
 
-#include "vbscript/builtins/BuiltinArgs.h"
 #include "vbscript/builtins/Builtins.h"
 #include "vbscript/value/Coercion.h"
 
 namespace vbs {
 
 namespace {
-
-using namespace builtin;
 
 constexpr int32_t kUseDefault = -2;
 
@@ -125,18 +122,18 @@ std::u16string Signed(std::u16string text, bool negative, bool parentheses) {
 }
 
 // The tristate at `index`: -2 or omitted gives `fallback`, 0 false, anything else true.
-Result<bool> Tristate(Frame& frame, Args args, size_t index, bool fallback) {
-  if (!IsGiven(args, index)) return fallback;
-  VBS_TRY_ASSIGN(auto n, LongArg(frame, args[index]));
+Result<bool> Tristate(const CallArgs& args, size_t index, bool fallback) {
+  if (!args.Has(index)) return fallback;
+  VBS_TRY_ASSIGN(auto n, args.Long(index));
   return n == kUseDefault ? fallback : n != 0;
 }
 
 template <Kind kind>
-Result<Variant> FormatFunction(Frame& frame, Args args) {
-  const Locale& locale = frame.interp.locale();
+Result<Variant> FormatFunction(Frame&, CallArgs& args) {
+  const Locale& locale = args.locale();
   NumberStyle style{2, true, false, true};
-  if (IsGiven(args, 1)) {
-    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[1]));
+  if (args.Has(1)) {
+    VBS_TRY_ASSIGN(auto n, args.Long(1));
     if (n < -1 || n > 255) return MakeError(err::kInvalidCall);
     if (n != -1) style.decimals = n;
   }
@@ -145,11 +142,11 @@ Result<Variant> FormatFunction(Frame& frame, Args args) {
   const bool fallbacks[] = {style.leading_zero, parentheses_by_default, style.grouping};
   bool* settings[] = {&style.leading_zero, &style.parentheses, &style.grouping};
   for (size_t i = 0; i < 3; ++i) {
-    VBS_TRY_ASSIGN(auto b, Tristate(frame, args, i + 2, fallbacks[i]));
+    VBS_TRY_ASSIGN(auto b, Tristate(args, i + 2, fallbacks[i]));
     *settings[i] = b;
   }
 
-  VBS_TRY_ASSIGN(auto plain, ValueOf(args[0]));
+  VBS_TRY_ASSIGN(auto plain, args.Value(0));
   if (plain.is_null()) return MakeError(err::kTypeMismatch);
   Decimal d;
   if (plain.is_currency() && kind != Kind::Percent) {

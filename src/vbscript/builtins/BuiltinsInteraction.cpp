@@ -10,32 +10,25 @@
 #include <string>
 
 #include "text/Utf.h"
-#include "vbscript/builtins/BuiltinArgs.h"
 #include "vbscript/builtins/Builtins.h"
+#include "vbscript/runtime/Interpreter.h"
 #include "vbscript/value/Coercion.h"
 
 namespace vbs {
 
 namespace {
 
-using namespace builtin;
-
 // A text argument that may be omitted or Null (both give "").
-Result<std::u16string> OptionalText(Frame& frame, Args args, size_t index) {
-  if (!IsGiven(args, index) || IsNull(args[index])) return std::u16string();
-  VBS_TRY_ASSIGN(auto text, TextArg(frame, args[index]));
-  return text.ToU16String();
+Result<std::u16string> OptionalText(const CallArgs& args, size_t i) {
+  if (!args.Has(i) || args[i].is_null()) return std::u16string();
+  return args.String(i);
 }
 
 // MsgBox(prompt [, buttons [, title [, helpfile, context]]]): the button pressed (vbOK ... vbNo).
-Result<Variant> MsgBoxFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto prompt, OptionalText(frame, args, 0));
-  int32_t buttons = 0;
-  if (IsGiven(args, 1)) {
-    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[1]));
-    buttons = n;
-  }
-  VBS_TRY_ASSIGN(auto title, OptionalText(frame, args, 2));
+Result<Variant> MsgBoxFunction(Frame& frame, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto prompt, OptionalText(args, 0));
+  VBS_TRY_ASSIGN(auto buttons, args.Long(1, 0));
+  VBS_TRY_ASSIGN(auto title, OptionalText(args, 2));
   UiHandler* ui = frame.interp.ui();
   if (!ui) return MakeError(err::kPermissionDenied);
   return Variant::Integer(static_cast<int16_t>(ui->MessageBox(prompt, buttons, title)));
@@ -43,10 +36,10 @@ Result<Variant> MsgBoxFunction(Frame& frame, Args args) {
 
 // InputBox(prompt [, title [, default [, xpos, ypos [, helpfile, context]]]]): the text typed, or
 // Empty when the user cancels (so that IsEmpty tells a cancel from an empty answer).
-Result<Variant> InputBoxFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto prompt, OptionalText(frame, args, 0));
-  VBS_TRY_ASSIGN(auto title, OptionalText(frame, args, 1));
-  VBS_TRY_ASSIGN(auto default_text, OptionalText(frame, args, 2));
+Result<Variant> InputBoxFunction(Frame& frame, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto prompt, OptionalText(args, 0));
+  VBS_TRY_ASSIGN(auto title, OptionalText(args, 1));
+  VBS_TRY_ASSIGN(auto default_text, OptionalText(args, 2));
   UiHandler* ui = frame.interp.ui();
   if (!ui) return MakeError(err::kPermissionDenied);
   auto answer = ui->InputBox(prompt, title, default_text);
@@ -54,21 +47,21 @@ Result<Variant> InputBoxFunction(Frame& frame, Args args) {
   return Variant::String(*answer);
 }
 
-Result<Variant> ScriptEngineFunction(Frame&, Args) { return Variant::String(u"VBScript"); }
-Result<Variant> MajorVersionFunction(Frame&, Args) { return Variant::Long(5); }
-Result<Variant> MinorVersionFunction(Frame&, Args) { return Variant::Long(8); }
+Result<Variant> ScriptEngineFunction(Frame&, CallArgs&) { return Variant::String(u"VBScript"); }
+Result<Variant> MajorVersionFunction(Frame&, CallArgs&) { return Variant::Long(5); }
+Result<Variant> MinorVersionFunction(Frame&, CallArgs&) { return Variant::Long(8); }
 // The build of the engine that Windows 10 and 11 ship (5.812.10240.16384).
-Result<Variant> BuildVersionFunction(Frame&, Args) { return Variant::Long(16384); }
+Result<Variant> BuildVersionFunction(Frame&, CallArgs&) { return Variant::Long(16384); }
 
-Result<Variant> GetLocaleFunction(Frame& frame, Args) {
+Result<Variant> GetLocaleFunction(Frame& frame, CallArgs&) {
   return Variant::Long(static_cast<int32_t>(frame.interp.locale().lcid));
 }
 
 // The locale a SetLocale argument names: an LCID (0 for the system's, Italian), or a language tag
 // such as "it-it" or "en-us"; error 5 for one the engine does not know.
-Result<const Locale*> LocaleNamed(Frame& frame, const Variant& value) {
-  VBS_TRY_ASSIGN(auto plain, ValueOf(value));
-  if (plain.is_string() && !ParseNumber(plain.as_string_view(), frame.interp.locale())) {
+Result<const Locale*> LocaleNamed(const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto plain, args.Value(i));
+  if (plain.is_string() && !ParseNumber(plain.as_string_view(), args.locale())) {
     const std::u16string_view name = plain.as_string_view();
     for (std::u16string_view tag : {u"it-it", u"it"})
       if (text::EqualsIgnoringCase(name, tag)) return &ItalianLocale();
@@ -76,17 +69,17 @@ Result<const Locale*> LocaleNamed(Frame& frame, const Variant& value) {
       if (text::EqualsIgnoringCase(name, tag)) return &EnglishLocale();
     return MakeError(err::kInvalidCall);
   }
-  VBS_TRY_ASSIGN(auto lcid, plain.to_long(frame.interp.locale()));
+  VBS_TRY_ASSIGN(auto lcid, plain.to_long(args.locale()));
   if (lcid == 0) return &ItalianLocale();
   return LocaleFromLcid(lcid);
 }
 
 // SetLocale([lcid]): switches how numbers and dates read and print; returns the previous LCID.
 // Without an argument, the system's locale.
-Result<Variant> SetLocaleFunction(Frame& frame, Args args) {
+Result<Variant> SetLocaleFunction(Frame& frame, CallArgs& args) {
   const Locale* locale = &ItalianLocale();
-  if (IsGiven(args, 0)) {
-    VBS_TRY_ASSIGN(auto named, LocaleNamed(frame, args[0]));
+  if (args.Has(0)) {
+    VBS_TRY_ASSIGN(auto named, LocaleNamed(args, 0));
     locale = named;
   }
   const auto previous = static_cast<int32_t>(frame.interp.locale().lcid);
@@ -96,10 +89,10 @@ Result<Variant> SetLocaleFunction(Frame& frame, Args args) {
 
 // RGB(red, green, blue): the colour as a Long, red in the low byte; components above 255 count
 // as 255, negative ones are error 5.
-Result<Variant> RgbFunction(Frame& frame, Args args) {
+Result<Variant> RgbFunction(Frame&, CallArgs& args) {
   int32_t colour = 0;
   for (size_t i = 0; i < 3; ++i) {
-    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[i]));
+    VBS_TRY_ASSIGN(auto n, args.Long(i));
     if (n < 0) return MakeError(err::kInvalidCall);
     colour |= std::min(n, 255) << (8 * i);
   }

@@ -7,8 +7,8 @@
 #include <limits>
 #include <string>
 
-#include "vbscript/builtins/BuiltinArgs.h"
 #include "vbscript/builtins/Builtins.h"
+#include "vbscript/runtime/Interpreter.h"
 #include "vbscript/runtime/RandomGenerator.h"
 #include "vbscript/value/Coercion.h"
 
@@ -16,10 +16,8 @@ namespace vbs {
 
 namespace {
 
-using namespace builtin;
-
-Result<Variant> AbsFunction(Frame& frame, Args args) {
-  auto plain = ValueOf(args[0]);
+Result<Variant> AbsFunction(Frame&, CallArgs& args) {
+  auto plain = args.Value(0);
   if (!plain) return plain;
   const Variant& v = *plain;
   switch (v.subtype()) {
@@ -38,14 +36,14 @@ Result<Variant> AbsFunction(Frame& frame, Args args) {
       if (v.as_currency() == std::numeric_limits<int64_t>::min()) return MakeError(err::kOverflow);
       return Variant::Currency(v.as_currency() < 0 ? -v.as_currency() : v.as_currency());
     default: {
-      VBS_TRY_ASSIGN(auto real, v.to_double(frame.interp.locale()));
+      VBS_TRY_ASSIGN(auto real, v.to_double(args.locale()));
       return Variant::Double(std::fabs(real));
     }
   }
 }
 
-Result<Variant> SgnFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto real, DoubleArg(frame, args[0]));
+Result<Variant> SgnFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto real, args.Double(0));
   return Variant::Integer(static_cast<int16_t>(real > 0 ? 1 : (real < 0 ? -1 : 0)));
 }
 
@@ -53,8 +51,8 @@ enum class Domain { All, NotNegative, Positive };
 
 // A function of one Double: error 5 outside its domain, 6 when the result overflows.
 template <double (*F)(double), Domain domain>
-Result<Variant> RealFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto x, DoubleArg(frame, args[0]));
+Result<Variant> RealFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto x, args.Double(0));
   if ((domain == Domain::NotNegative && x < 0) || (domain == Domain::Positive && x <= 0))
     return MakeError(err::kInvalidCall);
   const double result = F(x);
@@ -73,10 +71,10 @@ double SquareRoot(double x) { return std::sqrt(x); }
 // ---- Rnd and Randomize ----
 
 // Rnd([number]): the next number in [0, 1); 0 repeats the last one, a negative number reseeds.
-Result<Variant> RndFunction(Frame& frame, Args args) {
+Result<Variant> RndFunction(Frame& frame, CallArgs& args) {
   float number = 1;
-  if (IsGiven(args, 0)) {
-    VBS_TRY_ASSIGN(auto n, args[0].Deref().to_single(frame.interp.locale()));
+  if (args.Has(0)) {
+    VBS_TRY_ASSIGN(auto n, args[0].to_single(args.locale()));
     number = n;
   }
   // Each engine has its own sequence, restarted by Reset.
@@ -84,9 +82,9 @@ Result<Variant> RndFunction(Frame& frame, Args args) {
 }
 
 // Randomize [number]: mixes the number, or the time of day, into the seed.
-Result<Variant> RandomizeFunction(Frame& frame, Args args) {
-  if (IsGiven(args, 0)) {
-    VBS_TRY_ASSIGN(auto n, DoubleArg(frame, args[0]));
+Result<Variant> RandomizeFunction(Frame& frame, CallArgs& args) {
+  if (args.Has(0)) {
+    VBS_TRY_ASSIGN(auto n, args.Double(0));
     frame.interp.random().Randomize(n);
     return Variant();
   }

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "text/Utf.h"
-#include "vbscript/builtins/BuiltinArgs.h"
 #include "vbscript/builtins/Builtins.h"
 #include "vbscript/value/Coercion.h"
 #include "vbscript/value/SafeArray.h"
@@ -19,22 +18,28 @@ namespace vbs {
 
 namespace {
 
-using namespace builtin;
-
 // ---- Helpers ----
 
-// The argument as text, or nullopt for Null (an object's default value counts).
-Result<std::optional<VbString>> TextOrNull(Frame& frame, const Variant& value) {
-  VBS_TRY_ASSIGN(auto plain, ValueOf(value));
+// Argument i as text, or nullopt for Null (an object's default value counts).
+Result<std::optional<VbString>> TextOrNull(const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto plain, args.Value(i));
   if (plain.is_null()) return std::optional<VbString>();
-  VBS_TRY_ASSIGN(auto text, plain.to_string(frame.interp.locale()));
+  VBS_TRY_ASSIGN(auto text, plain.to_string(args.locale()));
   return std::optional<VbString>(std::move(text));
 }
 
 // A count argument: a Long that must not be negative (error 5).
-Result<int32_t> CountArg(Frame& frame, const Variant& value) {
-  VBS_TRY_ASSIGN(auto n, LongArg(frame, value));
+Result<int32_t> Count(const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto n, args.Long(i));
   if (n < 0) return MakeError(err::kInvalidCall);
+  return n;
+}
+
+// An optional count argument (Replace, Split): -1, also when missing, means all; below -1 is error 5.
+Result<int32_t> CountOrAll(const CallArgs& args, size_t i) {
+  if (!args.Has(i)) return -1;
+  VBS_TRY_ASSIGN(auto n, args.Long(i));
+  if (n < -1) return MakeError(err::kInvalidCall);
   return n;
 }
 
@@ -102,8 +107,8 @@ Result<Ref<SafeArray>> StringArray(const std::vector<std::u16string_view>& parts
 
 // An array argument of one dimension (or none, which has no elements): error 94 for Null, 13 for
 // a non-array, 5 for several dimensions. The Variant returned keeps the array alive.
-Result<Variant> ListArg(const Variant& value) {
-  auto plain = ValueOf(value);
+Result<Variant> ListArg(const CallArgs& args, size_t i) {
+  auto plain = args.Value(i);
   if (!plain) return plain;
   if (plain->is_null()) return MakeError(err::kNullUse);
   if (!plain->is_array()) return MakeError(err::kTypeMismatch);
@@ -113,24 +118,26 @@ Result<Variant> ListArg(const Variant& value) {
 
 std::span<const Variant> Elements(const Variant& list) { return list.as_array()->elements(); }
 
+Result<VbString> ElementText(const Variant& element, const Locale& locale) { return element.Deref().to_string(locale); }
+
 // ---- Length, pieces and characters ----
 
-Result<Variant> LenFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+Result<Variant> LenFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, 0));
   if (!text) return Variant::Null();
   return Variant::Long(static_cast<int32_t>((text)->size()));
 }
 
-Result<Variant> LeftFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto n, CountArg(frame, args[1]));
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+Result<Variant> LeftFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto n, Count(args, 1));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, 0));
   if (!text) return Variant::Null();
   return Text((text)->view().substr(0, static_cast<size_t>(n)));
 }
 
-Result<Variant> RightFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto n, CountArg(frame, args[1]));
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+Result<Variant> RightFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto n, Count(args, 1));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, 0));
   if (!text) return Variant::Null();
   const std::u16string_view view = (text)->view();
   return Text(view.substr(view.size() - std::min(view.size(), static_cast<size_t>(n))));
@@ -142,21 +149,21 @@ struct Span {
   size_t length;
 };
 
-Result<Span> MidSpan(Frame& frame, Args args) {
+Result<Span> MidSpan(const CallArgs& args) {
   int32_t length = -1;
-  const bool has_length = IsGiven(args, 2);
+  const bool has_length = args.Has(2);
   if (has_length) {
-    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[2]));
+    VBS_TRY_ASSIGN(auto n, args.Long(2));
     length = n;
   }
-  VBS_TRY_ASSIGN(auto start, LongArg(frame, args[1]));
+  VBS_TRY_ASSIGN(auto start, args.Long(1));
   if (start < 1 || (has_length && length < 0)) return MakeError(err::kInvalidCall);
   return Span{static_cast<size_t>(start) - 1, has_length ? static_cast<size_t>(length) : std::u16string_view::npos};
 }
 
-Result<Variant> MidFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto span, MidSpan(frame, args));
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+Result<Variant> MidFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto span, MidSpan(args));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, 0));
   if (!text) return Variant::Null();
   const std::u16string_view view = (text)->view();
   if (span.from >= view.size()) return Text(u"");
@@ -164,73 +171,73 @@ Result<Variant> MidFunction(Frame& frame, Args args) {
 }
 
 // The first code unit of a non-empty string: error 94 for Null, 5 for "".
-Result<char16_t> FirstUnit(Frame& frame, const Variant& value) {
-  VBS_TRY_ASSIGN(auto text, TextArg(frame, value));
+Result<char16_t> FirstUnit(const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto text, args.Text(i));
   if (text.empty()) return MakeError(err::kInvalidCall);
   return text.view()[0];
 }
 
-Result<Variant> AscFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto c, FirstUnit(frame, args[0]));
+Result<Variant> AscFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto c, FirstUnit(args, 0));
   const std::string ansi = text::Utf16ToWindows1252(std::u16string_view(&c, 1));
   return Variant::Integer(static_cast<unsigned char>(ansi[0]));
 }
 
-Result<Variant> AscWFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto c, FirstUnit(frame, args[0]));
+Result<Variant> AscWFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto c, FirstUnit(args, 0));
   return Variant::Integer(static_cast<int16_t>(c));
 }
 
-Result<Variant> AscBFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto c, FirstUnit(frame, args[0]));
+Result<Variant> AscBFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto c, FirstUnit(args, 0));
   return Variant::Integer(static_cast<int16_t>(c & 0xFF));
 }
 
-Result<Variant> ChrFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto code, LongArg(frame, args[0]));
+Result<Variant> ChrFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto code, args.Long(0));
   if (code < 0 || code > 255) return MakeError(err::kInvalidCall);
   return Variant::String(std::u16string(1, AnsiCharacter(code)));
 }
 
-Result<Variant> ChrWFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto code, LongArg(frame, args[0]));
+Result<Variant> ChrWFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto code, args.Long(0));
   if (code < -32768 || code > 65535) return MakeError(err::kInvalidCall);
   return Variant::String(std::u16string(1, static_cast<char16_t>(code & 0xFFFF)));
 }
 
 // A string holds whole code units, so the one byte of ChrB becomes the code unit of that value.
-Result<Variant> ChrBFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto code, LongArg(frame, args[0]));
+Result<Variant> ChrBFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto code, args.Long(0));
   if (code < 0 || code > 255) return MakeError(err::kInvalidCall);
   return Variant::String(std::u16string(1, static_cast<char16_t>(code)));
 }
 
 // ---- Bytes: LenB, LeftB, RightB, MidB, InStrB. Byte counts that split a code unit round down. ----
 
-Result<Variant> LenBFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+Result<Variant> LenBFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, 0));
   if (!text) return Variant::Null();
   return Variant::Long(static_cast<int32_t>((text)->size() * 2));
 }
 
-Result<Variant> LeftBFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto n, CountArg(frame, args[1]));
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+Result<Variant> LeftBFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto n, Count(args, 1));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, 0));
   if (!text) return Variant::Null();
   return Text((text)->view().substr(0, static_cast<size_t>(n) / 2));
 }
 
-Result<Variant> RightBFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto n, CountArg(frame, args[1]));
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+Result<Variant> RightBFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto n, Count(args, 1));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, 0));
   if (!text) return Variant::Null();
   const std::u16string_view view = (text)->view();
   return Text(view.substr(view.size() - std::min(view.size(), static_cast<size_t>(n) / 2)));
 }
 
-Result<Variant> MidBFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto span, MidSpan(frame, args));
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+Result<Variant> MidBFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto span, MidSpan(args));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, 0));
   if (!text) return Variant::Null();
   const std::u16string_view view = (text)->view();
   const size_t from = span.from / 2;
@@ -250,26 +257,26 @@ struct SearchArgs {
   std::optional<VbString> needle;
 };
 
-Result<SearchArgs> ReadSearchArgs(Frame& frame, Args args) {
+Result<SearchArgs> ReadSearchArgs(const CallArgs& args) {
   SearchArgs search;
   size_t first_text = 0;
   if (args.size() > 2) {
-    VBS_TRY_ASSIGN(auto start, LongArg(frame, args[0]));
+    VBS_TRY_ASSIGN(auto start, args.Long(0));
     if (start < 1) return MakeError(err::kInvalidCall);
     search.start = start;
     first_text = 1;
-    VBS_TRY_ASSIGN(auto mode, CompareArg(frame, args, 3));
+    VBS_TRY_ASSIGN(auto mode, args.Compare(3));
     search.mode = mode;
   }
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[first_text]));
-  VBS_TRY_ASSIGN(auto needle, TextOrNull(frame, args[first_text + 1]));
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, first_text));
+  VBS_TRY_ASSIGN(auto needle, TextOrNull(args, first_text + 1));
   search.text = std::move(text);
   search.needle = std::move(needle);
   return search;
 }
 
-Result<Variant> InStrFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto search, ReadSearchArgs(frame, args));
+Result<Variant> InStrFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto search, ReadSearchArgs(args));
   if (!search.text || !search.needle) return Variant::Null();
   const std::u16string_view text = search.text->view();
   const auto from = static_cast<size_t>(search.start) - 1;
@@ -279,8 +286,8 @@ Result<Variant> InStrFunction(Frame& frame, Args args) {
   return Variant::Long(found == std::u16string_view::npos ? 0 : static_cast<int32_t>(found) + 1);
 }
 
-Result<Variant> InStrBFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto search, ReadSearchArgs(frame, args));
+Result<Variant> InStrBFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto search, ReadSearchArgs(args));
   if (!search.text || !search.needle) return Variant::Null();
   std::string text = Bytes(search.text->view());
   std::string needle = Bytes(search.needle->view());
@@ -296,16 +303,16 @@ Result<Variant> InStrBFunction(Frame& frame, Args args) {
 }
 
 // InStrRev(string1, string2 [, start [, compare]]): unlike InStr, a Null string is error 94.
-Result<Variant> InStrRevFunction(Frame& frame, Args args) {
+Result<Variant> InStrRevFunction(Frame&, CallArgs& args) {
   int32_t start = -1;
-  if (IsGiven(args, 2)) {
-    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[2]));
+  if (args.Has(2)) {
+    VBS_TRY_ASSIGN(auto n, args.Long(2));
     if (n == 0 || n < -1) return MakeError(err::kInvalidCall);
     start = n;
   }
-  VBS_TRY_ASSIGN(auto mode, CompareArg(frame, args, 3));
-  VBS_TRY_ASSIGN(auto text, TextArg(frame, args[0]));
-  VBS_TRY_ASSIGN(auto needle, TextArg(frame, args[1]));
+  VBS_TRY_ASSIGN(auto mode, args.Compare(3));
+  VBS_TRY_ASSIGN(auto text, args.Text(0));
+  VBS_TRY_ASSIGN(auto needle, args.Text(1));
   const auto length = static_cast<int32_t>(text.size());
   if (start == -1) start = length;
   if (length == 0 || start > length) return Variant::Long(0);
@@ -316,10 +323,10 @@ Result<Variant> InStrRevFunction(Frame& frame, Args args) {
   return Variant::Long(found == std::u16string_view::npos ? 0 : static_cast<int32_t>(found) + 1);
 }
 
-Result<Variant> StrCompFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto mode, CompareArg(frame, args, 2));
-  VBS_TRY_ASSIGN(auto a, TextOrNull(frame, args[0]));
-  VBS_TRY_ASSIGN(auto b, TextOrNull(frame, args[1]));
+Result<Variant> StrCompFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto mode, args.Compare(2));
+  VBS_TRY_ASSIGN(auto a, TextOrNull(args, 0));
+  VBS_TRY_ASSIGN(auto b, TextOrNull(args, 1));
   if (!a || !b) return Variant::Null();
   return Variant::Integer(static_cast<int16_t>(Compare((a)->view(), (b)->view(), mode)));
 }
@@ -327,8 +334,8 @@ Result<Variant> StrCompFunction(Frame& frame, Args args) {
 // ---- Changing case, trimming, building ----
 
 template <char16_t (*Map)(char16_t)>
-Result<Variant> MapCase(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+Result<Variant> MapCase(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, 0));
   if (!text) return Variant::Null();
   std::u16string out((text)->view());
   for (char16_t& c : out) c = Map(c);
@@ -339,8 +346,8 @@ enum class TrimSide { Left, Right, Both };
 
 // Only spaces are trimmed, not tabs or line breaks.
 template <TrimSide side>
-Result<Variant> TrimFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+Result<Variant> TrimFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, 0));
   if (!text) return Variant::Null();
   std::u16string_view view = (text)->view();
   if (side != TrimSide::Right)
@@ -350,61 +357,53 @@ Result<Variant> TrimFunction(Frame& frame, Args args) {
   return Text(view);
 }
 
-Result<Variant> SpaceFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto n, CountArg(frame, args[0]));
+Result<Variant> SpaceFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto n, Count(args, 0));
   VBS_TRY_ASSIGN(auto text, VbString::TryCreate(static_cast<size_t>(n), u' '));
   return Variant::String(std::move(text));
 }
 
 // String(n, character): the character is the first of a string, or a character code taken
 // modulo 256 in Windows-1252. A Null character gives Null; "" is error 5.
-Result<Variant> StringFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto n, CountArg(frame, args[0]));
-  VBS_TRY_ASSIGN(auto plain, ValueOf(args[1]));
+Result<Variant> StringFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto n, Count(args, 0));
+  VBS_TRY_ASSIGN(auto plain, args.Value(1));
   if (plain.is_null()) return Variant::Null();
   char16_t fill = 0;
   if (plain.is_string()) {
     if (plain.as_string_view().empty()) return MakeError(err::kInvalidCall);
     fill = plain.as_string_view()[0];
   } else {
-    VBS_TRY_ASSIGN(auto code, plain.to_long(frame.interp.locale()));
+    VBS_TRY_ASSIGN(auto code, plain.to_long(args.locale()));
     fill = AnsiCharacter((code % 256 + 256) % 256);
   }
   VBS_TRY_ASSIGN(auto text, VbString::TryCreate(static_cast<size_t>(n), fill));
   return Variant::String(std::move(text));
 }
 
-Result<Variant> StrReverseFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto text, TextArg(frame, args[0]));
+Result<Variant> StrReverseFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto text, args.Text(0));
   std::u16string out(text.view());
   std::reverse(out.begin(), out.end());
   return Variant::String(out);
 }
 
-// An optional count argument (Replace, Split): -1, also when missing, means all; below -1 is error 5.
-Result<int32_t> CountArg(Frame& frame, Args args, size_t index) {
-  if (!IsGiven(args, index)) return -1;
-  VBS_TRY_ASSIGN(auto n, LongArg(frame, args[index]));
-  if (n < -1) return MakeError(err::kInvalidCall);
-  return n;
-}
-
 // Replace(expression, find, replacement [, start [, count [, compare]]]): the result begins at
 // `start`, the text before it dropped. Unlike most string functions, a Null string is error 94.
-Result<Variant> ReplaceFunction(Frame& frame, Args args) {
+Result<Variant> ReplaceFunction(Frame&, CallArgs& args) {
   std::optional<VbString> parts[3];
   for (size_t i = 0; i < 3; ++i) {
-    VBS_TRY_ASSIGN(auto text, TextArg(frame, args[i]));
+    VBS_TRY_ASSIGN(auto text, args.Text(i));
     parts[i] = std::move(text);
   }
   int32_t start = 1;
-  if (IsGiven(args, 3)) {
-    VBS_TRY_ASSIGN(auto n, LongArg(frame, args[3]));
+  if (args.Has(3)) {
+    VBS_TRY_ASSIGN(auto n, args.Long(3));
     if (n < 1) return MakeError(err::kInvalidCall);
     start = n;
   }
-  VBS_TRY_ASSIGN(auto count, CountArg(frame, args, 4));
-  VBS_TRY_ASSIGN(auto mode, CompareArg(frame, args, 5));
+  VBS_TRY_ASSIGN(auto count, CountOrAll(args, 4));
+  VBS_TRY_ASSIGN(auto mode, args.Compare(5));
 
   const std::u16string_view whole = parts[0]->view();
   const std::u16string_view text = static_cast<size_t>(start) > whole.size() ? u"" : whole.substr(start - 1);
@@ -439,15 +438,15 @@ Result<Variant> ReplaceFunction(Frame& frame, Args args) {
 
 // Split(expression [, delimiter [, count [, compare]]]): "" splits into no elements; a count of
 // -1 means all, and the last element keeps the rest of the text.
-Result<Variant> SplitFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto text, TextArg(frame, args[0]));
+Result<Variant> SplitFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto text, args.Text(0));
   VbString delimiter(u" ");
-  if (IsGiven(args, 1)) {
-    VBS_TRY_ASSIGN(auto d, TextArg(frame, args[1]));
+  if (args.Has(1)) {
+    VBS_TRY_ASSIGN(auto d, args.Text(1));
     delimiter = std::move(d);
   }
-  VBS_TRY_ASSIGN(auto count, CountArg(frame, args, 2));
-  VBS_TRY_ASSIGN(auto mode, CompareArg(frame, args, 3));
+  VBS_TRY_ASSIGN(auto count, CountOrAll(args, 2));
+  VBS_TRY_ASSIGN(auto mode, args.Compare(3));
 
   std::vector<std::u16string_view> parts;
   const std::u16string_view view = text.view();
@@ -466,17 +465,17 @@ Result<Variant> SplitFunction(Frame& frame, Args args) {
   return Variant::Array(array);
 }
 
-Result<Variant> JoinFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto list, ListArg(args[0]));
+Result<Variant> JoinFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto list, ListArg(args, 0));
   VbString delimiter(u" ");
-  if (IsGiven(args, 1)) {
-    VBS_TRY_ASSIGN(auto d, TextArg(frame, args[1]));
+  if (args.Has(1)) {
+    VBS_TRY_ASSIGN(auto d, args.Text(1));
     delimiter = std::move(d);
   }
   VbString out;
   const std::span<const Variant> items = Elements(list);
   for (size_t i = 0; i < items.size(); ++i) {
-    VBS_TRY_ASSIGN(auto item, TextArg(frame, items[i]));
+    VBS_TRY_ASSIGN(auto item, ElementText(items[i], args.locale()));
     if (i > 0) VBS_TRY(out.Append(delimiter.view()));
     VBS_TRY(out.Append(item.view()));
   }
@@ -485,18 +484,18 @@ Result<Variant> JoinFunction(Frame& frame, Args args) {
 
 // Filter(strings, value [, include [, compare]]): the elements that contain the value (or, with
 // include False, that do not), in a new 0-based array.
-Result<Variant> FilterFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto list, ListArg(args[0]));
-  VBS_TRY_ASSIGN(auto value, TextArg(frame, args[1]));
+Result<Variant> FilterFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto list, ListArg(args, 0));
+  VBS_TRY_ASSIGN(auto value, args.Text(1));
   bool include = true;
-  if (IsGiven(args, 2)) {
-    VBS_TRY_ASSIGN(auto b, BooleanArg(frame, args[2]));
+  if (args.Has(2)) {
+    VBS_TRY_ASSIGN(auto b, args.Boolean(2));
     include = b;
   }
-  VBS_TRY_ASSIGN(auto mode, CompareArg(frame, args, 3));
+  VBS_TRY_ASSIGN(auto mode, args.Compare(3));
   std::vector<VbString> kept;
   for (const Variant& element : Elements(list)) {
-    VBS_TRY_ASSIGN(auto item, TextArg(frame, element));
+    VBS_TRY_ASSIGN(auto item, ElementText(element, args.locale()));
     if ((Search(item.view(), value.view(), mode).Next(0) != std::u16string_view::npos) == include)
       kept.push_back(std::move(item));
   }
@@ -518,8 +517,8 @@ void AppendHex(std::u16string& out, unsigned value, int digits) {
   for (int shift = (digits - 1) * 4; shift >= 0; shift -= 4) out += kDigits[(value >> shift) & 0xF];
 }
 
-Result<Variant> EscapeFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+Result<Variant> EscapeFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, 0));
   if (!text) return Variant::Null();
   std::u16string out;
   for (char16_t c : (text)->view()) {
@@ -553,8 +552,8 @@ std::optional<char16_t> HexAt(std::u16string_view text, size_t at, size_t digits
   return static_cast<char16_t>(value);
 }
 
-Result<Variant> UnescapeFunction(Frame& frame, Args args) {
-  VBS_TRY_ASSIGN(auto text, TextOrNull(frame, args[0]));
+Result<Variant> UnescapeFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto text, TextOrNull(args, 0));
   if (!text) return Variant::Null();
   const std::u16string_view in = (text)->view();
   std::u16string out;

@@ -449,7 +449,8 @@ Result<Variant> BuiltinCallNode::Call(Frame& frame) {
     return NamedError(err::kWrongArgs, m_builtin->name);
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, m_builtin->wants_references));
-  auto result = TrapAllocationFailure([&] { return m_builtin->function(frame, values.span()); });
+  CallArgs args(values.span(), frame.interp.locale(), ArgumentNaming::Plain);
+  auto result = TrapAllocationFailure([&] { return m_builtin->function(frame, args); });
   if (!result) [[unlikely]]
     return BuiltinFailure(std::move(result).error(), *m_builtin);
   return result;

@@ -20,6 +20,7 @@
 #include "vbscript/FileAccessPolicy.h"
 #include "vbscript/runtime/Procedure.h"
 #include "vbscript/runtime/RandomGenerator.h"
+#include "vbscript/runtime/UiHandler.h"
 #include "vbscript/value/ErrorCodes.h"
 #include "vbscript/value/Locale.h"
 #include "vbscript/value/Object.h"
@@ -31,17 +32,6 @@ namespace vbs {
 class ClassInstance;
 class ErrObject;
 struct Builtin;
-
-// What message boxes and input boxes turn into: the host shows them, or there is no user at all.
-class UiHandler {
- public:
-  virtual ~UiHandler() = default;
-  // Returns the button pressed, as MsgBox's result codes (1 OK, 2 Cancel, 6 Yes, 7 No, ...).
-  virtual int MessageBox(std::u16string_view prompt, int buttons, std::u16string_view title) = 0;
-  // The text typed, or nullopt when the user cancelled.
-  virtual std::optional<std::u16string> InputBox(std::u16string_view prompt, std::u16string_view title,
-                                                 std::u16string_view default_text) = 0;
-};
 
 // The slots of one call on the engine's slot stack, and where the stack stood before them.
 struct FrameSlots {

@@ -46,14 +46,15 @@ class DialoghiDiProva final : public DialoghiScript {
     modalita_chieste << file;
     return modalita_scelta;
   }
-  int MessageBox(const QString& testo, int, const QString&) override {
+  int MessageBox(std::u16string_view testo, int, std::u16string_view) override {
     Annota();
-    domande << testo;
+    domande << QString::fromStdU16String(std::u16string(testo));
     return pulsante_msgbox;
   }
-  std::optional<QString> InputBox(const QString&, const QString&, const QString&) override {
+  std::optional<std::u16string> InputBox(std::u16string_view testo, std::u16string_view, std::u16string_view) override {
     Annota();
-    return QStringLiteral("risposta");
+    domande << QString::fromStdU16String(std::u16string(testo));
+    return u"risposta";
   }
   std::optional<std::vector<int>> ScegliVoci(const std::string&, const std::vector<std::string>&, bool) override {
     Annota();
@@ -190,7 +191,7 @@ class FinestraScriptTest : public QObject {
     opzioni.libreria.cartella_output = base.Percorso();
     QVERIFY(
         esecuzione.Avvia("Sub Main\nScrivi \"a\"\nColoreTesto Rosso_\nScrivi Estratto(1, BA_, 1), True\n"
-                         "Scrivi MsgBox(\"Va bene?\", vbYesNo)\nEnd Sub",
+                         "Scrivi MsgBox(\"Va bene?\", vbYesNo)\nScrivi InputBox(\"Nome?\")\nEnd Sub",
                          opzioni, ArchivioAMano()));
     QVERIFY(terminata.wait(kAttesaMs));
     QCOMPARE(esecuzione.Esito().stato, script::EsitoEsecuzione::Stato::Completato);
@@ -200,8 +201,8 @@ class FinestraScriptTest : public QObject {
     QCOMPARE(tratti[1].testo, std::string("17\n"));
     QCOMPARE(tratti[1].colore, script::kRosso);
     QVERIFY(tratti[1].grassetto);
-    QCOMPARE(tratti[2].testo, std::string("7\n"));
-    QCOMPARE(dialoghi.domande, QStringList{"Va bene?"});
+    QCOMPARE(tratti[2].testo, std::string("7\nrisposta\n"));
+    QCOMPARE(dialoghi.domande, (QStringList{"Va bene?", "Nome?"}));
     QVERIFY(!dialoghi.fuori_dal_thread_della_finestra);
   }
 

@@ -1,10 +1,12 @@
 // What the script tests cannot reach: the random generator's state bit for bit, two engines side by
-// side, and MsgBox and InputBox talking to a host's user interface.
+// side, the exact text of a built-in's error, and MsgBox and InputBox talking to a host's user
+// interface.
 
 #include <gtest/gtest.h>
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "text/Utf.h"
@@ -75,6 +77,28 @@ TEST(RandomGeneratorTest, EachEngineHasItsOwnSequenceAndResetStartsItAgain) {
   EXPECT_EQ(Evaluate(second, u"Rnd"), "0.7055475");
   first.Reset();
   EXPECT_EQ(Evaluate(first, u"Rnd"), "0.7055475");
+}
+
+// A built-in's bad argument gives the table's text alone, as Windows does, not the position a host
+// object's member adds.
+// A built-in's bad argument gives the table's text and the built-in's name, as Windows' message
+// does, with no argument position.
+TEST(BuiltinErrorTest, BadArgumentGivesTheTableTextAndTheBuiltinsName) {
+  ScriptControl engine;
+  English(engine);
+  const std::pair<std::u16string_view, std::u16string_view> cases[] = {
+      {u"CLng(\"abc\")", u"Type mismatch: 'CLng'"},
+      {u"Mid(\"abc\", \"x\")", u"Type mismatch: 'Mid'"},
+      {u"InStr(1, \"abc\", \"b\", 2)", u"Invalid procedure call or argument: 'InStr'"},
+      {u"Replace(\"abc\", \"b\", \"c\", 1, -1, \"x\")", u"Type mismatch: 'Replace'"},
+      {u"WeekdayName(1, \"x\")", u"Type mismatch: 'WeekdayName'"},
+      {u"Round(1.5, \"x\")", u"Type mismatch: 'Round'"},
+      {u"FormatNumber(1, 2, \"x\")", u"Type mismatch: 'FormatNumber'"},
+  };
+  for (const auto& [expression, description] : cases) {
+    EXPECT_FALSE(engine.Eval(expression).ok()) << text::Utf16ToUtf8(expression);
+    EXPECT_EQ(engine.Error().description, description) << text::Utf16ToUtf8(expression);
+  }
 }
 
 // A user interface that records what it was asked and answers as told.
