@@ -170,6 +170,9 @@ Result<ExprNodePtr> Compiler::CompileName(const std::string& name, SourcePos pos
     if (args || as_statement) return LateName(name, pos, slot, args ? &compiled_args : nullptr, scope);
     return ExprNodePtr(std::make_unique<LocalNode>(pos, slot));
   }
+  // Global code reaches a name it uses undeclared directly, in storage reserved for it now.
+  if (!scope.procedure && !m_outer && !scope.option_explicit && !args && !as_statement)
+    return ExprNodePtr(std::make_unique<GlobalNode>(pos, m_interp.ReserveGlobal(folded)));
   return LateName(name, pos, -1, args ? &compiled_args : nullptr, scope);
 }
 

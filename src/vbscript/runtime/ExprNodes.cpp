@@ -143,10 +143,10 @@ Variant* LateNameNode::OwnVariable(Frame& frame) {
 
 const GlobalEntry* LateNameNode::Resolve(Frame& frame) {
   if (m_generation != frame.interp.generation()) {
-    m_entry = frame.interp.ResolveGlobal(m_name);
+    m_entry = frame.interp.ResolveGlobal(m_name, true);
     m_generation = frame.interp.generation();
   }
-  return m_entry;
+  return m_entry && m_entry->Visible() ? m_entry : nullptr;
 }
 
 Result<Variant*> LateNameNode::NewStorage(Frame& frame) {

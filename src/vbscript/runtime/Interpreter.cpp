@@ -46,13 +46,17 @@ std::string Interpreter::Fold(std::string_view name) { return text::LowerAscii(n
 
 std::string Interpreter::Fold(std::u16string_view name) { return Fold(text::Utf16ToUtf8(name)); }
 
-const GlobalEntry* Interpreter::FindGlobal(std::string_view folded) const {
+const GlobalEntry* Interpreter::FindGlobal(std::string_view folded, bool even_reserved) const {
   auto it = m_globals.find(std::string(folded));
-  return it == m_globals.end() ? nullptr : &it->second;
+  if (it == m_globals.end() || (!even_reserved && !it->second.Visible())) return nullptr;
+  return &it->second;
 }
 
-const GlobalEntry* Interpreter::ResolveGlobal(std::string_view folded) {
-  if (const GlobalEntry* entry = FindGlobal(folded)) return entry;
+const GlobalEntry* Interpreter::ResolveGlobal(std::string_view folded, bool even_reserved) {
+  if (const GlobalEntry* entry = FindGlobal(folded, true)) {
+    if (even_reserved || entry->Visible()) return entry;
+    return nullptr;
+  }
   for (size_t i = 0; i < m_named_objects.size(); ++i) {
     if (!m_named_objects[i].add_members) continue;
     DispId member = m_named_objects[i].object->FindMember(folded);
@@ -72,6 +76,10 @@ Variant* Interpreter::DeclareGlobal(const std::string& folded, GlobalEntry::Kind
   if (it != m_globals.end() &&
       (it->second.kind == GlobalEntry::Kind::Variable || it->second.kind == GlobalEntry::Kind::Constant)) {
     it->second.kind = kind;
+    if (it->second.reserved) {
+      it->second.reserved = false;
+      ++m_generation;
+    }
     return it->second.storage;
   }
   Variant* storage = &m_global_storage.emplace_back();
@@ -81,6 +89,17 @@ Variant* Interpreter::DeclareGlobal(const std::string& folded, GlobalEntry::Kind
   m_globals[folded] = entry;
   ++m_generation;
   return storage;
+}
+
+Variant* Interpreter::ReserveGlobal(const std::string& folded) {
+  auto it = m_globals.find(folded);
+  if (it != m_globals.end() && it->second.kind == GlobalEntry::Kind::Variable) return it->second.storage;
+  GlobalEntry entry;
+  entry.storage = &m_global_storage.emplace_back();
+  entry.reserved = true;
+  m_globals[folded] = entry;
+  ++m_generation;
+  return entry.storage;
 }
 
 void Interpreter::DeclareProcedure(const std::string& folded, std::unique_ptr<Procedure> procedure) {
@@ -216,15 +235,14 @@ void BindImplicitNames(Interpreter& interp, const Procedure& procedure, Variant*
   if (procedure.bound_generation != interp.generation()) {
     procedure.bound_globals.clear();
     for (const Procedure::ImplicitName& name : procedure.implicit_names) {
-      const GlobalEntry* global = interp.FindGlobal(name.folded);
-      procedure.bound_globals.push_back(global && global->kind == GlobalEntry::Kind::Variable ? global->storage
-                                                                                              : nullptr);
+      const GlobalEntry* global = interp.FindGlobal(name.folded, true);
+      procedure.bound_globals.push_back(global && global->kind == GlobalEntry::Kind::Variable ? global : nullptr);
     }
     procedure.bound_generation = interp.generation();
   }
   for (size_t i = 0; i < procedure.implicit_names.size(); ++i) {
-    if (Variant* global = procedure.bound_globals[i])
-      slots[procedure.implicit_names[i].slot] = Variant::Reference(global);
+    const GlobalEntry* global = procedure.bound_globals[i];
+    if (global && global->Visible()) slots[procedure.implicit_names[i].slot] = Variant::Reference(global->storage);
   }
 }
 

@@ -69,6 +69,12 @@ struct GlobalEntry {
   ClassInfo* class_info = nullptr;  // Class
   uint32_t object = 0;              // NamedObject, HostMember: index into named objects
   DispId member = kUnknownMember;   // HostMember
+  // A variable that global code names without declaring it: its storage exists from compilation,
+  // so that the code reaches it directly, but the name exists for the rest of the script only once
+  // it holds a value, as a variable created by its first assignment does.
+  bool reserved = false;
+
+  bool Visible() const { return !reserved || !storage->is_empty(); }
 };
 
 struct NamedObject {
@@ -109,12 +115,15 @@ class Interpreter {
   static std::string Fold(std::string_view name);
   // The same for a name that a script handed over as a string (CreateObject, GetRef).
   static std::string Fold(std::u16string_view name);
-  const GlobalEntry* FindGlobal(std::string_view folded) const;
+  // The global of that name; a reserved one only when it holds a value, or when asked for.
+  const GlobalEntry* FindGlobal(std::string_view folded, bool even_reserved = false) const;
   // FindGlobal, then the members of the objects added with their members as global names; a member
   // found there is remembered as a global name.
-  const GlobalEntry* ResolveGlobal(std::string_view folded);
+  const GlobalEntry* ResolveGlobal(std::string_view folded, bool even_reserved = false);
   // Declares a global variable (or returns the existing one's storage).
   Variant* DeclareGlobal(const std::string& folded, GlobalEntry::Kind kind = GlobalEntry::Kind::Variable);
+  // The storage of a variable that global code names undeclared (GlobalEntry::reserved).
+  Variant* ReserveGlobal(const std::string& folded);
   void DeclareProcedure(const std::string& folded, std::unique_ptr<Procedure> procedure);
   void DeclareClass(const std::string& folded, std::unique_ptr<ClassInfo> info);
   void AddNamedObject(std::string name, Ref<Object> object, bool add_members);

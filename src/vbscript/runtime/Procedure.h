@@ -14,6 +14,7 @@
 namespace vbs {
 
 struct ClassInfo;
+struct GlobalEntry;
 
 // A procedure's frame holds, in order: the return value (slot 0), the parameters, the declared and
 // implicit locals, and the compiler's temporaries (For limits, With objects).
@@ -41,7 +42,7 @@ struct Procedure {
   std::vector<ImplicitName> implicit_names;
   // The globals last found for implicit_names, valid while the engine's globals stay as they were
   // at `bound_generation`: calls in a loop bind without looking names up.
-  mutable std::vector<Variant*> bound_globals;
+  mutable std::vector<const GlobalEntry*> bound_globals;
   mutable uint64_t bound_generation = ~uint64_t{0};
   BlockNode body;
   ClassInfo* owner = nullptr;

@@ -97,3 +97,16 @@ End Sub
 ombra = "globale"
 Oscura
 WScript.Echo ombra                                              ' expect: globale
+
+' Global code names its variables directly, yet a name exists for procedures only once the
+' script's assignment has given it a value.
+Sub Prima()
+  anticipata = "locale"
+End Sub
+Prima
+WScript.Echo "[" & anticipata & "]"                             ' expect: []
+anticipata = "globale"
+Prima
+serie = Array(4, 5)
+WScript.Echo anticipata & " " & serie(1)                        ' expect: locale 5
+WScript.Echo nessuno(1)                                         ' expect runtime error 13
