@@ -52,6 +52,10 @@ uint64_t Mix(uint64_t x) {
   return x ^ (x >> 31);
 }
 
+// The hash of a number; Integer and Long, the usual keys, reach it with no switch. It is the hash
+// of the same number as a Double, so that 1 and 1.0 stay one key.
+uint64_t HashNumber(double value) { return Mix(std::bit_cast<uint64_t>(value) ^ 3); }
+
 uint64_t HashText(std::u16string_view text, CompareMode mode) {
   uint64_t h = 0xCBF29CE484222325ull;
   for (char16_t c : text) {
@@ -111,10 +115,11 @@ Result<Ref<Enumerator>> Dictionary::Enumerate() {
 // ---- Keys and the index ----
 
 Result<uint64_t> Dictionary::HashOf(const Variant& key) const {
+  if (key.is_whole()) return HashNumber(key.as_whole());
   switch (KindOf(key)) {
     case KeyKind::Empty: return Mix(1);
     case KeyKind::Null: return Mix(2);
-    case KeyKind::Number: return Mix(std::bit_cast<uint64_t>(NumberOf(key)) ^ 3);
+    case KeyKind::Number: return HashNumber(NumberOf(key));
     case KeyKind::String: return HashText(key.as_string_view(), m_mode);
     case KeyKind::Object: return Mix(reinterpret_cast<uintptr_t>(key.as_object()) ^ 4);
     case KeyKind::Array: break;
@@ -150,7 +155,9 @@ uint32_t Dictionary::Lookup(const Variant& key, uint64_t hash, size_t& slot) con
     }
     if (held.hash != low) continue;
     const Entry& entry = m_entries[held.entry - 1];
-    if (entry.hash == hash && SameKey(entry.key, key)) {
+    const bool same = key.is_whole() && entry.key.is_whole() ? key.as_whole() == entry.key.as_whole()
+                                                             : entry.hash == hash && SameKey(entry.key, key);
+    if (same) {
       slot = i;
       return held.entry - 1;
     }
@@ -236,14 +243,38 @@ Result<Variant> Dictionary::Exists(CallArgs& args) {
   return Variant::Boolean(item != nullptr);
 }
 
-Result<Variant> Dictionary::GetItem(CallArgs& args) {
-  const Variant& key = args[0];
-  VBS_TRY_ASSIGN(auto hash, HashOf(key));
+Result<Variant*> Dictionary::DefaultItemPlace(const Variant& key) {
+  const Variant& plain = key.Deref();
+  uint64_t hash = 0;
+  if (plain.is_whole()) {
+    // d(k) = d(k) + 1 looks one key up twice running. The entry found last answers when it is
+    // alive and holds that number: keys are unique, so no change to the dictionary can fool it.
+    if (m_last_found < m_entries.size()) {
+      Entry& last = m_entries[m_last_found];
+      if (last.live && last.key.is_whole() && last.key.as_whole() == plain.as_whole()) return &last.item;
+    }
+    hash = HashNumber(plain.as_whole());
+  } else {
+    VBS_TRY_ASSIGN(auto general, HashOf(plain));
+    hash = general;
+  }
   size_t slot = 0;
-  const uint32_t entry = Lookup(key, hash, slot);
-  if (entry != kMissing) return m_entries[entry].item;
-  Append(key, Variant(), hash, slot);
-  return Variant();
+  const uint32_t entry = Lookup(plain, hash, slot);
+  if (entry != kMissing) {
+    m_last_found = entry;
+    return &m_entries[entry].item;
+  }
+  VBS_TRY(TrapAllocationFailure([&]() -> Status {
+    Append(plain, Variant(), hash, slot);
+    return Ok();
+  }));
+  m_last_found = static_cast<uint32_t>(m_entries.size() - 1);
+  return &m_entries.back().item;
+}
+
+Result<Variant> Dictionary::GetItem(CallArgs& args) {
+  VBS_TRY_ASSIGN(auto item, DefaultItemPlace(args[0]));
+  return *item;
 }
 
 Result<Variant> Dictionary::PutItem(CallArgs& args, Variant value) {

@@ -26,6 +26,8 @@ class Dictionary final : public HostObject<Dictionary> {
   std::u16string ClassName() const override { return u"Dictionary"; }
   // For Each gives the keys in order; keys added meanwhile are visited, removed ones skipped.
   Result<Ref<Enumerator>> Enumerate() override;
+  // The item under `key`, added with Empty when missing, as Item reads it; error 5 for an array.
+  Result<Variant*> DefaultItemPlace(const Variant& key) override;
 
   // Adds a pair; error 457 when the key is there already, 5 when the key is an array.
   [[nodiscard]] Status Add(const Variant& key, Variant item);
@@ -80,7 +82,8 @@ class Dictionary final : public HostObject<Dictionary> {
   size_t m_live = 0;
   CompareMode m_mode = CompareMode::Binary;
   int32_t m_mode_value = 0;
-  uint32_t m_walkers = 0;  // enumerators alive: compaction waits for them
+  uint32_t m_walkers = 0;            // enumerators alive: compaction waits for them
+  uint32_t m_last_found = kMissing;  // the entry DefaultItemPlace found last
 };
 
 }  // namespace vbs

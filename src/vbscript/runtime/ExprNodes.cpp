@@ -456,6 +456,19 @@ Result<Variant> BuiltinCallNode::Call(Frame& frame) {
   return result;
 }
 
+// obj(key) on an object that keeps its default member's values in place (Dictionary): the value's
+// place, with no call; null when the member must be invoked.
+static Result<Variant*> PlaceOfItem(const Variant& holder, std::span<Variant> args) {
+  const Variant& value = holder.Deref();
+  if (args.size() != 1 || !value.is_object() || !value.as_object()) return static_cast<Variant*>(nullptr);
+  return value.as_object()->DefaultItemPlace(args[0]);
+}
+
+// Whether a Let may put the value straight into an element or a place PlaceOfItem found: an
+// object's value needs its default property first. Callers swap it in, so that the old value dies
+// after the write: its Class_Terminate may use the object.
+static bool WritesInPlace(const Variant& value, bool is_set) { return !is_set && !value.is_object() && !value.IsRef(); }
+
 IndexNode::IndexNode(SourcePos pos, ExprNodePtr holder, ExprNodes args)
     : ExprNode(pos), m_holder(std::move(holder)), m_args(std::move(args)), m_direct_holder(m_holder.get()) {
   m_all_direct = !m_args.empty() && m_args.size() <= 8;
@@ -487,15 +500,29 @@ Variant* IndexNode::DirectElement(Frame& frame, bool for_writing) {
   return &array->elements()[*offset];
 }
 
+Result<Variant*> IndexNode::DirectItem(Frame& frame) {
+  if (!m_all_direct || m_direct_args.size() != 1) return static_cast<Variant*>(nullptr);
+  Variant* holder = m_direct_holder.Storage(frame);
+  if (!holder || !holder->is_object() || !holder->as_object()) return static_cast<Variant*>(nullptr);
+  return holder->as_object()->DefaultItemPlace(*m_direct_args[0].Get(frame));
+}
+
 Result<Variant> IndexNode::Eval(Frame& frame) {
   if (Variant* element = DirectElement(frame, false)) return *element;
+  VBS_TRY_ASSIGN(auto&& item, DirectItem(frame));
+  if (item) return *item;
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, false));
   VBS_TRY_ASSIGN(auto&& address, m_holder->Address(frame));
-  if (address) return IndexValue(*address, values.span(), frame.interp.locale());
-  auto holder = m_holder->Eval(frame);
-  if (!holder) return holder;
-  return IndexValue(*holder, values.span(), frame.interp.locale());
+  Variant evaluated;
+  if (!address) {
+    VBS_TRY_ASSIGN(auto&& holder, m_holder->Eval(frame));
+    evaluated = std::move(holder);
+    address = &evaluated;
+  }
+  VBS_TRY_ASSIGN(auto&& place, PlaceOfItem(*address, values.span()));
+  if (place) return *place;
+  return IndexValue(*address, values.span(), frame.interp.locale());
 }
 
 Result<Variant*> IndexNode::AddressForArgument(Frame& frame, ArgValues& args) {
@@ -516,19 +543,35 @@ Result<Variant*> IndexNode::AddressForArgument(Frame& frame, ArgValues& args) {
 }
 
 Status IndexNode::Assign(Frame& frame, Variant value, bool is_set) {
-  if (!is_set && !value.is_object() && !value.IsRef()) {
+  if (WritesInPlace(value, is_set)) {
     if (Variant* element = DirectElement(frame, true)) {
       *element = std::move(value);
+      return Ok();
+    }
+    VBS_TRY_ASSIGN(auto&& place, DirectItem(frame));
+    if (place) {
+      std::swap(*place, value);
       return Ok();
     }
   }
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, false));
   VBS_TRY_ASSIGN(auto&& address, m_holder->Address(frame));
-  if (address) return AssignIndexed(*address, values.span(), std::move(value), is_set, frame.interp.locale());
-  VBS_TRY_ASSIGN(auto&& holder, m_holder->Eval(frame));
-  if (!holder.is_object()) return MakeError(err::kIllegalAssignment);
-  return AssignIndexed(holder, values.span(), std::move(value), is_set, frame.interp.locale());
+  Variant evaluated;
+  if (!address) {
+    VBS_TRY_ASSIGN(auto&& holder, m_holder->Eval(frame));
+    if (!holder.is_object()) return MakeError(err::kIllegalAssignment);
+    evaluated = std::move(holder);
+    address = &evaluated;
+  }
+  if (WritesInPlace(value, is_set)) {
+    VBS_TRY_ASSIGN(auto&& place, PlaceOfItem(*address, values.span()));
+    if (place) {
+      std::swap(*place, value);
+      return Ok();
+    }
+  }
+  return AssignIndexed(*address, values.span(), std::move(value), is_set, frame.interp.locale());
 }
 
 Status LateCallNode::Invoke(Frame& frame) {
@@ -632,6 +675,8 @@ Result<Variant> ValueIndexNode::Eval(Frame& frame) {
   if (!callee) return callee;
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, false));
+  VBS_TRY_ASSIGN(auto&& place, PlaceOfItem(*callee, values.span()));
+  if (place) return *place;
   return IndexValue(*callee, values.span(), frame.interp.locale());
 }
 
@@ -640,6 +685,13 @@ Status ValueIndexNode::Assign(Frame& frame, Variant value, bool is_set) {
   if (!callee.is_object()) return MakeError(err::kIllegalAssignment);
   ArgValues values;
   VBS_TRY(EvalArgs(frame, m_args, values, false));
+  if (WritesInPlace(value, is_set)) {
+    VBS_TRY_ASSIGN(auto&& place, PlaceOfItem(callee, values.span()));
+    if (place) {
+      std::swap(*place, value);
+      return Ok();
+    }
+  }
   return AssignIndexed(callee, values.span(), std::move(value), is_set, frame.interp.locale());
 }
 

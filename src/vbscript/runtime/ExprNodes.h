@@ -359,6 +359,10 @@ class IndexNode final : public ExprNode {
   // array: the element's place, found with no call and no allocation; null when the general path
   // must decide.
   Variant* DirectElement(Frame& frame, bool for_writing);
+  // d(k) with a plain variable or constant as the one argument on a variable holding an object
+  // that keeps its default member's values in place (Dictionary): the value's place, with no call;
+  // null when the general path must decide.
+  Result<Variant*> DirectItem(Frame& frame);
 
   ExprNodePtr m_holder;
   ExprNodes m_args;

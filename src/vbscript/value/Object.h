@@ -43,6 +43,12 @@ class Object : public RefCounted {
   // Calls the member. An argument may be a reference to the caller's variable (Variant::IsRef),
   // through which the member can write back.
   virtual Result<Variant> Invoke(DispId member, InvokeKind kind, std::span<Variant> args) = 0;
+  // obj(key) for an object whose default member keeps its values in place (Dictionary's Item):
+  // the place of the value under `key`, made as a read or write of the member would make it, so
+  // that obj(key) and obj(key) = v need no call. Null when the object keeps no such place and the
+  // member must be invoked. The place is valid until the object next changes: read or write it at
+  // once, and let an overwritten value die only after the write.
+  virtual Result<Variant*> DefaultItemPlace(const Variant& /*key*/) { return static_cast<Variant*>(nullptr); }
   // For Each over the object; error 451 when the object is not a collection.
   virtual Result<Ref<Enumerator>> Enumerate();
   // Identifies how this object numbers its members: objects that return the same non-null key

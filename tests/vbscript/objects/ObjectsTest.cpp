@@ -228,6 +228,110 @@ TEST(DictionaryTest, EnumerationSurvivesRemovingMostKeys) {
   EXPECT_EQ(dictionary->size(), 11u);
 }
 
+// d(k) with a variable or constant key reaches the item with no evaluation and no call, d((k))
+// evaluates the key first, d.Item(k) calls the member. Every way must leave the same keys, items and
+// subtypes, in either compare mode.
+class DictionaryItemTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(m_engine.SetLanguage("VBScript"));
+    ASSERT_TRUE(
+        m_engine.AddCode(uR"(
+Function Signature(d)
+  Dim k, s
+  For Each k In d.Keys
+    s = s & TypeName(k) & ":" & k & "=" & TypeName(d.Item(k)) & ":" & d.Item(k) & " "
+  Next
+  Signature = d.Count & " " & s
+End Function
+
+Function Counted(mode, way)
+  Dim d, keys, k, i
+  Set d = CreateObject("Scripting.Dictionary")
+  d.CompareMode = mode
+  keys = Array(1, CInt(1), 1.0, CLng(1), "1", Empty, "a", "A", 2.5, CDbl(2), True, -1, Null, 2)
+  For i = 0 To UBound(keys)
+    k = keys(i)
+    Select Case way
+      Case 0: d(k) = d(k) + 1
+      Case 1: d.Item(k) = d.Item(k) + 1
+      Case 2: d((k)) = d((k)) + 1
+    End Select
+  Next
+  Counted = Signature(d)
+End Function
+)"));
+  }
+
+  std::string Eval(std::u16string_view expression) {
+    auto value = m_engine.Eval(expression);
+    if (!value) return "error " + std::to_string(value.error().number);
+    auto text = value->to_string(m_engine.interpreter().locale());
+    return text ? text::Utf16ToUtf8(text->view()) : "not text";
+  }
+
+  ScriptControl m_engine;
+};
+
+TEST_F(DictionaryItemTest, InPlaceAndMemberCallAgreeForEveryKindOfKey) {
+  const std::string binary = Eval(u"Counted(0, 0)");
+  EXPECT_EQ(binary,
+            "9 Integer:1=Integer:4 String:1=Integer:1 Empty:=Integer:1 String:a=Integer:1 String:A=Integer:1 "
+            "Double:2,5=Integer:1 Double:2=Integer:2 Boolean:Vero=Integer:2 Null:=Integer:1 ");
+  EXPECT_EQ(Eval(u"Counted(0, 1)"), binary);
+  EXPECT_EQ(Eval(u"Counted(0, 2)"), binary);
+  const std::string text = Eval(u"Counted(1, 0)");
+  EXPECT_EQ(text,
+            "8 Integer:1=Integer:4 String:1=Integer:1 Empty:=Integer:1 String:a=Integer:2 Double:2,5=Integer:1 "
+            "Double:2=Integer:2 Boolean:Vero=Integer:2 Null:=Integer:1 ");
+  EXPECT_EQ(Eval(u"Counted(1, 1)"), text);
+  EXPECT_EQ(Eval(u"Counted(1, 2)"), text);
+}
+
+TEST_F(DictionaryItemTest, ReadingAMissingKeyAddsItAndArraysAreNoKeys) {
+  ASSERT_TRUE(m_engine.AddCode(u"Set g = CreateObject(\"Scripting.Dictionary\") : x = g(7) : y = g((\"seven\"))"));
+  EXPECT_EQ(Eval(u"g.Count & TypeName(g.Item(7)) & g.Exists(\"seven\")"), "2EmptyVero");
+  ASSERT_TRUE(m_engine.AddCode(u"a = Array(1) : Set h = CreateObject(\"Scripting.Dictionary\")"));
+  ASSERT_TRUE(
+      m_engine.AddCode(uR"(
+On Error Resume Next
+x = h(a) : e1 = Err.Number : Err.Clear
+h(a) = 1 : e2 = Err.Number : Err.Clear
+x = h((a)) : e3 = Err.Number : Err.Clear
+)"));
+  EXPECT_EQ(Eval(u"e1 & \" \" & e2 & \" \" & e3 & \" \" & h.Count"), "5 5 5 0");
+}
+
+TEST_F(DictionaryItemTest, ClassDefaultPropertiesStillRunTheirCode) {
+  ASSERT_TRUE(
+      m_engine.AddCode(uR"(
+Class Box
+  Private m(9)
+  Public Default Property Get Cell(i) : Cell = m(i) : End Property
+  Public Property Let Cell(i, v) : m(i) = v * 10 : End Property
+End Class
+Set b = New Box : k = 3
+b(k) = b(k) + 1 : b(k) = b(k) + 1
+)"));
+  EXPECT_EQ(Eval(u"b(k) & \" \" & b(3)"), "110 110");
+}
+
+TEST_F(DictionaryItemTest, AnOverwrittenItemDiesAfterTheWrite) {
+  ASSERT_TRUE(
+      m_engine.AddCode(uR"(
+Dim seen, w, k
+Class Witness
+  Private Sub Class_Terminate() : seen = seen & w(1) : w.RemoveAll : End Sub
+End Class
+Set w = CreateObject("Scripting.Dictionary") : k = 1
+Set w(k) = New Witness
+w(k) = 5
+Set w(k) = New Witness
+w((k)) = 6
+)"));
+  EXPECT_EQ(Eval(u"seen & \" \" & w.Count"), "56 0");
+}
+
 // ---- Text files ----
 
 class TextFileTest : public ::testing::Test {
