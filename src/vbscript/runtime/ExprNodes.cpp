@@ -354,6 +354,8 @@ ExprNodePtr MakeBinaryNode(SourcePos pos, BinaryOperator op, ExprNodePtr left, E
     case BinaryOperator::Add: return make.template operator()<BinaryOperator::Add>();
     case BinaryOperator::Subtract: return make.template operator()<BinaryOperator::Subtract>();
     case BinaryOperator::Multiply: return make.template operator()<BinaryOperator::Multiply>();
+    case BinaryOperator::Modulo: return make.template operator()<BinaryOperator::Modulo>();
+    case BinaryOperator::IntDivide: return make.template operator()<BinaryOperator::IntDivide>();
     case BinaryOperator::Equal: return make.template operator()<BinaryOperator::Equal>();
     case BinaryOperator::NotEqual: return make.template operator()<BinaryOperator::NotEqual>();
     case BinaryOperator::Less: return make.template operator()<BinaryOperator::Less>();

@@ -1,8 +1,8 @@
 #pragma once
 
 // The arithmetic of loops and counters, computed inline: +, - and * and the comparisons on whole
-// numbers and Doubles. Anything else (other subtypes, overflow) takes the general rules of
-// Operators.h, so the result is always the one those rules give.
+// numbers and Doubles, Mod and \ on Integers and Longs. Anything else (other subtypes, overflow) takes the general
+// rules of Operators.h, so the result is always the one those rules give.
 
 #include <cmath>
 #include <cstdint>
@@ -47,34 +47,51 @@ inline double AsDouble(const Variant& v) { return v.is_double() ? v.as_double() 
 // the general rules. `out` may be one of the operands.
 template <BinaryOperator Op>
 [[gnu::always_inline]] inline bool TryFastApply(const Variant& a, const Variant& b, Variant& out) {
-  if (a.is_whole() && b.is_whole()) {
+  if constexpr (Op == BinaryOperator::Modulo || Op == BinaryOperator::IntDivide) {
+    // Two Integers give an Integer, an Integer and a Long a Long; C++ truncates as VBScript does.
+    // A zero divisor, a result too large and every other subtype take the general rules.
+    if (!(a.is_integer() || a.is_long()) || !(b.is_integer() || b.is_long()) || b.as_whole() == 0) return false;
     const int64_t x = a.as_whole();
     const int64_t y = b.as_whole();
+    const int64_t r = Op == BinaryOperator::Modulo ? x % y : x / y;
+    if (a.is_integer() && b.is_integer()) {
+      if (r < INT16_MIN || r > INT16_MAX) return false;
+      out = Variant::Integer(static_cast<int16_t>(r));
+      return true;
+    }
+    if (r < INT32_MIN || r > INT32_MAX) return false;
+    out = Variant::Long(static_cast<int32_t>(r));
+    return true;
+  } else {
+    if (a.is_whole() && b.is_whole()) {
+      const int64_t x = a.as_whole();
+      const int64_t y = b.as_whole();
+      if constexpr (fast::IsComparison(Op)) {
+        out = Variant::Boolean(fast::Holds<Op>(x, y));
+        return true;
+      } else {
+        const int64_t r = fast::Compute<Op>(x, y);
+        if (a.is_integer() && b.is_integer() && r >= INT16_MIN && r <= INT16_MAX) {
+          out = Variant::Integer(static_cast<int16_t>(r));
+          return true;
+        }
+        if (r < INT32_MIN || r > INT32_MAX) return false;
+        out = Variant::Long(static_cast<int32_t>(r));
+        return true;
+      }
+    }
+    if (!fast::WholeOrDouble(a) || !fast::WholeOrDouble(b)) return false;
+    const double x = fast::AsDouble(a);
+    const double y = fast::AsDouble(b);
     if constexpr (fast::IsComparison(Op)) {
       out = Variant::Boolean(fast::Holds<Op>(x, y));
       return true;
     } else {
-      const int64_t r = fast::Compute<Op>(x, y);
-      if (a.is_integer() && b.is_integer() && r >= INT16_MIN && r <= INT16_MAX) {
-        out = Variant::Integer(static_cast<int16_t>(r));
-        return true;
-      }
-      if (r < INT32_MIN || r > INT32_MAX) return false;
-      out = Variant::Long(static_cast<int32_t>(r));
+      const double r = fast::Compute<Op>(x, y);
+      if (!std::isfinite(r)) return false;
+      out = Variant::Double(r);
       return true;
     }
-  }
-  if (!fast::WholeOrDouble(a) || !fast::WholeOrDouble(b)) return false;
-  const double x = fast::AsDouble(a);
-  const double y = fast::AsDouble(b);
-  if constexpr (fast::IsComparison(Op)) {
-    out = Variant::Boolean(fast::Holds<Op>(x, y));
-    return true;
-  } else {
-    const double r = fast::Compute<Op>(x, y);
-    if (!std::isfinite(r)) return false;
-    out = Variant::Double(r);
-    return true;
   }
 }
 
