@@ -364,8 +364,10 @@ Result<Variant> SpaceFunction(Frame&, CallArgs& args) {
 }
 
 // String(n, character): the character is the first of a string, or a character code taken
-// modulo 256 in Windows-1252. A Null character gives Null; "" is error 5.
+// modulo 256 in Windows-1252. A Null count or character gives Null; "" is error 5.
 Result<Variant> StringFunction(Frame&, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto count, args.Value(0));
+  if (count.is_null()) return Variant::Null();
   VBS_TRY_ASSIGN(auto n, Count(args, 0));
   VBS_TRY_ASSIGN(auto plain, args.Value(1));
   if (plain.is_null()) return Variant::Null();
