@@ -430,10 +430,17 @@ ProcedureCallNode::ProcedureCallNode(SourcePos pos, const Procedure* procedure, 
 Result<Variant> ProcedureCallNode::Eval(Frame& frame) {
   switch (m_passing) {
     case Passing::Direct: return EvalDirectArgs(frame);
-    case Passing::Computed: return EvalComputedArgs(frame);
-    case Passing::General: break;
+    case Passing::Computed: break;
+    case Passing::General: return EvalArgsFirst(frame);
   }
-  return EvalArgsFirst(frame);
+  // As many temporaries as arguments: most calls have one or two.
+  static_assert(kMaxComputedArgs == 4);
+  switch (m_args.size()) {
+    case 1: return EvalComputedArgs<1>(frame);
+    case 2: return EvalComputedArgs<2>(frame);
+    case 3: return EvalComputedArgs<3>(frame);
+    default: return EvalComputedArgs<4>(frame);
+  }
 }
 
 Result<Variant> ProcedureCallNode::EvalDirectArgs(Frame& frame) {
@@ -453,10 +460,10 @@ Result<Variant> ProcedureCallNode::EvalDirectArgs(Frame& frame) {
 
 // The arguments are taken in order before the callee's frame opens, as EvalArgsFirst takes them: a
 // variable as a reference, read for a ByVal parameter only once every argument is evaluated.
+template <size_t Count>
 Result<Variant> ProcedureCallNode::EvalComputedArgs(Frame& frame) {
-  Variant values[kMaxComputedArgs];
-  const size_t count = m_args.size();
-  for (size_t i = 0; i < count; ++i) {
+  Variant values[Count];
+  for (size_t i = 0; i < Count; ++i) {
     if (Variant* storage = m_direct[i].Storage(frame)) {
       values[i] = Variant::Reference(storage);
     } else if (const Variant* constant = m_direct[i].Get(frame)) {
@@ -469,7 +476,7 @@ Result<Variant> ProcedureCallNode::EvalComputedArgs(Frame& frame) {
     }
   }
   VBS_TRY_ASSIGN(auto&& callee, frame.interp.OpenFrame(m_procedure->slot_count));
-  for (size_t i = 0; i < count; ++i) {
+  for (size_t i = 0; i < Count; ++i) {
     Variant& param = callee.slots[Procedure::kFirstParamSlot + i];
     if (values[i].IsRef() && m_procedure->param_by_val[i])
       param = values[i].Deref();

@@ -334,6 +334,7 @@ class ProcedureCallNode final : public ExprNode {
 
   // One function for each way, so that Eval only chooses.
   [[gnu::noinline]] Result<Variant> EvalDirectArgs(Frame& frame);
+  template <size_t Count>
   [[gnu::noinline]] Result<Variant> EvalComputedArgs(Frame& frame);
   [[gnu::noinline]] Result<Variant> EvalArgsFirst(Frame& frame);
 
