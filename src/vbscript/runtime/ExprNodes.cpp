@@ -396,17 +396,56 @@ Result<Variant> OperatorChainNode::Eval(Frame& frame) {
 
 // ---- Calls ----
 
+namespace {
+
+template <BinaryOperator... Ops>
+bool IsArithmetic(const ExprNode* node) {
+  return (... || (dynamic_cast<const ArithmeticNode<Ops>*>(node) != nullptr));
+}
+
+// Whether the argument is a value that names no storage, so that even a ByRef parameter gets a copy:
+// the nodes here never give an address for an argument.
+bool IsComputedValue(const ExprNode* node) {
+  return dynamic_cast<const ProcedureCallNode*>(node) || dynamic_cast<const BuiltinCallNode*>(node) ||
+         dynamic_cast<const BinaryNode*>(node) || dynamic_cast<const UnaryNode*>(node) ||
+         dynamic_cast<const ParenNode*>(node) || dynamic_cast<const IsNode*>(node) ||
+         dynamic_cast<const OperatorChainNode*>(node) ||
+         IsArithmetic<BinaryOperator::Add, BinaryOperator::Subtract, BinaryOperator::Multiply, BinaryOperator::Equal,
+                      BinaryOperator::NotEqual, BinaryOperator::Less, BinaryOperator::LessEqual,
+                      BinaryOperator::Greater, BinaryOperator::GreaterEqual>(node);
+}
+
+}  // namespace
+
 ProcedureCallNode::ProcedureCallNode(SourcePos pos, const Procedure* procedure, ExprNodes args)
     : ExprNode(pos), m_procedure(procedure), m_args(std::move(args)) {
-  m_all_direct = true;
+  bool all_direct = true;
+  bool all_known = m_args.size() == m_procedure->param_count && m_args.size() <= kMaxComputedArgs;
   for (const ExprNodePtr& arg : m_args) {
     m_direct.emplace_back(arg.get());
-    m_all_direct = m_all_direct && m_direct.back().IsDirect();
+    all_direct = all_direct && m_direct.back().IsDirect();
+    all_known = all_known && (m_direct.back().IsDirect() || IsComputedValue(arg.get()));
   }
+  m_passing = all_direct ? Passing::Direct : all_known ? Passing::Computed : Passing::General;
 }
 
 Result<Variant> ProcedureCallNode::Eval(Frame& frame) {
-  if (!m_all_direct) return EvalArgsFirst(frame);
+  switch (m_passing) {
+    case Passing::Direct: return EvalDirectArgs(frame);
+    case Passing::Computed: break;
+    case Passing::General: return EvalArgsFirst(frame);
+  }
+  // As many temporaries as arguments: most calls have one or two.
+  static_assert(kMaxComputedArgs == 4);
+  switch (m_args.size()) {
+    case 1: return EvalComputedArgs<1>(frame);
+    case 2: return EvalComputedArgs<2>(frame);
+    case 3: return EvalComputedArgs<3>(frame);
+    default: return EvalComputedArgs<4>(frame);
+  }
+}
+
+Result<Variant> ProcedureCallNode::EvalDirectArgs(Frame& frame) {
   if (m_args.size() != m_procedure->param_count) return NamedError(err::kWrongArgs, m_procedure->name);
   // Plain variables and constants go straight into the parameter slots.
   VBS_TRY_ASSIGN(auto&& callee, frame.interp.OpenFrame(m_procedure->slot_count));
@@ -417,6 +456,34 @@ Result<Variant> ProcedureCallNode::Eval(Frame& frame) {
       param = Variant::Reference(storage);
     else
       param = *m_direct[i].Get(frame);
+  }
+  return frame.interp.RunFrame(*m_procedure, nullptr, callee);
+}
+
+// The arguments are taken in order before the callee's frame opens, as EvalArgsFirst takes them: a
+// variable as a reference, read for a ByVal parameter only once every argument is evaluated.
+template <size_t Count>
+Result<Variant> ProcedureCallNode::EvalComputedArgs(Frame& frame) {
+  Variant values[Count];
+  for (size_t i = 0; i < Count; ++i) {
+    if (Variant* storage = m_direct[i].Storage(frame)) {
+      values[i] = Variant::Reference(storage);
+    } else if (const Variant* constant = m_direct[i].Get(frame)) {
+      values[i] = *constant;
+    } else {
+      auto value = m_args[i]->Eval(frame);
+      if (!value) [[unlikely]]
+        return value;
+      values[i] = std::move(*value);
+    }
+  }
+  VBS_TRY_ASSIGN(auto&& callee, frame.interp.OpenFrame(m_procedure->slot_count));
+  for (size_t i = 0; i < Count; ++i) {
+    Variant& param = callee.slots[Procedure::kFirstParamSlot + i];
+    if (values[i].IsRef() && m_procedure->param_by_val[i])
+      param = values[i].Deref();
+    else
+      param = std::move(values[i]);
   }
   return frame.interp.RunFrame(*m_procedure, nullptr, callee);
 }

@@ -262,6 +262,8 @@ class ArithmeticNode final : public ExprNode {
         m_left_direct(m_left.get()),
         m_right_direct(m_right.get()) {}
   Result<Variant> Eval(Frame& frame) override;
+  const DirectOperand& left_direct() const { return m_left_direct; }
+  const DirectOperand& right_direct() const { return m_right_direct; }
 
  private:
   // Operands that must be evaluated, or values the inline arithmetic leaves to the general rules.
@@ -322,14 +324,24 @@ class ProcedureCallNode final : public ExprNode {
   Result<Variant> Eval(Frame& frame) override;
 
  private:
-  // Arguments that need evaluating: their values are gathered first, then the call is made.
-  Result<Variant> EvalArgsFirst(Frame& frame);
+  // How the arguments reach the parameter slots.
+  enum class Passing : uint8_t {
+    Direct,    // plain variables and constants only: read straight into the slots
+    Computed,  // some are computed values (operations, calls): evaluated first, then moved in
+    General,   // some may name storage (array elements, late names): gathered as the generic calls do
+  };
+  static constexpr size_t kMaxComputedArgs = 4;
+
+  // One function for each way, so that Eval only chooses.
+  [[gnu::noinline]] Result<Variant> EvalDirectArgs(Frame& frame);
+  template <size_t Count>
+  [[gnu::noinline]] Result<Variant> EvalComputedArgs(Frame& frame);
+  [[gnu::noinline]] Result<Variant> EvalArgsFirst(Frame& frame);
 
   const Procedure* m_procedure;
   ExprNodes m_args;
-  // Arguments that are plain variables or constants are passed with no call.
   std::vector<DirectOperand> m_direct;
-  bool m_all_direct = true;
+  Passing m_passing = Passing::Direct;
 };
 
 class BuiltinCallNode final : public ExprNode {

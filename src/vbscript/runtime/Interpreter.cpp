@@ -6,18 +6,8 @@
 #include "vbscript/runtime/ClassInstance.h"
 #include "vbscript/runtime/ErrObject.h"
 #include "vbscript/value/SafeArray.h"
-#include "vbscript/value/StackLimit.h"
 
 namespace vbs {
-
-namespace {
-
-constexpr size_t kSegmentSlots = 1 << 16;
-constexpr size_t kMaxSegments = 256;
-// Deep recursion ends with "Out of stack space" well before the thread's real stack runs out.
-constexpr uint32_t kMaxCallDepth = 10000;
-
-}  // namespace
 
 Interpreter::Interpreter() : m_locale(ItalianLocale()), m_link(std::make_shared<EngineLink>()) {
   m_link->interp = this;
@@ -169,7 +159,7 @@ ScriptError Interpreter::InterruptError() const {
   return error;
 }
 
-Result<FrameSlots> Interpreter::OpenFrame(uint32_t count) {
+Result<FrameSlots> Interpreter::OpenFrameSlowly(uint32_t count) {
   if (m_depth == 0) m_stack_limit = StackLimit();
   if (m_depth >= kMaxCallDepth || StackBelow(m_stack_limit)) return MakeError(err::kOutOfStack);
   if (m_segments.empty() || m_offset + count > kSegmentSlots) return OpenFrameInNewSegment(count);
@@ -217,7 +207,8 @@ void Interpreter::RewindStack(const StackMark& mark) {
 
 namespace {
 
-Status InitialiseArrays(const Procedure& procedure, Variant* slots) {
+// Out of line, as the helpers below: a call of a procedure with none of these stays small.
+[[gnu::noinline]] Status InitialiseArrays(const Procedure& procedure, Variant* slots) {
   for (const auto& [slot, uppers] : procedure.fixed_arrays) {
     std::vector<ArrayBound> bounds;
     for (int32_t upper : uppers) bounds.push_back({0, upper});
@@ -231,7 +222,7 @@ Status InitialiseArrays(const Procedure& procedure, Variant* slots) {
 
 // A name the procedure does not declare means the global of that name when there is one as the call
 // starts: its slot refers to the global, as a ByRef parameter refers to the caller's variable.
-void BindImplicitNames(Interpreter& interp, const Procedure& procedure, Variant* slots) {
+[[gnu::noinline]] void BindImplicitNames(Interpreter& interp, const Procedure& procedure, Variant* slots) {
   if (procedure.bound_generation != interp.generation()) {
     procedure.bound_globals.clear();
     for (const Procedure::ImplicitName& name : procedure.implicit_names) {
@@ -269,11 +260,12 @@ Result<Variant> Interpreter::Call(const Procedure& procedure, ClassInstance* me,
 }
 
 Result<Variant> Interpreter::RunFrame(const Procedure& procedure, ClassInstance* me, const FrameSlots& slots) {
-  if (!procedure.fixed_arrays.empty() || !procedure.dynamic_arrays.empty()) {
+  if (!procedure.fixed_arrays.empty() || !procedure.dynamic_arrays.empty()) [[unlikely]] {
     if (auto arrays = InitialiseArrays(procedure, slots.slots); !arrays) [[unlikely]]
       return AbandonFrame(*this, slots, std::move(arrays).error());
   }
-  if (!procedure.implicit_names.empty()) BindImplicitNames(*this, procedure, slots.slots);
+  if (!procedure.implicit_names.empty()) [[unlikely]]
+    BindImplicitNames(*this, procedure, slots.slots);
   Frame frame{*this, slots.slots, &procedure, me, nullptr, false, nullptr};
   auto flow = procedure.body.Exec(frame);
   Result<Variant> result =

@@ -26,6 +26,7 @@
 #include "vbscript/value/Object.h"
 #include "vbscript/value/Operators.h"
 #include "vbscript/value/Source.h"
+#include "vbscript/value/StackLimit.h"
 
 namespace vbs {
 
@@ -148,7 +149,16 @@ class Interpreter {
   // A call in two steps, for callers that put the arguments straight into the parameter slots:
   // OpenFrame takes the frame (error 28 when the stack is exhausted), RunFrame runs the body in it
   // and gives the frame back.
-  Result<FrameSlots> OpenFrame(uint32_t count);
+  // Inline: every call of a procedure opens a frame, and nearly always in the current segment.
+  [[gnu::always_inline]] Result<FrameSlots> OpenFrame(uint32_t count) {
+    if (m_depth == 0 || m_depth >= kMaxCallDepth || StackBelow(m_stack_limit) || m_offset + count > kSegmentSlots)
+        [[unlikely]]
+      return OpenFrameSlowly(count);
+    FrameSlots frame{&m_segments[m_segment][m_offset], count, m_offset, m_segment};
+    m_offset += count;
+    ++m_depth;
+    return frame;
+  }
   Result<Variant> RunFrame(const Procedure& procedure, ClassInstance* me, const FrameSlots& frame);
   // Binds the frame's slots of names its procedure uses undeclared to the globals that exist now
   // (ExecuteGlobal may create some during a call); a slot the call already uses as its own stays.
@@ -205,7 +215,14 @@ class Interpreter {
 
  private:
   bool DeadlinePassed() const;
-  [[gnu::noinline]] Result<FrameSlots> OpenFrameInNewSegment(uint32_t count);
+  // The first frame of a run, the depth and stack limits, and a frame that needs a new segment.
+  [[gnu::noinline]] Result<FrameSlots> OpenFrameSlowly(uint32_t count);
+  Result<FrameSlots> OpenFrameInNewSegment(uint32_t count);
+
+  static constexpr size_t kSegmentSlots = 1 << 16;
+  static constexpr size_t kMaxSegments = 256;
+  // Deep recursion ends with "Out of stack space" well before the thread's real stack runs out.
+  static constexpr uint32_t kMaxCallDepth = 10000;
 
   SourceTable m_sources;
   Locale m_locale;

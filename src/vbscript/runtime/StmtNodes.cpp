@@ -57,6 +57,13 @@ Result<Flow> ExprStmtNode::Exec(Frame& frame) {
 }
 
 Result<Flow> AssignNode::Exec(Frame& frame) {
+  if (const Variant* source = m_direct_value.Get(frame);
+      source && !m_is_set && !source->is_object() && !source->IsRef()) {
+    if (Variant* target = m_direct_target.Storage(frame)) {
+      *target = *source;
+      return Flow::Normal;
+    }
+  }
   VBS_TRY_ASSIGN(auto&& value, m_value->Eval(frame));
   if (!m_is_set && !value.is_object() && !value.IsRef()) {
     if (Variant* target = m_direct_target.Storage(frame)) {
@@ -136,8 +143,39 @@ Result<Flow> EraseNode::Exec(Frame& frame) {
   return Flow::Normal;
 }
 
+namespace {
+
+template <BinaryOperator Op>
+bool MatchComparison(const ExprNode* condition, BinaryOperator& op, DirectOperand& left, DirectOperand& right) {
+  const auto* comparison = dynamic_cast<const ArithmeticNode<Op>*>(condition);
+  if (!comparison || !comparison->left_direct().IsDirect() || !comparison->right_direct().IsDirect()) return false;
+  op = Op;
+  left = comparison->left_direct();
+  right = comparison->right_direct();
+  return true;
+}
+
+}  // namespace
+
+InlineComparison::InlineComparison(const ExprNode* condition) {
+  using enum BinaryOperator;
+  for (auto match : {&MatchComparison<Equal>, &MatchComparison<NotEqual>, &MatchComparison<Less>,
+                     &MatchComparison<LessEqual>, &MatchComparison<Greater>, &MatchComparison<GreaterEqual>}) {
+    if (match(condition, m_op, m_left, m_right)) return;
+  }
+}
+
+IfNode::IfNode(SourcePos pos, std::vector<ConditionalBlock> branches, BlockNode otherwise)
+    : StmtNode(pos), m_branches(std::move(branches)), m_else(std::move(otherwise)) {
+  for (const ConditionalBlock& branch : m_branches) m_comparisons.emplace_back(branch.condition.get());
+}
+
 Result<Flow> IfNode::Exec(Frame& frame) {
-  for (ConditionalBlock& branch : m_branches) {
+  for (size_t i = 0; i < m_branches.size(); ++i) {
+    ConditionalBlock& branch = m_branches[i];
+    const InlineComparison::Outcome outcome = m_comparisons[i].Decide(frame);
+    if (outcome == InlineComparison::Outcome::True) return branch.body.Exec(frame);
+    if (outcome == InlineComparison::Outcome::False) continue;
     auto holds = Condition(frame, *branch.condition);
     if (!holds && !ResumeIntoBody(frame, holds.error())) return std::move(holds).error();
     if (!holds || *holds) return branch.body.Exec(frame);

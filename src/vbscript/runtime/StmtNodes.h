@@ -25,15 +25,18 @@ class AssignNode final : public StmtNode {
         m_target(std::move(target)),
         m_value(std::move(value)),
         m_is_set(is_set),
-        m_direct_target(m_target.get()) {}
+        m_direct_target(m_target.get()),
+        m_direct_value(m_value.get()) {}
   Result<Flow> Exec(Frame& frame) override;
 
  private:
   ExprNodePtr m_target;
   ExprNodePtr m_value;
   bool m_is_set;
-  // A plain local or global target takes a plain value with no call.
+  // A plain local or global target takes a plain value with no call; from a plain variable or
+  // constant (`Fib = n`), with no evaluation either.
   DirectOperand m_direct_target;
+  DirectOperand m_direct_value;
 };
 
 // `s = s & x` on a variable: appends in place, so that building a string in a loop stays linear.
@@ -105,14 +108,45 @@ struct ConditionalBlock {
   BlockNode body;
 };
 
+// A condition that compares two plain variables or constants (`n < 2`), decided inline while both
+// hold whole numbers, with no call and no value built.
+class InlineComparison {
+ public:
+  // One that never decides unless `condition` is such a comparison.
+  explicit InlineComparison(const ExprNode* condition);
+  enum class Outcome : uint8_t { False, True, Undecided };
+  Outcome Decide(Frame& frame) const {
+    const Variant* a = m_left.Get(frame);
+    const Variant* b = m_right.Get(frame);
+    if (!a || !b || !a->is_whole() || !b->is_whole()) return Outcome::Undecided;
+    return Holds(a->as_whole(), b->as_whole()) ? Outcome::True : Outcome::False;
+  }
+
+ private:
+  bool Holds(int32_t x, int32_t y) const {
+    switch (m_op) {
+      case BinaryOperator::Equal: return x == y;
+      case BinaryOperator::NotEqual: return x != y;
+      case BinaryOperator::Less: return x < y;
+      case BinaryOperator::LessEqual: return x <= y;
+      case BinaryOperator::Greater: return x > y;
+      default: return x >= y;
+    }
+  }
+
+  BinaryOperator m_op = BinaryOperator::Equal;
+  DirectOperand m_left{nullptr};
+  DirectOperand m_right{nullptr};
+};
+
 class IfNode final : public StmtNode {
  public:
-  IfNode(SourcePos pos, std::vector<ConditionalBlock> branches, BlockNode otherwise)
-      : StmtNode(pos), m_branches(std::move(branches)), m_else(std::move(otherwise)) {}
+  IfNode(SourcePos pos, std::vector<ConditionalBlock> branches, BlockNode otherwise);
   Result<Flow> Exec(Frame& frame) override;
 
  private:
   std::vector<ConditionalBlock> m_branches;
+  std::vector<InlineComparison> m_comparisons;  // one for each branch
   BlockNode m_else;
 };
 
