@@ -38,7 +38,6 @@ class HostObject : public Object {
   };
 
   explicit HostObject(const Locale& locale) : m_locale(&locale) {}
-  void SetLocale(const Locale& locale) { m_locale = &locale; }
 
   DispId FindMember(std::string_view name) override {
     const auto members = Self::Members();

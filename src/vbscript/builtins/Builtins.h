@@ -24,8 +24,8 @@ struct Builtin {
   uint8_t max_args;
   Result<Variant> (*function)(Frame& frame, CallArgs& args);
   std::string_view description;
-  // Functions that see the caller's variables (Eval, Execute) get references to them.
-  bool wants_references = false;
+  // Eval, Execute and ExecuteGlobal: what fails inside them is the error of the code they ran.
+  bool runs_code = false;
   // Statements in function form (Randomize): used for a value they are a type mismatch.
   bool gives_no_value = false;
   // Conversions to a number or a date: called as a statement, their value thrown away, they fail

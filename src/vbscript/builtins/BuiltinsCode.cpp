@@ -78,9 +78,9 @@ Result<Variant> GetRefFunction(Frame& frame, CallArgs& args) {
 }
 
 const Builtin kCode[] = {
-    {"Eval", 1, 1, &EvalFunction, "the value of an expression given as text"},
-    {"Execute", 1, 1, &ExecuteFunction, "runs statements given as text in the current scope"},
-    {"ExecuteGlobal", 1, 1, &ExecuteGlobalFunction, "runs statements given as text as global code"},
+    {"Eval", 1, 1, &EvalFunction, "the value of an expression given as text", true},
+    {"Execute", 1, 1, &ExecuteFunction, "runs statements given as text in the current scope", true},
+    {"ExecuteGlobal", 1, 1, &ExecuteGlobalFunction, "runs statements given as text as global code", true},
     {"GetRef", 1, 1, &GetRefFunction, "a reference to a procedure, callable later"},
 };
 

@@ -98,10 +98,9 @@ Result<Object*> RequireObject(const Variant& value) {
   return v.as_object();
 }
 
-// A built-in's own failure names the built-in; what fails in the code that Eval and Execute run
-// is that code's error, not theirs.
+// A built-in's own failure names the built-in.
 [[gnu::noinline]] ScriptError BuiltinFailure(ScriptError error, const Builtin& builtin) {
-  if (builtin.name == "Eval" || builtin.name == "Execute" || builtin.name == "ExecuteGlobal") return error;
+  if (builtin.runs_code) return error;
   return WithName(std::move(error), builtin.name);
 }
 
@@ -517,7 +516,7 @@ Result<Variant> BuiltinCallNode::Call(Frame& frame) {
   if (m_args.size() < m_builtin->min_args || m_args.size() > m_builtin->max_args)
     return NamedError(err::kWrongArgs, m_builtin->name);
   ArgValues values;
-  VBS_TRY(EvalArgs(frame, m_args, values, m_builtin->wants_references));
+  VBS_TRY(EvalArgs(frame, m_args, values, false));
   CallArgs args(values.span(), frame.interp.locale(), ArgumentNaming::Plain);
   auto result = TrapAllocationFailure([&] { return m_builtin->function(frame, args); });
   if (!result) [[unlikely]]
