@@ -12,12 +12,6 @@ Avviso IndiceFuoriIntervallo() { return AvvisoCritico("TabellaEstrazioni", 9, "I
 
 }  // namespace
 
-Esito<int> TabellaEstrazioni::Estratto(int id_estr, int ruota, int posizione) const {
-  if (!Contiene(id_estr) || posizione < 1 || posizione > kNumeriPerRuota) return IndiceFuoriIntervallo();
-  if (ruota < 1 || ruota > kNumeroRuote) return 0;
-  return static_cast<int>((*this)[id_estr].Numero(ruota, posizione));
-}
-
 Esito<int> TabellaEstrazioni::IndiceAnnuale(int id_estr) const {
   if (!Contiene(id_estr)) return IndiceFuoriIntervallo();
   return static_cast<int>((*this)[id_estr].data.indice_annuale);

@@ -3,6 +3,7 @@
 // The in-memory table of draws, indexed by IdEstr from 1. Every analysis, script and figure search
 // reads draws from here and never from the file.
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,9 +26,13 @@ class TabellaEstrazioni {
   const Estrazione& operator[](int id_estr) const { return m_estrazioni[id_estr - 1]; }
   Estrazione& operator[](int id_estr) { return m_estrazioni[id_estr - 1]; }
 
-  // The number at (ruota, posizione) of draw id_estr; 0 for a wheel outside 1..11. A draw outside
-  // the table or a position outside 1..5 is an out-of-range failure.
-  Esito<int> Estratto(int id_estr, int ruota, int posizione) const;
+  // The number at (ruota, posizione) of draw id_estr; 0 for a wheel outside 1..11; nothing for a
+  // draw outside the table or a position outside 1..5. Inline: scripts read every number this way.
+  std::optional<int> Estratto(int id_estr, int ruota, int posizione) const {
+    if (!Contiene(id_estr) || posizione < 1 || posizione > kNumeriPerRuota) return std::nullopt;
+    if (ruota < 1 || ruota > kNumeroRuote) return 0;
+    return static_cast<int>((*this)[id_estr].Numero(ruota, posizione));
+  }
   Esito<int> IndiceAnnuale(int id_estr) const;
   // "GG/MM/AAAA"; with the short year "GG/MM/AA".
   Esito<std::string> DataEstrazione(int id_estr, bool anno_breve = false) const;

@@ -58,7 +58,7 @@ vbs::Result<int> RuotaTabella(const vbs::Variant& valore, const vbs::Locale& loc
   return int{ruota};
 }
 
-vbs::Result<int> RuotaTabella(const vbs::CallArgs& args, size_t i) {
+vbs::Result<int> RuotaTabellaConvertita(const vbs::CallArgs& args, size_t i) {
   if (auto ruota = RuotaIntera(args[i])) return *ruota;
   VBS_TRY_ASSIGN(auto testo, args.String(i));
   if (auto scambiata = RuotaScambiata(testo)) return *scambiata;

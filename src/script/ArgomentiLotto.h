@@ -20,7 +20,12 @@ namespace lottolab::script {
 // it: only "11" and "12" are swapped, anything else is converted to a 16-bit integer and kept, so a
 // wheel outside 1..12 stays outside for the caller to refuse or ignore.
 vbs::Result<int> RuotaTabella(const vbs::Variant& valore, const vbs::Locale& locale);
-vbs::Result<int> RuotaTabella(const vbs::CallArgs& args, size_t i);
+// Inline for the whole numbers 1..10 that nearly every call passes; every other value converted.
+vbs::Result<int> RuotaTabellaConvertita(const vbs::CallArgs& args, size_t i);
+inline vbs::Result<int> RuotaTabella(const vbs::CallArgs& args, size_t i) {
+  if (const vbs::Variant& v = args[i]; v.is_whole() && v.as_whole() >= 1 && v.as_whole() <= 10) return v.as_whole();
+  return RuotaTabellaConvertita(args, i);
+}
 
 // Argument i as table wheels: the one value given, or every element of an array of any bounds.
 vbs::Result<std::vector<int>> RuoteArgomento(const vbs::CallArgs& args, size_t i);

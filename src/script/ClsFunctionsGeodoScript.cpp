@@ -65,24 +65,25 @@ vbs::DispId ClsFunctionsGeodoScript::FindMember(std::string_view name) {
 
 vbs::Result<vbs::Variant> ClsFunctionsGeodoScript::Invoke(vbs::DispId member, vbs::InvokeKind kind,
                                                           std::span<vbs::Variant> args) {
-  const auto funzioni = Funzioni();
-  if (member < 1 || static_cast<size_t>(member) > funzioni.size()) return vbs::MakeError(vbs::err::kNoMember);
-  const Funzione& funzione = funzioni[member - 1];
+  if (member < 1 || static_cast<size_t>(member) > m_funzioni.size()) [[unlikely]]
+    return vbs::MakeError(vbs::err::kNoMember);
+  const Funzione& funzione = m_funzioni[member - 1];
   // Nothing in the library can be assigned to: constants are read-only.
   if (kind == vbs::InvokeKind::Let || kind == vbs::InvokeKind::Set) return vbs::MakeError(vbs::err::kIllegalAssignment);
   if (args.size() < funzione.min_args || args.size() > funzione.max_args) return vbs::MakeError(vbs::err::kWrongArgs);
   vbs::CallArgs call(args, m_locale);
   auto risultato = funzione.chiamata(*this, call);
-  if (risultato) return risultato;
-  if (const int32_t numero = risultato.error().number;
-      numero == vbs::err::kAborted || numero == vbs::err::kPermissionDenied)
+  if (risultato) [[likely]]
     return risultato;
-  const vbs::ScriptError& errore = risultato.error();
-  std::string descrizione = errore.description.empty()
-                                ? text::Utf16ToUtf8(vbs::ErrorText(errore.number, m_locale.language))
-                                : text::Utf16ToUtf8(errore.description);
-  m_ospite.Mostra(
-      AvvisoCritico("ClsFunctionsGeodoScript." + std::string(funzione.nome), errore.number, std::move(descrizione)));
+  return Avvisa(funzione.nome, std::move(risultato).error());
+}
+
+vbs::Result<vbs::Variant> ClsFunctionsGeodoScript::Avvisa(std::string_view funzione, vbs::Failure errore) {
+  const int32_t numero = errore->number;
+  if (numero == vbs::err::kAborted || numero == vbs::err::kPermissionDenied) return errore;
+  std::string descrizione = errore->description.empty() ? text::Utf16ToUtf8(vbs::ErrorText(numero, m_locale.language))
+                                                        : text::Utf16ToUtf8(errore->description);
+  m_ospite.Mostra(AvvisoCritico("ClsFunctionsGeodoScript." + std::string(funzione), numero, std::move(descrizione)));
   return vbs::Variant();
 }
 
@@ -92,10 +93,8 @@ vbs::Status ClsFunctionsGeodoScript::ControllaInterruzione() const {
   return vbs::Ok();
 }
 
-vbs::Result<const TabellaEstrazioni*> ClsFunctionsGeodoScript::Archivio() const {
-  if (!m_impostazioni.archivio || m_impostazioni.archivio->Vuota())
-    return vbs::MakeError(vbs::err::kInvalidCall, u"Archivio delle estrazioni non caricato");
-  return m_impostazioni.archivio;
+vbs::ScriptError ClsFunctionsGeodoScript::ArchivioMancante() {
+  return vbs::MakeError(vbs::err::kInvalidCall, u"Archivio delle estrazioni non caricato");
 }
 
 void ClsFunctionsGeodoScript::Scrivi(std::string testo, int16_t colore, bool grassetto) {

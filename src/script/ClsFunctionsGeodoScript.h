@@ -98,8 +98,13 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
   // Error kAborted once the user interrupted the run or its time-out passed; loops of the library
   // that may run long ask it every few thousand steps, so that "Interrompi subito" ends them too.
   [[nodiscard]] vbs::Status ControllaInterruzione() const;
-  // The archive; error 5 with a clear description when none is loaded.
-  vbs::Result<const TabellaEstrazioni*> Archivio() const;
+  // The archive; error 5 with a clear description when none is loaded. Inline: nearly every
+  // function of the library asks for it at every call.
+  vbs::Result<const TabellaEstrazioni*> Archivio() const {
+    if (m_impostazioni.archivio && !m_impostazioni.archivio->Vuota()) [[likely]]
+      return m_impostazioni.archivio;
+    return ArchivioMancante();
+  }
 
   bool Interrotto() const { return m_stop.load(std::memory_order_relaxed); }
   void AzzeraStop() { m_stop.store(false, std::memory_order_relaxed); }
@@ -128,6 +133,12 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
   }
 
  private:
+  [[gnu::noinline]] static vbs::ScriptError ArchivioMancante();
+  // The error of a function, shown to the user as a critical notice; the call then gives Empty.
+  [[gnu::noinline]] vbs::Result<vbs::Variant> Avvisa(std::string_view funzione, vbs::Failure errore);
+
+  // The table, kept at hand: every call of a script starts here.
+  const std::span<const Funzione> m_funzioni = Funzioni();
   InterfacciaScript& m_ospite;
   const vbs::Locale& m_locale;
   ImpostazioniLibreria m_impostazioni;

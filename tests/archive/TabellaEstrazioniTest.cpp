@@ -25,7 +25,6 @@ TEST(Estratto, LeggeRuotaEPosizioneEdEsceDaiLimitiConZeroOErrore) {
   EXPECT_FALSE(tabella.Estratto(3, BA, 1));
   EXPECT_FALSE(tabella.Estratto(1, BA, 0));
   EXPECT_FALSE(tabella.Estratto(1, BA, 6));
-  EXPECT_EQ(tabella.Estratto(3, BA, 1).Errore().testo, "9- Indice non incluso nell'intervallo");
 }
 
 TEST(DataEstrazione, GiornoEMeseADueCifreAnnoAQuattroODue) {

@@ -247,12 +247,7 @@ Result<Variant*> Dictionary::DefaultItemPlace(const Variant& key) {
   const Variant& plain = key.Deref();
   uint64_t hash = 0;
   if (plain.is_whole()) {
-    // d(k) = d(k) + 1 looks one key up twice running. The entry found last answers when it is
-    // alive and holds that number: keys are unique, so no change to the dictionary can fool it.
-    if (m_last_found < m_entries.size()) {
-      Entry& last = m_entries[m_last_found];
-      if (last.live && last.key.is_whole() && last.key.as_whole() == plain.as_whole()) return &last.item;
-    }
+    if (Entry* last = LastFound(plain)) return &last->item;
     hash = HashNumber(plain.as_whole());
   } else {
     VBS_TRY_ASSIGN(auto general, HashOf(plain));
@@ -270,6 +265,20 @@ Result<Variant*> Dictionary::DefaultItemPlace(const Variant& key) {
   }));
   m_last_found = static_cast<uint32_t>(m_entries.size() - 1);
   return &m_entries.back().item;
+}
+
+const Variant* Dictionary::PresentDefaultItem(const Variant& key) {
+  const Variant& plain = key.Deref();
+  if (!plain.is_whole()) {
+    auto found = Find(plain);
+    return found ? *found : nullptr;
+  }
+  if (Entry* last = LastFound(plain)) return &last->item;
+  size_t slot = 0;
+  const uint32_t entry = Lookup(plain, HashNumber(plain.as_whole()), slot);
+  if (entry == kMissing) return nullptr;
+  m_last_found = entry;
+  return &m_entries[entry].item;
 }
 
 Result<Variant> Dictionary::GetItem(CallArgs& args) {

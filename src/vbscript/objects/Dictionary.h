@@ -28,6 +28,7 @@ class Dictionary final : public HostObject<Dictionary> {
   Result<Ref<Enumerator>> Enumerate() override;
   // The item under `key`, added with Empty when missing, as Item reads it; error 5 for an array.
   Result<Variant*> DefaultItemPlace(const Variant& key) override;
+  const Variant* PresentDefaultItem(const Variant& key) override;
 
   // Adds a pair; error 457 when the key is there already, 5 when the key is an array.
   [[nodiscard]] Status Add(const Variant& key, Variant item);
@@ -72,6 +73,13 @@ class Dictionary final : public HostObject<Dictionary> {
   // The entry holding `key` (hash already computed), or kMissing; `slot` gets its index slot or
   // the empty slot where it would go.
   uint32_t Lookup(const Variant& key, uint64_t hash, size_t& slot) const;
+  // The entry found last, when it holds the whole number `key`: d(k) = d(k) + 1 looks one key up
+  // twice running. Keys are unique, so no change to the dictionary can fool it.
+  Entry* LastFound(const Variant& key) {
+    if (m_last_found >= m_entries.size()) return nullptr;
+    Entry& last = m_entries[m_last_found];
+    return last.live && last.key.is_whole() && last.key.as_whole() == key.as_whole() ? &last : nullptr;
+  }
   void Append(Variant key, Variant item, uint64_t hash, size_t slot);
   void Erase(uint32_t entry, size_t slot);
   void Rebuild(size_t capacity);
@@ -83,7 +91,7 @@ class Dictionary final : public HostObject<Dictionary> {
   CompareMode m_mode = CompareMode::Binary;
   int32_t m_mode_value = 0;
   uint32_t m_walkers = 0;            // enumerators alive: compaction waits for them
-  uint32_t m_last_found = kMissing;  // the entry DefaultItemPlace found last
+  uint32_t m_last_found = kMissing;  // the entry a read of d(k) found last
 };
 
 }  // namespace vbs

@@ -22,21 +22,27 @@ Status ExprNode::Invoke(Frame& frame) {
 
 // ---- Arguments ----
 
-ArgValues::~ArgValues() {
-  for (Ref<SafeArray>& array : m_locked) array->Unlock();
+ArgValues::Rare& ArgValues::RareParts() {
+  if (!m_rare) m_rare = std::make_unique<Rare>();
+  return *m_rare;
+}
+
+void ArgValues::Release() {
+  for (Ref<SafeArray>& array : m_rare->locked) array->Unlock();
 }
 
 void ArgValues::Lock(Ref<SafeArray> array) {
   array->Lock();
-  m_locked.push_back(std::move(array));
+  RareParts().locked.push_back(std::move(array));
 }
 
 void ArgValues::Spill(Variant value) {
+  std::vector<Variant>& more = RareParts().more;
   if (m_count == kInline) {
-    m_more.reserve(kInline * 2);
-    for (Variant& v : m_inline) m_more.push_back(std::move(v));
+    more.reserve(kInline * 2);
+    for (size_t i = 0; i < kInline; ++i) more.push_back(std::move(Inline(i)));
   }
-  m_more.push_back(std::move(value));
+  more.push_back(std::move(value));
   ++m_count;
 }
 
@@ -294,7 +300,7 @@ Result<Variant> UnaryNode::Eval(Frame& frame) {
   return operand;
 }
 
-DirectOperand::DirectOperand(ExprNode* node) {
+DirectOperand::DirectOperand(ExprNode* node, Elements elements) {
   if (auto* constant = dynamic_cast<ConstantNode*>(node)) {
     m_kind = Kind::Constant;
     m_pointer = &constant->value();
@@ -304,8 +310,13 @@ DirectOperand::DirectOperand(ExprNode* node) {
   } else if (auto* global = dynamic_cast<GlobalNode*>(node)) {
     m_kind = Kind::Global;
     m_pointer = global->storage();
+  } else if (auto* element = dynamic_cast<IndexNode*>(node); element && elements == Elements::ReadInPlace) {
+    m_kind = Kind::Element;
+    m_element = element;
   }
 }
+
+const Variant* DirectOperand::ElementOf(Frame& frame) const { return m_element->PresentPlace(frame); }
 
 Result<Variant> BinaryNode::Eval(Frame& frame) {
   auto left = m_left->Eval(frame);
@@ -568,6 +579,16 @@ Variant* IndexNode::DirectElement(Frame& frame, bool for_writing) {
   return &array->elements()[*offset];
 }
 
+const Variant* IndexNode::PresentPlace(Frame& frame) {
+  if (!m_all_direct) return nullptr;
+  Variant* holder = m_direct_holder.Storage(frame);
+  if (!holder) return nullptr;
+  if (holder->is_array()) return DirectElement(frame, false);
+  if (m_direct_args.size() != 1 || !holder->is_object() || !holder->as_object()) return nullptr;
+  const Variant* key = m_direct_args[0].Get(frame);
+  return key ? holder->as_object()->PresentDefaultItem(*key) : nullptr;
+}
+
 Result<Variant*> IndexNode::DirectItem(Frame& frame) {
   if (!m_all_direct || m_direct_args.size() != 1) return static_cast<Variant*>(nullptr);
   Variant* holder = m_direct_holder.Storage(frame);
@@ -611,15 +632,18 @@ Result<Variant*> IndexNode::AddressForArgument(Frame& frame, ArgValues& args) {
 }
 
 Status IndexNode::Assign(Frame& frame, Variant value, bool is_set) {
-  if (WritesInPlace(value, is_set)) {
-    if (Variant* element = DirectElement(frame, true)) {
-      *element = std::move(value);
-      return Ok();
-    }
-    VBS_TRY_ASSIGN(auto&& place, DirectItem(frame));
-    if (place) {
-      std::swap(*place, value);
-      return Ok();
+  if (const Variant* holder = m_direct_holder.Get(frame); holder && WritesInPlace(value, is_set)) {
+    if (holder->is_array()) {
+      if (Variant* element = DirectElement(frame, true)) {
+        *element = std::move(value);
+        return Ok();
+      }
+    } else if (holder->is_object()) {
+      VBS_TRY_ASSIGN(auto&& place, DirectItem(frame));
+      if (place) {
+        std::swap(*place, value);
+        return Ok();
+      }
     }
   }
   ArgValues values;

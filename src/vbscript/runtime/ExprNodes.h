@@ -4,6 +4,9 @@
 // node of its own (a local slot, a global's storage, a field of Me, a member of a host object), so
 // that running a name costs no lookup.
 
+#include <algorithm>
+#include <memory>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -24,13 +27,17 @@ class ArgValues {
   ArgValues(const ArgValues&) = delete;
   ArgValues& operator=(const ArgValues&) = delete;
 
-  ~ArgValues();
+  ~ArgValues() {
+    for (size_t i = 0; i < std::min(m_count, kInline); ++i) Inline(i).~Variant();
+    if (m_rare) [[unlikely]]
+      Release();
+  }
   std::span<Variant> span() {
-    return m_count <= kInline ? std::span<Variant>(m_inline, m_count) : std::span<Variant>(m_more);
+    return m_count <= kInline ? std::span<Variant>(&Inline(0), m_count) : std::span<Variant>(m_rare->more);
   }
   void Add(Variant value) {
     if (m_count < kInline) {
-      m_inline[m_count++] = std::move(value);
+      new (&Inline(m_count++)) Variant(std::move(value));
       return;
     }
     Spill(std::move(value));
@@ -38,14 +45,22 @@ class ArgValues {
   void Lock(Ref<SafeArray> array);
 
  private:
+  // Past four arguments, and the arrays whose elements were passed by reference: rare, so a call
+  // without them builds and frees nothing but the values themselves.
+  struct Rare {
+    std::vector<Variant> more;
+    std::vector<Ref<SafeArray>> locked;
+  };
+  Variant& Inline(size_t i) { return reinterpret_cast<Variant*>(m_inline)[i]; }
+  Rare& RareParts();
   void Spill(Variant value);
+  void Release();
 
   // Most calls have few arguments: they stay on the C++ stack, with no allocation.
   static constexpr size_t kInline = 4;
-  Variant m_inline[kInline];
-  std::vector<Variant> m_more;
+  alignas(Variant) unsigned char m_inline[kInline * sizeof(Variant)];
   size_t m_count = 0;
-  std::vector<Ref<SafeArray>> m_locked;
+  std::unique_ptr<Rare> m_rare;
 };
 
 // by_reference: whether arguments that name variables are passed as references.
@@ -205,9 +220,15 @@ class UnaryNode final : public ExprNode {
 
 // Reads an operand that is a constant or a plain variable in place, with no call and no copy: the
 // operands of most arithmetic in loops.
+class IndexNode;
+
+// Whether an operand a(i) or d(k) with plain indices may be read in place. Only where its value is
+// all that is wanted: an argument of a call passes an element by reference.
+enum class Elements : uint8_t { Evaluate, ReadInPlace };
+
 class DirectOperand {
  public:
-  explicit DirectOperand(ExprNode* node);
+  explicit DirectOperand(ExprNode* node, Elements elements = Elements::Evaluate);
   bool IsDirect() const { return m_kind != Kind::None; }
   bool IsVariable() const { return m_kind == Kind::Local || m_kind == Kind::Global; }
   // The storage of a variable operand (null for constants and everything else).
@@ -218,22 +239,28 @@ class DirectOperand {
       default: return nullptr;
     }
   }
-  // The operand's value, or null when it must be evaluated.
+  // The operand's value, or null when it must be evaluated. Reading it changes nothing, so that
+  // the caller may read its operands in any order and still evaluate one that gave null.
   const Variant* Get(Frame& frame) const {
     switch (m_kind) {
       case Kind::Constant:
       case Kind::Global: return m_pointer;
       case Kind::Local: return &frame.slots[m_slot].Deref();
+      case Kind::Element: return ElementOf(frame);
       case Kind::None: break;
     }
     return nullptr;
   }
 
  private:
-  enum class Kind : uint8_t { None, Constant, Local, Global };
+  // a(i, j) or d(k) with plain indices: the element or item in place when it is there already.
+  const Variant* ElementOf(Frame& frame) const;
+
+  enum class Kind : uint8_t { None, Constant, Local, Global, Element };
   Kind m_kind = Kind::None;
   uint32_t m_slot = 0;
   const Variant* m_pointer = nullptr;
+  IndexNode* m_element = nullptr;
 };
 
 // The operators without a fast path of their own: division, powers, Mod, concatenation, logic.
@@ -259,8 +286,8 @@ class ArithmeticNode final : public ExprNode {
       : ExprNode(pos),
         m_left(std::move(left)),
         m_right(std::move(right)),
-        m_left_direct(m_left.get()),
-        m_right_direct(m_right.get()) {}
+        m_left_direct(m_left.get(), Elements::ReadInPlace),
+        m_right_direct(m_right.get(), Elements::ReadInPlace) {}
   Result<Variant> Eval(Frame& frame) override;
   const DirectOperand& left_direct() const { return m_left_direct; }
   const DirectOperand& right_direct() const { return m_right_direct; }
@@ -365,6 +392,9 @@ class IndexNode final : public ExprNode {
   Result<Variant> Eval(Frame& frame) override;
   Result<Variant*> AddressForArgument(Frame& frame, ArgValues& args) override;
   Status Assign(Frame& frame, Variant value, bool is_set) override;
+  // The element, or the object's item, when it is there already and reading it changes nothing;
+  // null when the node must be evaluated.
+  const Variant* PresentPlace(Frame& frame);
 
  private:
   // a(i, j) with plain variables or constants as whole-number subscripts on a variable holding an

@@ -200,8 +200,27 @@ Result<Flow> SelectNode::Exec(Frame& frame) {
   return m_else.Exec(frame);
 }
 
+namespace {
+
+// Whole-number loops on a plain variable, the common case, count in a machine integer.
+bool CountsWhole(const Variant& v) { return v.is_integer() || v.is_long(); }
+
+}  // namespace
+
 Result<Flow> ForNode::Exec(Frame& frame) {
-  const Locale& locale = frame.interp.locale();
+  Variant& limit = frame.slots[m_temp];
+  Variant& increment = frame.slots[m_temp + 1];
+  static const Variant kStepOfOne = Variant::Integer(1);
+  const Variant* from = m_variable ? m_from_direct.Get(frame) : nullptr;
+  const Variant* to = from ? m_to_direct.Get(frame) : nullptr;
+  const Variant* step = !to ? nullptr : m_step ? m_step_direct.Get(frame) : &kStepOfOne;
+  if (step && CountsWhole(*from) && CountsWhole(*to) && CountsWhole(*step)) {
+    limit = *to;
+    increment = *step;
+    VBS_TRY(m_counter->Assign(frame, *from, false));
+    return Count(frame, increment.as_whole() >= 0);
+  }
+
   // A header that fails under "On Error Resume Next" runs the body once; its Next then finds the
   // loop uninitialised (error 92) and resumes after it.
   auto header_failed = [&](const ScriptError& error) -> Result<Flow> {
@@ -211,27 +230,30 @@ Result<Flow> ForNode::Exec(Frame& frame) {
     frame.interp.SetErr(MakeError(err::kForNotInitialised));
     return *flow == Flow::ExitFor ? Flow::Normal : *flow;
   };
-  auto from = m_from->Eval(frame);
-  if (!from) return header_failed(from.error());
-  auto to = m_to->Eval(frame);
-  if (!to) return header_failed(to.error());
-  Variant step = Variant::Integer(1);
+  auto from_value = m_from->Eval(frame);
+  if (!from_value) return header_failed(from_value.error());
+  auto to_value = m_to->Eval(frame);
+  if (!to_value) return header_failed(to_value.error());
+  Variant step_value = Variant::Integer(1);
   if (m_step) {
     auto value = m_step->Eval(frame);
     if (!value) return header_failed(value.error());
-    step = std::move(*value);
+    step_value = std::move(*value);
   }
-  VBS_TRY_ASSIGN(auto&& plain_from, LetValue(std::move(*from)));
-  VBS_TRY_ASSIGN(auto&& plain_to, LetValue(std::move(*to)));
-  VBS_TRY_ASSIGN(auto&& plain_step, LetValue(std::move(step)));
-  Variant& limit = frame.slots[m_temp];
-  Variant& increment = frame.slots[m_temp + 1];
+  VBS_TRY_ASSIGN(auto&& plain_from, LetValue(std::move(*from_value)));
+  VBS_TRY_ASSIGN(auto&& plain_to, LetValue(std::move(*to_value)));
+  VBS_TRY_ASSIGN(auto&& plain_step, LetValue(std::move(step_value)));
   limit = std::move(plain_to);
   increment = std::move(plain_step);
-  VBS_TRY_ASSIGN(auto&& step_value, increment.to_double(locale));
-  const BinaryOperator keep_going = step_value >= 0 ? BinaryOperator::LessEqual : BinaryOperator::GreaterEqual;
-
+  VBS_TRY_ASSIGN(auto&& step_number, increment.to_double(frame.interp.locale()));
   VBS_TRY(m_counter->Assign(frame, std::move(plain_from), false));
+  return Count(frame, step_number >= 0);
+}
+
+Result<Flow> ForNode::Count(Frame& frame, bool ascending) {
+  const Locale& locale = frame.interp.locale();
+  const Variant& limit = frame.slots[m_temp];
+  const Variant& increment = frame.slots[m_temp + 1];
   Flow report = Flow::Normal;
   auto step_counter = [&]() -> Status {
     VBS_TRY_ASSIGN(auto&& current, m_counter->Eval(frame));
@@ -240,40 +262,39 @@ Result<Flow> ForNode::Exec(Frame& frame) {
   };
   bool body_ran = false;  // set when the fast loop hands over right after a run of the body
 
-  // Whole-number loops on a plain variable, the common case, count in a machine integer; the
-  // counter keeps the subtype that adding the step would give it (Integer, widening to Long).
-  VariableNode* variable = m_variable;
-  auto whole = [](const Variant& v) { return v.is_integer() || v.is_long(); };
-  if (variable && whole(limit) && whole(increment)) {
+  // The counter keeps the subtype that adding the step would give it (Integer, widening to Long).
+  if (m_variable && CountsWhole(limit) && CountsWhole(increment)) {
     const int64_t last = limit.as_whole();
     const int64_t by = increment.as_whole();
+    const bool integer_step = increment.is_integer();
     // The variable's storage stays where it is for the whole loop (a slot, a global, the target of
     // a ByRef parameter).
-    Variant& counter = variable->Storage(frame).Deref();
+    Variant& counter = m_variable->Storage(frame).Deref();
     // The body looks for a stop before each statement; an empty one has no statement to look.
     const bool check_here = m_body.statements.empty();
     for (;;) {
-      if (!whole(counter)) break;
+      if (!CountsWhole(counter)) break;
       const int64_t current = counter.as_whole();
       if (by >= 0 ? current > last : current < last) return Flow::Normal;
       if (check_here) VBS_TRY(frame.interp.CheckInterrupt());
       auto flow = m_body.Exec(frame);
       if (!flow) return flow;
       if (LeavesLoop(*flow, Flow::ExitFor, report)) return report;
-      if (!whole(counter)) {
+      if (!CountsWhole(counter)) {
         body_ran = true;
         break;
       }
       const int64_t next = counter.as_whole() + by;
-      if (counter.is_integer() && increment.is_integer() && next >= INT16_MIN && next <= INT16_MAX)
-        counter.AssignPlain(Variant::Integer(static_cast<int16_t>(next)));
+      if (counter.is_integer() && integer_step && next >= INT16_MIN && next <= INT16_MAX)
+        counter.SetInteger(static_cast<int16_t>(next));
       else if (next >= INT32_MIN && next <= INT32_MAX)
-        counter.AssignPlain(Variant::Long(static_cast<int32_t>(next)));
+        counter.SetLong(static_cast<int32_t>(next));
       else
         counter.AssignPlain(Variant::Double(static_cast<double>(next)));
     }
   }
   if (body_ran) VBS_TRY(step_counter());
+  const BinaryOperator keep_going = ascending ? BinaryOperator::LessEqual : BinaryOperator::GreaterEqual;
   for (;;) {
     VBS_TRY_ASSIGN(auto&& counter, m_counter->Eval(frame));
     VBS_TRY_ASSIGN(auto&& within, Compare(keep_going, counter, limit, CompareMode::Binary, locale));

@@ -26,7 +26,7 @@ class AssignNode final : public StmtNode {
         m_value(std::move(value)),
         m_is_set(is_set),
         m_direct_target(m_target.get()),
-        m_direct_value(m_value.get()) {}
+        m_direct_value(m_value.get(), Elements::ReadInPlace) {}
   Result<Flow> Exec(Frame& frame) override;
 
  private:
@@ -61,7 +61,7 @@ class UpdateNode final : public StmtNode {
         m_target(std::move(target)),
         m_value(std::move(value)),
         m_direct_target(m_target.get()),
-        m_direct_value(m_value.get()) {}
+        m_direct_value(m_value.get(), Elements::ReadInPlace) {}
   Result<Flow> Exec(Frame& frame) override;
 
  private:
@@ -179,10 +179,16 @@ class ForNode final : public StmtNode {
         m_step(std::move(step)),
         m_temp(temp),
         m_body(std::move(body)),
-        m_variable(dynamic_cast<VariableNode*>(m_counter.get())) {}
+        m_variable(dynamic_cast<VariableNode*>(m_counter.get())),
+        m_from_direct(m_from.get(), Elements::ReadInPlace),
+        m_to_direct(m_to.get(), Elements::ReadInPlace),
+        m_step_direct(m_step.get(), Elements::ReadInPlace) {}
   Result<Flow> Exec(Frame& frame) override;
 
  private:
+  // The loop once its header is done: the counter assigned, the limit and step in their slots.
+  Result<Flow> Count(Frame& frame, bool ascending);
+
   ExprNodePtr m_counter;
   ExprNodePtr m_from;
   ExprNodePtr m_to;
@@ -190,6 +196,11 @@ class ForNode final : public StmtNode {
   uint32_t m_temp;  // two slots: the limit, then the step
   BlockNode m_body;
   VariableNode* m_variable;  // the counter when it is a plain variable: whole-number loops count fast
+  // Bounds and step that are constants or variables: a short inner loop's header then costs no
+  // evaluation.
+  DirectOperand m_from_direct;
+  DirectOperand m_to_direct;
+  DirectOperand m_step_direct;
 };
 
 class ForEachNode final : public StmtNode {

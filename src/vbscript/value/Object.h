@@ -49,6 +49,9 @@ class Object : public RefCounted {
   // member must be invoked. The place is valid until the object next changes: read or write it at
   // once, and let an overwritten value die only after the write.
   virtual Result<Variant*> DefaultItemPlace(const Variant& /*key*/) { return static_cast<Variant*>(nullptr); }
+  // The same place when the value under `key` is there already, for a read that must change
+  // nothing; null otherwise, and the member is then invoked as usual.
+  virtual const Variant* PresentDefaultItem(const Variant& /*key*/) { return nullptr; }
   // For Each over the object; error 451 when the object is not a collection.
   virtual Result<Ref<Enumerator>> Enumerate();
   // Identifies how this object numbers its members: objects that return the same non-null key

@@ -102,6 +102,9 @@ class Variant {
     m_flags = 0;
     m_u = plain.m_u;
   }
+  // Integer(v) and Long(v) written in place of a value that owns nothing: a loop's counter.
+  void SetInteger(int16_t v) { SetPlainBits(Subtype::Integer, v); }
+  void SetLong(int32_t v) { SetPlainBits(Subtype::Long, v); }
   ~Variant() {
     if (IsHeap()) ReleaseHeap();
   }
@@ -217,6 +220,12 @@ class Variant {
   // an operator) then costs no partial-store stall.
   Variant(Subtype subtype, int64_t bits) noexcept : m_subtype(subtype) { m_u.i64 = bits; }
   bool IsHeap() const { return m_subtype >= Subtype::String; }
+  void SetPlainBits(Subtype subtype, int64_t bits) {
+    assert(!IsHeap());
+    m_subtype = subtype;
+    m_flags = 0;
+    m_u.i64 = bits;
+  }
   void AddRefHeap() const;
   void ReleaseHeap();
 
