@@ -269,16 +269,18 @@ Result<Variant*> Dictionary::DefaultItemPlace(const Variant& key) {
 
 const Variant* Dictionary::PresentDefaultItem(const Variant& key) {
   const Variant& plain = key.Deref();
-  if (!plain.is_whole()) {
-    auto found = Find(plain);
-    return found ? *found : nullptr;
-  }
+  if (!plain.is_whole()) return PresentItemOfAnyKey(plain);
   if (Entry* last = LastFound(plain)) return &last->item;
   size_t slot = 0;
   const uint32_t entry = Lookup(plain, HashNumber(plain.as_whole()), slot);
   if (entry == kMissing) return nullptr;
   m_last_found = entry;
   return &m_entries[entry].item;
+}
+
+const Variant* Dictionary::PresentItemOfAnyKey(const Variant& key) const {
+  auto found = Find(key);
+  return found ? *found : nullptr;
 }
 
 Result<Variant> Dictionary::GetItem(CallArgs& args) {

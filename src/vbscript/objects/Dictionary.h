@@ -73,6 +73,8 @@ class Dictionary final : public HostObject<Dictionary> {
   // The entry holding `key` (hash already computed), or kMissing; `slot` gets its index slot or
   // the empty slot where it would go.
   uint32_t Lookup(const Variant& key, uint64_t hash, size_t& slot) const;
+  // PresentDefaultItem for keys that are no whole number: hashed by the general rules.
+  [[gnu::noinline]] const Variant* PresentItemOfAnyKey(const Variant& key) const;
   // The entry found last, when it holds the whole number `key`: d(k) = d(k) + 1 looks one key up
   // twice running. Keys are unique, so no change to the dictionary can fool it.
   Entry* LastFound(const Variant& key) {

@@ -632,14 +632,15 @@ Result<Variant*> IndexNode::AddressForArgument(Frame& frame, ArgValues& args) {
 }
 
 Status IndexNode::Assign(Frame& frame, Variant value, bool is_set) {
-  if (const Variant* holder = m_direct_holder.Get(frame); holder && WritesInPlace(value, is_set)) {
+  if (const Variant* holder = m_all_direct ? m_direct_holder.Get(frame) : nullptr;
+      holder && WritesInPlace(value, is_set)) {
     if (holder->is_array()) {
       if (Variant* element = DirectElement(frame, true)) {
         *element = std::move(value);
         return Ok();
       }
-    } else if (holder->is_object()) {
-      VBS_TRY_ASSIGN(auto&& place, DirectItem(frame));
+    } else if (holder->is_object() && holder->as_object() && m_direct_args.size() == 1) {
+      VBS_TRY_ASSIGN(auto&& place, holder->as_object()->DefaultItemPlace(*m_direct_args[0].Get(frame)));
       if (place) {
         std::swap(*place, value);
         return Ok();

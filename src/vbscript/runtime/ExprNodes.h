@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "vbscript/builtins/Builtins.h"
+#include "vbscript/runtime/FastArithmetic.h"
 #include "vbscript/runtime/Interpreter.h"
 #include "vbscript/runtime/Nodes.h"
 #include "vbscript/runtime/Procedure.h"
@@ -289,6 +290,11 @@ class ArithmeticNode final : public ExprNode {
         m_left_direct(m_left.get(), Elements::ReadInPlace),
         m_right_direct(m_right.get(), Elements::ReadInPlace) {}
   Result<Variant> Eval(Frame& frame) override;
+  bool TryEvalInto(Frame& frame, Variant& out) override {
+    const Variant* a = m_left_direct.Get(frame);
+    const Variant* b = a ? m_right_direct.Get(frame) : nullptr;
+    return b && TryFastApply<Op>(*a, *b, out);
+  }
   const DirectOperand& left_direct() const { return m_left_direct; }
   const DirectOperand& right_direct() const { return m_right_direct; }
 

@@ -55,6 +55,11 @@ class ExprNode {
   // A parenthesised expression is passed by value even to a ByRef parameter.
   virtual bool ForcesByVal() const { return false; }
 
+  // Writes the value straight into `out` when it is a number computed inline from plain operands,
+  // with nothing evaluated: `k = i Mod 90` then builds no Result. False, with `out` untouched and
+  // nothing run, when Eval must decide.
+  virtual bool TryEvalInto(Frame& /*frame*/, Variant& /*out*/) { return false; }
+
  private:
   SourcePos m_pos;
 };

@@ -64,6 +64,8 @@ Result<Flow> AssignNode::Exec(Frame& frame) {
       return Flow::Normal;
     }
   }
+  if (Variant* target = m_direct_target.Storage(frame); target && !m_is_set && m_value->TryEvalInto(frame, *target))
+    return Flow::Normal;
   VBS_TRY_ASSIGN(auto&& value, m_value->Eval(frame));
   if (!m_is_set && !value.is_object() && !value.IsRef()) {
     if (Variant* target = m_direct_target.Storage(frame)) {
@@ -88,6 +90,11 @@ Result<Flow> UpdateNode<Op>::Exec(Frame& frame) {
     if (TryFastApply<Op>(target, *value, target)) [[likely]]
       return Flow::Normal;
     return Store(target, target, *value, frame);
+  }
+  if (Variant computed; m_value->TryEvalInto(frame, computed)) {
+    if (TryFastApply<Op>(target, computed, target)) [[likely]]
+      return Flow::Normal;
+    return Store(target, target, computed, frame);
   }
   const Variant current = target;  // taken first: evaluating the right side may change the variable
   VBS_TRY_ASSIGN(auto&& value, m_value->Eval(frame));
