@@ -65,8 +65,11 @@ Result<StmtNodePtr> Compiler::CompileAssign(ast::AssignStmt& statement, Scope& s
   if (dynamic_cast<ConstantNode*>(target.get()))
     return StmtNodePtr(std::make_unique<FailNode>(statement.pos, err::kIllegalAssignment));
   VBS_TRY_ASSIGN(auto value, CompileExpr(*statement.value, scope));
+  GlobalEntry* creates = nullptr;
+  if (!scope.procedure && !m_outer && statement.target->kind == ast::ExprKind::Name)
+    creates = m_interp.ReservedGlobal(Interpreter::Fold(static_cast<ast::NameExpr&>(*statement.target).name));
   return StmtNodePtr(
-      std::make_unique<AssignNode>(statement.pos, std::move(target), std::move(value), statement.is_set));
+      std::make_unique<AssignNode>(statement.pos, std::move(target), std::move(value), statement.is_set, creates));
 }
 
 Result<StmtNodePtr> Compiler::CompileFor(ast::ForStmt& statement, Scope& scope) {

@@ -92,6 +92,11 @@ Variant* Interpreter::ReserveGlobal(const std::string& folded) {
   return entry.storage;
 }
 
+GlobalEntry* Interpreter::ReservedGlobal(const std::string& folded) {
+  auto it = m_globals.find(folded);
+  return it != m_globals.end() && it->second.reserved ? &it->second : nullptr;
+}
+
 void Interpreter::DeclareProcedure(const std::string& folded, std::unique_ptr<Procedure> procedure) {
   GlobalEntry entry;
   entry.kind = GlobalEntry::Kind::Procedure;

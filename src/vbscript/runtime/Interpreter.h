@@ -125,6 +125,8 @@ class Interpreter {
   Variant* DeclareGlobal(const std::string& folded, GlobalEntry::Kind kind = GlobalEntry::Kind::Variable);
   // The storage of a variable that global code names undeclared (GlobalEntry::reserved).
   Variant* ReserveGlobal(const std::string& folded);
+  // That global while it is still reserved; null otherwise.
+  GlobalEntry* ReservedGlobal(const std::string& folded);
   void DeclareProcedure(const std::string& folded, std::unique_ptr<Procedure> procedure);
   void DeclareClass(const std::string& folded, std::unique_ptr<ClassInfo> info);
   void AddNamedObject(std::string name, Ref<Object> object, bool add_members);

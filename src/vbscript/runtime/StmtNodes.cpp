@@ -57,6 +57,14 @@ Result<Flow> ExprStmtNode::Exec(Frame& frame) {
 }
 
 Result<Flow> AssignNode::Exec(Frame& frame) {
+  if (!m_creates) [[likely]]
+    return Store(frame);
+  auto stored = Store(frame);
+  if (stored) m_creates->reserved = false;
+  return stored;
+}
+
+Result<Flow> AssignNode::Store(Frame& frame) {
   if (const Variant* source = m_direct_value.Get(frame);
       source && !m_is_set && !source->is_object() && !source->IsRef()) {
     if (Variant* target = m_direct_target.Storage(frame)) {

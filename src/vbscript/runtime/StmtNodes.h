@@ -20,19 +20,25 @@ class ExprStmtNode final : public StmtNode {
 
 class AssignNode final : public StmtNode {
  public:
-  AssignNode(SourcePos pos, ExprNodePtr target, ExprNodePtr value, bool is_set)
+  // `creates`: the global that global code names here undeclared, which the assignment brings into
+  // being for the procedures even when the value is Empty.
+  AssignNode(SourcePos pos, ExprNodePtr target, ExprNodePtr value, bool is_set, GlobalEntry* creates = nullptr)
       : StmtNode(pos),
         m_target(std::move(target)),
         m_value(std::move(value)),
         m_is_set(is_set),
+        m_creates(creates),
         m_direct_target(m_target.get()),
         m_direct_value(m_value.get(), Elements::ReadInPlace) {}
   Result<Flow> Exec(Frame& frame) override;
 
  private:
+  Result<Flow> Store(Frame& frame);
+
   ExprNodePtr m_target;
   ExprNodePtr m_value;
   bool m_is_set;
+  GlobalEntry* m_creates;
   // A plain local or global target takes a plain value with no call; from a plain variable or
   // constant (`Fib = n`), with no evaluation either.
   DirectOperand m_direct_target;

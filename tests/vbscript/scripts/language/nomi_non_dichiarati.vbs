@@ -109,4 +109,53 @@ anticipata = "globale"
 Prima
 serie = Array(4, 5)
 WScript.Echo anticipata & " " & serie(1)                        ' expect: locale 5
+' Assigned at script level, even with Empty, the name is the global from then on.
+vuoto = Empty
+Sub Riempie()
+  vuoto = "pieno"
+End Sub
+Riempie
+WScript.Echo "[" & vuoto & "]"                                  ' expect: [pieno]
+
+' Select, With, Erase, Property Let and Class_Initialize reach the globals the same way.
+scelta = 2
+Function Scegli()
+  Select Case scelta
+    Case 1: Scegli = "uno"
+    Case 2: Scegli = "due"
+  End Select
+End Function
+WScript.Echo Scegli()                                           ' expect: due
+
+Set raccolta = CreateObject("Scripting.Dictionary")
+Sub Aggiunge()
+  With raccolta
+    .Add "a", 1
+  End With
+End Sub
+Aggiunge
+WScript.Echo raccolta.Count                                     ' expect: 1
+
+Class Conto
+  Private m_saldo
+  Private Sub Class_Initialize()
+    m_saldo = iniziale
+    creati = creati + 1
+  End Sub
+  Public Property Let Saldo(v)
+    m_saldo = v + bonus
+  End Property
+  Public Property Get Saldo()
+    Saldo = m_saldo
+  End Property
+End Class
+iniziale = 50
+bonus = 5
+creati = 0
+Set mio_conto = New Conto
+WScript.Echo mio_conto.Saldo & " " & creati                         ' expect: 50 1
+mio_conto.Saldo = 10
+WScript.Echo mio_conto.Saldo                                        ' expect: 15
+
 WScript.Echo nessuno(1)                                         ' expect runtime error 13
+
