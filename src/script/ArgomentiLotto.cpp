@@ -41,14 +41,17 @@ vbs::Result<std::vector<T>> Elementi(const vbs::CallArgs& args, size_t i, Conver
 // A whole number's text is "11" or "12" exactly when its value is: the common case needs no text.
 std::optional<int> RuotaIntera(const vbs::Variant& valore) {
   if (!valore.is_whole()) return std::nullopt;
-  const int32_t ruota = valore.as_whole();
+  return RuotaTabellaIntera(valore.as_whole());
+}
+
+}  // namespace
+
+std::optional<int> RuotaTabellaIntera(int32_t ruota) {
   if (ruota == 11) return kTutteLeRuote;
   if (ruota == 12) return NZ;
   if (ruota < INT16_MIN || ruota > INT16_MAX) return std::nullopt;
   return ruota;
 }
-
-}  // namespace
 
 vbs::Result<int> RuotaTabella(const vbs::Variant& valore, const vbs::Locale& locale) {
   if (auto ruota = RuotaIntera(valore)) return *ruota;

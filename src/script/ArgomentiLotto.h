@@ -12,6 +12,8 @@
 #include <vector>
 
 #include "archive/Estrazione.h"
+#include <optional>
+
 #include "vbscript/value/CallArgs.h"
 
 namespace lottolab::script {
@@ -20,6 +22,8 @@ namespace lottolab::script {
 // it: only "11" and "12" are swapped, anything else is converted to a 16-bit integer and kept, so a
 // wheel outside 1..12 stays outside for the caller to refuse or ignore.
 vbs::Result<int> RuotaTabella(const vbs::Variant& valore, const vbs::Locale& locale);
+// The same for a whole number; nothing when it is no 16-bit integer and would fail to convert.
+std::optional<int> RuotaTabellaIntera(int32_t ruota);
 // Inline for the whole numbers 1..10 that nearly every call passes; every other value converted.
 vbs::Result<int> RuotaTabellaConvertita(const vbs::CallArgs& args, size_t i);
 inline vbs::Result<int> RuotaTabella(const vbs::CallArgs& args, size_t i) {

@@ -87,6 +87,14 @@ vbs::Result<vbs::Variant> ClsFunctionsGeodoScript::Avvisa(std::string_view funzi
   return vbs::Variant();
 }
 
+vbs::Object::WholeNumberCall ClsFunctionsGeodoScript::WholeNumberForm(vbs::DispId member) {
+  if (member < 1 || static_cast<size_t>(member) > m_funzioni.size()) return nullptr;
+  const std::string_view nome = m_funzioni[member - 1].nome;
+  for (const FormaIntera& forma : FormeIntereArchivio())
+    if (forma.nome == nome) return forma.forma;
+  return nullptr;
+}
+
 vbs::Status ClsFunctionsGeodoScript::ControllaInterruzione() const {
   if (m_motore && m_motore->InterruptDue()) [[unlikely]]
     return m_motore->InterruptError();

@@ -65,6 +65,13 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
     std::string_view descrizione;
   };
 
+  // The whole-number form of a function that scripts call in their innermost loops (see
+  // vbs::Object::WholeNumberForm).
+  struct FormaIntera {
+    std::string_view nome;
+    WholeNumberCall forma;
+  };
+
   ClsFunctionsGeodoScript(InterfacciaScript& ospite, const vbs::Locale& locale, ImpostazioniLibreria impostazioni);
   ~ClsFunctionsGeodoScript() override;
 
@@ -75,6 +82,7 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
   vbs::DispId FindMember(std::string_view name) override;
   const void* MemberLayout() const override { return Funzioni().data(); }
   vbs::Result<vbs::Variant> Invoke(vbs::DispId member, vbs::InvokeKind kind, std::span<vbs::Variant> args) override;
+  WholeNumberCall WholeNumberForm(vbs::DispId member) override;
 
   // ---- What the host sets before the run ----
   void SetNomeFileHtmlOut(std::string nome) { m_nome_file_html = std::move(nome); }
@@ -160,6 +168,7 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniCostanti();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEsecuzione();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniOutput();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniArchivio();
+std::span<const ClsFunctionsGeodoScript::FormaIntera> FormeIntereArchivio();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniAritmetica();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniRitardi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniStatistiche();

@@ -39,6 +39,18 @@ Result<Variant> Estratto(Libreria& lib, CallArgs& args) {
   return Variant::Integer(static_cast<int16_t>(*numero));
 }
 
+// Estratto with whole numbers, as loops over draws, wheels and positions call it.
+bool EstrattoIntero(vbs::Object& libreria, std::span<const int32_t> args, Variant& out) {
+  const TabellaEstrazioni* archivio = static_cast<Libreria&>(libreria).impostazioni().archivio;
+  if (args.size() != 3 || !archivio) return false;
+  const auto ruota = RuotaTabellaIntera(args[1]);
+  if (!ruota) return false;
+  const auto numero = archivio->Estratto(args[0], *ruota, args[2]);
+  if (!numero) return false;
+  out = Variant::Integer(static_cast<int16_t>(*numero));
+  return true;
+}
+
 Result<Variant> DataEstrazione(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto estrazione, EstrazioneArgomento(lib, args, 0));
   VBS_TRY_ASSIGN(auto anno_breve, args.Boolean(1, false));
@@ -209,8 +221,11 @@ const Libreria::Funzione kArchivio[] = {
      "Sorte: True se è una sorte del Lotto: da AMBATA_ (1) a CINQUINA_ (5) o da EDET1_ (6) a EDET5_ (10)"},
 };
 
+const Libreria::FormaIntera kFormeIntere[] = {{"Estratto", &EstrattoIntero}};
+
 }  // namespace
 
 std::span<const Libreria::Funzione> FunzioniArchivio() { return kArchivio; }
+std::span<const Libreria::FormaIntera> FormeIntereArchivio() { return kFormeIntere; }
 
 }  // namespace lottolab::script

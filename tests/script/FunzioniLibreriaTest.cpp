@@ -53,6 +53,24 @@ TEST_F(LibreriaArchivio, LeRuoteArrivanoNellaNumerazioneDegliScript) {
   EXPECT_TRUE(m_ospite.avvisi.empty());
 }
 
+// Plain variables of every subtype take the short path when they are whole numbers and the
+// general one otherwise: both must read the same number and fail the same way.
+TEST_F(LibreriaArchivio, EstrattoLeggeLeVariabiliComeLeCostanti) {
+  Esegui(
+      "Dim id, r, p, intero, lungo, doppio, testo\nid = 1 : p = 5\nintero = CInt(12) : lungo = CLng(12)\n"
+      "doppio = 12.0 : testo = \"12\"");
+  for (std::string_view ruota : {"intero", "lungo", "doppio", "testo"})
+    EXPECT_EQ(Testo("Estratto(id, " + std::string(ruota) + ", p)"), "82") << ruota;
+  Esegui("r = 11");
+  EXPECT_EQ(Testo("Estratto(id, r, p)"), "0");
+  Esegui("r = 40000");
+  EXPECT_TRUE(Vuoto("Estratto(id, r, p)")) << "a wheel beyond an Integer fails to convert";
+  EXPECT_TRUE(UnicoAvviso().testo.starts_with("6- ")) << "overflow";
+  Esegui("r = 1 : p = 6");
+  EXPECT_TRUE(Vuoto("Estratto(id, r, p)"));
+  EXPECT_TRUE(UnicoAvviso().testo.starts_with("9- "));
+}
+
 TEST_F(LibreriaArchivio, UnIndiceFuoriDallArchivioEErrore9ELoScriptProsegue) {
   for (std::string_view chiamata :
        {"Estratto(0, 1, 1)", "Estratto(8, 1, 1)", "Estratto(1, 1, 0)", "Estratto(1, 1, 6)", "Estratto(1, 13, 6)"}) {

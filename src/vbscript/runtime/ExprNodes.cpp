@@ -740,7 +740,28 @@ HostMemberNode::HostMemberNode(SourcePos pos, uint32_t object, DispId member, Ex
   for (const ExprNodePtr& arg : m_args) m_direct.emplace_back(arg.get());
 }
 
+bool HostMemberNode::TryWholeNumberForm(Frame& frame, Object& object, Variant& out) {
+  constexpr size_t kMost = 4;
+  if (m_form_state == FormState::NotAsked) {
+    m_form = m_direct.size() <= kMost ? object.WholeNumberForm(m_member) : nullptr;
+    m_form_state = m_form ? FormState::Present : FormState::None;
+  }
+  if (m_form_state == FormState::None) return false;
+  int32_t numbers[kMost];
+  const size_t count = m_direct.size();
+  for (size_t i = 0; i < count; ++i) {
+    const Variant* v = m_direct[i].Get(frame);
+    if (!v || !(v->is_integer() || v->is_long())) return false;
+    numbers[i] = v->as_whole();
+  }
+  return m_form(object, std::span<const int32_t>(numbers, count), out);
+}
+
 Result<Variant> HostMemberNode::Call(Frame& frame, InvokeKind kind, Variant* value) {
+  Object& object = *frame.interp.named_objects()[m_object].object;
+  if (kind == InvokeKind::Get) {
+    if (Variant out; TryWholeNumberForm(frame, object, out)) return out;
+  }
   ArgValues values;
   for (size_t i = 0; i < m_args.size(); ++i) {
     if (Variant* storage = m_direct[i].Storage(frame))
@@ -751,7 +772,7 @@ Result<Variant> HostMemberNode::Call(Frame& frame, InvokeKind kind, Variant* val
       VBS_TRY(EvalArgs(frame, std::span<const ExprNodePtr>(&m_args[i], 1), values, true));
   }
   if (value) values.Add(std::move(*value));
-  return frame.interp.named_objects()[m_object].object->Invoke(m_member, kind, values.span());
+  return object.Invoke(m_member, kind, values.span());
 }
 
 Result<Variant> HostMemberNode::Eval(Frame& frame) { return Call(frame, InvokeKind::Get, nullptr); }

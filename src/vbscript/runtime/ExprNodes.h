@@ -481,17 +481,26 @@ class HostMemberNode final : public ExprNode {
  public:
   HostMemberNode(SourcePos pos, uint32_t object, DispId member, ExprNodes args);
   Result<Variant> Eval(Frame& frame) override;
+  bool TryEvalInto(Frame& frame, Variant& out) override {
+    return TryWholeNumberForm(frame, *frame.interp.named_objects()[m_object].object, out);
+  }
   Status Assign(Frame& frame, Variant value, bool is_set) override;
   Status Invoke(Frame& frame) override;
 
  private:
   Result<Variant> Call(Frame& frame, InvokeKind kind, Variant* value);
 
+  // The member's whole-number form, asked for at the first call; true when the call was made by it.
+  bool TryWholeNumberForm(Frame& frame, Object& object, Variant& out);
+
   uint32_t m_object;
   DispId m_member;
   ExprNodes m_args;
   // Plain variables and constants among the arguments are passed with no call.
   std::vector<DirectOperand> m_direct;
+  enum class FormState : uint8_t { NotAsked, None, Present };
+  FormState m_form_state = FormState::NotAsked;
+  Object::WholeNumberCall m_form = nullptr;
 };
 
 // callee(args) where the callee is itself a call: f(1)(2), obj.items(0)(1).

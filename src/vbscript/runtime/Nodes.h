@@ -55,9 +55,9 @@ class ExprNode {
   // A parenthesised expression is passed by value even to a ByRef parameter.
   virtual bool ForcesByVal() const { return false; }
 
-  // Writes the value straight into `out` when it is a number computed inline from plain operands,
-  // with nothing evaluated: `k = i Mod 90` then builds no Result. False, with `out` untouched and
-  // nothing run, when Eval must decide.
+  // Writes the value straight into `out` when it is computed from plain operands by a path that
+  // cannot fail (inline arithmetic, a host member's whole-number form): `k = i Mod 90` then builds
+  // no Result. False, with `out` untouched and nothing changed, when Eval must decide.
   virtual bool TryEvalInto(Frame& /*frame*/, Variant& /*out*/) { return false; }
 
  private:

@@ -52,6 +52,12 @@ class Object : public RefCounted {
   // The same place when the value under `key` is there already, for a read that must change
   // nothing; null otherwise, and the member is then invoked as usual.
   virtual const Variant* PresentDefaultItem(const Variant& /*key*/) { return nullptr; }
+  // A member's form for calls whose arguments are all whole numbers (Integer or Long values, read
+  // where they lie, with no argument list built): it writes the value into `out` and returns
+  // true, or returns false having changed nothing, and the call then goes through Invoke, which
+  // also reports any failure. Null when the member has no such form.
+  using WholeNumberCall = bool (*)(Object& self, std::span<const int32_t> args, Variant& out);
+  virtual WholeNumberCall WholeNumberForm(DispId /*member*/) { return nullptr; }
   // For Each over the object; error 451 when the object is not a collection.
   virtual Result<Ref<Enumerator>> Enumerate();
   // Identifies how this object numbers its members: objects that return the same non-null key
