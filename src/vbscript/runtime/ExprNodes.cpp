@@ -328,9 +328,22 @@ Result<Variant> BinaryNode::Eval(Frame& frame) {
 
 template <BinaryOperator Op>
 Result<Variant> ArithmeticNode<Op>::Eval(Frame& frame) {
-  const Variant* a = m_left_direct.Get(frame);
-  const Variant* b = m_right_direct.Get(frame);
+  if (m_reads_elements) return EvalWithElements(frame);
+  const Variant* a = m_left_direct.GetPlain(frame);
+  const Variant* b = m_right_direct.GetPlain(frame);
   if (a && b) {
+    Variant out;
+    if (TryFastApply<Op>(*a, *b, out)) [[likely]]
+      return out;
+  }
+  return EvalOperands(frame);
+}
+
+template <BinaryOperator Op>
+Result<Variant> ArithmeticNode<Op>::EvalWithElements(Frame& frame) {
+  const Variant* a = m_left_direct.Get(frame);
+  const Variant* b = a ? m_right_direct.Get(frame) : nullptr;
+  if (b) {
     Variant out;
     if (TryFastApply<Op>(*a, *b, out)) [[likely]]
       return out;

@@ -232,6 +232,7 @@ class DirectOperand {
   explicit DirectOperand(ExprNode* node, Elements elements = Elements::Evaluate);
   bool IsDirect() const { return m_kind != Kind::None; }
   bool IsVariable() const { return m_kind == Kind::Local || m_kind == Kind::Global; }
+  bool IsElement() const { return m_kind == Kind::Element; }
   // The storage of a variable operand (null for constants and everything else).
   Variant* Storage(Frame& frame) const {
     switch (m_kind) {
@@ -243,11 +244,17 @@ class DirectOperand {
   // The operand's value, or null when it must be evaluated. Reading it changes nothing, so that
   // the caller may read its operands in any order and still evaluate one that gave null.
   const Variant* Get(Frame& frame) const {
+    if (m_kind == Kind::Element) return ElementOf(frame);
+    return GetPlain(frame);
+  }
+  // The same for a variable or a constant only, null for an element: no call, so that the inline
+  // paths of the operators stay leaf functions.
+  const Variant* GetPlain(Frame& frame) const {
     switch (m_kind) {
       case Kind::Constant:
       case Kind::Global: return m_pointer;
       case Kind::Local: return &frame.slots[m_slot].Deref();
-      case Kind::Element: return ElementOf(frame);
+      case Kind::Element:
       case Kind::None: break;
     }
     return nullptr;
@@ -288,24 +295,30 @@ class ArithmeticNode final : public ExprNode {
         m_left(std::move(left)),
         m_right(std::move(right)),
         m_left_direct(m_left.get(), Elements::ReadInPlace),
-        m_right_direct(m_right.get(), Elements::ReadInPlace) {}
+        m_right_direct(m_right.get(), Elements::ReadInPlace),
+        m_reads_elements(m_left_direct.IsElement() || m_right_direct.IsElement()) {}
   Result<Variant> Eval(Frame& frame) override;
   bool TryEvalInto(Frame& frame, Variant& out) override {
-    const Variant* a = m_left_direct.Get(frame);
-    const Variant* b = a ? m_right_direct.Get(frame) : nullptr;
+    const Variant* a = m_left_direct.GetPlain(frame);
+    const Variant* b = a ? m_right_direct.GetPlain(frame) : nullptr;
     return b && TryFastApply<Op>(*a, *b, out);
   }
+  bool MayEvalInto() const override { return m_left_direct.IsDirect() && m_right_direct.IsDirect(); }
   const DirectOperand& left_direct() const { return m_left_direct; }
   const DirectOperand& right_direct() const { return m_right_direct; }
 
  private:
   // Operands that must be evaluated, or values the inline arithmetic leaves to the general rules.
   [[gnu::noinline]] Result<Variant> EvalOperands(Frame& frame);
+  // An operand that is an element or an item read in place: apart, so that Eval calls nothing
+  // on its inline path.
+  [[gnu::noinline]] Result<Variant> EvalWithElements(Frame& frame);
 
   ExprNodePtr m_left;
   ExprNodePtr m_right;
   DirectOperand m_left_direct;
   DirectOperand m_right_direct;
+  bool m_reads_elements;
 };
 
 ExprNodePtr MakeBinaryNode(SourcePos pos, BinaryOperator op, ExprNodePtr left, ExprNodePtr right);
@@ -483,6 +496,9 @@ class HostMemberNode final : public ExprNode {
   Result<Variant> Eval(Frame& frame) override;
   bool TryEvalInto(Frame& frame, Variant& out) override {
     return TryWholeNumberForm(frame, *frame.interp.named_objects()[m_object].object, out);
+  }
+  bool MayEvalInto() const override {
+    return std::all_of(m_direct.begin(), m_direct.end(), [](const DirectOperand& arg) { return arg.IsDirect(); });
   }
   Status Assign(Frame& frame, Variant value, bool is_set) override;
   Status Invoke(Frame& frame) override;

@@ -59,6 +59,8 @@ class ExprNode {
   // cannot fail (inline arithmetic, a host member's whole-number form): `k = i Mod 90` then builds
   // no Result. False, with `out` untouched and nothing changed, when Eval must decide.
   virtual bool TryEvalInto(Frame& /*frame*/, Variant& /*out*/) { return false; }
+  // False when TryEvalInto can never succeed, so that a statement need not ask it at each run.
+  virtual bool MayEvalInto() const { return false; }
 
  private:
   SourcePos m_pos;

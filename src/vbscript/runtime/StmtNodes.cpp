@@ -64,7 +64,7 @@ Result<Flow> AssignNode::Exec(Frame& frame) {
   return stored;
 }
 
-Result<Flow> AssignNode::Store(Frame& frame) {
+inline Result<Flow> AssignNode::Store(Frame& frame) {
   if (const Variant* source = m_direct_value.Get(frame);
       source && !m_is_set && !source->is_object() && !source->IsRef()) {
     if (Variant* target = m_direct_target.Storage(frame)) {
@@ -72,8 +72,10 @@ Result<Flow> AssignNode::Store(Frame& frame) {
       return Flow::Normal;
     }
   }
-  if (Variant* target = m_direct_target.Storage(frame); target && !m_is_set && m_value->TryEvalInto(frame, *target))
-    return Flow::Normal;
+  if (m_value_may_eval_into) {
+    if (Variant* target = m_direct_target.Storage(frame); target && !m_is_set && m_value->TryEvalInto(frame, *target))
+      return Flow::Normal;
+  }
   VBS_TRY_ASSIGN(auto&& value, m_value->Eval(frame));
   if (!m_is_set && !value.is_object() && !value.IsRef()) {
     if (Variant* target = m_direct_target.Storage(frame)) {
@@ -99,7 +101,7 @@ Result<Flow> UpdateNode<Op>::Exec(Frame& frame) {
       return Flow::Normal;
     return Store(target, target, *value, frame);
   }
-  if (Variant computed; m_value->TryEvalInto(frame, computed)) {
+  if (Variant computed; m_value_may_eval_into && m_value->TryEvalInto(frame, computed)) {
     if (TryFastApply<Op>(target, computed, target)) [[likely]]
       return Flow::Normal;
     return Store(target, target, computed, frame);

@@ -28,17 +28,19 @@ class AssignNode final : public StmtNode {
         m_value(std::move(value)),
         m_is_set(is_set),
         m_creates(creates),
+        m_value_may_eval_into(m_value->MayEvalInto()),
         m_direct_target(m_target.get()),
         m_direct_value(m_value.get(), Elements::ReadInPlace) {}
   Result<Flow> Exec(Frame& frame) override;
 
  private:
-  Result<Flow> Store(Frame& frame);
+  [[gnu::always_inline]] inline Result<Flow> Store(Frame& frame);
 
   ExprNodePtr m_target;
   ExprNodePtr m_value;
   bool m_is_set;
   GlobalEntry* m_creates;
+  bool m_value_may_eval_into;
   // A plain local or global target takes a plain value with no call; from a plain variable or
   // constant (`Fib = n`), with no evaluation either.
   DirectOperand m_direct_target;
@@ -67,7 +69,8 @@ class UpdateNode final : public StmtNode {
         m_target(std::move(target)),
         m_value(std::move(value)),
         m_direct_target(m_target.get()),
-        m_direct_value(m_value.get(), Elements::ReadInPlace) {}
+        m_direct_value(m_value.get(), Elements::ReadInPlace),
+        m_value_may_eval_into(m_value->MayEvalInto()) {}
   Result<Flow> Exec(Frame& frame) override;
 
  private:
@@ -79,6 +82,7 @@ class UpdateNode final : public StmtNode {
   ExprNodePtr m_value;
   DirectOperand m_direct_target;
   DirectOperand m_direct_value;
+  bool m_value_may_eval_into;
 };
 
 // `target = target op value` for a target that is a plain local or global and op one of +, -, *.
@@ -122,8 +126,8 @@ class InlineComparison {
   explicit InlineComparison(const ExprNode* condition);
   enum class Outcome : uint8_t { False, True, Undecided };
   Outcome Decide(Frame& frame) const {
-    const Variant* a = m_left.Get(frame);
-    const Variant* b = m_right.Get(frame);
+    const Variant* a = m_left.GetPlain(frame);
+    const Variant* b = m_right.GetPlain(frame);
     if (!a || !b || !a->is_whole() || !b->is_whole()) return Outcome::Undecided;
     return Holds(a->as_whole(), b->as_whole()) ? Outcome::True : Outcome::False;
   }
