@@ -14,6 +14,7 @@
 
 #include "DateEstrazione.h"
 #include "FileSicuri.h"
+#include "RigheDiTesto.h"
 #include "ScritturaArchivio.h"
 #include "text/AsciiCase.h"
 
@@ -42,41 +43,6 @@ struct Giornata {
 };
 
 Avviso ErroreRiga(int riga, std::string motivo) { return AvvisoEsclamativo(fmt::format("Riga {}: {}", riga, motivo)); }
-
-bool Spazio(char c) { return c == ' ' || c == '\t' || c == '\r'; }
-
-// The next field of a line, fields being separated by any run of tabs or blanks; empty at the end.
-std::string_view ProssimoCampo(std::string_view& resto) {
-  size_t inizio = 0;
-  while (inizio < resto.size() && Spazio(resto[inizio])) ++inizio;
-  size_t fine = inizio;
-  while (fine < resto.size() && !Spazio(resto[fine])) ++fine;
-  std::string_view campo = resto.substr(inizio, fine - inizio);
-  resto.remove_prefix(fine);
-  return campo;
-}
-
-bool LeggiIntero(std::string_view testo, int& valore) {
-  const char* fine = testo.data() + testo.size();
-  auto [ptr, ec] = std::from_chars(testo.data(), fine, valore);
-  return !testo.empty() && ec == std::errc() && ptr == fine && testo.front() != '-';
-}
-
-// "AAAA/MM/GG" as the operator writes it; no other order is accepted, so that a file in the user's
-// own day/month/year form is refused instead of being read with day and year swapped.
-bool LeggiDataRisultati(std::string_view testo, GruppoData& data) {
-  size_t barra1 = testo.find('/');
-  size_t barra2 = barra1 == std::string_view::npos ? barra1 : testo.find('/', barra1 + 1);
-  if (barra2 == std::string_view::npos || barra1 != 4) return false;
-  int anno = 0, mese = 0, giorno = 0;
-  if (!LeggiIntero(testo.substr(0, barra1), anno) ||
-      !LeggiIntero(testo.substr(barra1 + 1, barra2 - barra1 - 1), mese) ||
-      !LeggiIntero(testo.substr(barra2 + 1), giorno))
-    return false;
-  if (anno > 9999 || mese > 12 || giorno > 31) return false;
-  data = GruppoData{0, static_cast<int16_t>(giorno), static_cast<int16_t>(mese), static_cast<int16_t>(anno)};
-  return DataValida(data);
-}
 
 // Reads every line and gathers the lines of each date, checking each line on its own and the order
 // of the dates.

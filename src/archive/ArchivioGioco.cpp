@@ -1,0 +1,126 @@
+#include "ArchivioGioco.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+#include "DateEstrazione.h"
+#include "FileSicuri.h"
+
+namespace lottolab {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr size_t kByteIntestazione = 4 + 4 * 2 + 2;
+// Ten times the largest archive there is (every five minutes for years) is still far below this.
+constexpr size_t kLimiteArchivio = size_t{256} << 20;
+
+void Scrivi16(unsigned char*& p, int16_t valore) {
+  const auto bit = static_cast<uint16_t>(valore);
+  *p++ = static_cast<unsigned char>(bit & 0xFF);
+  *p++ = static_cast<unsigned char>(bit >> 8);
+}
+
+int16_t Leggi16(const unsigned char*& p) {
+  const auto bit = static_cast<uint16_t>(p[0] | (p[1] << 8));
+  p += 2;
+  return static_cast<int16_t>(bit);
+}
+
+}  // namespace
+
+size_t ByteRecordGioco(const FormatoGioco& formato) {
+  return kByteIntestazione + (formato.con_ora ? 2 : 0) + static_cast<size_t>(formato.numeri + formato.speciali);
+}
+
+void CodificaRecordGioco(const FormatoGioco& formato, const EstrazioneGioco& estrazione, unsigned char* p) {
+  const auto id = static_cast<uint32_t>(estrazione.id_estr);
+  for (int i = 0; i < 4; ++i) *p++ = static_cast<unsigned char>((id >> (8 * i)) & 0xFF);
+  Scrivi16(p, estrazione.data.indice_annuale);
+  Scrivi16(p, estrazione.data.giorno);
+  Scrivi16(p, estrazione.data.mese);
+  Scrivi16(p, estrazione.data.anno);
+  Scrivi16(p, estrazione.concorso);
+  if (formato.con_ora) Scrivi16(p, estrazione.minuti);
+  p = std::copy_n(estrazione.numeri.begin(), formato.numeri, p);
+  std::copy_n(estrazione.speciali.begin(), formato.speciali, p);
+}
+
+EstrazioneGioco DecodificaRecordGioco(const FormatoGioco& formato, const unsigned char* p) {
+  EstrazioneGioco estrazione;
+  uint32_t id = 0;
+  for (int i = 0; i < 4; ++i) id |= static_cast<uint32_t>(*p++) << (8 * i);
+  estrazione.id_estr = static_cast<int32_t>(id);
+  estrazione.data.indice_annuale = Leggi16(p);
+  estrazione.data.giorno = Leggi16(p);
+  estrazione.data.mese = Leggi16(p);
+  estrazione.data.anno = Leggi16(p);
+  estrazione.concorso = Leggi16(p);
+  if (formato.con_ora) estrazione.minuti = Leggi16(p);
+  std::copy_n(p, formato.numeri, estrazione.numeri.begin());
+  std::copy_n(p + formato.numeri, formato.speciali, estrazione.speciali.begin());
+  return estrazione;
+}
+
+std::optional<std::string> DifettoEstrazioneGioco(const FormatoGioco& formato, const EstrazioneGioco& estrazione,
+                                                  int k, const EstrazioneGioco* precedente) {
+  if (estrazione.id_estr != k) return fmt::format("ha IdEstr {} invece di {}", estrazione.id_estr, k);
+  if (!DataValida(estrazione.data)) return std::string("ha una data che non esiste");
+  if (formato.con_ora && (estrazione.minuti < 0 || estrazione.minuti >= 24 * 60))
+    return fmt::format("ha un'ora fuori dal giorno ({} minuti)", estrazione.minuti);
+  if (precedente) {
+    const int ordine = ConfrontaDate(precedente->data, estrazione.data);
+    if (ordine > 0 || (ordine == 0 && (!formato.con_ora || precedente->minuti >= estrazione.minuti)))
+      return fmt::format("viene prima dell'estrazione che la precede ({})", FormattaData(precedente->data));
+  }
+  std::array<bool, 256> visto{};
+  for (int i = 0; i < formato.numeri; ++i) {
+    const int numero = estrazione.numeri[i];
+    if (numero < 1 || numero > formato.massimo)
+      return fmt::format("ha il numero {} fuori da 1..{} (posizione {})", numero, formato.massimo, i + 1);
+    if (visto[numero]) return fmt::format("ha il numero {} due volte", numero);
+    visto[numero] = true;
+  }
+  for (int i = 0; i < formato.speciali; ++i) {
+    if (estrazione.speciali[i] > formato.massimo_speciale)
+      return fmt::format("ha il numero speciale {} fuori da 0..{}", estrazione.speciali[i], formato.massimo_speciale);
+  }
+  return std::nullopt;
+}
+
+Esito<TabellaGioco> CaricaArchivioGioco(const FormatoGioco& formato, const fs::path& file) {
+  auto letto = LeggiFileRegolare(file, kLimiteArchivio);
+  if (!letto) return letto.Errore();
+  if (!letto->has_value()) return TabellaGioco(formato);
+  const std::string& byte = **letto;
+  const size_t dimensione = ByteRecordGioco(formato);
+  const std::string inizio = fmt::format("Il file {} non è un archivio del {} valido: ", file.string(), formato.nome);
+  if (byte.size() % dimensione != 0)
+    return AvvisoEsclamativo(fmt::format("{}la sua lunghezza ({} byte) non è un multiplo dei {} byte di un record",
+                                         inizio, byte.size(), dimensione));
+  std::vector<EstrazioneGioco> estrazioni;
+  estrazioni.reserve(byte.size() / dimensione);
+  for (size_t inizio_record = 0; inizio_record < byte.size(); inizio_record += dimensione) {
+    EstrazioneGioco estrazione =
+        DecodificaRecordGioco(formato, reinterpret_cast<const unsigned char*>(byte.data()) + inizio_record);
+    const int k = static_cast<int>(estrazioni.size()) + 1;
+    if (auto difetto = DifettoEstrazioneGioco(formato, estrazione, k, estrazioni.empty() ? nullptr : &estrazioni.back()))
+      return AvvisoEsclamativo(fmt::format("{}il record {} {}", inizio, k, *difetto));
+    estrazioni.push_back(estrazione);
+  }
+  return TabellaGioco(formato, std::move(estrazioni));
+}
+
+Esito<Fatto> SalvaArchivioGioco(const TabellaGioco& tabella, const fs::path& file) {
+  const size_t dimensione = ByteRecordGioco(tabella.formato());
+  std::string byte(dimensione * tabella.Tutte().size(), '\0');
+  auto* p = reinterpret_cast<unsigned char*>(byte.data());
+  for (const EstrazioneGioco& estrazione : tabella.Tutte()) {
+    CodificaRecordGioco(tabella.formato(), estrazione, p);
+    p += dimensione;
+  }
+  return SostituisciFile(file, byte);
+}
+
+}  // namespace lottolab
