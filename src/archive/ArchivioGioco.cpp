@@ -31,7 +31,8 @@ int16_t Leggi16(const unsigned char*& p) {
 }  // namespace
 
 size_t ByteRecordGioco(const FormatoGioco& formato) {
-  return kByteIntestazione + (formato.con_ora ? 2 : 0) + static_cast<size_t>(formato.numeri + formato.speciali);
+  return kByteIntestazione + (formato.con_ora ? 2 : 0) +
+         static_cast<size_t>(formato.numeri + formato.extra + formato.speciali);
 }
 
 void CodificaRecordGioco(const FormatoGioco& formato, const EstrazioneGioco& estrazione, unsigned char* p) {
@@ -44,6 +45,7 @@ void CodificaRecordGioco(const FormatoGioco& formato, const EstrazioneGioco& est
   Scrivi16(p, estrazione.concorso);
   if (formato.con_ora) Scrivi16(p, estrazione.minuti);
   p = std::copy_n(estrazione.numeri.begin(), formato.numeri, p);
+  p = std::copy_n(estrazione.extra.begin(), formato.extra, p);
   std::copy_n(estrazione.speciali.begin(), formato.speciali, p);
 }
 
@@ -59,12 +61,15 @@ EstrazioneGioco DecodificaRecordGioco(const FormatoGioco& formato, const unsigne
   estrazione.concorso = Leggi16(p);
   if (formato.con_ora) estrazione.minuti = Leggi16(p);
   std::copy_n(p, formato.numeri, estrazione.numeri.begin());
-  std::copy_n(p + formato.numeri, formato.speciali, estrazione.speciali.begin());
+  p += formato.numeri;
+  std::copy_n(p, formato.extra, estrazione.extra.begin());
+  p += formato.extra;
+  std::copy_n(p, formato.speciali, estrazione.speciali.begin());
   return estrazione;
 }
 
-std::optional<std::string> DifettoEstrazioneGioco(const FormatoGioco& formato, const EstrazioneGioco& estrazione,
-                                                  int k, const EstrazioneGioco* precedente) {
+std::optional<std::string> DifettoEstrazioneGioco(const FormatoGioco& formato, const EstrazioneGioco& estrazione, int k,
+                                                  const EstrazioneGioco* precedente) {
   if (estrazione.id_estr != k) return fmt::format("ha IdEstr {} invece di {}", estrazione.id_estr, k);
   if (!DataValida(estrazione.data)) return std::string("ha una data che non esiste");
   if (formato.con_ora && (estrazione.minuti < 0 || estrazione.minuti >= 24 * 60))
@@ -80,6 +85,13 @@ std::optional<std::string> DifettoEstrazioneGioco(const FormatoGioco& formato, c
     if (numero < 1 || numero > formato.massimo)
       return fmt::format("ha il numero {} fuori da 1..{} (posizione {})", numero, formato.massimo, i + 1);
     if (visto[numero]) return fmt::format("ha il numero {} due volte", numero);
+    visto[numero] = true;
+  }
+  for (int i = 0; i < formato.extra; ++i) {
+    const int numero = estrazione.extra[i];
+    if (numero == 0) continue;
+    if (numero > formato.massimo) return fmt::format("ha il numero Extra {} fuori da 1..{}", numero, formato.massimo);
+    if (visto[numero]) return fmt::format("ha il numero Extra {} già tra i numeri estratti", numero);
     visto[numero] = true;
   }
   for (int i = 0; i < formato.speciali; ++i) {
@@ -105,7 +117,8 @@ Esito<TabellaGioco> CaricaArchivioGioco(const FormatoGioco& formato, const fs::p
     EstrazioneGioco estrazione =
         DecodificaRecordGioco(formato, reinterpret_cast<const unsigned char*>(byte.data()) + inizio_record);
     const int k = static_cast<int>(estrazioni.size()) + 1;
-    if (auto difetto = DifettoEstrazioneGioco(formato, estrazione, k, estrazioni.empty() ? nullptr : &estrazioni.back()))
+    if (auto difetto =
+            DifettoEstrazioneGioco(formato, estrazione, k, estrazioni.empty() ? nullptr : &estrazioni.back()))
       return AvvisoEsclamativo(fmt::format("{}il record {} {}", inizio, k, *difetto));
     estrazioni.push_back(estrazione);
   }

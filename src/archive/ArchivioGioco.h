@@ -3,8 +3,8 @@
 // The archive file of a game other than the Lotto: fixed little-endian records with no header,
 // draw k at byte (k-1) * size, as the Lotto archive is. A record is IdEstr (4 bytes), the date group
 // (annual index, day, month, year: 2 bytes each), the contest (2), the time of day in minutes (2,
-// only for games with a time), then one byte for each main number and each special number of the
-// game. The file is written whole, aside and then renamed, so a failed write leaves the old one.
+// only for games with a time), then one byte for each main number, each extra number and each
+// special number of the game. The file is written whole, aside and then renamed, so a failed write leaves the old one.
 
 #include <filesystem>
 #include <optional>
@@ -22,8 +22,8 @@ EstrazioneGioco DecodificaRecordGioco(const FormatoGioco& formato, const unsigne
 
 // What is wrong with draw k of the game, in the user's words; nothing when it is sound. The
 // draw before it, when given, must not come later.
-std::optional<std::string> DifettoEstrazioneGioco(const FormatoGioco& formato, const EstrazioneGioco& estrazione,
-                                                  int k, const EstrazioneGioco* precedente);
+std::optional<std::string> DifettoEstrazioneGioco(const FormatoGioco& formato, const EstrazioneGioco& estrazione, int k,
+                                                  const EstrazioneGioco* precedente);
 
 // The whole archive, every record checked; a missing file is an empty archive. A file whose length
 // is no whole number of records, or with a record that is not a draw of this game, is refused with

@@ -5,11 +5,14 @@ namespace lottolab {
 namespace {
 
 constexpr FormatoGioco kFormati[] = {
-    {Gioco::SuperEnalotto, "SE", "SuperEnalotto", 6, 90, 2, 90, false},
-    {Gioco::DieciELotto, "DL", "10eLotto", 20, 90, 2, 90, false},
-    {Gioco::DieciELottoOgniCinqueMinuti, "DL5", "10eLotto ogni 5 minuti", 20, 90, 2, 90, true},
-    {Gioco::WinForLife, "WF", "Win for Life", 10, 20, 1, 20, true},
-    {Gioco::Generico, "FT", "Archivio generico", 0, 0, 0, 0, false},
+    // Jolly, SuperStar.
+    {Gioco::SuperEnalotto, "SE", "SuperEnalotto", 6, 90, 0, 2, 90, false},
+    // Extra; Numero Oro, Doppio Oro, Gong.
+    {Gioco::DieciELotto, "DL", "10eLotto", 20, 90, 15, 3, 90, false},
+    {Gioco::DieciELottoOgniCinqueMinuti, "DL5", "10eLotto ogni 5 minuti", 20, 90, 15, 3, 90, true},
+    // Numerone.
+    {Gioco::WinForLife, "WF", "Win for Life", 10, 20, 0, 1, 20, true},
+    {Gioco::Generico, "FT", "Archivio generico", 0, 0, 0, 0, 0, false},
 };
 
 }  // namespace

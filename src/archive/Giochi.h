@@ -10,22 +10,25 @@ namespace lottolab {
 
 enum class Gioco : unsigned char { SuperEnalotto, DieciELotto, DieciELottoOgniCinqueMinuti, WinForLife, Generico };
 
-// The main numbers of a draw and their range, the numbers that only the functions naming them
-// count (Jolly and SuperStar; Numero Oro and Doppio Oro; Numerone), and whether a contest has a
-// time of day besides its date.
+// The main numbers of a draw and their range; the further numbers that only the functions naming
+// them count: a second set drawn after the main numbers (the 10eLotto's Extra), and single numbers
+// (Jolly and SuperStar; Numero Oro, Doppio Oro and Gong; Numerone); whether a contest has a time of
+// day besides its date.
 struct FormatoGioco {
   Gioco gioco = Gioco::Generico;
   std::string_view sigla;  // as the library's names end and the command line's --gioco names it
   std::string_view nome;
   int numeri = 0;
   int massimo = 0;
+  int extra = 0;
   int speciali = 0;
   int massimo_speciale = 0;
   bool con_ora = false;
 };
 
 inline constexpr int kMassimoNumeriGioco = 20;
-inline constexpr int kMassimoSpecialiGioco = 2;
+inline constexpr int kMassimoExtraGioco = 15;
+inline constexpr int kMassimoSpecialiGioco = 3;
 
 const FormatoGioco& Formato(Gioco gioco);
 

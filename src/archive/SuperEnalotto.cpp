@@ -63,9 +63,10 @@ Esito<std::vector<EstrazioneGioco>> LeggiRisultatiSuperEnalotto(std::string_view
     for (int i = 0; i < kNumeri + 1; ++i) {
       campo = ProssimoCampo(resto);
       if (!LeggiIntero(campo, valori[i]) || !Tra(valori[i], 1, 90))
-        return ErroreRiga(riga, campo.empty() ? std::string("mancano dei numeri: ne servono sei, il Jolly e la SuperStar")
-                                              : fmt::format("\"{}\" non è un numero da 1 a 90{}", campo,
-                                                            i == kNumeri ? " (il Jolly)" : ""));
+        return ErroreRiga(
+            riga, campo.empty()
+                      ? std::string("mancano dei numeri: ne servono sei, il Jolly e la SuperStar")
+                      : fmt::format("\"{}\" non è un numero da 1 a 90{}", campo, i == kNumeri ? " (il Jolly)" : ""));
     }
     int superstar = 0;
     campo = ProssimoCampo(resto);
@@ -137,9 +138,9 @@ Esito<TabellaGioco> ArchivioSuperEnalotto(const TabellaEstrazioni& lotto, std::v
       return AvvisoEsclamativo(fmt::format("Il SuperEnalotto del {} è nell'archivio del Lotto ma non nei risultati",
                                            FormattaData(derivata.data)));
     if (!StessiNumeri(derivata, *trovata->second))
-      return AvvisoEsclamativo(fmt::format(
-          "Il SuperEnalotto del {} nei risultati non è quello che dà l'archivio del Lotto di quella sera",
-          FormattaData(derivata.data)));
+      return AvvisoEsclamativo(
+          fmt::format("Il SuperEnalotto del {} nei risultati non è quello che dà l'archivio del Lotto di quella sera",
+                      FormattaData(derivata.data)));
   }
   for (EstrazioneGioco& risultato : risultati) estrazioni.push_back(risultato);
   for (size_t i = 0; i < estrazioni.size(); ++i) estrazioni[i].id_estr = static_cast<int32_t>(i) + 1;

@@ -18,6 +18,7 @@ struct EstrazioneGioco {
   int16_t concorso = 0;  // the contest's number within its year (within its day where contests have a time)
   int16_t minuti = 0;    // the time of day as minutes after midnight, where the game has one
   std::array<uint8_t, kMassimoNumeriGioco> numeri{};
+  std::array<uint8_t, kMassimoExtraGioco> extra{};        // 0: not drawn in that period
   std::array<uint8_t, kMassimoSpecialiGioco> speciali{};  // 0: not held (a SuperStar before it existed)
 
   friend bool operator==(const EstrazioneGioco&, const EstrazioneGioco&) = default;

@@ -84,7 +84,8 @@ TEST(SuperEnalottoDalLotto, PrendeIPrimiNumeriDiSeiRuoteEIlJollyDaVenezia) {
   ASSERT_EQ(derivate.size(), 3u) << "only from 03/12/1997 to 30/06/2009";
   const EstrazioneGioco& prima = derivate[0];
   EXPECT_EQ(prima.data, (GruppoData{1, 3, 12, 1997}));
-  EXPECT_EQ(std::vector<int>(prima.numeri.begin(), prima.numeri.begin() + 6), (std::vector<int>{10, 20, 30, 40, 50, 60}));
+  EXPECT_EQ(std::vector<int>(prima.numeri.begin(), prima.numeri.begin() + 6),
+            (std::vector<int>{10, 20, 30, 40, 50, 60}));
   EXPECT_EQ(prima.speciali[0], 70);
   EXPECT_EQ(prima.speciali[1], 0);
   EXPECT_EQ(derivate[1].concorso, 2);
