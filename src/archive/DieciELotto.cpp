@@ -20,8 +20,6 @@ constexpr int kExtra = 15;
 constexpr int kRuoteCittadine = 10;
 enum Speciale { kOro, kDoppioOro, kGong };
 
-Avviso ErroreRiga(int riga, std::string motivo) { return AvvisoEsclamativo(fmt::format("Riga {}: {}", riga, motivo)); }
-
 bool DalGiorno(const GruppoData& data, const GruppoData& inizio) { return ConfrontaDate(data, inizio) >= 0; }
 
 std::array<uint8_t, kNumeri> Ordinati(const EstrazioneGioco& estrazione) {
@@ -68,16 +66,35 @@ std::vector<EstrazioneGioco> DieciELottoDalLotto(const TabellaEstrazioni& lotto)
   return estrazioni;
 }
 
+std::optional<std::string> LeggiNumeriDieciELotto(std::string_view& resto, EstrazioneGioco& estrazione) {
+  for (int i = 0; i < kNumeri; ++i) {
+    const std::string_view campo = ProssimoCampo(resto);
+    int numero = 0;
+    if (campo.empty()) return fmt::format("ci sono {} numeri invece di 20", i);
+    if (!LeggiIntero(campo, numero) || numero < 1 || numero > 90)
+      return fmt::format("\"{}\" non è un numero da 1 a 90", campo);
+    if (std::find(estrazione.numeri.begin(), estrazione.numeri.begin() + i, numero) != estrazione.numeri.begin() + i)
+      return fmt::format("il numero {} compare due volte", numero);
+    estrazione.numeri[i] = static_cast<uint8_t>(numero);
+  }
+  const std::string_view campo = ProssimoCampo(resto);
+  if (campo.empty()) return std::string("manca il Numero Oro (\"-\" dove non è dato)");
+  if (campo == "-") return std::nullopt;
+  int oro = 0;
+  if (!LeggiIntero(campo, oro) || std::find(estrazione.numeri.begin(), estrazione.numeri.begin() + kNumeri, oro) ==
+                                      estrazione.numeri.begin() + kNumeri)
+    return fmt::format("il Numero Oro \"{}\" non è tra i 20 numeri", campo);
+  estrazione.speciali[kOro] = static_cast<uint8_t>(oro);
+  return std::nullopt;
+}
+
 Esito<std::vector<EstrazioneGioco>> LeggiRisultatiDieciELotto(std::string_view testo) {
   std::vector<EstrazioneGioco> estrazioni;
-  int riga = 0;
-  while (!testo.empty()) {
-    const size_t a_capo = testo.find('\n');
-    std::string_view resto = testo.substr(0, a_capo);
-    testo.remove_prefix(a_capo == std::string_view::npos ? testo.size() : a_capo + 1);
-    ++riga;
-    const std::string_view campo_data = ProssimoCampo(resto);
-    if (campo_data.empty() || campo_data.front() == '#') continue;
+  RigheRisultati righe(testo);
+  std::string_view campo_data;
+  std::string_view resto;
+  while (righe.Prossima(campo_data, resto)) {
+    const int riga = righe.riga();
     EstrazioneGioco estrazione;
     if (!LeggiDataRisultati(campo_data, estrazione.data))
       return ErroreRiga(riga, fmt::format("\"{}\" non è una data AAAA/MM/GG", campo_data));
@@ -86,25 +103,7 @@ Esito<std::vector<EstrazioneGioco>> LeggiRisultatiDieciELotto(std::string_view t
     if (!LeggiIntero(campo, concorso) || concorso < 1 || concorso > 999)
       return ErroreRiga(riga, fmt::format("\"{}\" non è un numero di concorso", campo));
     estrazione.concorso = static_cast<int16_t>(concorso);
-    for (int i = 0; i < kNumeri; ++i) {
-      campo = ProssimoCampo(resto);
-      int numero = 0;
-      if (campo.empty()) return ErroreRiga(riga, fmt::format("ci sono {} numeri invece di 20", i));
-      if (!LeggiIntero(campo, numero) || numero < 1 || numero > 90)
-        return ErroreRiga(riga, fmt::format("\"{}\" non è un numero da 1 a 90", campo));
-      if (std::find(estrazione.numeri.begin(), estrazione.numeri.begin() + i, numero) != estrazione.numeri.begin() + i)
-        return ErroreRiga(riga, fmt::format("il numero {} compare due volte", numero));
-      estrazione.numeri[i] = static_cast<uint8_t>(numero);
-    }
-    campo = ProssimoCampo(resto);
-    if (campo.empty()) return ErroreRiga(riga, "manca il Numero Oro (\"-\" dove non è dato)");
-    if (campo != "-") {
-      int oro = 0;
-      if (!LeggiIntero(campo, oro) || std::find(estrazione.numeri.begin(), estrazione.numeri.begin() + kNumeri, oro) ==
-                                          estrazione.numeri.begin() + kNumeri)
-        return ErroreRiga(riga, fmt::format("il Numero Oro \"{}\" non è tra i 20 numeri", campo));
-      estrazione.speciali[kOro] = static_cast<uint8_t>(oro);
-    }
+    if (auto difetto = LeggiNumeriDieciELotto(resto, estrazione)) return ErroreRiga(riga, std::move(*difetto));
     if (!ProssimoCampo(resto).empty()) return ErroreRiga(riga, "ci sono campi in più dopo il Numero Oro");
     if (!estrazioni.empty() && ConfrontaDate(estrazioni.back().data, estrazione.data) >= 0)
       return ErroreRiga(riga, fmt::format("la data {} non viene dopo quella della riga prima ({})",

@@ -10,6 +10,7 @@
 // first number, the Doppio Oro Bari's second (played from 01/10/2017), the Gong Nazionale's first
 // (played from 26/10/2022); a number not yet played in that period is not held (0).
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +24,10 @@ namespace lottolab {
 // The evening draws of the Lotto archive, from 11/06/2009; the contest is the Lotto draw's number
 // within its year (the published contest, where the results give it, replaces it in the archive).
 std::vector<EstrazioneGioco> DieciELottoDalLotto(const TabellaEstrazioni& lotto);
+
+// The twenty numbers and the Numero Oro ("-" where not given) of a results line, read from `resto`
+// into `estrazione`; the reason, in the user's words, when they cannot be.
+std::optional<std::string> LeggiNumeriDieciELotto(std::string_view& resto, EstrazioneGioco& estrazione);
 
 // The draws of a results file, one a line: "AAAA/MM/GG contest n1 .. n20 oro", the Numero Oro "-"
 // where the file does not give it, lines starting with '#' and empty lines skipped. The first fault

@@ -42,8 +42,6 @@ struct Giornata {
   bool HaRuota(int r) const { return (ruote >> r) & 1u; }
 };
 
-Avviso ErroreRiga(int riga, std::string motivo) { return AvvisoEsclamativo(fmt::format("Riga {}: {}", riga, motivo)); }
-
 // Reads every line and gathers the lines of each date, checking each line on its own and the order
 // of the dates.
 Esito<std::vector<Giornata>> LeggiGiornate(std::string_view testo, const GruppoData& oggi) {

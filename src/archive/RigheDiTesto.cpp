@@ -1,6 +1,7 @@
 #include "RigheDiTesto.h"
 
 #include <charconv>
+#include <fmt/format.h>
 
 #include "DateEstrazione.h"
 
@@ -40,6 +41,20 @@ bool LeggiDataRisultati(std::string_view testo, GruppoData& data) {
   if (anno > 9999 || mese > 12 || giorno > 31) return false;
   data = GruppoData{0, static_cast<int16_t>(giorno), static_cast<int16_t>(mese), static_cast<int16_t>(anno)};
   return DataValida(data);
+}
+
+Avviso ErroreRiga(int riga, std::string motivo) { return AvvisoEsclamativo(fmt::format("Riga {}: {}", riga, motivo)); }
+
+bool RigheRisultati::Prossima(std::string_view& primo, std::string_view& resto) {
+  while (!m_testo.empty()) {
+    const size_t a_capo = m_testo.find('\n');
+    resto = m_testo.substr(0, a_capo);
+    m_testo.remove_prefix(a_capo == std::string_view::npos ? m_testo.size() : a_capo + 1);
+    ++m_riga;
+    primo = ProssimoCampo(resto);
+    if (!primo.empty() && primo.front() != '#') return true;
+  }
+  return false;
 }
 
 }  // namespace lottolab

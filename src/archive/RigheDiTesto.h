@@ -3,8 +3,10 @@
 // Reading the published results files, one draw or one wheel a line: fields separated by runs of
 // tabs or blanks, whole numbers without sign, dates as "AAAA/MM/GG".
 
+#include <string>
 #include <string_view>
 
+#include "Avviso.h"
 #include "Estrazione.h"
 
 namespace lottolab {
@@ -18,5 +20,22 @@ bool LeggiIntero(std::string_view testo, int& valore);
 // "AAAA/MM/GG" as the operator writes it; no other order is accepted, so that a file in the user's
 // own day/month/year form is refused instead of being read with day and year swapped.
 bool LeggiDataRisultati(std::string_view testo, GruppoData& data);
+
+// "Riga N: motivo", the message that refuses a file at its line N.
+Avviso ErroreRiga(int riga, std::string motivo);
+
+// The lines of a results file that hold a draw, one at a time: empty lines and lines starting with
+// '#' are passed over, and the count of lines read names the line in the messages.
+class RigheRisultati {
+ public:
+  explicit RigheRisultati(std::string_view testo) : m_testo(testo) {}
+  // The next line with a draw as `resto`, its first field taken off as `primo`; false at the end.
+  bool Prossima(std::string_view& primo, std::string_view& resto);
+  int riga() const { return m_riga; }
+
+ private:
+  std::string_view m_testo;
+  int m_riga = 0;
+};
 
 }  // namespace lottolab

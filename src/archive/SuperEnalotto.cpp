@@ -16,8 +16,6 @@ constexpr GruppoData kUltimaDalLotto{0, 30, 6, 2009};
 constexpr int kNumeri = 6;
 constexpr Ruota kRuoteDelLotto[kNumeri] = {BA, FI, MI, NA, PA, RO};
 
-Avviso ErroreRiga(int riga, std::string motivo) { return AvvisoEsclamativo(fmt::format("Riga {}: {}", riga, motivo)); }
-
 bool Tra(int valore, int minimo, int massimo) { return valore >= minimo && valore <= massimo; }
 
 // The first number of the wheel not yet taken; 0 when all five are.
@@ -43,15 +41,11 @@ bool StessiNumeri(const EstrazioneGioco& a, const EstrazioneGioco& b) {
 
 Esito<std::vector<EstrazioneGioco>> LeggiRisultatiSuperEnalotto(std::string_view testo) {
   std::vector<EstrazioneGioco> estrazioni;
-  int riga = 0;
-  while (!testo.empty()) {
-    const size_t a_capo = testo.find('\n');
-    std::string_view linea = testo.substr(0, a_capo);
-    testo.remove_prefix(a_capo == std::string_view::npos ? testo.size() : a_capo + 1);
-    ++riga;
-    std::string_view resto = linea;
-    const std::string_view campo_data = ProssimoCampo(resto);
-    if (campo_data.empty() || campo_data.front() == '#') continue;
+  RigheRisultati righe(testo);
+  std::string_view campo_data;
+  std::string_view resto;
+  while (righe.Prossima(campo_data, resto)) {
+    const int riga = righe.riga();
     EstrazioneGioco estrazione;
     if (!LeggiDataRisultati(campo_data, estrazione.data))
       return ErroreRiga(riga, fmt::format("\"{}\" non è una data AAAA/MM/GG", campo_data));

@@ -1,12 +1,16 @@
 #include <gtest/gtest.h>
 
+#include <fmt/format.h>
+
 #include <fstream>
 #include <map>
 #include <sstream>
 
 #include "DatiReali.h"
+#include "archive/ArchivioGioco.h"
 #include "archive/DateEstrazione.h"
 #include "archive/DieciELotto.h"
+#include "archive/DieciELottoOgniCinqueMinuti.h"
 #include "archive/ImportaRisultati.h"
 
 namespace lottolab {
@@ -108,6 +112,66 @@ TEST(DieciELottoReale, LeSeraliDelLottoSonoQuelleDeiRisultatiTranneIl23Dicembre2
       ASSERT_EQ(serata.concorso, trovato->second) << FormattaData(serata.data);
     }
   }
+}
+
+std::string RigaCinqueMinuti(std::string_view data, std::string_view ora, int concorso, int primo) {
+  std::string riga = fmt::format("{}\t{}\t{}", data, ora, concorso);
+  for (int i = 0; i < 20; ++i) riga += fmt::format("\t{}", primo + i);
+  return riga + fmt::format("\t{}\t0\n", primo);
+}
+
+TEST(RisultatiCinqueMinuti, LUltimoConcorsoDelGiornoPuoEssereAMezzanotteEIDubbiSonoSegnalati) {
+  std::string testo = "# date\ttime\tcontest\n";
+  for (int giorno = 4; giorno <= 6; ++giorno)
+    for (int concorso = 1; concorso <= 287; ++concorso) {
+      const int minuti = concorso * 5;
+      testo += RigaCinqueMinuti(fmt::format("2026/08/{:02}", giorno),
+                                fmt::format("{:02}:{:02}", minuti / 60, minuti % 60), concorso, concorso % 70 + 1);
+      // The 4th closes at 23:59, the 5th at midnight; the 6th has two different last contests.
+      if (concorso == 287 && giorno == 4) testo += RigaCinqueMinuti("2026/08/04", "23:59", 288, 1);
+      if (concorso == 287 && giorno == 6) testo += RigaCinqueMinuti("2026/08/06", "23:59", 288, 2);
+    }
+  testo += RigaCinqueMinuti("2026/08/06", "00:00", 288, 3);
+  testo += RigaCinqueMinuti("2026/08/07", "00:00", 288, 4);
+  testo += RigaCinqueMinuti("2026/08/07", "00:05", 1, 5);
+  testo += RigaCinqueMinuti("2026/08/07", "00:15", 3, 6);
+
+  auto letti = LeggiRisultatiCinqueMinuti(testo);
+  ASSERT_TRUE(letti) << letti.Errore().testo;
+  EXPECT_EQ(letti->segnalazioni,
+            (std::vector<std::string>{"06/08/2026 concorso 288: i risultati ne danno 2 diversi; non è nell'archivio",
+                                      "07/08/2026 concorso 2: manca nei risultati; non è nell'archivio"}));
+  const TabellaGioco& tabella = letti->tabella;
+  ASSERT_EQ(tabella.EstrazioniArchivio(), 288 + 288 + 287 + 2);
+  EXPECT_EQ(tabella[288].concorso, 288);
+  EXPECT_EQ(tabella[288].minuti, 23 * 60 + 59);
+  EXPECT_EQ(tabella[576].data, (GruppoData{0, 5, 8, 2026})) << "midnight closes the day before";
+  EXPECT_EQ(tabella[576].numeri[0], 3);
+  EXPECT_EQ(tabella[tabella.EstrazioniArchivio()].concorso, 3);
+
+  auto rifiutato = LeggiRisultatiCinqueMinuti(RigaCinqueMinuti("2026/08/04", "00:10", 1, 1));
+  ASSERT_FALSE(rifiutato);
+  EXPECT_EQ(rifiutato.Errore().testo, "Riga 1: il concorso 1 è alle 00:10, non alle 00:05");
+}
+
+TEST(RisultatiCinqueMinutiReali, TreGiorniConDueUltimiConcorsiETreSenza) {
+  LOTTOLAB_RICHIEDI_DATI_REALI();
+  std::ifstream file(test::CartellaDatiReali() / "10elotto_5min.txt", std::ios::binary);
+  std::stringstream testo;
+  testo << file.rdbuf();
+  auto letti = LeggiRisultatiCinqueMinuti(testo.str());
+  ASSERT_TRUE(letti) << letti.Errore().testo;
+  EXPECT_EQ(letti->tabella.EstrazioniArchivio(), 5423 - 6);
+  EXPECT_EQ(letti->segnalazioni,
+            (std::vector<std::string>{"06/08/2026 concorso 288: i risultati ne danno 2 diversi; non è nell'archivio",
+                                      "07/08/2026 concorso 288: manca nei risultati; non è nell'archivio",
+                                      "08/08/2026 concorso 288: i risultati ne danno 2 diversi; non è nell'archivio",
+                                      "10/08/2026 concorso 288: manca nei risultati; non è nell'archivio",
+                                      "12/08/2026 concorso 288: i risultati ne danno 2 diversi; non è nell'archivio",
+                                      "21/08/2026 concorso 288: manca nei risultati; non è nell'archivio"}));
+  const TabellaGioco& tabella = letti->tabella;
+  for (int k = 2; k <= tabella.EstrazioniArchivio(); ++k)
+    ASSERT_FALSE(DifettoEstrazioneGioco(tabella.formato(), tabella[k], k, &tabella[k - 1])) << k;
 }
 
 }  // namespace
