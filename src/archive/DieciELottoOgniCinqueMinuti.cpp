@@ -1,7 +1,7 @@
 #include "DieciELottoOgniCinqueMinuti.h"
 
-#include <fmt/format.h>
 #include <algorithm>
+#include <fmt/format.h>
 #include <map>
 #include <utility>
 

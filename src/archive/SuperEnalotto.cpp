@@ -13,6 +13,7 @@ namespace {
 
 constexpr GruppoData kPrimaEstrazione{0, 3, 12, 1997};
 constexpr GruppoData kUltimaDalLotto{0, 30, 6, 2009};
+constexpr GruppoData kPrimaSuperStar{0, 28, 3, 2006};
 constexpr int kNumeri = 6;
 constexpr Ruota kRuoteDelLotto[kNumeri] = {BA, FI, MI, NA, PA, RO};
 
@@ -34,7 +35,7 @@ bool StessiNumeri(const EstrazioneGioco& a, const EstrazioneGioco& b) {
     std::sort(numeri.begin(), numeri.end());
     return numeri;
   };
-  return ordinati(a) == ordinati(b) && a.speciali[0] == b.speciali[0];
+  return ordinati(a) == ordinati(b) && a.speciali == b.speciali;
 }
 
 }  // namespace
@@ -110,7 +111,8 @@ std::vector<EstrazioneGioco> SuperEnalottoDalLotto(const TabellaEstrazioni& lott
     estrazione.concorso = static_cast<int16_t>(stesso_anno ? estrazioni.back().concorso + 1 : 1);
     estrazione.data.indice_annuale = estrazione.concorso;
     for (int i = 0; i < kNumeri; ++i) estrazione.numeri[i] = static_cast<uint8_t>(presi[i]);
-    estrazione.speciali = {static_cast<uint8_t>(jolly), 0};
+    const bool superstar = ConfrontaDate(draw.data, kPrimaSuperStar) >= 0;
+    estrazione.speciali = {static_cast<uint8_t>(jolly), static_cast<uint8_t>(superstar ? draw.Numero(NZ, 1) : 0)};
     estrazione.id_estr = static_cast<int32_t>(estrazioni.size()) + 1;
     estrazioni.push_back(estrazione);
   }

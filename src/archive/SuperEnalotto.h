@@ -5,7 +5,8 @@
 //
 // Until 30/06/2009 the six numbers were the first numbers drawn on Bari, Firenze, Milano, Napoli,
 // Palermo and Roma, the next number on the same wheel standing in for one already taken; the Jolly
-// was the first number of Venezia not among the six. The SuperStar began on 01/07/2009.
+// was the first number of Venezia not among the six; the SuperStar, played from 28/03/2006, was the
+// first number of Nazionale.
 
 #include <string_view>
 #include <vector>
@@ -28,8 +29,8 @@ Esito<std::vector<EstrazioneGioco>> LeggiRisultatiSuperEnalotto(std::string_view
 std::vector<EstrazioneGioco> SuperEnalottoDalLotto(const TabellaEstrazioni& lotto);
 
 // The whole archive: the draws derived from the Lotto before the first date of the results, then
-// the results. Where both give a draw (the first half of 2009), they must agree; a disagreement
-// refuses the archive, naming the date.
+// the results. Where both give a draw (the first half of 2009), they must agree, Jolly and SuperStar
+// included; a disagreement refuses the archive, naming the date.
 Esito<TabellaGioco> ArchivioSuperEnalotto(const TabellaEstrazioni& lotto, std::vector<EstrazioneGioco> risultati);
 
 }  // namespace lottolab

@@ -79,15 +79,21 @@ TEST(SuperEnalottoDalLotto, PrendeIPrimiNumeriDiSeiRuoteEIlJollyDaVenezia) {
       {PA, {50, 5, 5, 5, 5}}, {RO, {60, 6, 6, 6, 6}},  {VE, {60, 10, 70, 7, 7}}};
   TabellaEstrazioni lotto({DrawDelLotto({0, 29, 11, 1997}, ruote), DrawDelLotto({0, 3, 12, 1997}, ruote),
                            DrawDelLotto({0, 6, 12, 1997}, ruote), DrawDelLotto({0, 3, 1, 1998}, ruote),
+                           DrawDelLotto({0, 25, 3, 2006}, ruote), DrawDelLotto({0, 28, 3, 2006}, ruote),
                            DrawDelLotto({0, 1, 7, 2009}, ruote)});
+  std::vector<Estrazione> con_nazionale = lotto.Tutte();
+  for (Estrazione& draw : con_nazionale) draw.ImpostaNumero(NZ, 1, 33);
+  lotto = TabellaEstrazioni(con_nazionale);
   const auto derivate = SuperEnalottoDalLotto(lotto);
-  ASSERT_EQ(derivate.size(), 3u) << "only from 03/12/1997 to 30/06/2009";
+  ASSERT_EQ(derivate.size(), 5u) << "only from 03/12/1997 to 30/06/2009";
+  EXPECT_EQ(derivate[3].speciali[1], 0);
+  EXPECT_EQ(derivate[4].speciali[1], 33) << "the SuperStar is Nazionale's first number from 28/03/2006";
   const EstrazioneGioco& prima = derivate[0];
   EXPECT_EQ(prima.data, (GruppoData{1, 3, 12, 1997}));
   EXPECT_EQ(std::vector<int>(prima.numeri.begin(), prima.numeri.begin() + 6),
             (std::vector<int>{10, 20, 30, 40, 50, 60}));
   EXPECT_EQ(prima.speciali[0], 70);
-  EXPECT_EQ(prima.speciali[1], 0);
+  EXPECT_EQ(prima.speciali[1], 0) << "no SuperStar before 28/03/2006";
   EXPECT_EQ(derivate[1].concorso, 2);
   EXPECT_EQ(derivate[2].concorso, 1) << "contests count within the year";
   EXPECT_EQ(derivate[2].id_estr, 3);
@@ -160,7 +166,11 @@ TEST(SuperEnalottoReale, IPrimiSeiMesiDel2009DelLottoSonoQuelliDeiRisultati) {
   int nel_2009 = 0;
   for (const EstrazioneGioco& derivata : derivate) nel_2009 += derivata.data.anno == 2009;
   EXPECT_EQ(nel_2009, 78);
+  // The first contest, as the operator tells it: 20 36 39 41 72 76, Jolly 88.
   EXPECT_EQ(derivate.front().data, (GruppoData{1, 3, 12, 1997}));
+  EXPECT_EQ(std::vector<int>(derivate.front().numeri.begin(), derivate.front().numeri.begin() + 6),
+            (std::vector<int>{20, 36, 39, 41, 72, 76}));
+  EXPECT_EQ(derivate.front().speciali[0], 88);
 
   auto archivio = ArchivioSuperEnalotto(tabella, *risultati);
   ASSERT_TRUE(archivio) << archivio.Errore().testo;
