@@ -28,7 +28,7 @@ s = d("RUOTA") * 2
 WScript.Echo s & "|" & d.Count                                  ' expect: 14|1
 
 ' An item that is an object is no number: the general rules give their error.
-Set d("oggetto") = d
+Set d("oggetto") = CreateObject("Scripting.Dictionary")
 On Error Resume Next
 s = d("oggetto") + 1
 If Err.Number <> 0 Then WScript.Echo "errore"                   ' expect: errore
