@@ -17,15 +17,6 @@ constexpr int kConcorsiAlGiorno = 288;
 constexpr int kMinutiTraConcorsi = 5;
 constexpr int kUltimoMinuto = 24 * 60 - 1;
 
-bool LeggiOra(std::string_view testo, int& minuti) {
-  int ore = 0, minuti_ora = 0;
-  if (testo.size() != 5 || testo[2] != ':' || !LeggiIntero(testo.substr(0, 2), ore) ||
-      !LeggiIntero(testo.substr(3), minuti_ora) || ore > 23 || minuti_ora > 59)
-    return false;
-  minuti = ore * 60 + minuti_ora;
-  return true;
-}
-
 GruppoData GiornoPrima(const GruppoData& data) {
   GruppoData prima = data;
   if (--prima.giorno >= 1) return prima;
@@ -56,7 +47,7 @@ Esito<RisultatiCinqueMinuti> LeggiRisultatiCinqueMinuti(std::string_view testo) 
       return ErroreRiga(riga, fmt::format("\"{}\" non è una data AAAA/MM/GG", campo_data));
     std::string_view campo = ProssimoCampo(resto);
     int minuti = 0;
-    if (!LeggiOra(campo, minuti)) return ErroreRiga(riga, fmt::format("\"{}\" non è un'ora hh:mm", campo));
+    if (!LeggiOraRisultati(campo, minuti)) return ErroreRiga(riga, fmt::format("\"{}\" non è un'ora hh:mm", campo));
     int concorso = 0;
     campo = ProssimoCampo(resto);
     if (!LeggiIntero(campo, concorso) || concorso < 1 || concorso > kConcorsiAlGiorno)

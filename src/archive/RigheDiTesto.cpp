@@ -43,6 +43,15 @@ bool LeggiDataRisultati(std::string_view testo, GruppoData& data) {
   return DataValida(data);
 }
 
+bool LeggiOraRisultati(std::string_view testo, int& minuti) {
+  int ore = 0, minuti_ora = 0;
+  if (testo.size() != 5 || testo[2] != ':' || !LeggiIntero(testo.substr(0, 2), ore) ||
+      !LeggiIntero(testo.substr(3), minuti_ora) || ore > 23 || minuti_ora > 59)
+    return false;
+  minuti = ore * 60 + minuti_ora;
+  return true;
+}
+
 Avviso ErroreRiga(int riga, std::string motivo) { return AvvisoEsclamativo(fmt::format("Riga {}: {}", riga, motivo)); }
 
 bool RigheRisultati::Prossima(std::string_view& primo, std::string_view& resto) {

@@ -21,6 +21,9 @@ bool LeggiIntero(std::string_view testo, int& valore);
 // own day/month/year form is refused instead of being read with day and year swapped.
 bool LeggiDataRisultati(std::string_view testo, GruppoData& data);
 
+// "hh:mm" as minutes after midnight.
+bool LeggiOraRisultati(std::string_view testo, int& minuti);
+
 // "Riga N: motivo", the message that refuses a file at its line N.
 Avviso ErroreRiga(int riga, std::string motivo);
 
