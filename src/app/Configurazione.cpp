@@ -1,5 +1,7 @@
 #include "Configurazione.h"
 
+#include <fmt/format.h>
+
 #include "Percorsi.h"
 
 namespace lottolab::app {
@@ -12,6 +14,13 @@ fs::path Configurazione::ArchivioLotto() const {
 
 fs::path Configurazione::ArchivioModificabile() const {
   return RisolviPercorso(base, ini.Leggi(kSezioneGenerale, "sFileBdModificabile", "basedati.dat"));
+}
+
+fs::path Configurazione::ArchivioGioco(Gioco gioco) const {
+  static constexpr std::string_view kPredefiniti[] = {"SuperEnalotto.dat", "10eLotto.dat", "10eLotto5.dat",
+                                                      "WinForLife.dat", "ArchivioGenerico.dat"};
+  const std::string chiave = fmt::format("sFileBd{}", Formato(gioco).sigla);
+  return RisolviPercorso(base, ini.Leggi(kSezioneGenerale, chiave, kPredefiniti[static_cast<int>(gioco)]));
 }
 
 std::string Configurazione::IndirizzoRisultati() const {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "FileIni.h"
+#include "archive/Giochi.h"
 
 namespace lottolab::app {
 
@@ -20,6 +21,9 @@ struct Configurazione {
   std::filesystem::path ArchivioLotto() const;
   // Key sFileBdModificabile: the archive the user may edit; "basedati.dat" by default.
   std::filesystem::path ArchivioModificabile() const;
+  // Keys sFileBdSE, sFileBdDL, sFileBdDL5, sFileBdWF, sFileBdFT: the archive of each other game,
+  // "SuperEnalotto.dat", "10eLotto.dat", "10eLotto5.dat", "WinForLife.dat", "ArchivioGenerico.dat" by default.
+  std::filesystem::path ArchivioGioco(Gioco gioco) const;
   // Key sIndirizzoRisultati: where the operator publishes the results file (zip of text lines).
   std::string IndirizzoRisultati() const;
 };

@@ -43,7 +43,8 @@ Esito<TabellaGioco> LeggiArchivioGenerico(std::string_view testo, MisureGenerich
   std::string senza_punti_e_virgola(testo);
   for (char& c : senza_punti_e_virgola)
     if (c == ';') c = '\t';
-  const std::string_view prima_riga = std::string_view(senza_punti_e_virgola).substr(0, senza_punti_e_virgola.find('\n'));
+  const std::string_view prima_riga =
+      std::string_view(senza_punti_e_virgola).substr(0, senza_punti_e_virgola.find('\n'));
   const bool intestazione = LeggiIntestazione(prima_riga, misure);
   if (misure.massimo == 0) misure.massimo = kMassimoPredefinito;
 
@@ -87,7 +88,8 @@ Esito<TabellaGioco> LeggiArchivioGenerico(std::string_view testo, MisureGenerich
       return ErroreRiga(riga, "l'estrazione " + *difetto);
     estrazioni.push_back(estrazione);
   }
-  if (estrazioni.empty()) return AvvisoEsclamativo("Il testo non contiene estrazioni: una riga per estrazione, la data e i numeri");
+  if (estrazioni.empty())
+    return AvvisoEsclamativo("Il testo non contiene estrazioni: una riga per estrazione, la data e i numeri");
   return TabellaGioco(formato, std::move(estrazioni));
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <map>
+#include <utility>
 
 #include "DateEstrazione.h"
 #include "FileSicuri.h"
@@ -134,6 +136,52 @@ Esito<Fatto> SalvaArchivioGioco(const TabellaGioco& tabella, const fs::path& fil
     p += dimensione;
   }
   return SostituisciFile(file, byte);
+}
+
+Esito<TabellaGioco> UnisciEstrazioni(const TabellaGioco& archivio, const std::vector<EstrazioneGioco>& nuove) {
+  const FormatoGioco& formato = archivio.formato();
+  auto chiave = [&](const EstrazioneGioco& e) {
+    return std::pair<int, int>(GiornoAssoluto(e.data), formato.con_ora ? e.minuti : 0);
+  };
+  std::map<std::pair<int, int>, EstrazioneGioco> unite;
+  for (const EstrazioneGioco& estrazione : archivio.Tutte()) unite.emplace(chiave(estrazione), estrazione);
+  for (const EstrazioneGioco& nuova : nuove) {
+    auto [posto, aggiunta] = unite.emplace(chiave(nuova), nuova);
+    if (aggiunta) continue;
+    const EstrazioneGioco& tenuta = posto->second;
+    if (tenuta.numeri != nuova.numeri || tenuta.extra != nuova.extra || tenuta.speciali != nuova.speciali)
+      return AvvisoEsclamativo(fmt::format(
+          "L'estrazione del {}{} nell'archivio del {} ha numeri diversi da quella che si vuole importare: l'archivio "
+          "non è stato cambiato",
+          FormattaData(nuova.data),
+          formato.con_ora ? fmt::format(" alle {:02}:{:02}", nuova.minuti / 60, nuova.minuti % 60) : "", formato.nome));
+  }
+  std::vector<EstrazioneGioco> estrazioni;
+  estrazioni.reserve(unite.size());
+  for (auto& [_, estrazione] : unite) {
+    estrazione.id_estr = static_cast<int32_t>(estrazioni.size()) + 1;
+    estrazioni.push_back(estrazione);
+  }
+  return TabellaGioco(formato, std::move(estrazioni));
+}
+
+Esito<int> ImportaEstrazioniGioco(const FormatoGioco& formato, const fs::path& file,
+                                  const std::vector<EstrazioneGioco>& nuove) {
+  auto blocco = BloccoScrittura::Acquisisci(file);
+  if (!blocco) return blocco.Errore();
+  auto archivio = CaricaArchivioGioco(formato, file);
+  if (!archivio) return archivio.Errore();
+  auto unite = UnisciEstrazioni(*archivio, nuove);
+  if (!unite) return unite.Errore();
+  const int aggiunte = unite->EstrazioniArchivio() - archivio->EstrazioniArchivio();
+  if (aggiunte == 0) return 0;
+  for (int k = 1; k <= unite->EstrazioniArchivio(); ++k)
+    if (auto difetto = DifettoEstrazioneGioco(formato, (*unite)[k], k, k > 1 ? &(*unite)[k - 1] : nullptr))
+      return AvvisoEsclamativo(fmt::format("L'estrazione del {} da importare {}: l'archivio non è stato cambiato",
+                                           FormattaData((*unite)[k].data), *difetto));
+  auto salvato = SalvaArchivioGioco(*unite, file);
+  if (!salvato) return salvato.Errore();
+  return aggiunte;
 }
 
 }  // namespace lottolab

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "Esito.h"
 #include "TabellaGioco.h"
@@ -32,5 +33,17 @@ Esito<TabellaGioco> CaricaArchivioGioco(const FormatoGioco& formato, const std::
 
 // The table written as the archive, all at once.
 Esito<Fatto> SalvaArchivioGioco(const TabellaGioco& tabella, const std::filesystem::path& file);
+
+// The draws of `archivio` and those of `nuove` that it does not hold, in order of date and time,
+// numbered again from 1. A draw is known by its date (and time, for games that have one); one that
+// both hold with different numbers refuses the merge, naming it, so that a correction is never made
+// behind the user's back.
+Esito<TabellaGioco> UnisciEstrazioni(const TabellaGioco& archivio, const std::vector<EstrazioneGioco>& nuove);
+
+// The whole import: under the writers' lock, loads the archive `file` (a missing one is empty),
+// merges the new draws and writes it back all at once when something was added. Returns how many
+// draws were added; on any failure the file is left as it was.
+Esito<int> ImportaEstrazioniGioco(const FormatoGioco& formato, const std::filesystem::path& file,
+                                  const std::vector<EstrazioneGioco>& nuove);
 
 }  // namespace lottolab

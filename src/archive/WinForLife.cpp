@@ -45,7 +45,8 @@ Esito<TabellaGioco> LeggiRisultatiWinForLife(std::string_view testo) {
       if (i == kNumeri) {
         estrazione.speciali[0] = static_cast<uint8_t>(numero);
       } else {
-        if (std::find(estrazione.numeri.begin(), estrazione.numeri.begin() + i, numero) != estrazione.numeri.begin() + i)
+        if (std::find(estrazione.numeri.begin(), estrazione.numeri.begin() + i, numero) !=
+            estrazione.numeri.begin() + i)
           return ErroreRiga(riga, fmt::format("il numero {} compare due volte", numero));
         estrazione.numeri[i] = static_cast<uint8_t>(numero);
       }

@@ -22,6 +22,8 @@ struct Comando {
   std::string_view parole;
   std::string_view descrizione;  // empty when the words say enough
   int (*esegui)(Contesto& contesto, const Parole& parole);
+  // The command for the game of --gioco; null where it works on the Lotto alone.
+  int (*esegui_altro_gioco)(Contesto& contesto, const Parole& parole) = nullptr;
 };
 
 constexpr std::string_view kParoleStatistica =
@@ -30,11 +32,12 @@ constexpr std::string_view kParoleStatistica =
 // In the order of the usage text.
 constexpr std::array kComandi = {
     Comando{"importa", "FILE", "aggiunge all'archivio le estrazioni nuove di un file di risultati (testo o zip)",
-            ComandoImporta},
+            ComandoImporta, ComandoImportaGioco},
     Comando{"aggiorna", "", "scarica i risultati pubblicati e li importa", ComandoAggiorna},
-    Comando{"info", "", "numero di estrazioni, prima e ultima data; controlla l'archivio", ComandoInfo},
+    Comando{"info", "", "numero di estrazioni, prima e ultima data; controlla l'archivio", ComandoInfo,
+            ComandoInfoGioco},
     Comando{"ripara", "", "toglie da un archivio l'estrazione incompleta in fondo, dopo averlo copiato", ComandoRipara},
-    Comando{"estrazione", "ID|GG/MM/AAAA", "mostra un'estrazione", ComandoEstrazione},
+    Comando{"estrazione", "ID|GG/MM/AAAA", "mostra un'estrazione", ComandoEstrazione, ComandoEstrazioneGioco},
     Comando{"ritardo", kParoleStatistica, "",
             [](Contesto& contesto, const Parole& parole) {
               return ComandoStatistica(contesto, parole, Statistica::Ritardo);
@@ -66,7 +69,7 @@ constexpr size_t kColonnaDescrizione = 26;
 // The usage text, one line per command; neighbours that take the same words for the same purpose
 // share a line, their names joined by "|".
 std::string TestoUso() {
-  std::string testo = "uso: lottolab [--archivio PATH] COMANDO ...\ncomandi:\n";
+  std::string testo = "uso: lottolab [--gioco LO|SE|DL|DL5|WF|FT] [--archivio PATH] COMANDO ...\ncomandi:\n";
   for (auto comando = kComandi.begin(); comando != kComandi.end();) {
     std::string sinossi(comando->nome);
     auto dopo = std::next(comando);
@@ -82,7 +85,20 @@ std::string TestoUso() {
       testo += fmt::format("  {}   {}\n", sinossi, comando->descrizione);
     comando = dopo;
   }
+  testo +=
+      "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
+      "  WF Win for Life, FT archivio generico; per i giochi diversi dal Lotto valgono per ora importa, info, "
+      "estrazione\n";
   return testo;
+}
+
+// The game of --gioco: LO for the Lotto (none), or the code of another game.
+Esito<std::optional<Gioco>> LeggiGioco(std::string_view sigla) {
+  if (sigla == "LO") return std::optional<Gioco>();
+  for (Gioco gioco : {Gioco::SuperEnalotto, Gioco::DieciELotto, Gioco::DieciELottoOgniCinqueMinuti, Gioco::WinForLife,
+                      Gioco::Generico})
+    if (Formato(gioco).sigla == sigla) return std::optional<Gioco>(gioco);
+  return AvvisoEsclamativo(fmt::format("gioco sconosciuto: {} (LO, SE, DL, DL5, WF o FT)", sigla));
 }
 
 int EseguiParole(const Parole& argomenti, std::ostream& out, std::ostream& err) {
@@ -92,16 +108,25 @@ int EseguiParole(const Parole& argomenti, std::ostream& out, std::ostream& err) 
     segnalatore.Mostra(configurazione.Errore());
     return segnalatore.CodiceUscita();
   }
-  Contesto contesto{out, err, segnalatore, std::move(configurazione).Valore(), {}};
+  Contesto contesto{out, err, segnalatore, std::move(configurazione).Valore(), {}, {}};
   contesto.archivio = contesto.configurazione.ArchivioLotto();
 
   size_t i = 0;
-  while (i < argomenti.size() && argomenti[i] == "--archivio") {
+  bool archivio_dato = false;
+  while (i < argomenti.size() && (argomenti[i] == "--archivio" || argomenti[i] == "--gioco")) {
     if (i + 1 == argomenti.size())
-      return contesto.Fallisci(AvvisoEsclamativo("manca il valore dell'opzione --archivio"));
-    contesto.archivio = argomenti[i + 1];
+      return contesto.Fallisci(AvvisoEsclamativo(fmt::format("manca il valore dell'opzione {}", argomenti[i])));
+    if (argomenti[i] == "--archivio") {
+      contesto.archivio = argomenti[i + 1];
+      archivio_dato = true;
+    } else if (auto gioco = LeggiGioco(argomenti[i + 1])) {
+      contesto.gioco = *gioco;
+    } else {
+      return contesto.Fallisci(gioco.Errore());
+    }
     i += 2;
   }
+  if (contesto.gioco && !archivio_dato) contesto.archivio = contesto.configurazione.ArchivioGioco(*contesto.gioco);
   if (i == argomenti.size() || argomenti[i] == "--help" || argomenti[i] == "aiuto") {
     fmt::print(i == argomenti.size() ? err : out, "{}", TestoUso());
     return i == argomenti.size() ? kUscitaInputNonValido : kUscitaRiuscita;
@@ -110,6 +135,11 @@ int EseguiParole(const Parole& argomenti, std::ostream& out, std::ostream& err) 
   Parole parole(argomenti.begin() + static_cast<std::ptrdiff_t>(i) + 1, argomenti.end());
 
   const auto trovato = std::ranges::find(kComandi, std::string_view(comando), &Comando::nome);
+  if (trovato != kComandi.end() && contesto.gioco) {
+    if (trovato->esegui_altro_gioco) return trovato->esegui_altro_gioco(contesto, parole);
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format(
+        "il comando {} per ora vale solo per il Lotto, non per il {}", comando, Formato(*contesto.gioco).nome)));
+  }
   if (trovato != kComandi.end()) return trovato->esegui(contesto, parole);
   return contesto.Fallisci(
       AvvisoEsclamativo(fmt::format("comando sconosciuto: {} (lottolab --help per l'elenco)", comando)));

@@ -19,6 +19,10 @@ int ComandoInfo(Contesto& contesto, const Parole& parole);
 // Cuts an archive's partial trailing record, after copying the archive beside it.
 int ComandoRipara(Contesto& contesto, const Parole& parole);
 int ComandoEstrazione(Contesto& contesto, const Parole& parole);
+// The same three for the game of --gioco.
+int ComandoImportaGioco(Contesto& contesto, const Parole& parole);
+int ComandoInfoGioco(Contesto& contesto, const Parole& parole);
+int ComandoEstrazioneGioco(Contesto& contesto, const Parole& parole);
 
 enum class Statistica { Ritardo, Frequenza, Storico };
 int ComandoStatistica(Contesto& contesto, const Parole& parole, Statistica statistica);

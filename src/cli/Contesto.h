@@ -4,6 +4,7 @@
 // the way it reports a failure (one line on stderr and the exit status).
 
 #include <filesystem>
+#include <optional>
 #include <ostream>
 
 #include "app/Configurazione.h"
@@ -37,6 +38,8 @@ struct Contesto {
   SegnalatoreTerminale& segnalatore;
   app::Configurazione configurazione;
   std::filesystem::path archivio;
+  // The game of --gioco; none for the Lotto.
+  std::optional<Gioco> gioco;
 
   // Shows the failure and gives the exit status that goes with it.
   int Fallisci(const Avviso& avviso);

@@ -82,7 +82,7 @@ TEST_F(RigaDiComando, TabelloneAllineato) {
 // stays as it is, word for word, whatever the way the commands are registered.
 TEST_F(LottolabDiProva, UsoElencaIComandi) {
   const std::string uso =
-      "uso: lottolab [--archivio PATH] COMANDO ...\n"
+      "uso: lottolab [--gioco LO|SE|DL|DL5|WF|FT] [--archivio PATH] COMANDO ...\n"
       "comandi:\n"
       "  importa FILE              aggiunge all'archivio le estrazioni nuove di un file di risultati (testo o zip)\n"
       "  aggiorna                  scarica i risultati pubblicati e li importa\n"
@@ -97,7 +97,10 @@ TEST_F(LottolabDiProva, UsoElencaIComandi) {
       "  nuovo-script FILE.ls      scrive lo schema di uno script nuovo\n"
       "  struttura FILE            mostra vertici, linee e condizioni di un file di struttura\n"
       "  funzioni [--html FILE]    elenca le funzioni degli script (o ne scrive la pagina di riferimento)\n"
-      "  cerca-figura FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]   cerca una figura nell'archivio\n";
+      "  cerca-figura FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]   cerca una figura nell'archivio\n"
+      "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
+      "  WF Win for Life, FT archivio generico; per i giochi diversi dal Lotto valgono per ora importa, info, "
+      "estrazione\n";
   EXPECT_EQ(Lottolab({}).err, uso);
   EXPECT_EQ(Lottolab({}).codice, 2);
   const Uscita aiuto = Lottolab({"--archivio", "x", "--help"});

@@ -1,0 +1,186 @@
+// importa, info and estrazione for the games besides the Lotto (--gioco SE|DL|DL5|WF|FT).
+
+#include <charconv>
+#include <fmt/format.h>
+#include <fmt/ostream.h>
+
+#include "Comandi.h"
+#include "app/ErroreInatteso.h"
+#include "archive/ArchivioGenerico.h"
+#include "archive/ArchivioGioco.h"
+#include "archive/ClsEstrazioni.h"
+#include "archive/DateEstrazione.h"
+#include "archive/DieciELotto.h"
+#include "archive/DieciELottoOgniCinqueMinuti.h"
+#include "archive/FileSicuri.h"
+#include "archive/SuperEnalotto.h"
+#include "archive/WinForLife.h"
+
+namespace lottolab::cli {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// A results file of the other games is a few MB at most.
+constexpr size_t kLimiteRisultati = size_t{64} << 20;
+
+Avviso UsoErrato(const Contesto& contesto, std::string_view uso) {
+  return AvvisoEsclamativo(fmt::format("uso: lottolab --gioco {} {}", Formato(*contesto.gioco).sigla, uso));
+}
+
+// The Lotto archive that the SuperEnalotto before 2009 and the evening 10eLotto are derived from;
+// an empty table, with a warning, when there is none yet.
+TabellaEstrazioni ArchivioDelLotto(Contesto& contesto) {
+  const fs::path file = contesto.configurazione.ArchivioLotto();
+  std::error_code ec;
+  if (!fs::exists(file, ec)) {
+    contesto.segnalatore.Avverti(fmt::format("l'archivio del Lotto {} non c'è: le estrazioni che ne derivano non sono "
+                                             "state ricavate",
+                                             app::PercorsoPerMessaggio(file.string())));
+    return {};
+  }
+  auto tabella = ClsEstrazioni(file).CaricaEstrazioni();
+  if (!tabella) {
+    contesto.segnalatore.Avverti(tabella.Errore().testo);
+    return {};
+  }
+  return *tabella;
+}
+
+// The draws of a results file for the game, with what it leaves in doubt told as warnings.
+Esito<std::vector<EstrazioneGioco>> LeggiRisultati(Contesto& contesto, std::string_view testo) {
+  switch (*contesto.gioco) {
+    case Gioco::SuperEnalotto: {
+      auto risultati = LeggiRisultatiSuperEnalotto(testo);
+      if (!risultati) return risultati.Errore();
+      auto archivio = ArchivioSuperEnalotto(ArchivioDelLotto(contesto), *risultati);
+      if (!archivio) return archivio.Errore();
+      return archivio->Tutte();
+    }
+    case Gioco::DieciELotto: {
+      auto risultati = LeggiRisultatiDieciELotto(testo);
+      if (!risultati) return risultati.Errore();
+      auto costruito = ArchivioDieciELotto(ArchivioDelLotto(contesto), *risultati);
+      for (const std::string& differenza : costruito.differenze) contesto.segnalatore.Avverti(differenza);
+      return costruito.tabella.Tutte();
+    }
+    case Gioco::DieciELottoOgniCinqueMinuti: {
+      auto risultati = LeggiRisultatiCinqueMinuti(testo);
+      if (!risultati) return risultati.Errore();
+      for (const std::string& segnalazione : risultati->segnalazioni) contesto.segnalatore.Avverti(segnalazione);
+      return risultati->tabella.Tutte();
+    }
+    case Gioco::WinForLife: {
+      auto risultati = LeggiRisultatiWinForLife(testo);
+      if (!risultati) return risultati.Errore();
+      return risultati->Tutte();
+    }
+    case Gioco::Generico: break;
+  }
+  auto risultati = LeggiArchivioGenerico(testo);
+  if (!risultati) return risultati.Errore();
+  return risultati->Tutte();
+}
+
+// The generic archive takes its measures from the file it was first filled from.
+FormatoGioco FormatoDaImportare(Contesto& contesto, const std::vector<EstrazioneGioco>& estrazioni,
+                                std::string_view testo) {
+  if (*contesto.gioco != Gioco::Generico || estrazioni.empty()) return Formato(*contesto.gioco);
+  auto generico = LeggiArchivioGenerico(testo);
+  return generico ? generico->formato() : Formato(Gioco::Generico);
+}
+
+std::string Ora(const FormatoGioco& formato, const EstrazioneGioco& estrazione) {
+  return formato.con_ora ? fmt::format(" {:02}:{:02}", estrazione.minuti / 60, estrazione.minuti % 60) : "";
+}
+
+std::string NumeriDi(const auto& numeri, int quanti) {
+  std::string testo;
+  for (int i = 0; i < quanti; ++i) testo += fmt::format("{}{:02}", i ? " " : "", numeri[i]);
+  return testo;
+}
+
+// What follows the main numbers: the special numbers by name, where the draw holds them.
+std::string Speciali(const FormatoGioco& formato, const EstrazioneGioco& estrazione) {
+  static constexpr std::string_view kNomi[][3] = {
+      {"Jolly", "SuperStar", ""}, {"Oro", "Doppio Oro", "Gong"}, {"Oro", "Doppio Oro", "Gong"}, {"Numerone", "", ""}};
+  std::string testo;
+  if (formato.gioco == Gioco::Generico) return testo;
+  for (int i = 0; i < formato.speciali; ++i)
+    if (estrazione.speciali[i] != 0)
+      testo += fmt::format("  {} {:02}", kNomi[static_cast<int>(formato.gioco)][i], estrazione.speciali[i]);
+  if (formato.extra > 0 && estrazione.extra[0] != 0) testo += "  Extra " + NumeriDi(estrazione.extra, formato.extra);
+  return testo;
+}
+
+// The generic archive's format is its file's; a missing one is still empty.
+Esito<TabellaGioco> CaricaArchivio(Contesto& contesto) {
+  if (*contesto.gioco != Gioco::Generico) return CaricaArchivioGioco(Formato(*contesto.gioco), contesto.archivio);
+  return AvvisoEsclamativo(
+      "l'archivio generico si legge dal suo file di testo: lottolab --gioco FT importa FILE ne mostra il contenuto");
+}
+
+}  // namespace
+
+int ComandoImportaGioco(Contesto& contesto, const Parole& parole) {
+  if (parole.size() != 1) return contesto.Fallisci(UsoErrato(contesto, "importa FILE"));
+  auto letto = LeggiFileRegolare(parole[0], kLimiteRisultati);
+  if (!letto) return contesto.Fallisci(letto.Errore());
+  if (!letto->has_value())
+    return contesto.Fallisci(
+        AvvisoEsclamativo(fmt::format("il file {} non esiste", app::PercorsoPerMessaggio(parole[0]))));
+  const std::string& testo = **letto;
+  auto nuove = LeggiRisultati(contesto, testo);
+  if (!nuove) return contesto.Fallisci(nuove.Errore());
+  const FormatoGioco formato = FormatoDaImportare(contesto, *nuove, testo);
+  std::error_code ec;
+  if (contesto.archivio.has_parent_path()) fs::create_directories(contesto.archivio.parent_path(), ec);
+  auto aggiunte = ImportaEstrazioniGioco(formato, contesto.archivio, *nuove);
+  if (!aggiunte) return contesto.Fallisci(aggiunte.Errore());
+  fmt::print(contesto.out, "importate {} estrazioni del {}\n", *aggiunte, formato.nome);
+  return kUscitaRiuscita;
+}
+
+int ComandoInfoGioco(Contesto& contesto, const Parole& parole) {
+  if (!parole.empty()) return contesto.Fallisci(UsoErrato(contesto, "info"));
+  auto tabella = CaricaArchivio(contesto);
+  if (!tabella) return contesto.Fallisci(tabella.Errore());
+  const FormatoGioco& formato = tabella->formato();
+  const int n = tabella->EstrazioniArchivio();
+  fmt::print(contesto.out, "gioco: {}\n", formato.nome);
+  fmt::print(contesto.out, "estrazioni: {}\n", n);
+  fmt::print(contesto.out, "prima: {}\n", n ? FormattaData((*tabella)[1].data) + Ora(formato, (*tabella)[1]) : "-");
+  fmt::print(contesto.out, "ultima: {}\n", n ? FormattaData((*tabella)[n].data) + Ora(formato, (*tabella)[n]) : "-");
+  return kUscitaRiuscita;
+}
+
+int ComandoEstrazioneGioco(Contesto& contesto, const Parole& parole) {
+  if (parole.size() != 1) return contesto.Fallisci(UsoErrato(contesto, "estrazione ID|GG/MM/AAAA"));
+  auto tabella = CaricaArchivio(contesto);
+  if (!tabella) return contesto.Fallisci(tabella.Errore());
+  const FormatoGioco& formato = tabella->formato();
+  std::vector<int> scelte;
+  if (parole[0].find('/') != std::string::npos) {
+    auto data = LeggiData(parole[0]);
+    if (!data) return contesto.Fallisci(data.Errore());
+    for (int k = 1; k <= tabella->EstrazioniArchivio(); ++k)
+      if (ConfrontaDate((*tabella)[k].data, *data) == 0) scelte.push_back(k);
+    if (scelte.empty()) return contesto.Fallisci(AvvisoEsclamativo(fmt::format("nessuna estrazione il {}", parole[0])));
+  } else {
+    int k = 0;
+    const auto [fine, errore] = std::from_chars(parole[0].data(), parole[0].data() + parole[0].size(), k);
+    if (errore != std::errc() || fine != parole[0].data() + parole[0].size() || !tabella->Contiene(k))
+      return contesto.Fallisci(AvvisoEsclamativo(fmt::format("l'estrazione {} non è nell'archivio, che ne ha {}",
+                                                             parole[0], tabella->EstrazioniArchivio())));
+    scelte.push_back(k);
+  }
+  for (int k : scelte) {
+    const EstrazioneGioco& estrazione = (*tabella)[k];
+    fmt::print(contesto.out, "{} {}{} concorso {}: {}{}\n", k, FormattaData(estrazione.data), Ora(formato, estrazione),
+               estrazione.concorso, NumeriDi(estrazione.numeri, formato.numeri), Speciali(formato, estrazione));
+  }
+  return kUscitaRiuscita;
+}
+
+}  // namespace lottolab::cli
