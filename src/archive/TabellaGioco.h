@@ -34,6 +34,9 @@ class TabellaGioco {
   bool Contiene(int id_estr) const { return id_estr >= 1 && id_estr <= EstrazioniArchivio(); }
   const EstrazioneGioco& operator[](int id_estr) const { return m_estrazioni[id_estr - 1]; }
   const std::vector<EstrazioneGioco>& Tutte() const { return m_estrazioni; }
+  // The last draw whose date is on or before the given one (the last of that day, for games with a
+  // time); 0 when there is none.
+  int UltimaEstrazioneEntro(const GruppoData& data) const;
 
  private:
   FormatoGioco m_formato;

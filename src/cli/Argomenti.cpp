@@ -88,7 +88,11 @@ Esito<stats::Posizioni> LeggiPosizioni(const std::string& testo) {
   return posizioni;
 }
 
-Esito<int> LeggiRiferimentoEstrazione(const TabellaEstrazioni& tabella, const std::string& testo) {
+namespace {
+
+// A reference to a draw of either kind of table: the count, and the last draw on or before a date.
+template <typename Tabella>
+Esito<int> RiferimentoEstrazione(const Tabella& tabella, const std::string& testo) {
   if (testo.find('/') == std::string::npos) {
     auto indice = Intero(testo);
     if (!indice || !tabella.Contiene(*indice))
@@ -105,15 +109,16 @@ Esito<int> LeggiRiferimentoEstrazione(const TabellaEstrazioni& tabella, const st
   return indice;
 }
 
-Esito<Intervallo> LeggiIntervallo(const TabellaEstrazioni& tabella, const Argomenti& argomenti) {
+template <typename Tabella>
+Esito<Intervallo> IntervalloDi(const Tabella& tabella, const Argomenti& argomenti) {
   Intervallo intervallo{1, tabella.EstrazioniArchivio()};
   if (auto it = argomenti.opzioni.find("inizio"); it != argomenti.opzioni.end()) {
-    auto inizio = LeggiRiferimentoEstrazione(tabella, it->second);
+    auto inizio = RiferimentoEstrazione(tabella, it->second);
     if (!inizio) return inizio.Errore();
     intervallo.inizio = *inizio;
   }
   if (auto it = argomenti.opzioni.find("fine"); it != argomenti.opzioni.end()) {
-    auto fine = LeggiRiferimentoEstrazione(tabella, it->second);
+    auto fine = RiferimentoEstrazione(tabella, it->second);
     if (!fine) return fine.Errore();
     intervallo.fine = *fine;
   }
@@ -121,6 +126,24 @@ Esito<Intervallo> LeggiIntervallo(const TabellaEstrazioni& tabella, const Argome
     return AvvisoEsclamativo(
         fmt::format("intervallo vuoto: l'inizio ({}) viene dopo la fine ({})", intervallo.inizio, intervallo.fine));
   return intervallo;
+}
+
+}  // namespace
+
+Esito<int> LeggiRiferimentoEstrazione(const TabellaEstrazioni& tabella, const std::string& testo) {
+  return RiferimentoEstrazione(tabella, testo);
+}
+
+Esito<int> LeggiRiferimentoEstrazione(const TabellaGioco& tabella, const std::string& testo) {
+  return RiferimentoEstrazione(tabella, testo);
+}
+
+Esito<Intervallo> LeggiIntervallo(const TabellaEstrazioni& tabella, const Argomenti& argomenti) {
+  return IntervalloDi(tabella, argomenti);
+}
+
+Esito<Intervallo> LeggiIntervallo(const TabellaGioco& tabella, const Argomenti& argomenti) {
+  return IntervalloDi(tabella, argomenti);
 }
 
 }  // namespace lottolab::cli

@@ -9,6 +9,7 @@
 
 #include "archive/Esito.h"
 #include "archive/TabellaEstrazioni.h"
+#include "archive/TabellaGioco.h"
 #include "stats/Ritardi.h"
 
 namespace lottolab::cli {
@@ -31,6 +32,7 @@ Esito<int> LeggiSorte(const std::string& testo);
 Esito<stats::Posizioni> LeggiPosizioni(const std::string& testo);
 // A draw index of the table, or a date naming the last draw on or before it.
 Esito<int> LeggiRiferimentoEstrazione(const TabellaEstrazioni& tabella, const std::string& testo);
+Esito<int> LeggiRiferimentoEstrazione(const TabellaGioco& tabella, const std::string& testo);
 
 // The range of draws that --inizio and --fine name; the whole archive by default.
 struct Intervallo {
@@ -38,5 +40,6 @@ struct Intervallo {
   int fine = 0;
 };
 Esito<Intervallo> LeggiIntervallo(const TabellaEstrazioni& tabella, const Argomenti& argomenti);
+Esito<Intervallo> LeggiIntervallo(const TabellaGioco& tabella, const Argomenti& argomenti);
 
 }  // namespace lottolab::cli

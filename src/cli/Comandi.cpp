@@ -41,14 +41,23 @@ constexpr std::array kComandi = {
     Comando{"ritardo", kParoleStatistica, "",
             [](Contesto& contesto, const Parole& parole) {
               return ComandoStatistica(contesto, parole, Statistica::Ritardo);
+            },
+            [](Contesto& contesto, const Parole& parole) {
+              return ComandoStatisticaGioco(contesto, parole, Statistica::Ritardo);
             }},
     Comando{"frequenza", kParoleStatistica, "",
             [](Contesto& contesto, const Parole& parole) {
               return ComandoStatistica(contesto, parole, Statistica::Frequenza);
+            },
+            [](Contesto& contesto, const Parole& parole) {
+              return ComandoStatisticaGioco(contesto, parole, Statistica::Frequenza);
             }},
     Comando{"storico", kParoleStatistica, "",
             [](Contesto& contesto, const Parole& parole) {
               return ComandoStatistica(contesto, parole, Statistica::Storico);
+            },
+            [](Contesto& contesto, const Parole& parole) {
+              return ComandoStatisticaGioco(contesto, parole, Statistica::Storico);
             }},
     Comando{"tabellone", "[--ruota VE] [--inizio X] [--fine X]", "", ComandoTabellone},
     Comando{"vbs", "[--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]", "esegue un programma VBScript", ComandoVbs},
@@ -87,8 +96,8 @@ std::string TestoUso() {
   }
   testo +=
       "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
-      "  WF Win for Life, FT archivio generico; per i giochi diversi dal Lotto valgono per ora importa, info, "
-      "estrazione\n";
+      "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, info, estrazione,\n"
+      "  ritardo, frequenza e storico (senza --ruote e --posizioni)\n";
   return testo;
 }
 

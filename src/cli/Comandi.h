@@ -26,6 +26,8 @@ int ComandoEstrazioneGioco(Contesto& contesto, const Parole& parole);
 
 enum class Statistica { Ritardo, Frequenza, Storico };
 int ComandoStatistica(Contesto& contesto, const Parole& parole, Statistica statistica);
+// The same for the game of --gioco, where a draw is one set of numbers.
+int ComandoStatisticaGioco(Contesto& contesto, const Parole& parole, Statistica statistica);
 int ComandoTabellone(Contesto& contesto, const Parole& parole);
 // Runs a plain VBScript program with a WScript object; its exit status is the script's.
 int ComandoVbs(Contesto& contesto, const Parole& parole);

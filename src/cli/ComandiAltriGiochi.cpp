@@ -1,9 +1,11 @@
 // importa, info and estrazione for the games besides the Lotto (--gioco SE|DL|DL5|WF|FT).
 
+#include <algorithm>
 #include <charconv>
 #include <fmt/format.h>
 #include <fmt/ostream.h>
 
+#include "Argomenti.h"
 #include "Comandi.h"
 #include "app/ErroreInatteso.h"
 #include "archive/ArchivioGenerico.h"
@@ -15,6 +17,7 @@
 #include "archive/FileSicuri.h"
 #include "archive/SuperEnalotto.h"
 #include "archive/WinForLife.h"
+#include "stats/RitardiGioco.h"
 
 namespace lottolab::cli {
 
@@ -35,9 +38,10 @@ TabellaEstrazioni ArchivioDelLotto(Contesto& contesto) {
   const fs::path file = contesto.configurazione.ArchivioLotto();
   std::error_code ec;
   if (!fs::exists(file, ec)) {
-    contesto.segnalatore.Avverti(fmt::format("l'archivio del Lotto {} non c'è: le estrazioni che ne derivano non sono "
-                                             "state ricavate",
-                                             app::PercorsoPerMessaggio(file.string())));
+    contesto.segnalatore.Avverti(
+        fmt::format("l'archivio del Lotto {} non c'è: le estrazioni che ne derivano non sono "
+                    "state ricavate",
+                    app::PercorsoPerMessaggio(file.string())));
     return {};
   }
   auto tabella = ClsEstrazioni(file).CaricaEstrazioni();
@@ -171,8 +175,8 @@ int ComandoEstrazioneGioco(Contesto& contesto, const Parole& parole) {
     int k = 0;
     const auto [fine, errore] = std::from_chars(parole[0].data(), parole[0].data() + parole[0].size(), k);
     if (errore != std::errc() || fine != parole[0].data() + parole[0].size() || !tabella->Contiene(k))
-      return contesto.Fallisci(AvvisoEsclamativo(fmt::format("l'estrazione {} non è nell'archivio, che ne ha {}",
-                                                             parole[0], tabella->EstrazioniArchivio())));
+      return contesto.Fallisci(AvvisoEsclamativo(
+          fmt::format("l'estrazione {} non è nell'archivio, che ne ha {}", parole[0], tabella->EstrazioniArchivio())));
     scelte.push_back(k);
   }
   for (int k : scelte) {
@@ -180,6 +184,50 @@ int ComandoEstrazioneGioco(Contesto& contesto, const Parole& parole) {
     fmt::print(contesto.out, "{} {}{} concorso {}: {}{}\n", k, FormattaData(estrazione.data), Ora(formato, estrazione),
                estrazione.concorso, NumeriDi(estrazione.numeri, formato.numeri), Speciali(formato, estrazione));
   }
+  return kUscitaRiuscita;
+}
+
+int ComandoStatisticaGioco(Contesto& contesto, const Parole& parole, Statistica statistica) {
+  auto argomenti = SeparaArgomenti(parole, {"sorte", "inizio", "fine"});
+  if (!argomenti) return contesto.Fallisci(argomenti.Errore());
+  auto tabella = CaricaArchivio(contesto);
+  if (!tabella) return contesto.Fallisci(tabella.Errore());
+  const FormatoGioco& formato = tabella->formato();
+  if (tabella->EstrazioniArchivio() == 0)
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("l'archivio del {} è vuoto", formato.nome)));
+
+  std::vector<int> numeri;
+  for (const std::string& parola : argomenti->parole) {
+    int numero = 0;
+    const auto [fine, errore] = std::from_chars(parola.data(), parola.data() + parola.size(), numero);
+    if (errore != std::errc() || fine != parola.data() + parola.size() || numero < 1 || numero > formato.massimo)
+      return contesto.Fallisci(AvvisoEsclamativo(
+          fmt::format("\"{}\" non è un numero del {} (da 1 a {})", parola, formato.nome, formato.massimo)));
+    if (std::find(numeri.begin(), numeri.end(), numero) != numeri.end())
+      return contesto.Fallisci(AvvisoEsclamativo(fmt::format("numero ripetuto: {}", numero)));
+    numeri.push_back(numero);
+  }
+  if (numeri.empty())
+    return contesto.Fallisci(
+        UsoErrato(contesto, "ritardo|frequenza|storico [--sorte N] [--inizio X] [--fine X] N1 [N2 ...]"));
+  // Without --sorte the numbers are played as a whole, as for the Lotto.
+  int sorte = std::min(static_cast<int>(numeri.size()), formato.numeri);
+  if (auto it = argomenti->opzioni.find("sorte"); it != argomenti->opzioni.end()) {
+    const auto [fine, errore] = std::from_chars(it->second.data(), it->second.data() + it->second.size(), sorte);
+    if (errore != std::errc() || fine != it->second.data() + it->second.size() || sorte < 1 ||
+        sorte > static_cast<int>(numeri.size()) || sorte > formato.numeri)
+      return contesto.Fallisci(
+          AvvisoEsclamativo(fmt::format("sorte non valida: {} (da 1 al numero dei numeri giocati, {} al più)",
+                                        it->second, std::min<size_t>(numeri.size(), formato.numeri))));
+  }
+  auto intervallo = LeggiIntervallo(*tabella, *argomenti);
+  if (!intervallo) return contesto.Fallisci(intervallo.Errore());
+  const stats::StatisticaNumero figure =
+      stats::StatisticaCombinazioneGioco(*tabella, numeri, sorte, intervallo->fine, intervallo->inizio);
+  const int valore = statistica == Statistica::Ritardo     ? figure.ritardo
+                     : statistica == Statistica::Frequenza ? figure.frequenza
+                                                           : figure.storico;
+  fmt::print(contesto.out, "{}\n", valore);
   return kUscitaRiuscita;
 }
 

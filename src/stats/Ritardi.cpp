@@ -1,5 +1,7 @@
 #include "Ritardi.h"
 
+#include "Andamento.h"
+
 #include <algorithm>
 #include <cassert>
 #include <cstdint>
@@ -11,12 +13,6 @@
 namespace lottolab::stats {
 
 namespace {
-
-// What one draw means for a combination: whether it counts, and on how many selected wheels it wins.
-struct Esame {
-  bool conta = false;
-  int vincite = 0;
-};
 
 // The played numbers, selected wheels and flagged positions in the shape the walks read fastest:
 // flags indexed by number and by position, and the offsets of the selected wheels in a record.
@@ -91,27 +87,6 @@ class Giocata {
   int m_numero_ruote = 0;
 };
 
-// The statistics of the range walked so far, updated one draw at a time from the first.
-struct Andamento {
-  int ritardo = 0;
-  int frequenza = 0;
-  int storico = 0;
-  int massimo_chiuso = 0;
-
-  void Aggiungi(const Esame& esame) {
-    frequenza += esame.vincite;
-    if (esame.vincite > 0) {
-      massimo_chiuso = std::max(massimo_chiuso, ritardo);
-      ritardo = 0;
-    } else if (esame.conta) {
-      ++ritardo;
-      storico = std::max(storico, ritardo);
-    }
-  }
-
-  int IncrStorico() const { return ritardo > massimo_chiuso ? ritardo - massimo_chiuso : 0; }
-};
-
 // The draws as the walks read them, record by record.
 class FonteTabella {
  public:
@@ -184,17 +159,6 @@ int IncrStoricoCombinazione(const TabellaEstrazioni& tab, std::span<const int> r
                             int sorte, int fine, const Posizioni& posizioni, int inizio) {
   return Percorri(FonteTabella(tab), Giocata(ruote, numeri, sorte, posizioni), inizio, fine).IncrStorico();
 }
-
-namespace {
-
-StatisticaNumero Figure(const Andamento& andamento) {
-  return {.ritardo = andamento.ritardo,
-          .frequenza = andamento.frequenza,
-          .storico = andamento.storico,
-          .incr_storico = andamento.IncrStorico()};
-}
-
-}  // namespace
 
 StatisticaNumero StatisticaCombinazione(const TabellaEstrazioni& tab, std::span<const int> ruote,
                                         std::span<const int> numeri, int sorte, int fine, const Posizioni& posizioni,

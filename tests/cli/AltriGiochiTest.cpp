@@ -36,13 +36,21 @@ TEST_F(AltriGiochi, OgniGiocoHaIlSuoArchivioNellaCartellaBase) {
             "1 02/01/2010 concorso 1: 01 02 03 04 05 06  Jolly 07  SuperStar 08\n");
 
   // A correction is never made behind the user's back.
-  auto diversa = Lottolab({"--gioco", "SE", "importa",
-                           Scrivi("corretto.txt", "2010/01/02\t1\t1\t2\t3\t4\t5\t9\t7\t8\n")});
+  auto diversa =
+      Lottolab({"--gioco", "SE", "importa", Scrivi("corretto.txt", "2010/01/02\t1\t1\t2\t3\t4\t5\t9\t7\t8\n")});
   EXPECT_EQ(diversa.codice, 2);
   EXPECT_TRUE(diversa.err.ends_with(
-            "lottolab: L'estrazione del 02/01/2010 nell'archivio del SuperEnalotto ha numeri diversi da quella che si "
-            "vuole importare: l'archivio non è stato cambiato\n"))
+      "lottolab: L'estrazione del 02/01/2010 nell'archivio del SuperEnalotto ha numeri diversi da quella che si "
+      "vuole importare: l'archivio non è stato cambiato\n"))
       << diversa.err;
+
+  // Statistics on the main numbers alone: 7 is the Jolly of the first draw, not a number of it.
+  EXPECT_EQ(Lottolab({"--gioco", "SE", "ritardo", "7"}).out, "2\n");
+  EXPECT_EQ(Lottolab({"--gioco", "SE", "frequenza", "1", "90", "--sorte", "1"}).out, "2\n");
+  EXPECT_EQ(Lottolab({"--gioco", "SE", "storico", "--fine", "1", "12"}).out, "1\n");
+  EXPECT_EQ(Lottolab({"--gioco", "SE", "ritardo", "91"}).err,
+            "lottolab: \"91\" non è un numero del SuperEnalotto (da 1 a 90)\n");
+  EXPECT_EQ(Lottolab({"--gioco", "SE", "ritardo", "--ruote", "BA", "1"}).codice, 2);
 
   const std::string win = Scrivi("wf.txt", "2026/03/02 08:00 1 1 3 5 7 9 11 13 15 17 19 20\n");
   EXPECT_EQ(Lottolab({"--gioco", "WF", "importa", win}).out, "importate 1 estrazioni del Win for Life\n");
@@ -54,9 +62,9 @@ TEST_F(AltriGiochi, GiocoSconosciutoOComandoSoloDelLotto) {
   auto sconosciuto = Lottolab({"--gioco", "EJ", "info"});
   EXPECT_EQ(sconosciuto.codice, 2);
   EXPECT_EQ(sconosciuto.err, "lottolab: gioco sconosciuto: EJ (LO, SE, DL, DL5, WF o FT)\n");
-  auto solo_lotto = Lottolab({"--gioco", "DL", "ritardo", "5"});
+  auto solo_lotto = Lottolab({"--gioco", "DL", "tabellone"});
   EXPECT_EQ(solo_lotto.codice, 2);
-  EXPECT_EQ(solo_lotto.err, "lottolab: il comando ritardo per ora vale solo per il Lotto, non per il 10eLotto\n");
+  EXPECT_EQ(solo_lotto.err, "lottolab: il comando tabellone per ora vale solo per il Lotto, non per il 10eLotto\n");
   EXPECT_EQ(Lottolab({"--gioco", "LO", "info"}).err, Lottolab({"info"}).err) << "LO is the Lotto";
   auto vuoto = Lottolab({"--gioco", "DL", "info"});
   EXPECT_EQ(vuoto.out, "gioco: 10eLotto\nestrazioni: 0\nprima: -\nultima: -\n");

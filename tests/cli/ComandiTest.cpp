@@ -99,8 +99,8 @@ TEST_F(LottolabDiProva, UsoElencaIComandi) {
       "  funzioni [--html FILE]    elenca le funzioni degli script (o ne scrive la pagina di riferimento)\n"
       "  cerca-figura FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]   cerca una figura nell'archivio\n"
       "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
-      "  WF Win for Life, FT archivio generico; per i giochi diversi dal Lotto valgono per ora importa, info, "
-      "estrazione\n";
+      "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, info, estrazione,\n"
+      "  ritardo, frequenza e storico (senza --ruote e --posizioni)\n";
   EXPECT_EQ(Lottolab({}).err, uso);
   EXPECT_EQ(Lottolab({}).codice, 2);
   const Uscita aiuto = Lottolab({"--archivio", "x", "--help"});

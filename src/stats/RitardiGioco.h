@@ -1,0 +1,23 @@
+#pragma once
+
+// Delay, frequency and historical maximum of a combination in the archive of a game other than the
+// Lotto. A draw of those games is one set of numbers: the combination wins at sorte k when at least
+// k of its numbers are among the draw's main numbers (the Jolly, SuperStar, Oro, Extra, Numerone
+// count only in the functions that name them), and every draw counts. The run of delays is the one
+// the Lotto's statistics follow (Andamento.h).
+//
+// As there, the arguments are not user input: numbers outside 1..255, a sorte outside 1..numbers of
+// a draw, or a range that leaves the table are programming errors caught by an assertion.
+
+#include <span>
+
+#include "Tabellone.h"
+#include "archive/TabellaGioco.h"
+
+namespace lottolab::stats {
+
+// The delay, frequency, historical maximum and its increment over draws inizio..fine.
+StatisticaNumero StatisticaCombinazioneGioco(const TabellaGioco& tab, std::span<const int> numeri, int sorte, int fine,
+                                             int inizio = 1);
+
+}  // namespace lottolab::stats
