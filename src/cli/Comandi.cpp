@@ -59,7 +59,7 @@ constexpr std::array kComandi = {
             [](Contesto& contesto, const Parole& parole) {
               return ComandoStatisticaGioco(contesto, parole, Statistica::Storico);
             }},
-    Comando{"tabellone", "[--ruota VE] [--inizio X] [--fine X]", "", ComandoTabellone},
+    Comando{"tabellone", "[--ruota VE] [--inizio X] [--fine X]", "", ComandoTabellone, ComandoTabelloneGioco},
     Comando{"vbs", "[--locale it-IT|en-US] FILE.vbs [ARGOMENTI...]", "esegue un programma VBScript", ComandoVbs},
     Comando{"esegui", "SCRIPT.ls [--timeout MINUTI] [--html FILE] [--risposte FILE]", "esegue uno script sull'archivio",
             ComandoEsegui},
@@ -97,7 +97,7 @@ std::string TestoUso() {
   testo +=
       "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
       "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, info, estrazione,\n"
-      "  ritardo, frequenza e storico (senza --ruote e --posizioni)\n";
+      "  ritardo, frequenza, storico e tabellone (senza --ruote, --ruota e --posizioni)\n";
   return testo;
 }
 

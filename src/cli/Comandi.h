@@ -29,6 +29,8 @@ int ComandoStatistica(Contesto& contesto, const Parole& parole, Statistica stati
 // The same for the game of --gioco, where a draw is one set of numbers.
 int ComandoStatisticaGioco(Contesto& contesto, const Parole& parole, Statistica statistica);
 int ComandoTabellone(Contesto& contesto, const Parole& parole);
+// Every number of the game of --gioco, at sorte 1: delay, frequency, historical maximum.
+int ComandoTabelloneGioco(Contesto& contesto, const Parole& parole);
 // Runs a plain VBScript program with a WScript object; its exit status is the script's.
 int ComandoVbs(Contesto& contesto, const Parole& parole);
 // Runs a user's script with the library, its includes and the run sequence; the text output goes to

@@ -231,4 +231,22 @@ int ComandoStatisticaGioco(Contesto& contesto, const Parole& parole, Statistica 
   return kUscitaRiuscita;
 }
 
+int ComandoTabelloneGioco(Contesto& contesto, const Parole& parole) {
+  auto argomenti = SeparaArgomenti(parole, {"inizio", "fine"});
+  if (!argomenti) return contesto.Fallisci(argomenti.Errore());
+  if (!argomenti->parole.empty()) return contesto.Fallisci(UsoErrato(contesto, "tabellone [--inizio X] [--fine X]"));
+  auto tabella = CaricaArchivio(contesto);
+  if (!tabella) return contesto.Fallisci(tabella.Errore());
+  if (tabella->EstrazioniArchivio() == 0)
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("l'archivio del {} è vuoto", tabella->formato().nome)));
+  auto intervallo = LeggiIntervallo(*tabella, *argomenti);
+  if (!intervallo) return contesto.Fallisci(intervallo.Errore());
+  const auto figure = stats::TabelloneGioco(*tabella, intervallo->fine, intervallo->inizio);
+  fmt::print(contesto.out, "{:>6} {:>9} {:>9} {:>9}\n", "numero", "ritardo", "frequenza", "storico");
+  for (size_t numero = 1; numero < figure.size(); ++numero)
+    fmt::print(contesto.out, "{:>6} {:>9} {:>9} {:>9}\n", numero, figure[numero].ritardo, figure[numero].frequenza,
+               figure[numero].storico);
+  return kUscitaRiuscita;
+}
+
 }  // namespace lottolab::cli

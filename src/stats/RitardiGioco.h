@@ -10,6 +10,7 @@
 // a draw, or a range that leaves the table are programming errors caught by an assertion.
 
 #include <span>
+#include <vector>
 
 #include "Tabellone.h"
 #include "archive/TabellaGioco.h"
@@ -19,5 +20,9 @@ namespace lottolab::stats {
 // The delay, frequency, historical maximum and its increment over draws inizio..fine.
 StatisticaNumero StatisticaCombinazioneGioco(const TabellaGioco& tab, std::span<const int> numeri, int sorte, int fine,
                                              int inizio = 1);
+
+// The same four figures for every number 1..massimo of the game, on its own at sorte 1, from one
+// walk that looks only at the numbers drawn: element n is number n's, element 0 is unused.
+std::vector<StatisticaNumero> TabelloneGioco(const TabellaGioco& tab, int fine, int inizio = 1);
 
 }  // namespace lottolab::stats

@@ -51,6 +51,10 @@ TEST_F(AltriGiochi, OgniGiocoHaIlSuoArchivioNellaCartellaBase) {
   EXPECT_EQ(Lottolab({"--gioco", "SE", "ritardo", "91"}).err,
             "lottolab: \"91\" non è un numero del SuperEnalotto (da 1 a 90)\n");
   EXPECT_EQ(Lottolab({"--gioco", "SE", "ritardo", "--ruote", "BA", "1"}).codice, 2);
+  const std::string tabellone = Lottolab({"--gioco", "SE", "tabellone"}).out;
+  EXPECT_TRUE(tabellone.starts_with("numero   ritardo frequenza   storico\n     1         1         1         1\n"))
+      << tabellone;
+  EXPECT_NE(tabellone.find("\n     7         2         0         2\n"), std::string::npos) << "a Jolly is no number";
 
   const std::string win = Scrivi("wf.txt", "2026/03/02 08:00 1 1 3 5 7 9 11 13 15 17 19 20\n");
   EXPECT_EQ(Lottolab({"--gioco", "WF", "importa", win}).out, "importate 1 estrazioni del Win for Life\n");
@@ -62,9 +66,9 @@ TEST_F(AltriGiochi, GiocoSconosciutoOComandoSoloDelLotto) {
   auto sconosciuto = Lottolab({"--gioco", "EJ", "info"});
   EXPECT_EQ(sconosciuto.codice, 2);
   EXPECT_EQ(sconosciuto.err, "lottolab: gioco sconosciuto: EJ (LO, SE, DL, DL5, WF o FT)\n");
-  auto solo_lotto = Lottolab({"--gioco", "DL", "tabellone"});
+  auto solo_lotto = Lottolab({"--gioco", "DL", "ripara"});
   EXPECT_EQ(solo_lotto.codice, 2);
-  EXPECT_EQ(solo_lotto.err, "lottolab: il comando tabellone per ora vale solo per il Lotto, non per il 10eLotto\n");
+  EXPECT_EQ(solo_lotto.err, "lottolab: il comando ripara per ora vale solo per il Lotto, non per il 10eLotto\n");
   EXPECT_EQ(Lottolab({"--gioco", "LO", "info"}).err, Lottolab({"info"}).err) << "LO is the Lotto";
   auto vuoto = Lottolab({"--gioco", "DL", "info"});
   EXPECT_EQ(vuoto.out, "gioco: 10eLotto\nestrazioni: 0\nprima: -\nultima: -\n");

@@ -100,7 +100,7 @@ TEST_F(LottolabDiProva, UsoElencaIComandi) {
       "  cerca-figura FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]   cerca una figura nell'archivio\n"
       "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
       "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, info, estrazione,\n"
-      "  ritardo, frequenza e storico (senza --ruote e --posizioni)\n";
+      "  ritardo, frequenza, storico e tabellone (senza --ruote, --ruota e --posizioni)\n";
   EXPECT_EQ(Lottolab({}).err, uso);
   EXPECT_EQ(Lottolab({}).codice, 2);
   const Uscita aiuto = Lottolab({"--archivio", "x", "--help"});

@@ -61,11 +61,21 @@ TEST(RitardiGiocoReali, IlSuperEnalottoDalDuemilaNoveComeACalcoloPiano) {
   ASSERT_TRUE(risultati) << risultati.Errore().testo;
   const TabellaGioco tab(Formato(Gioco::SuperEnalotto), *risultati);
   const int fine = tab.EstrazioniArchivio();
+  // The whole table from one walk, number by number as the walk of one combination gives it.
+  for (const auto& [inizio, fine_tabella] : {std::pair{1, fine}, std::pair{100, fine / 2}}) {
+    const auto tabellone = TabelloneGioco(tab, fine_tabella, inizio);
+    for (int numero = 1; numero <= 90; ++numero) {
+      const int uno[] = {numero};
+      ASSERT_EQ(tabellone[static_cast<size_t>(numero)], StatisticaCombinazioneGioco(tab, uno, 1, fine_tabella, inizio))
+          << numero << " from " << inizio;
+    }
+  }
   for (const std::vector<int>& numeri : std::vector<std::vector<int>>{{1}, {90}, {85}, {13, 47}, {5, 6, 7, 8}}) {
     for (int sorte = 1; sorte <= static_cast<int>(numeri.size()); ++sorte) {
       EXPECT_EQ(StatisticaCombinazioneGioco(tab, numeri, sorte, fine), APiedi(tab, numeri, sorte, 1, fine))
           << numeri[0] << " sorte " << sorte;
-      EXPECT_EQ(StatisticaCombinazioneGioco(tab, numeri, sorte, fine / 2, 100), APiedi(tab, numeri, sorte, 100, fine / 2));
+      EXPECT_EQ(StatisticaCombinazioneGioco(tab, numeri, sorte, fine / 2, 100),
+                APiedi(tab, numeri, sorte, 100, fine / 2));
     }
   }
 }
