@@ -90,28 +90,21 @@ std::optional<std::string> LeggiNumeriDieciELotto(std::string_view& resto, Estra
 
 Esito<std::vector<EstrazioneGioco>> LeggiRisultatiDieciELotto(std::string_view testo) {
   std::vector<EstrazioneGioco> estrazioni;
-  RigheRisultati righe(testo);
-  std::string_view campo_data;
-  std::string_view resto;
-  while (righe.Prossima(campo_data, resto)) {
-    const int riga = righe.riga();
-    EstrazioneGioco estrazione;
-    if (!LeggiDataRisultati(campo_data, estrazione.data))
-      return ErroreRiga(riga, fmt::format("\"{}\" non è una data AAAA/MM/GG", campo_data));
-    int concorso = 0;
-    std::string_view campo = ProssimoCampo(resto);
-    if (!LeggiIntero(campo, concorso) || concorso < 1 || concorso > 999)
-      return ErroreRiga(riga, fmt::format("\"{}\" non è un numero di concorso", campo));
-    estrazione.concorso = static_cast<int16_t>(concorso);
-    if (auto difetto = LeggiNumeriDieciELotto(resto, estrazione)) return ErroreRiga(riga, std::move(*difetto));
-    if (!ProssimoCampo(resto).empty()) return ErroreRiga(riga, "ci sono campi in più dopo il Numero Oro");
-    if (!estrazioni.empty() && ConfrontaDate(estrazioni.back().data, estrazione.data) >= 0)
-      return ErroreRiga(riga, fmt::format("la data {} non viene dopo quella della riga prima ({})",
-                                          FormattaData(estrazione.data), FormattaData(estrazioni.back().data)));
-    estrazione.data.indice_annuale = estrazione.concorso;
-    estrazione.id_estr = static_cast<int32_t>(estrazioni.size()) + 1;
-    estrazioni.push_back(estrazione);
-  }
+  auto lette =
+      PerOgniRigaDatata(testo, [&](int riga, const GruppoData& data, std::string_view resto) -> std::optional<Avviso> {
+        EstrazioneGioco estrazione;
+        estrazione.data = data;
+        int concorso = 0;
+        std::string_view campo = ProssimoCampo(resto);
+        if (!LeggiIntero(campo, concorso) || concorso < 1 || concorso > 999)
+          return ErroreRiga(riga, fmt::format("\"{}\" non è un numero di concorso", campo));
+        estrazione.concorso = static_cast<int16_t>(concorso);
+        if (auto difetto = LeggiNumeriDieciELotto(resto, estrazione)) return ErroreRiga(riga, std::move(*difetto));
+        if (!ProssimoCampo(resto).empty()) return ErroreRiga(riga, "ci sono campi in più dopo il Numero Oro");
+        if (auto rifiuto = AccodaLetta(estrazioni, estrazione, riga)) return rifiuto;
+        return std::nullopt;
+      });
+  if (!lette) return lette.Errore();
   return estrazioni;
 }
 

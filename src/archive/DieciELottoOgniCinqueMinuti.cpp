@@ -36,42 +36,39 @@ Esito<RisultatiCinqueMinuti> LeggiRisultatiCinqueMinuti(std::string_view testo) 
   std::map<std::pair<int, int>, std::vector<EstrazioneGioco>> letti;
   std::map<int, GruppoData> giorni;
   std::map<int, int> ultimo_letto;  // the highest contest read for each day
-  RigheRisultati righe(testo);
-  std::string_view campo_data;
-  std::string_view resto;
   std::pair<int, int> precedente{0, 0};
-  while (righe.Prossima(campo_data, resto)) {
-    const int riga = righe.riga();
-    EstrazioneGioco estrazione;
-    if (!LeggiDataRisultati(campo_data, estrazione.data))
-      return ErroreRiga(riga, fmt::format("\"{}\" non è una data AAAA/MM/GG", campo_data));
-    std::string_view campo = ProssimoCampo(resto);
-    int minuti = 0;
-    if (!LeggiOraRisultati(campo, minuti)) return ErroreRiga(riga, fmt::format("\"{}\" non è un'ora hh:mm", campo));
-    int concorso = 0;
-    campo = ProssimoCampo(resto);
-    if (!LeggiIntero(campo, concorso) || concorso < 1 || concorso > kConcorsiAlGiorno)
-      return ErroreRiga(riga, fmt::format("\"{}\" non è un concorso da 1 a {}", campo, kConcorsiAlGiorno));
-    // The last contest of a day may be written at midnight, as the first minute of the next.
-    if (concorso == kConcorsiAlGiorno && minuti == 0) estrazione.data = GiornoPrima(estrazione.data);
-    const int atteso = concorso == kConcorsiAlGiorno ? kUltimoMinuto : concorso * kMinutiTraConcorsi;
-    if (minuti != atteso && !(concorso == kConcorsiAlGiorno && minuti == 0))
-      return ErroreRiga(riga, fmt::format("il concorso {} è alle {:02}:{:02}, non alle {:02}:{:02}", concorso,
-                                          minuti / 60, minuti % 60, atteso / 60, atteso % 60));
-    if (auto difetto = LeggiNumeriDieciELotto(resto, estrazione)) return ErroreRiga(riga, std::move(*difetto));
-    ProssimoCampo(resto);
-    if (!ProssimoCampo(resto).empty()) return ErroreRiga(riga, "ci sono campi in più dopo il Doppio Oro");
-    const std::pair<int, int> chiave{GiornoAssoluto(estrazione.data), concorso};
-    if (chiave < precedente && chiave.second != kConcorsiAlGiorno)
-      return ErroreRiga(riga, fmt::format("il concorso {} del {} viene dopo uno successivo", concorso,
-                                          FormattaData(estrazione.data)));
-    precedente = std::max(precedente, chiave);
-    estrazione.concorso = static_cast<int16_t>(concorso);
-    estrazione.minuti = static_cast<int16_t>(atteso);
-    giorni[chiave.first] = estrazione.data;
-    ultimo_letto[chiave.first] = std::max(ultimo_letto[chiave.first], concorso);
-    letti[chiave].push_back(estrazione);
-  }
+  auto lette =
+      PerOgniRigaDatata(testo, [&](int riga, const GruppoData& data, std::string_view resto) -> std::optional<Avviso> {
+        EstrazioneGioco estrazione;
+        estrazione.data = data;
+        int minuti = 0;
+        if (auto rifiuto = LeggiCampoOra(riga, resto, minuti)) return rifiuto;
+        int concorso = 0;
+        std::string_view campo = ProssimoCampo(resto);
+        if (!LeggiIntero(campo, concorso) || concorso < 1 || concorso > kConcorsiAlGiorno)
+          return ErroreRiga(riga, fmt::format("\"{}\" non è un concorso da 1 a {}", campo, kConcorsiAlGiorno));
+        // The last contest of a day may be written at midnight, as the first minute of the next.
+        if (concorso == kConcorsiAlGiorno && minuti == 0) estrazione.data = GiornoPrima(estrazione.data);
+        const int atteso = concorso == kConcorsiAlGiorno ? kUltimoMinuto : concorso * kMinutiTraConcorsi;
+        if (minuti != atteso && !(concorso == kConcorsiAlGiorno && minuti == 0))
+          return ErroreRiga(riga, fmt::format("il concorso {} è alle {:02}:{:02}, non alle {:02}:{:02}", concorso,
+                                              minuti / 60, minuti % 60, atteso / 60, atteso % 60));
+        if (auto difetto = LeggiNumeriDieciELotto(resto, estrazione)) return ErroreRiga(riga, std::move(*difetto));
+        ProssimoCampo(resto);
+        if (!ProssimoCampo(resto).empty()) return ErroreRiga(riga, "ci sono campi in più dopo il Doppio Oro");
+        const std::pair<int, int> chiave{GiornoAssoluto(estrazione.data), concorso};
+        if (chiave < precedente && chiave.second != kConcorsiAlGiorno)
+          return ErroreRiga(riga, fmt::format("il concorso {} del {} viene dopo uno successivo", concorso,
+                                              FormattaData(estrazione.data)));
+        precedente = std::max(precedente, chiave);
+        estrazione.concorso = static_cast<int16_t>(concorso);
+        estrazione.minuti = static_cast<int16_t>(atteso);
+        giorni[chiave.first] = estrazione.data;
+        ultimo_letto[chiave.first] = std::max(ultimo_letto[chiave.first], concorso);
+        letti[chiave].push_back(estrazione);
+        return std::nullopt;
+      });
+  if (!lette) return lette.Errore();
 
   RisultatiCinqueMinuti risultati{TabellaGioco(Formato(Gioco::DieciELottoOgniCinqueMinuti)), {}};
   std::vector<EstrazioneGioco> estrazioni;

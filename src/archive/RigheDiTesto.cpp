@@ -11,6 +11,16 @@ namespace {
 
 bool Spazio(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 
+// "hh:mm" as minutes after midnight.
+bool LeggiOraRisultati(std::string_view testo, int& minuti) {
+  int ore = 0, minuti_ora = 0;
+  if (testo.size() != 5 || testo[2] != ':' || !LeggiIntero(testo.substr(0, 2), ore) ||
+      !LeggiIntero(testo.substr(3), minuti_ora) || ore > 23 || minuti_ora > 59)
+    return false;
+  minuti = ore * 60 + minuti_ora;
+  return true;
+}
+
 }  // namespace
 
 std::string_view ProssimoCampo(std::string_view& resto) {
@@ -43,15 +53,6 @@ bool LeggiDataRisultati(std::string_view testo, GruppoData& data) {
   return DataValida(data);
 }
 
-bool LeggiOraRisultati(std::string_view testo, int& minuti) {
-  int ore = 0, minuti_ora = 0;
-  if (testo.size() != 5 || testo[2] != ':' || !LeggiIntero(testo.substr(0, 2), ore) ||
-      !LeggiIntero(testo.substr(3), minuti_ora) || ore > 23 || minuti_ora > 59)
-    return false;
-  minuti = ore * 60 + minuti_ora;
-  return true;
-}
-
 Avviso ErroreRiga(int riga, std::string motivo) { return AvvisoEsclamativo(fmt::format("Riga {}: {}", riga, motivo)); }
 
 bool RigheRisultati::Prossima(std::string_view& primo, std::string_view& resto) {
@@ -64,6 +65,25 @@ bool RigheRisultati::Prossima(std::string_view& primo, std::string_view& resto) 
     if (!primo.empty() && primo.front() != '#') return true;
   }
   return false;
+}
+
+Esito<Fatto> PerOgniRigaDatata(std::string_view testo, const LettoreRiga& riga) {
+  RigheRisultati righe(testo);
+  std::string_view campo_data;
+  std::string_view resto;
+  while (righe.Prossima(campo_data, resto)) {
+    GruppoData data;
+    if (!LeggiDataRisultati(campo_data, data))
+      return ErroreRiga(righe.riga(), fmt::format("\"{}\" non è una data AAAA/MM/GG", campo_data));
+    if (auto rifiuto = riga(righe.riga(), data, resto)) return *rifiuto;
+  }
+  return Fatto{};
+}
+
+std::optional<Avviso> LeggiCampoOra(int riga, std::string_view& resto, int& minuti) {
+  const std::string_view campo = ProssimoCampo(resto);
+  if (LeggiOraRisultati(campo, minuti)) return std::nullopt;
+  return ErroreRiga(riga, fmt::format("\"{}\" non è un'ora hh:mm", campo));
 }
 
 }  // namespace lottolab

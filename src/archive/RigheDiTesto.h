@@ -3,10 +3,13 @@
 // Reading the published results files, one draw or one wheel a line: fields separated by runs of
 // tabs or blanks, whole numbers without sign, dates as "AAAA/MM/GG".
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "Avviso.h"
+#include "Esito.h"
 #include "Estrazione.h"
 
 namespace lottolab {
@@ -20,9 +23,6 @@ bool LeggiIntero(std::string_view testo, int& valore);
 // "AAAA/MM/GG" as the operator writes it; no other order is accepted, so that a file in the user's
 // own day/month/year form is refused instead of being read with day and year swapped.
 bool LeggiDataRisultati(std::string_view testo, GruppoData& data);
-
-// "hh:mm" as minutes after midnight.
-bool LeggiOraRisultati(std::string_view testo, int& minuti);
 
 // "Riga N: motivo", the message that refuses a file at its line N.
 Avviso ErroreRiga(int riga, std::string motivo);
@@ -40,5 +40,14 @@ class RigheRisultati {
   std::string_view m_testo;
   int m_riga = 0;
 };
+
+// Each line of a results file that holds a draw, with its number, its date ("AAAA/MM/GG", the first
+// field) and the fields after it; the first refusal, of a date or of what `riga` returns, ends the
+// reading and is the result.
+using LettoreRiga = std::function<std::optional<Avviso>(int riga, const GruppoData& data, std::string_view resto)>;
+Esito<Fatto> PerOgniRigaDatata(std::string_view testo, const LettoreRiga& riga);
+
+// The next field as a time "hh:mm", in minutes after midnight; the refusal naming line `riga`.
+std::optional<Avviso> LeggiCampoOra(int riga, std::string_view& resto, int& minuti);
 
 }  // namespace lottolab

@@ -42,56 +42,49 @@ bool StessiNumeri(const EstrazioneGioco& a, const EstrazioneGioco& b) {
 
 Esito<std::vector<EstrazioneGioco>> LeggiRisultatiSuperEnalotto(std::string_view testo) {
   std::vector<EstrazioneGioco> estrazioni;
-  RigheRisultati righe(testo);
-  std::string_view campo_data;
-  std::string_view resto;
-  while (righe.Prossima(campo_data, resto)) {
-    const int riga = righe.riga();
-    EstrazioneGioco estrazione;
-    if (!LeggiDataRisultati(campo_data, estrazione.data))
-      return ErroreRiga(riga, fmt::format("\"{}\" non è una data AAAA/MM/GG", campo_data));
-    int valori[kNumeri + 1] = {};  // the six numbers, then the Jolly
-    int concorso = 0;
-    std::string_view campo = ProssimoCampo(resto);
-    if (!LeggiIntero(campo, concorso) || !Tra(concorso, 1, 999))
-      return ErroreRiga(riga, fmt::format("\"{}\" non è un numero di concorso", campo));
-    for (int i = 0; i < kNumeri + 1; ++i) {
-      campo = ProssimoCampo(resto);
-      if (!LeggiIntero(campo, valori[i]) || !Tra(valori[i], 1, 90))
-        return ErroreRiga(
-            riga, campo.empty()
-                      ? std::string("mancano dei numeri: ne servono sei, il Jolly e la SuperStar")
-                      : fmt::format("\"{}\" non è un numero da 1 a 90{}", campo, i == kNumeri ? " (il Jolly)" : ""));
-    }
-    int superstar = 0;
-    campo = ProssimoCampo(resto);
-    if (campo.empty()) return ErroreRiga(riga, "manca la SuperStar (0 dove non c'era)");
-    if (!LeggiIntero(campo, superstar) || !Tra(superstar, 0, 90))
-      return ErroreRiga(riga, fmt::format("\"{}\" non è una SuperStar da 0 a 90", campo));
-    if (!ProssimoCampo(resto).empty()) return ErroreRiga(riga, "ci sono campi in più dopo la SuperStar");
-    for (int i = 0; i < kNumeri; ++i) {
-      if (std::count(valori, valori + kNumeri, valori[i]) > 1)
-        return ErroreRiga(riga, fmt::format("il numero {} compare due volte", valori[i]));
-      estrazione.numeri[i] = static_cast<uint8_t>(valori[i]);
-    }
-    if (std::count(valori, valori + kNumeri, valori[kNumeri]) > 0)
-      return ErroreRiga(riga, fmt::format("il Jolly {} è anche tra i sei numeri", valori[kNumeri]));
-    estrazione.speciali = {static_cast<uint8_t>(valori[kNumeri]), static_cast<uint8_t>(superstar)};
-    estrazione.concorso = static_cast<int16_t>(concorso);
-    if (!estrazioni.empty()) {
-      const EstrazioneGioco& prima = estrazioni.back();
-      if (ConfrontaDate(prima.data, estrazione.data) >= 0)
-        return ErroreRiga(riga, fmt::format("la data {} non viene dopo quella della riga prima ({})",
-                                            FormattaData(estrazione.data), FormattaData(prima.data)));
-      const int atteso = prima.data.anno == estrazione.data.anno ? prima.concorso + 1 : 1;
-      if (concorso != atteso)
-        return ErroreRiga(riga, fmt::format("il concorso {} del {} doveva essere il {}", concorso,
-                                            FormattaData(estrazione.data), atteso));
-    }
-    estrazione.data.indice_annuale = estrazione.concorso;
-    estrazione.id_estr = static_cast<int32_t>(estrazioni.size()) + 1;
-    estrazioni.push_back(estrazione);
-  }
+  auto lette =
+      PerOgniRigaDatata(testo, [&](int riga, const GruppoData& data, std::string_view resto) -> std::optional<Avviso> {
+        EstrazioneGioco estrazione;
+        estrazione.data = data;
+        int valori[kNumeri + 1] = {};  // the six numbers, then the Jolly
+        int concorso = 0;
+        std::string_view campo = ProssimoCampo(resto);
+        if (!LeggiIntero(campo, concorso) || !Tra(concorso, 1, 999))
+          return ErroreRiga(riga, fmt::format("\"{}\" non è un numero di concorso", campo));
+        for (int i = 0; i < kNumeri + 1; ++i) {
+          campo = ProssimoCampo(resto);
+          if (!LeggiIntero(campo, valori[i]) || !Tra(valori[i], 1, 90))
+            return ErroreRiga(riga, campo.empty()
+                                        ? std::string("mancano dei numeri: ne servono sei, il Jolly e la SuperStar")
+                                        : fmt::format("\"{}\" non è un numero da 1 a 90{}", campo,
+                                                      i == kNumeri ? " (il Jolly)" : ""));
+        }
+        int superstar = 0;
+        campo = ProssimoCampo(resto);
+        if (campo.empty()) return ErroreRiga(riga, "manca la SuperStar (0 dove non c'era)");
+        if (!LeggiIntero(campo, superstar) || !Tra(superstar, 0, 90))
+          return ErroreRiga(riga, fmt::format("\"{}\" non è una SuperStar da 0 a 90", campo));
+        if (!ProssimoCampo(resto).empty()) return ErroreRiga(riga, "ci sono campi in più dopo la SuperStar");
+        for (int i = 0; i < kNumeri; ++i) {
+          if (std::count(valori, valori + kNumeri, valori[i]) > 1)
+            return ErroreRiga(riga, fmt::format("il numero {} compare due volte", valori[i]));
+          estrazione.numeri[i] = static_cast<uint8_t>(valori[i]);
+        }
+        if (std::count(valori, valori + kNumeri, valori[kNumeri]) > 0)
+          return ErroreRiga(riga, fmt::format("il Jolly {} è anche tra i sei numeri", valori[kNumeri]));
+        estrazione.speciali = {static_cast<uint8_t>(valori[kNumeri]), static_cast<uint8_t>(superstar)};
+        estrazione.concorso = static_cast<int16_t>(concorso);
+        if (!estrazioni.empty()) {
+          const EstrazioneGioco& prima = estrazioni.back();
+          const int atteso = prima.data.anno == estrazione.data.anno ? prima.concorso + 1 : 1;
+          if (concorso != atteso && ConfrontaDate(prima.data, estrazione.data) < 0)
+            return ErroreRiga(riga, fmt::format("il concorso {} del {} doveva essere il {}", concorso,
+                                                FormattaData(estrazione.data), atteso));
+        }
+        if (auto rifiuto = AccodaLetta(estrazioni, estrazione, riga)) return rifiuto;
+        return std::nullopt;
+      });
+  if (!lette) return lette.Errore();
   return estrazioni;
 }
 

@@ -5,8 +5,10 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
+#include "Avviso.h"
 #include "Estrazione.h"
 #include "Giochi.h"
 
@@ -23,6 +25,10 @@ struct EstrazioneGioco {
 
   friend bool operator==(const EstrazioneGioco&, const EstrazioneGioco&) = default;
 };
+
+// Appends a draw read from line `riga` of a results file, numbered next, its contest as its annual
+// index; refused, naming the line, when its date does not come after the last one's.
+std::optional<Avviso> AccodaLetta(std::vector<EstrazioneGioco>& estrazioni, EstrazioneGioco estrazione, int riga);
 
 class TabellaGioco {
  public:
