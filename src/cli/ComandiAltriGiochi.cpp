@@ -53,46 +53,30 @@ TabellaEstrazioni ArchivioDelLotto(Contesto& contesto) {
 }
 
 // The draws of a results file for the game, with what it leaves in doubt told as warnings.
-Esito<std::vector<EstrazioneGioco>> LeggiRisultati(Contesto& contesto, std::string_view testo) {
+Esito<TabellaGioco> LeggiRisultati(Contesto& contesto, std::string_view testo) {
   switch (*contesto.gioco) {
     case Gioco::SuperEnalotto: {
       auto risultati = LeggiRisultatiSuperEnalotto(testo);
       if (!risultati) return risultati.Errore();
-      auto archivio = ArchivioSuperEnalotto(ArchivioDelLotto(contesto), *risultati);
-      if (!archivio) return archivio.Errore();
-      return archivio->Tutte();
+      return ArchivioSuperEnalotto(ArchivioDelLotto(contesto), *risultati);
     }
     case Gioco::DieciELotto: {
       auto risultati = LeggiRisultatiDieciELotto(testo);
       if (!risultati) return risultati.Errore();
       auto costruito = ArchivioDieciELotto(ArchivioDelLotto(contesto), *risultati);
       for (const std::string& differenza : costruito.differenze) contesto.segnalatore.Avverti(differenza);
-      return costruito.tabella.Tutte();
+      return costruito.tabella;
     }
     case Gioco::DieciELottoOgniCinqueMinuti: {
       auto risultati = LeggiRisultatiCinqueMinuti(testo);
       if (!risultati) return risultati.Errore();
       for (const std::string& segnalazione : risultati->segnalazioni) contesto.segnalatore.Avverti(segnalazione);
-      return risultati->tabella.Tutte();
+      return risultati->tabella;
     }
-    case Gioco::WinForLife: {
-      auto risultati = LeggiRisultatiWinForLife(testo);
-      if (!risultati) return risultati.Errore();
-      return risultati->Tutte();
-    }
+    case Gioco::WinForLife: return LeggiRisultatiWinForLife(testo);
     case Gioco::Generico: break;
   }
-  auto risultati = LeggiArchivioGenerico(testo);
-  if (!risultati) return risultati.Errore();
-  return risultati->Tutte();
-}
-
-// The generic archive takes its measures from the file it was first filled from.
-FormatoGioco FormatoDaImportare(Contesto& contesto, const std::vector<EstrazioneGioco>& estrazioni,
-                                std::string_view testo) {
-  if (*contesto.gioco != Gioco::Generico || estrazioni.empty()) return Formato(*contesto.gioco);
-  auto generico = LeggiArchivioGenerico(testo);
-  return generico ? generico->formato() : Formato(Gioco::Generico);
+  return LeggiArchivioGenerico(testo);
 }
 
 std::string Ora(const FormatoGioco& formato, const EstrazioneGioco& estrazione) {
@@ -134,15 +118,13 @@ int ComandoImportaGioco(Contesto& contesto, const Parole& parole) {
   if (!letto->has_value())
     return contesto.Fallisci(
         AvvisoEsclamativo(fmt::format("il file {} non esiste", app::PercorsoPerMessaggio(parole[0]))));
-  const std::string& testo = **letto;
-  auto nuove = LeggiRisultati(contesto, testo);
+  auto nuove = LeggiRisultati(contesto, **letto);
   if (!nuove) return contesto.Fallisci(nuove.Errore());
-  const FormatoGioco formato = FormatoDaImportare(contesto, *nuove, testo);
   std::error_code ec;
   if (contesto.archivio.has_parent_path()) fs::create_directories(contesto.archivio.parent_path(), ec);
-  auto aggiunte = ImportaEstrazioniGioco(formato, contesto.archivio, *nuove);
+  auto aggiunte = ImportaEstrazioniGioco(nuove->formato(), contesto.archivio, nuove->Tutte());
   if (!aggiunte) return contesto.Fallisci(aggiunte.Errore());
-  fmt::print(contesto.out, "importate {} estrazioni del {}\n", *aggiunte, formato.nome);
+  fmt::print(contesto.out, "importate {} estrazioni del {}\n", *aggiunte, nuove->formato().nome);
   return kUscitaRiuscita;
 }
 
