@@ -7,7 +7,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 secondi="${LOTTOLAB_FUZZ_SECONDI:-20}"
-target=(parser script archivio risultati risultati_zip strutture condizione ini)
+target=(parser script archivio risultati risultati_zip strutture condizione ini altri_giochi)
 
 if ! command -v clang++ >/dev/null 2>&1; then
   echo "fuzz: clang++ non disponibile, nessun target eseguito"
