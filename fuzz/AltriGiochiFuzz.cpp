@@ -32,7 +32,8 @@ void ControllaArchiviabile(const lottolab::TabellaGioco& tabella) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace lottolab;
   const std::string_view testo = fuzz::ComeTesto(data, size);
-  if (auto se = LeggiRisultatiSuperEnalotto(testo)) ControllaArchiviabile(TabellaGioco(Formato(Gioco::SuperEnalotto), *se));
+  if (auto se = LeggiRisultatiSuperEnalotto(testo))
+    ControllaArchiviabile(TabellaGioco(Formato(Gioco::SuperEnalotto), *se));
   if (auto dl = LeggiRisultatiDieciELotto(testo)) ControllaArchiviabile(TabellaGioco(Formato(Gioco::DieciELotto), *dl));
   if (auto dl5 = LeggiRisultatiCinqueMinuti(testo)) ControllaArchiviabile(dl5->tabella);
   if (auto wf = LeggiRisultatiWinForLife(testo)) ControllaArchiviabile(*wf);
