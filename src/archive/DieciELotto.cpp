@@ -90,14 +90,10 @@ std::optional<std::string> LeggiNumeriDieciELotto(std::string_view& resto, Estra
 
 Esito<std::vector<EstrazioneGioco>> LeggiRisultatiDieciELotto(std::string_view testo) {
   std::vector<EstrazioneGioco> estrazioni;
-  auto lette =
-      PerOgniRigaDatata(testo, [&](int riga, const GruppoData& data, std::string_view resto) -> std::optional<Avviso> {
-        EstrazioneGioco estrazione;
-        estrazione.data = data;
+  auto lette = PerOgniRigaDatata(
+      testo, [&](int riga, EstrazioneGioco& estrazione, std::string_view resto) -> std::optional<Avviso> {
         int concorso = 0;
-        std::string_view campo = ProssimoCampo(resto);
-        if (!LeggiIntero(campo, concorso) || concorso < 1 || concorso > 999)
-          return ErroreRiga(riga, fmt::format("\"{}\" non è un numero di concorso", campo));
+        if (auto rifiuto = LeggiCampoConcorso(riga, resto, kMassimoConcorso, concorso)) return rifiuto;
         estrazione.concorso = static_cast<int16_t>(concorso);
         if (auto difetto = LeggiNumeriDieciELotto(resto, estrazione)) return ErroreRiga(riga, std::move(*difetto));
         if (!ProssimoCampo(resto).empty()) return ErroreRiga(riga, "ci sono campi in più dopo il Numero Oro");

@@ -37,16 +37,12 @@ Esito<RisultatiCinqueMinuti> LeggiRisultatiCinqueMinuti(std::string_view testo) 
   std::map<int, GruppoData> giorni;
   std::map<int, int> ultimo_letto;  // the highest contest read for each day
   std::pair<int, int> precedente{0, 0};
-  auto lette =
-      PerOgniRigaDatata(testo, [&](int riga, const GruppoData& data, std::string_view resto) -> std::optional<Avviso> {
-        EstrazioneGioco estrazione;
-        estrazione.data = data;
+  auto lette = PerOgniRigaDatata(
+      testo, [&](int riga, EstrazioneGioco& estrazione, std::string_view resto) -> std::optional<Avviso> {
         int minuti = 0;
         if (auto rifiuto = LeggiCampoOra(riga, resto, minuti)) return rifiuto;
         int concorso = 0;
-        std::string_view campo = ProssimoCampo(resto);
-        if (!LeggiIntero(campo, concorso) || concorso < 1 || concorso > kConcorsiAlGiorno)
-          return ErroreRiga(riga, fmt::format("\"{}\" non è un concorso da 1 a {}", campo, kConcorsiAlGiorno));
+        if (auto rifiuto = LeggiCampoConcorso(riga, resto, kConcorsiAlGiorno, concorso)) return rifiuto;
         // The last contest of a day may be written at midnight, as the first minute of the next.
         if (concorso == kConcorsiAlGiorno && minuti == 0) estrazione.data = GiornoPrima(estrazione.data);
         const int atteso = concorso == kConcorsiAlGiorno ? kUltimoMinuto : concorso * kMinutiTraConcorsi;

@@ -72,12 +72,18 @@ Esito<Fatto> PerOgniRigaDatata(std::string_view testo, const LettoreRiga& riga) 
   std::string_view campo_data;
   std::string_view resto;
   while (righe.Prossima(campo_data, resto)) {
-    GruppoData data;
-    if (!LeggiDataRisultati(campo_data, data))
+    EstrazioneGioco estrazione;
+    if (!LeggiDataRisultati(campo_data, estrazione.data))
       return ErroreRiga(righe.riga(), fmt::format("\"{}\" non è una data AAAA/MM/GG", campo_data));
-    if (auto rifiuto = riga(righe.riga(), data, resto)) return *rifiuto;
+    if (auto rifiuto = riga(righe.riga(), estrazione, resto)) return *rifiuto;
   }
   return Fatto{};
+}
+
+std::optional<Avviso> LeggiCampoConcorso(int riga, std::string_view& resto, int massimo, int& concorso) {
+  const std::string_view campo = ProssimoCampo(resto);
+  if (LeggiIntero(campo, concorso) && concorso >= 1 && concorso <= massimo) return std::nullopt;
+  return ErroreRiga(riga, fmt::format("\"{}\" non è un numero di concorso da 1 a {}", campo, massimo));
 }
 
 std::optional<Avviso> LeggiCampoOra(int riga, std::string_view& resto, int& minuti) {

@@ -11,6 +11,7 @@
 #include "Avviso.h"
 #include "Esito.h"
 #include "Estrazione.h"
+#include "TabellaGioco.h"
 
 namespace lottolab {
 
@@ -41,11 +42,17 @@ class RigheRisultati {
   int m_riga = 0;
 };
 
-// Each line of a results file that holds a draw, with its number, its date ("AAAA/MM/GG", the first
-// field) and the fields after it; the first refusal, of a date or of what `riga` returns, ends the
-// reading and is the result.
-using LettoreRiga = std::function<std::optional<Avviso>(int riga, const GruppoData& data, std::string_view resto)>;
+// Each line of a results file that holds a draw, with its number, a draw holding its date ("AAAA/MM/GG",
+// the first field) and the fields after it; the first refusal, of a date or of what `riga` returns,
+// ends the reading and is the result.
+using LettoreRiga = std::function<std::optional<Avviso>(int riga, EstrazioneGioco& estrazione, std::string_view resto)>;
 Esito<Fatto> PerOgniRigaDatata(std::string_view testo, const LettoreRiga& riga);
+
+// Contests are numbered within their year (or day) and never reach this.
+inline constexpr int kMassimoConcorso = 999;
+
+// The next field as a contest number of 1..massimo; the refusal naming line `riga`.
+std::optional<Avviso> LeggiCampoConcorso(int riga, std::string_view& resto, int massimo, int& concorso);
 
 // The next field as a time "hh:mm", in minutes after midnight; the refusal naming line `riga`.
 std::optional<Avviso> LeggiCampoOra(int riga, std::string_view& resto, int& minuti);

@@ -42,17 +42,13 @@ bool StessiNumeri(const EstrazioneGioco& a, const EstrazioneGioco& b) {
 
 Esito<std::vector<EstrazioneGioco>> LeggiRisultatiSuperEnalotto(std::string_view testo) {
   std::vector<EstrazioneGioco> estrazioni;
-  auto lette =
-      PerOgniRigaDatata(testo, [&](int riga, const GruppoData& data, std::string_view resto) -> std::optional<Avviso> {
-        EstrazioneGioco estrazione;
-        estrazione.data = data;
+  auto lette = PerOgniRigaDatata(
+      testo, [&](int riga, EstrazioneGioco& estrazione, std::string_view resto) -> std::optional<Avviso> {
         int valori[kNumeri + 1] = {};  // the six numbers, then the Jolly
         int concorso = 0;
-        std::string_view campo = ProssimoCampo(resto);
-        if (!LeggiIntero(campo, concorso) || !Tra(concorso, 1, 999))
-          return ErroreRiga(riga, fmt::format("\"{}\" non è un numero di concorso", campo));
+        if (auto rifiuto = LeggiCampoConcorso(riga, resto, kMassimoConcorso, concorso)) return rifiuto;
         for (int i = 0; i < kNumeri + 1; ++i) {
-          campo = ProssimoCampo(resto);
+          const std::string_view campo = ProssimoCampo(resto);
           if (!LeggiIntero(campo, valori[i]) || !Tra(valori[i], 1, 90))
             return ErroreRiga(riga, campo.empty()
                                         ? std::string("mancano dei numeri: ne servono sei, il Jolly e la SuperStar")
@@ -60,7 +56,7 @@ Esito<std::vector<EstrazioneGioco>> LeggiRisultatiSuperEnalotto(std::string_view
                                                       i == kNumeri ? " (il Jolly)" : ""));
         }
         int superstar = 0;
-        campo = ProssimoCampo(resto);
+        const std::string_view campo = ProssimoCampo(resto);
         if (campo.empty()) return ErroreRiga(riga, "manca la SuperStar (0 dove non c'era)");
         if (!LeggiIntero(campo, superstar) || !Tra(superstar, 0, 90))
           return ErroreRiga(riga, fmt::format("\"{}\" non è una SuperStar da 0 a 90", campo));

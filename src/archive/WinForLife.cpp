@@ -19,20 +19,16 @@ constexpr int kMassimo = 20;
 Esito<TabellaGioco> LeggiRisultatiWinForLife(std::string_view testo) {
   const FormatoGioco& formato = Formato(Gioco::WinForLife);
   std::vector<EstrazioneGioco> estrazioni;
-  auto lette =
-      PerOgniRigaDatata(testo, [&](int riga, const GruppoData& data, std::string_view resto) -> std::optional<Avviso> {
-        EstrazioneGioco estrazione;
-        estrazione.data = data;
+  auto lette = PerOgniRigaDatata(
+      testo, [&](int riga, EstrazioneGioco& estrazione, std::string_view resto) -> std::optional<Avviso> {
         int minuti = 0;
         if (auto rifiuto = LeggiCampoOra(riga, resto, minuti)) return rifiuto;
         estrazione.minuti = static_cast<int16_t>(minuti);
         int concorso = 0;
-        std::string_view campo = ProssimoCampo(resto);
-        if (!LeggiIntero(campo, concorso) || concorso < 1 || concorso > 999)
-          return ErroreRiga(riga, fmt::format("\"{}\" non è un numero di concorso", campo));
+        if (auto rifiuto = LeggiCampoConcorso(riga, resto, kMassimoConcorso, concorso)) return rifiuto;
         estrazione.concorso = static_cast<int16_t>(concorso);
         for (int i = 0; i <= kNumeri; ++i) {
-          campo = ProssimoCampo(resto);
+          const std::string_view campo = ProssimoCampo(resto);
           int numero = 0;
           if (campo.empty()) return ErroreRiga(riga, "servono dieci numeri e il Numerone");
           if (!LeggiIntero(campo, numero) || numero < 1 || numero > kMassimo)

@@ -222,12 +222,14 @@ namespace {
 // Whole-number loops on a plain variable, the common case, count in a machine integer.
 bool CountsWhole(const Variant& v) { return v.is_integer() || v.is_long(); }
 
+// The step of a For without one; at namespace scope, so that no header asks whether it is made yet.
+const Variant kStepOfOne = Variant::Integer(1);
+
 }  // namespace
 
 Result<Flow> ForNode::Exec(Frame& frame) {
   Variant& limit = frame.slots[m_temp];
   Variant& increment = frame.slots[m_temp + 1];
-  static const Variant kStepOfOne = Variant::Integer(1);
   const Variant* from = m_variable ? m_from_direct.Get(frame) : nullptr;
   const Variant* to = from ? m_to_direct.Get(frame) : nullptr;
   const Variant* step = !to ? nullptr : m_step ? m_step_direct.Get(frame) : &kStepOfOne;
