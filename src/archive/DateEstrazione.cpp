@@ -61,6 +61,13 @@ int GiornoAssoluto(const GruppoData& data) {
   return era * 146097 + doe - 693901;
 }
 
+int GiornoDellaSettimana(const GruppoData& data) {
+  constexpr int kGiorni = 7;
+  // Day 0, 1 January 1900, was a Monday.
+  const int da_domenica = (GiornoAssoluto(data) + 1) % kGiorni;
+  return (da_domenica + kGiorni) % kGiorni + 1;
+}
+
 bool DataValida(const GruppoData& data) {
   constexpr std::array<int, 12> kGiorni = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
   if (data.anno < 1 || data.mese < 1 || data.mese > 12 || data.giorno < 1) return false;

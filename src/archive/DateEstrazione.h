@@ -23,6 +23,9 @@ int ConfrontaDate(const GruppoData& a, const GruppoData& b);
 // Days since 1/1/1900 (proleptic Gregorian), for measuring the gap between two dates.
 int GiornoAssoluto(const GruppoData& data);
 
+// The day of the week as scripts' Weekday numbers it: Sunday 1 .. Saturday 7.
+int GiornoDellaSettimana(const GruppoData& data);
+
 // The year of the first draw of the unified Lotto: no archive holds an earlier one.
 inline constexpr int kPrimoAnnoLotto = 1871;
 

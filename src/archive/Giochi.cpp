@@ -15,7 +15,15 @@ constexpr FormatoGioco kFormati[] = {
     {Gioco::Generico, "FT", "Archivio generico", 0, 0, 0, 0, 0, false},
 };
 
+constexpr std::string_view kNomiSpeciali[][kMassimoSpecialiGioco] = {
+    {"Jolly", "SuperStar", ""}, {"Oro", "Doppio Oro", "Gong"}, {"Oro", "Doppio Oro", "Gong"}, {"Numerone", "", ""}, {}};
+
 }  // namespace
+
+std::string_view NomeNumeroSpeciale(Gioco gioco, int i) {
+  if (i < 0 || i >= kMassimoSpecialiGioco) return {};
+  return kNomiSpeciali[static_cast<int>(gioco)][i];
+}
 
 const FormatoGioco& Formato(Gioco gioco) { return kFormati[static_cast<int>(gioco)]; }
 

@@ -32,6 +32,10 @@ inline constexpr int kMassimoSpecialiGioco = 3;
 
 const FormatoGioco& Formato(Gioco gioco);
 
+// The name of the game's special number i (0-based) as players know it ("Jolly", "Numerone"); the
+// generic archive has none.
+std::string_view NomeNumeroSpeciale(Gioco gioco, int i);
+
 // A lottery the program does not know: K numbers of 1..M a draw, nothing else.
 FormatoGioco FormatoGenerico(int numeri, int massimo);
 

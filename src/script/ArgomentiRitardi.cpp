@@ -50,14 +50,33 @@ Result<int> InteroTra(const CallArgs& args, size_t i, int da, int a, std::string
 
 Result<int> SorteArgomento(const CallArgs& args, size_t i) { return InteroTra(args, i, 1, kNumeriPerRuota, "Sorte"); }
 
-Result<int> EstrazioneArgomento(const TabellaEstrazioni& tab, const CallArgs& args, size_t i, int se_omesso,
-                                std::string_view nome) {
+Result<int> EstrazioneArgomento(int estrazioni, const CallArgs& args, size_t i, int se_omesso, std::string_view nome) {
   VBS_TRY_ASSIGN(auto id_estr, args.Long(i, se_omesso));
-  if (!tab.Contiene(id_estr)) {
-    return ArgomentoNonValido(fmt::format("{} fuori dall'archivio: {} (le estrazioni vanno da 1 a {})", nome, id_estr,
-                                          tab.EstrazioniArchivio()));
+  if (id_estr < 1 || id_estr > estrazioni) {
+    return ArgomentoNonValido(
+        fmt::format("{} fuori dall'archivio: {} (le estrazioni vanno da 1 a {})", nome, id_estr, estrazioni));
   }
   return id_estr;
+}
+
+Result<int> EstrazioneArgomento(const TabellaEstrazioni& tab, const CallArgs& args, size_t i, int se_omesso,
+                                std::string_view nome) {
+  return EstrazioneArgomento(tab.EstrazioniArchivio(), args, i, se_omesso, nome);
+}
+
+Result<uint32_t> PosizioniArgomento(const CallArgs& args, std::optional<size_t> i, int quante) {
+  if (!i || !args.Has(*i)) return ~uint32_t{0};
+  VBS_TRY_ASSIGN(auto valore, args.Value(*i));
+  const std::string forma = fmt::format("Le posizioni vanno date in un array con gli indici da 1 a {}", quante);
+  if (!valore.is_array()) return ArgomentoNonValido(forma);
+  uint32_t posizioni = 0;
+  for (int32_t p = 1; p <= quante; ++p) {
+    auto flag = vbs::ReadElement(valore, std::span<const int32_t>(&p, 1));
+    if (!flag) return ArgomentoNonValido(forma);
+    VBS_TRY_ASSIGN(auto attiva, flag->to_boolean(args.locale()));
+    if (attiva) posizioni |= uint32_t{1} << (p - 1);
+  }
+  return posizioni;
 }
 
 Result<Intervallo> IntervalloArgomento(const TabellaEstrazioni& tab, const CallArgs& args,
@@ -76,19 +95,10 @@ Result<std::vector<int>> NumeriGiocati(const CallArgs& args, size_t i) {
   return numeri;
 }
 
-// The flags are read at indices 1..5, whatever the array's lower bound, as scripts fill them.
 Result<stats::Posizioni> PosizioniGiocate(const CallArgs& args, std::optional<size_t> i) {
-  if (!i || !args.Has(*i)) return stats::kTuttePosizioni;
-  VBS_TRY_ASSIGN(auto valore, args.Value(*i));
-  constexpr std::string_view kForma = "Le posizioni vanno date in un array con gli indici da 1 a 5";
-  if (!valore.is_array()) return ArgomentoNonValido(std::string(kForma));
+  VBS_TRY_ASSIGN(auto maschera, PosizioniArgomento(args, i, kNumeriPerRuota));
   stats::Posizioni posizioni{};
-  for (int32_t p = 1; p <= kNumeriPerRuota; ++p) {
-    auto flag = vbs::ReadElement(valore, std::span<const int32_t>(&p, 1));
-    if (!flag) return ArgomentoNonValido(std::string(kForma));
-    VBS_TRY_ASSIGN(auto attiva, flag->to_boolean(args.locale()));
-    posizioni[static_cast<size_t>(p - 1)] = attiva;
-  }
+  for (size_t p = 0; p < posizioni.size(); ++p) posizioni[p] = ((maschera >> p) & 1U) != 0;
   return posizioni;
 }
 

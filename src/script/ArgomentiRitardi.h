@@ -8,6 +8,7 @@
 // error 5 with a message, never as a failed assertion.
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -67,6 +68,14 @@ vbs::Result<int> SorteArgomento(const vbs::CallArgs& args, size_t i);
 // outside the archive.
 vbs::Result<int> EstrazioneArgomento(const TabellaEstrazioni& tab, const vbs::CallArgs& args, size_t i, int se_omesso,
                                      std::string_view nome);
+// The same for an archive of `estrazioni` draws, of any game.
+vbs::Result<int> EstrazioneArgomento(int estrazioni, const vbs::CallArgs& args, size_t i, int se_omesso,
+                                     std::string_view nome);
+
+// Argument i as the flags of positions 1..quante (at most 32), bit p - 1 for position p: every
+// position when omitted. The flags are read at indices 1..quante, whatever the array's lower bound,
+// as scripts fill them.
+vbs::Result<uint32_t> PosizioniArgomento(const vbs::CallArgs& args, std::optional<size_t> i, int quante);
 
 // The range of draws from the optional arguments at i_inizio (none when the function always starts
 // from the first draw) and i_fine, the whole archive by default; error 5 when Inizio comes after Fine.

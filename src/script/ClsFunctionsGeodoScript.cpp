@@ -22,11 +22,30 @@ struct Tabella {
 const Tabella& TabellaCompleta() {
   static const Tabella tabella = [] {
     Tabella t;
-    for (auto famiglia :
-         {FunzioniCostanti(), FunzioniEsecuzione(), FunzioniOutput(), FunzioniArchivio(), FunzioniAritmetica(),
-          FunzioniRitardi(), FunzioniStatistiche(), FunzioniElenchi(), FunzioniRitardiRelativi(), FunzioniLunghette(),
-          FunzioniFormazioni(), FunzioniTabelle(), FunzioniTesto(), FunzioniCombinazioni(), FunzioniArray(),
-          FunzioniFile(), FunzioniDialoghi(), FunzioniEstrazioniAttive(), FunzioniCollezioni()})
+    for (auto famiglia : {FunzioniCostanti(),
+                          FunzioniEsecuzione(),
+                          FunzioniOutput(),
+                          FunzioniArchivio(),
+                          FunzioniAritmetica(),
+                          FunzioniRitardi(),
+                          FunzioniStatistiche(),
+                          FunzioniElenchi(),
+                          FunzioniRitardiRelativi(),
+                          FunzioniLunghette(),
+                          FunzioniFormazioni(),
+                          FunzioniTabelle(),
+                          FunzioniTesto(),
+                          FunzioniCombinazioni(),
+                          FunzioniArray(),
+                          FunzioniFile(),
+                          FunzioniDialoghi(),
+                          FunzioniEstrazioniAttive(),
+                          FunzioniCollezioni(),
+                          FunzioniGiochiArchivio(),
+                          FunzioniGiochiStatistiche(),
+                          FunzioniGiochiElenchi(),
+                          FunzioniGiochiEstrazioniAttive(),
+                          FunzioniGiochiFile()})
       t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =

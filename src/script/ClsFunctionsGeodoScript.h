@@ -25,6 +25,7 @@
 #include <vector>
 
 #include "AccessoFile.h"
+#include "ArchiviGiochi.h"
 #include "InterfacciaScript.h"
 #include "OutputHtml.h"
 #include "archive/TabellaEstrazioni.h"
@@ -39,6 +40,7 @@ namespace lottolab::script {
 
 struct ImpostazioniLibreria {
   const TabellaEstrazioni* archivio = nullptr;  // null when no archive is loaded
+  FileDeiGiochi archivi_giochi;                 // by Gioco: read at the first call that needs each
   std::filesystem::path cartella_base;          // holds Script/ and Script/Funzioni/
   std::filesystem::path cartella_output;        // where the run's HTML pages go: scriptOutput/ of the base
   std::filesystem::path cartella_dati_app;      // what GetDirectoryAppData gives
@@ -184,5 +186,10 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniFile();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniDialoghi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEstrazioniAttive();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniCollezioni();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiArchivio();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiStatistiche();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiElenchi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiEstrazioniAttive();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiFile();
 
 }  // namespace lottolab::script

@@ -14,7 +14,6 @@ namespace {
 
 using namespace famiglia;
 
-constexpr int kDomenica = 1;  // weekdays numbered as Weekday numbers them: Sunday 1 .. Saturday 7
 constexpr int kGiorniSettimana = 7;
 constexpr int kMesi = 12;
 
@@ -54,12 +53,6 @@ Result<Variant> EstrazioneAttivata(Libreria& lib, CallArgs& args) {
   const TabellaEstrazioni* archivio = lib.impostazioni().archivio;
   if (!archivio || !archivio->Contiene(id_estr)) return Variant::Boolean(false);
   return Variant::Boolean(Flag(lib, *archivio)[static_cast<size_t>(id_estr)]);
-}
-
-int GiornoDellaSettimana(const GruppoData& data) {
-  // Day 0 of GiornoAssoluto, 1 January 1900, was a Monday.
-  const int da_domenica = (GiornoAssoluto(data) + 1) % kGiorniSettimana;
-  return (da_domenica + kGiorniSettimana) % kGiorniSettimana + kDomenica;
 }
 
 Result<int> FiltroArgomento(const CallArgs& args, size_t i, int massimo, std::string_view cosa) {

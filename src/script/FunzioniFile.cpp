@@ -19,6 +19,7 @@
 #include <thread>
 
 #include "ArgomentiLotto.h"
+#include "ArgomentoPercorso.h"
 #include "Famiglia.h"
 #include "LetturaFile.h"
 #include "archive/DateEstrazione.h"
@@ -58,17 +59,6 @@ Result<Variant> NonRiuscito(Libreria& lib, std::string_view funzione, std::strin
 
 Result<Variant> NonRiuscito(Libreria& lib, std::string_view funzione, std::string motivo) {
   return NonRiuscito(lib, funzione, std::move(motivo), Variant::Boolean(false));
-}
-
-// Argument i as a path: backslashes become '/', a relative name starts from the base folder.
-Result<fs::path> PercorsoArgomento(const Libreria& lib, const CallArgs& args, size_t i) {
-  VBS_TRY_ASSIGN(auto nome, args.String(i));
-  std::string testo = text::Utf16ToUtf8(nome);
-  if (testo.empty()) return ArgomentoNonValido("Nome del file o della cartella mancante");
-  std::replace(testo.begin(), testo.end(), '\\', '/');
-  fs::path percorso(testo);
-  if (percorso.is_relative()) percorso = lib.impostazioni().cartella_base / percorso;
-  return percorso.lexically_normal();
 }
 
 std::string ConSeparatore(std::string cartella) {

@@ -13,6 +13,7 @@
 #include "ArgomentiLotto.h"
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
+#include "Formazioni.h"
 #include "TabelleEsecuzione.h"
 #include "stats/Numeri.h"
 #include "stats/Ritardi.h"
@@ -151,12 +152,6 @@ Result<Variant> StatisticaFormazione(Libreria& lib, CallArgs& args) {
   return Variant();
 }
 
-std::string NumeriInTesto(const std::vector<int>& numeri) {
-  std::string testo;
-  for (int numero : numeri) testo += fmt::format("{}{:02}", testo.empty() ? "" : ".", numero);
-  return testo;
-}
-
 template <bool kTurbo>
 Result<Variant> StatisticaGruppoFormazioni(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
@@ -209,6 +204,14 @@ const Libreria::Funzione kFormazioni[] = {
 };
 
 }  // namespace
+
+const std::vector<std::vector<int>>& FormazioniDellEsecuzione(Libreria& lib) { return Formazioni(lib); }
+
+std::string NumeriInTesto(const std::vector<int>& numeri) {
+  std::string testo;
+  for (int numero : numeri) testo += fmt::format("{}{:02}", testo.empty() ? "" : ".", numero);
+  return testo;
+}
 
 std::span<const Libreria::Funzione> FunzioniFormazioni() { return kFormazioni; }
 

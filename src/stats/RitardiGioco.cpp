@@ -4,28 +4,51 @@
 #include <array>
 #include <cassert>
 
-#include "Andamento.h"
-
 namespace lottolab::stats {
 
-StatisticaNumero StatisticaCombinazioneGioco(const TabellaGioco& tab, std::span<const int> numeri, int sorte, int fine,
-                                             int inizio) {
-  const int per_estrazione = tab.formato().numeri;
-  assert(sorte >= 1 && sorte <= per_estrazione);
-  assert(inizio >= 1 && fine <= tab.EstrazioniArchivio());
-  std::array<uint8_t, 256> giocato{};
-  for (int numero : numeri) {
-    assert(numero >= 1 && numero <= 255);
-    giocato[static_cast<size_t>(numero)] = 1;
+namespace {
+
+// Whether at least `sorte` of the played numbers are among the flagged main numbers of the draw.
+class Colpi {
+ public:
+  Colpi(const TabellaGioco& tab, std::span<const int> numeri, int sorte, PosizioniGioco posizioni)
+      : m_per_estrazione(tab.formato().numeri), m_sorte(sorte), m_posizioni(posizioni) {
+    assert(sorte >= 1 && sorte <= m_per_estrazione);
+    for (int numero : numeri) {
+      assert(numero >= 1 && numero <= 255);
+      m_giocato[static_cast<size_t>(numero)] = 1;
+    }
   }
-  Andamento andamento;
-  for (int id = inizio; id <= fine; ++id) {
-    const EstrazioneGioco& estrazione = tab[id];
+
+  bool operator()(const EstrazioneGioco& estrazione) const {
     int colpi = 0;
-    for (int i = 0; i < per_estrazione; ++i) colpi += giocato[estrazione.numeri[static_cast<size_t>(i)]];
-    andamento.Aggiungi(Esame{.conta = true, .vincite = colpi >= sorte ? 1 : 0});
+    for (int i = 0; i < m_per_estrazione; ++i)
+      colpi += m_giocato[estrazione.numeri[static_cast<size_t>(i)]] & ((m_posizioni >> i) & 1U);
+    return colpi >= m_sorte;
   }
-  return Figure(andamento);
+
+ private:
+  int m_per_estrazione;
+  int m_sorte;
+  PosizioniGioco m_posizioni;
+  std::array<uint8_t, 256> m_giocato{};
+};
+
+}  // namespace
+
+StatisticaNumero StatisticaCombinazioneGioco(const TabellaGioco& tab, std::span<const int> numeri, int sorte, int fine,
+                                             int inizio, PosizioniGioco posizioni) {
+  assert(inizio >= 1 && fine <= tab.EstrazioniArchivio());
+  return PercorsoGioco(tab, inizio, fine, Colpi(tab, numeri, sorte, posizioni));
+}
+
+std::vector<bool> VinciteGioco(const TabellaGioco& tab, std::span<const int> numeri, int sorte, int fine, int inizio,
+                               PosizioniGioco posizioni) {
+  assert(inizio >= 1 && fine <= tab.EstrazioniArchivio());
+  const Colpi vince(tab, numeri, sorte, posizioni);
+  std::vector<bool> vincite;
+  for (int id = inizio; id <= fine; ++id) vincite.push_back(vince(tab[id]));
+  return vincite;
 }
 
 std::vector<StatisticaNumero> TabelloneGioco(const TabellaGioco& tab, int fine, int inizio) {

@@ -1,0 +1,82 @@
+#include "ArgomentiGioco.h"
+
+#include <fmt/format.h>
+
+#include "ArgomentiLotto.h"
+#include "ArgomentiRitardi.h"
+#include "Famiglia.h"
+#include "stats/Numeri.h"
+
+namespace lottolab::script {
+
+namespace {
+
+using namespace famiglia;
+
+Result<std::vector<int>> NumeriGiocati(const TabellaGioco& tab, const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, i));
+  if (valori.empty()) return ArgomentoNonValido("Nessun numero indicato");
+  std::vector<int> numeri;
+  for (double valore : valori) numeri.push_back(stats::FuoriX(valore, static_cast<int16_t>(tab.formato().massimo)));
+  return numeri;
+}
+
+Result<int> SorteDelGioco(const TabellaGioco& tab, const CallArgs& args, size_t i) {
+  return InteroTra(args, i, 1, tab.formato().numeri, "Sorte");
+}
+
+Result<MisuraGioco> Completa(const TabellaGioco& tab, const CallArgs& args, MisuraGioco misura, PostiGioco posti) {
+  misura.tab = &tab;
+  VBS_TRY_ASSIGN(auto inizio, EstrazioneArgomento(tab.EstrazioniArchivio(), args, posti.inizio, 1, "Inizio"));
+  misura.inizio = inizio;
+  VBS_TRY_ASSIGN(auto fine,
+                 EstrazioneArgomento(tab.EstrazioniArchivio(), args, posti.fine, tab.EstrazioniArchivio(), "Fine"));
+  misura.fine = fine;
+  VBS_TRY_ASSIGN(auto posizioni, PosizioniArgomento(args, posti.posizioni, tab.formato().numeri));
+  misura.posizioni = posizioni;
+  return misura;
+}
+
+}  // namespace
+
+Result<const TabellaGioco*> TabellaDelGioco(Libreria& lib, Suffisso suffisso) {
+  const Esito<TabellaGioco>& tabella =
+      lib.Stato<ArchiviGiochi>().Tabella(suffisso, lib.impostazioni().archivi_giochi, lib.impostazioni().archivio);
+  if (!tabella) return ArgomentoNonValido(tabella.Errore().testo);
+  return &*tabella;
+}
+
+Result<const EstrazioneGioco*> EstrazioneDelGioco(const TabellaGioco& tab, const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto id_estr, args.Long(i));
+  if (!tab.Contiene(id_estr)) return vbs::MakeError(vbs::err::kSubscript);
+  return &tab[id_estr];
+}
+
+Result<int> NumeroDelGioco(const TabellaGioco& tab, const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto numero, args.Double(i));
+  return int{stats::FuoriX(numero, static_cast<int16_t>(tab.formato().massimo))};
+}
+
+Result<MisuraGioco> MisuraGruppoGioco(Libreria& lib, Suffisso suffisso, const CallArgs& args, PostiGioco posti) {
+  VBS_TRY_ASSIGN(auto tab, TabellaDelGioco(lib, suffisso));
+  MisuraGioco misura;
+  VBS_TRY_ASSIGN(auto numeri, NumeriGiocati(*tab, args, 0));
+  misura.numeri = std::move(numeri);
+  VBS_TRY_ASSIGN(auto sorte, SorteDelGioco(*tab, args, 1));
+  misura.sorte = sorte;
+  return Completa(*tab, args, std::move(misura), posti);
+}
+
+Result<MisuraGioco> MisuraNumeriGioco(Libreria& lib, Suffisso suffisso, const CallArgs& args, int quanti) {
+  VBS_TRY_ASSIGN(auto tab, TabellaDelGioco(lib, suffisso));
+  MisuraGioco misura;
+  for (size_t i = 0; i < static_cast<size_t>(quanti); ++i) {
+    VBS_TRY_ASSIGN(auto numero, NumeroDelGioco(*tab, args, i));
+    misura.numeri.push_back(numero);
+  }
+  misura.sorte = quanti;
+  const auto dopo = static_cast<size_t>(quanti);
+  return Completa(*tab, args, std::move(misura), {.inizio = dopo, .fine = dopo + 1, .posizioni = dopo + 2});
+}
+
+}  // namespace lottolab::script

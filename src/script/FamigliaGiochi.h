@@ -1,0 +1,36 @@
+#pragma once
+
+// What the library's game families share: each name is written once with its four forms, one per
+// suffix, and declined into the table's rows, SE, DL, WF and FT. Only the names that users' scripts
+// know are bound: EstrattoIncrStorico has no WF form, for one, and so it gets none.
+//
+// The description may name the numbers of a draw as {n} and their range as {m}; each row gets its
+// game's figures ("6" and "90" for the SuperEnalotto, "K" and "M" for the generic archive).
+
+#include <array>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "ArgomentiGioco.h"
+#include "Famiglia.h"
+
+namespace lottolab::script {
+
+struct FunzioneDeiGiochi {
+  std::string_view radice;  // the name without the suffix
+  uint8_t min_args;
+  uint8_t max_args;
+  std::array<ClsFunctionsGeodoScript::Chiamata, kNumeroSuffissi> chiamate;  // SE, DL, WF, FT
+  std::string_view descrizione;
+};
+
+// The four instances of a function template over Suffisso, in the order of FunzioneDeiGiochi.
+#define LOTTOLAB_PER_OGNI_GIOCO(funzione) \
+  { &funzione<Suffisso::SE>, &funzione<Suffisso::DL>, &funzione<Suffisso::WF>, &funzione<Suffisso::FT> }
+
+// The rows of the table for the public names among the declined ones. Call once per family: the
+// names and descriptions live as long as the program.
+std::vector<ClsFunctionsGeodoScript::Funzione> DeclinaPerGioco(std::span<const FunzioneDeiGiochi> funzioni);
+
+}  // namespace lottolab::script
