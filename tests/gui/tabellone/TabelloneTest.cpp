@@ -86,7 +86,7 @@ class TabelloneTest : public QObject {
     ModelloTabellone modello;
     modello.Calcola(ArchivioAMano(), kRuoteScelte, 12);
     QCOMPARE(modello.rowCount(), 3 * kMassimoNumero);
-    QCOMPARE(modello.columnCount(), 5);
+    QCOMPARE(modello.columnCount(), 6);
     QCOMPARE(modello.data(modello.index(0, ModelloTabellone::kColonnaRuota)).toString(), QString("Bari"));
     QCOMPARE(modello.data(modello.index(kMassimoNumero, ModelloTabellone::kColonnaRuota)).toString(),
              QString("Firenze"));
