@@ -25,12 +25,12 @@ QString DaStd(std::string_view testo) {
 }
 
 QString TestoDettaglio(const DettaglioEstrazioneGioco& dettaglio) {
-  QString testo = QStringLiteral("<h3>Estrazione n. %1</h3><p>del %2, concorso n. %3</p><table cellspacing='2' cellpadding='2'>")
+  QString testo = QStringLiteral("<h3>Estrazione n. %1</h3><p>del %2, concorso n. %3</p><table cellspacing='0' cellpadding='3'>")
                       .arg(dettaglio.id_estr)
                       .arg(DaStd(dettaglio.quando))
                       .arg(dettaglio.concorso);
   for (const auto& [nome, numeri] : dettaglio.voci)
-    testo += QStringLiteral("<tr><td valign='top'>%1</td><td>&nbsp;&nbsp;<tt>%2</tt></td></tr>").arg(DaStd(nome), DaStd(numeri));
+    testo += QStringLiteral("<tr><td valign='top'>%1</td><td><tt>%2</tt></td></tr>").arg(DaStd(nome), DaStd(numeri));
   return testo + QStringLiteral("</table>");
 }
 

@@ -239,7 +239,14 @@ void FinestraTabellone::Ricalcola() {
     m_modello->Calcola(*m_contesto.Archivio(), m_ruote->Scelte(), fine, inizio);
   const bool vuoto = EstrazioniArchivio() == 0;
   m_data_inizio->setText(vuoto ? QString() : QuandoEstrazione(inizio));
-  m_data_fine->setText(vuoto ? QString("archivio vuoto") : QuandoEstrazione(fine));
+  // An empty archive of another game is filled from the command line: the label says how.
+  QString riempire;
+  if (const std::optional<Gioco> gioco = GiocoScelto()) {
+    const std::string_view sigla = Formato(*gioco).sigla;
+    riempire = QString(" (lottolab --gioco %1 importa FILE)")
+                   .arg(QString::fromUtf8(sigla.data(), static_cast<qsizetype>(sigla.size())));
+  }
+  m_data_fine->setText(vuoto ? "archivio vuoto" + riempire : QuandoEstrazione(fine));
 }
 
 // The chart follows one wheel of the Lotto; the other games have none.
