@@ -20,15 +20,14 @@ namespace lottolab::gui {
 
 namespace {
 
-QString DaStd(std::string_view testo) {
-  return QString::fromUtf8(testo.data(), static_cast<qsizetype>(testo.size()));
-}
+QString DaStd(std::string_view testo) { return QString::fromUtf8(testo.data(), static_cast<qsizetype>(testo.size())); }
 
 QString TestoDettaglio(const DettaglioEstrazioneGioco& dettaglio) {
-  QString testo = QStringLiteral("<h3>Estrazione n. %1</h3><p>del %2, concorso n. %3</p><table cellspacing='0' cellpadding='3'>")
-                      .arg(dettaglio.id_estr)
-                      .arg(DaStd(dettaglio.quando))
-                      .arg(dettaglio.concorso);
+  QString testo =
+      QStringLiteral("<h3>Estrazione n. %1</h3><p>del %2, concorso n. %3</p><table cellspacing='0' cellpadding='3'>")
+          .arg(dettaglio.id_estr)
+          .arg(DaStd(dettaglio.quando))
+          .arg(dettaglio.concorso);
   for (const auto& [nome, numeri] : dettaglio.voci)
     testo += QStringLiteral("<tr><td valign='top'>%1</td><td><tt>%2</tt></td></tr>").arg(DaStd(nome), DaStd(numeri));
   return testo + QStringLiteral("</table>");
@@ -139,7 +138,8 @@ class FinestraArchivioGioco : public QWidget {
       const int colonna = m_modello->ColonnaDi(tipo);
       if (colonna < 0 || numeri == 0) return;
       const QString piena = QStringLiteral("00 ").repeated(numeri - 1) + QStringLiteral("00");
-      m_tabella->setColumnWidth(colonna, std::max(m_tabella->columnWidth(colonna), metriche.horizontalAdvance(piena) + 16));
+      m_tabella->setColumnWidth(colonna,
+                                std::max(m_tabella->columnWidth(colonna), metriche.horizontalAdvance(piena) + 16));
     };
     allarga(ModelloEstrazioniGioco::Colonna::Numeri, formato.numeri);
     allarga(ModelloEstrazioniGioco::Colonna::Extra, formato.extra);
@@ -167,16 +167,19 @@ class FinestraArchivioGioco : public QWidget {
 
   QString TestoArchivioVuoto() const {
     const FormatoGioco& formato = Formato(m_gioco);
-    const QString file = QString::fromStdString(m_contesto.Configurazione().ArchivioGioco(m_gioco).string()).toHtmlEscaped();
-    const QString comando =
-        QStringLiteral("<p style='margin-left:16px'><tt>lottolab --gioco %1 importa FILE</tt></p>").arg(DaStd(formato.sigla));
+    const QString file =
+        QString::fromStdString(m_contesto.Configurazione().ArchivioGioco(m_gioco).string()).toHtmlEscaped();
+    const QString comando = QStringLiteral("<p style='margin-left:16px'><tt>lottolab --gioco %1 importa FILE</tt></p>")
+                                .arg(DaStd(formato.sigla));
     const std::string& errore = m_contesto.ErroreGioco(m_gioco);
     if (!errore.empty())
-      return QStringLiteral("<b>L'archivio del %1 non si può leggere.</b><p>%2</p>Per ricostruirlo, mettilo da parte e "
-                            "importa di nuovo i risultati dal terminale, poi riapri lottolab:%3Archivio: %4")
+      return QStringLiteral(
+                 "<b>L'archivio del %1 non si può leggere.</b><p>%2</p>Per ricostruirlo, mettilo da parte e "
+                 "importa di nuovo i risultati dal terminale, poi riapri lottolab:%3Archivio: %4")
           .arg(DaStd(formato.nome), QString::fromStdString(errore).toHtmlEscaped(), comando, file);
-    return QStringLiteral("<b>L'archivio del %1 è vuoto.</b><br>Per riempirlo importa un file dei risultati dal "
-                          "terminale, poi riapri lottolab:%2Archivio atteso: %3")
+    return QStringLiteral(
+               "<b>L'archivio del %1 è vuoto.</b><br>Per riempirlo importa un file dei risultati dal "
+               "terminale, poi riapri lottolab:%2Archivio atteso: %3")
         .arg(DaStd(formato.nome), comando, file);
   }
 

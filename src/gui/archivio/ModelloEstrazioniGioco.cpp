@@ -27,8 +27,9 @@ std::string Ora(const EstrazioneGioco& estrazione) {
 
 // 0 is a special number the period did not draw (a SuperStar before 2006, a Gong before 2022).
 std::string Speciale(const EstrazioneGioco& estrazione, int i) {
-  return estrazione.speciali[static_cast<size_t>(i)] == 0 ? std::string()
-                                                          : fmt::format("{:02}", estrazione.speciali[static_cast<size_t>(i)]);
+  return estrazione.speciali[static_cast<size_t>(i)] == 0
+             ? std::string()
+             : fmt::format("{:02}", estrazione.speciali[static_cast<size_t>(i)]);
 }
 
 QString DaStd(const std::string& testo) { return QString::fromStdString(testo); }
@@ -105,7 +106,7 @@ QVariant ModelloEstrazioniGioco::data(const QModelIndex& index, int role) const 
     case Qt::DisplayRole: return Testo((*m_tabella)[index.row() + 1], index.column());
     case Qt::TextAlignmentRole:
       return tipo == Colonna::Id || tipo == Colonna::Concorso ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
-                                                             : QVariant(Qt::AlignCenter);
+                                                              : QVariant(Qt::AlignCenter);
     case Qt::FontRole:
       // Numbers in a fixed-width font line up from row to row, so a column reads as a column.
       if (tipo == Colonna::Numeri || tipo == Colonna::Extra || tipo == Colonna::Speciale)

@@ -19,8 +19,8 @@ namespace lottolab::gui {
 
 // The games whose archives the desktop loads beside the Lotto's, in the order its menus list them.
 // The generic archive is not among them: its numbers per draw are its file's, not the program's.
-inline constexpr std::array kGiochiDesktop{Gioco::SuperEnalotto, Gioco::DieciELotto,
-                                           Gioco::DieciELottoOgniCinqueMinuti, Gioco::WinForLife};
+inline constexpr std::array kGiochiDesktop{Gioco::SuperEnalotto, Gioco::DieciELotto, Gioco::DieciELottoOgniCinqueMinuti,
+                                           Gioco::WinForLife};
 
 class ContestoGui : public QObject {
   Q_OBJECT

@@ -113,8 +113,9 @@ QWidget* FinestraTabellone::NuovaSceltaGioco() {
   m_gioco->setObjectName("sceltaGioco");
   m_gioco->addItem(NomeGioco(std::nullopt), kSceltaLotto);
   for (Gioco gioco : kGiochiDesktop) m_gioco->addItem(NomeGioco(gioco), static_cast<int>(gioco));
-  m_gioco->setToolTip("Il gioco di cui contare ritardi e frequenze: per il Lotto ruota per ruota, per gli altri "
-                      "giochi su tutti i numeri di ogni estrazione");
+  m_gioco->setToolTip(
+      "Il gioco di cui contare ritardi e frequenze: per il Lotto ruota per ruota, per gli altri "
+      "giochi su tutti i numeri di ogni estrazione");
   riga->addWidget(m_gioco);
   riga->addStretch();
   return scelta;

@@ -38,7 +38,8 @@ EstrazioneGioco Estrazione(int id, GruppoData data, std::initializer_list<int> n
 
 // Two evenings of the 10eLotto: the first from before the Extra and the Gong, the second with both.
 std::shared_ptr<const TabellaGioco> DueSereDelDieciELotto() {
-  const std::initializer_list<int> venti = {1, 5, 9, 12, 18, 22, 27, 30, 33, 41, 44, 50, 55, 61, 66, 70, 74, 80, 85, 90};
+  const std::initializer_list<int> venti = {1,  5,  9,  12, 18, 22, 27, 30, 33, 41,
+                                            44, 50, 55, 61, 66, 70, 74, 80, 85, 90};
   return std::make_shared<const TabellaGioco>(
       Formato(Gioco::DieciELotto),
       std::vector{Estrazione(1, {88, 1, 10, 2019}, venti, {}, {1, 5, 0}),
@@ -65,7 +66,9 @@ class FinestraArchivioGiocoTest : public QObject {
  private:
   std::unique_ptr<BaseTemporanea> m_base;
 
-  app::Configurazione Configurazione() const { return app::Configurazione{m_base->Percorso(), app::FileIni::DaTesto("")}; }
+  app::Configurazione Configurazione() const {
+    return app::Configurazione{m_base->Percorso(), app::FileIni::DaTesto("")};
+  }
 
   // The text above the table, or nothing when it is hidden because the archive has draws.
   static QString Avviso(QWidget& finestra) {
@@ -87,7 +90,8 @@ class FinestraArchivioGiocoTest : public QObject {
     QTest::newRow("DL") << int(Gioco::DieciELotto)
                         << QStringList{"N.", "Data", "Concorso", "Numeri", "Extra", "Oro", "Doppio Oro", "Gong"};
     QTest::newRow("DL5") << int(Gioco::DieciELottoOgniCinqueMinuti)
-                         << QStringList{"N.", "Data", "Ora", "Concorso", "Numeri", "Extra", "Oro", "Doppio Oro", "Gong"};
+                         << QStringList{"N.",    "Data", "Ora",        "Concorso", "Numeri",
+                                        "Extra", "Oro",  "Doppio Oro", "Gong"};
     QTest::newRow("WF") << int(Gioco::WinForLife) << QStringList{"N.", "Data", "Ora", "Concorso", "Numeri", "Numerone"};
   }
   void LeColonneSeguonoIlGioco() {
@@ -182,15 +186,9 @@ class FinestraArchivioGiocoTest : public QObject {
     QCOMPARE(modello.rowCount(), risultati->tabella.EstrazioniArchivio());
     QVERIFY(modello.rowCount() > 5000);
     // 2026/08/04 00:15, contest 3, Oro 53: the results' third line.
-    const QStringList terza{"3",
-                            "04/08/2026",
-                            "00:15",
-                            "3",
-                            "02 04 06 16 23 24 25 41 50 53 59 61 68 69 76 77 80 83 89 90",
-                            "",
-                            "53",
-                            "",
-                            ""};
+    const QStringList terza{
+        "3", "04/08/2026", "00:15", "3", "02 04 06 16 23 24 25 41 50 53 59 61 68 69 76 77 80 83 89 90",
+        "",  "53",         "",      ""};
     QStringList celle;
     for (int colonna = 0; colonna < modello.columnCount(); ++colonna) celle << Cella(modello, 2, colonna);
     QCOMPARE(celle, terza);

@@ -148,7 +148,7 @@ class TabelloneTest : public QObject {
   // Every number of the game, counted over the chosen range; the figures checked against a plain
   // walk of the draws.
   void UnAltroGiocoHaUnaRigaPerNumero() {
-    const int numeri_estratti[][10] = {{1, 2, 3, 4, 5, 6, 7, 8, 9, 10},      {11, 12, 13, 14, 15, 16, 17, 18, 19, 20},
+    const int numeri_estratti[][10] = {{1, 2, 3, 4, 5, 6, 7, 8, 9, 10},     {11, 12, 13, 14, 15, 16, 17, 18, 19, 20},
                                        {1, 3, 5, 7, 9, 11, 13, 15, 17, 19}, {2, 4, 6, 8, 10, 12, 14, 16, 18, 20},
                                        {1, 2, 3, 4, 5, 16, 17, 18, 19, 20}, {6, 7, 8, 9, 10, 11, 12, 13, 14, 15},
                                        {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}};
