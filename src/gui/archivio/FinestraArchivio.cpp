@@ -39,7 +39,7 @@ class FinestraArchivio : public QWidget {
  public:
   FinestraArchivio(ContestoGui& contesto, QWidget* parent)
       : QWidget(parent), m_contesto(contesto), m_modello(new ModelloEstrazioni(contesto.Archivio(), this)) {
-    setWindowTitle(QStringLiteral("Estrazioni"));
+    setWindowTitle(QStringLiteral("Estrazioni del Lotto"));
     setObjectName(QStringLiteral("finestraArchivio"));
 
     m_data->setObjectName(QStringLiteral("vaiAllaData"));

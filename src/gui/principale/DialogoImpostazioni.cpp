@@ -106,6 +106,7 @@ void DialogoImpostazioni::accept() {
     avviso.testo = "Impostazioni salvate, ma l'archivio non si può caricare.\n\n" + avviso.testo;
     m_interlocutore->Mostra(avviso);
   }
+  m_contesto.RicaricaArchiviGiochi();
   QDialog::accept();
 }
 

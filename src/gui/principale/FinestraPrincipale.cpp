@@ -1,8 +1,10 @@
 #include "gui/principale/FinestraPrincipale.h"
 
 #include <QAction>
+#include <QDynamicPropertyChangeEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFrame>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -13,9 +15,14 @@
 #include <QTimer>
 #include <QToolBar>
 
+#include <fmt/format.h>
+
+#include <algorithm>
+
 #include "gui/archivio/AvvioAggiornamento.h"
 #include "gui/principale/DialogoImpostazioni.h"
 #include "gui/principale/Finestre.h"
+#include "gui/principale/GiocoFinestra.h"
 #include "gui/principale/Impostazioni.h"
 #include "gui/principale/SegnalatoreGui.h"
 #include "gui/script/ScriptRecenti.h"
@@ -40,6 +47,7 @@ FinestraPrincipale::FinestraPrincipale(ContestoGui& contesto, QWidget* parent)
       m_contesto(contesto),
       m_area(new QMdiArea),
       m_stato_archivio(new QLabel),
+      m_stato_gioco(new QLabel),
       m_interlocutore(std::make_unique<InterlocutoreGui>(this)) {
   // Qt's default hides the scroll bars, which makes the area as large as its largest window and
   // pushes the main window past the screen; scrolling keeps the main window's size the user's.
@@ -48,6 +56,12 @@ FinestraPrincipale::FinestraPrincipale(ContestoGui& contesto, QWidget* parent)
   setCentralWidget(m_area);
   m_stato_archivio->setObjectName(QStringLiteral("statoArchivio"));
   statusBar()->addPermanentWidget(m_stato_archivio);
+  auto* separatore = new QFrame;
+  separatore->setFrameStyle(QFrame::VLine | QFrame::Sunken);
+  statusBar()->addPermanentWidget(separatore);
+  m_stato_gioco->setObjectName(QStringLiteral("statoGioco"));
+  statusBar()->addPermanentWidget(m_stato_gioco);
+  connect(m_area, &QMdiArea::subWindowActivated, this, &FinestraPrincipale::MostraGiocoAttivo);
   CreaMenu();
   connect(&m_contesto, &ContestoGui::ArchivioCambiato, this, &FinestraPrincipale::ArchivioRicaricato);
   MostraArchivio();
@@ -64,9 +78,16 @@ void FinestraPrincipale::CreaMenu() {
   };
 
   QMenu* archivio = menuBar()->addMenu(QStringLiteral("&Archivio"));
-  QAction* estrazioni = azione(archivio, QStringLiteral("&Estrazioni"), "azioneEstrazioni",
+  QAction* estrazioni = azione(archivio, QStringLiteral("&Estrazioni del Lotto"), "azioneEstrazioni",
                                [this] { AggiungiFinestra(NuovaFinestraArchivio(m_contesto), Icona(kIconaArchivio)); });
   estrazioni->setIcon(Icona(kIconaArchivio));
+  estrazioni->setIconText(QStringLiteral("Estrazioni"));
+  for (Gioco gioco : kGiochiDesktop) {
+    const std::string nome = fmt::format("azioneEstrazioni{}", Formato(gioco).sigla);
+    azione(archivio, QStringLiteral("Estrazioni del %1").arg(NomeGioco(gioco)), nome.c_str(),
+           [this, gioco] { AggiungiFinestra(NuovaFinestraArchivioGioco(m_contesto, gioco), Icona(kIconaArchivio)); });
+  }
+  archivio->addSeparator();
   QAction* aggiorna = azione(archivio, QStringLiteral("&Aggiorna archivio..."), "azioneAggiornaArchivio",
                              [this] { AvviaAggiornamentoArchivio(m_contesto, this); });
   aggiorna->setIcon(Icona(QStyle::SP_BrowserReload));
@@ -121,12 +142,19 @@ void FinestraPrincipale::CreaMenu() {
 QIcon FinestraPrincipale::Icona(QStyle::StandardPixmap icona) const { return style()->standardIcon(icona); }
 
 void FinestraPrincipale::AggiungiFinestra(QWidget* finestra, const QIcon& icona) {
+  // The main window hears a window change game, to name it in the status bar.
+  finestra->installEventFilter(this);
   QMdiSubWindow* sotto = m_area->addSubWindow(finestra);
   sotto->setAttribute(Qt::WA_DeleteOnClose);
   sotto->setWindowIcon(icona);
   // A window opens large enough to be used at once, never larger than the area that holds it.
   sotto->resize(sotto->sizeHint().expandedTo(m_area->size() * 3 / 4).boundedTo(m_area->size()));
   sotto->show();
+  // The area cascades a new window from the last one: where that would carry it past the area's
+  // edge, it moves back so that all of it is in view.
+  const QRect dentro = sotto->geometry();
+  sotto->move(std::clamp(dentro.x(), 0, std::max(0, m_area->width() - dentro.width())),
+              std::clamp(dentro.y(), 0, std::max(0, m_area->height() - dentro.height())));
 }
 
 void FinestraPrincipale::ApriScript(const QString& file) {
@@ -216,6 +244,23 @@ void FinestraPrincipale::CompilaFinestre() {
     voce->setChecked(aperta == m_area->activeSubWindow());
     connect(voce, &QAction::triggered, m_area, [this, aperta] { m_area->setActiveSubWindow(aperta); });
   }
+}
+
+void FinestraPrincipale::MostraGiocoAttivo() {
+  const QMdiSubWindow* attiva = m_area->activeSubWindow();
+  if (attiva == nullptr || attiva->widget() == nullptr) {
+    m_stato_gioco->clear();
+    return;
+  }
+  m_stato_gioco->setText(QStringLiteral("Gioco: %1").arg(NomeGiocoFinestra(*attiva->widget())));
+}
+
+bool FinestraPrincipale::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (evento->type() == QEvent::DynamicPropertyChange &&
+      static_cast<QDynamicPropertyChangeEvent*>(evento)->propertyName() == kProprietaGioco)
+    if (const QMdiSubWindow* attiva = m_area->activeSubWindow(); attiva != nullptr && attiva->widget() == oggetto)
+      MostraGiocoAttivo();
+  return QMainWindow::eventFilter(oggetto, evento);
 }
 
 }  // namespace lottolab::gui

@@ -1,7 +1,8 @@
 #pragma once
 
 // The desktop's main window: menus and toolbar that open every other window in one multi-document
-// area, and a status bar that says which archive is loaded and how far it goes.
+// area, and a status bar that says which archive is loaded, how far it goes, and which game the
+// active window shows.
 
 #include <QMainWindow>
 #include <QStyle>
@@ -47,10 +48,13 @@ class FinestraPrincipale : public QMainWindow {
   void ArchivioRicaricato();
   void CompilaScriptRecenti();
   void CompilaFinestre();
+  void MostraGiocoAttivo();
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
   ContestoGui& m_contesto;
   QMdiArea* m_area;
   QLabel* m_stato_archivio;
+  QLabel* m_stato_gioco;
   QMenu* m_script_recenti = nullptr;
   QMenu* m_finestre = nullptr;
   std::unique_ptr<Interlocutore> m_interlocutore;

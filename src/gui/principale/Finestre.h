@@ -12,9 +12,12 @@ namespace lottolab::gui {
 
 // The list of the archive's draws, with a draw's detail, a jump to a date and the update.
 QWidget* NuovaFinestraArchivio(ContestoGui& contesto, QWidget* parent = nullptr);
+// The list of the draws of another game (one of kGiochiDesktop), with a draw's detail and a jump to
+// a date; an empty archive says how to import it.
+QWidget* NuovaFinestraArchivioGioco(ContestoGui& contesto, Gioco gioco, QWidget* parent = nullptr);
 // The script window; with a file, the script read from it.
 QWidget* NuovaFinestraScript(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);
-// The delay table of the 90 numbers on the chosen wheels.
+// The delay table of the 90 numbers on the chosen wheels, or of every number of another game.
 QWidget* NuovoTabellone(ContestoGui& contesto, QWidget* parent = nullptr);
 // The editor of user figures; with a file, the structure read from it.
 QWidget* NuovoEditorStrutture(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);

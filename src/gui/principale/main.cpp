@@ -80,6 +80,8 @@ int Avvia(Applicazione& applicazione) {
       return AvvisoEsclamativo(TestoEccezione().toStdString());
     }
   }();
+  // The other games' archives say what went wrong in their own windows, when the user opens them.
+  contesto.RicaricaArchiviGiochi();
 
   lottolab::gui::FinestraPrincipale finestra(contesto);
   // Where no window manager maximises, the window still takes most of the screen.

@@ -50,16 +50,18 @@ QString TitoloGraficoRitardi(int ruota, int numero) {
 
 }  // namespace
 
-GraficoRitardi::GraficoRitardi(const TabellaEstrazioni& tab, int ruota, int numero, int fine, QWidget* parent)
+GraficoRitardi::GraficoRitardi(const TabellaEstrazioni& tab, int ruota, int numero, int fine, int inizio,
+                               QWidget* parent)
     : QChartView(parent), m_serie(new QLineSeries) {
-  assert(tab.Contiene(fine));
+  assert(tab.Contiene(inizio) && tab.Contiene(fine) && inizio <= fine);
   const std::array ruote{ruota};
   const std::array numeri{numero};
-  const std::vector<int> ritardi = stats::SerieRitardo(tab, ruote, numeri, 1, fine);
+  const std::vector<int> ritardi = stats::SerieRitardo(tab, ruote, numeri, inizio, fine);
 
   QList<QPointF> punti;
   punti.reserve(static_cast<qsizetype>(ritardi.size()));
-  for (size_t i = 0; i < ritardi.size(); ++i) punti.append(QPointF(static_cast<double>(i + 1), ritardi[i]));
+  for (size_t i = 0; i < ritardi.size(); ++i)
+    punti.append(QPointF(static_cast<double>(inizio + static_cast<int>(i)), ritardi[i]));
   m_serie->replace(punti);
 
   auto* grafico = new QChart;
@@ -71,7 +73,7 @@ GraficoRitardi::GraficoRitardi(const TabellaEstrazioni& tab, int ruota, int nume
   grafico->legend()->hide();
   grafico->addSeries(m_serie);
   const int massimo = ritardi.empty() ? 0 : *std::max_element(ritardi.begin(), ritardi.end());
-  QValueAxis* asse_estrazioni = NuovoAsse(DidascaliaEstrazioni(tab, fine), 1, std::max(fine, 2));
+  QValueAxis* asse_estrazioni = NuovoAsse(DidascaliaEstrazioni(tab, fine), inizio, std::max(fine, inizio + 1));
   // The delay axis ends on the first round label above the highest peak, which so stays clear of the frame.
   const int passo = PassoTacche(std::max(massimo, 1));
   QValueAxis* asse_ritardo = NuovoAsse("Ritardo", 0, (massimo / passo + 1) * passo);

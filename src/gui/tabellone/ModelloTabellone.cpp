@@ -4,21 +4,37 @@
 #include <QString>
 
 #include "gui/tabellone/TabelloneScala.h"
+#include "stats/RitardiGioco.h"
 
 namespace lottolab::gui {
 
 ModelloTabellone::ModelloTabellone(QObject* parent) : QAbstractTableModel(parent) {}
 
-void ModelloTabellone::Calcola(const TabellaEstrazioni& tab, std::span<const int> ruote, int fine) {
+void ModelloTabellone::Calcola(const TabellaEstrazioni& tab, std::span<const int> ruote, int fine, int inizio) {
   beginResetModel();
   m_righe.clear();
-  m_fine = tab.Contiene(fine) ? fine : 0;
+  m_gioco.reset();
+  m_fine = tab.Contiene(fine) && tab.Contiene(inizio) && inizio <= fine ? fine : 0;
   if (m_fine > 0) {
-    const stats::TabelloneRuote tabellone = stats::CalcolaTabellone(tab, 1, m_fine);
+    const stats::TabelloneRuote tabellone = stats::CalcolaTabellone(tab, inizio, m_fine);
     m_righe.reserve(ruote.size() * kMassimoNumero);
     for (int ruota : ruote)
       for (int numero = 1; numero <= kMassimoNumero; ++numero)
         m_righe.push_back({ruota, numero, tabellone.Dati(ruota, numero)});
+  }
+  endResetModel();
+}
+
+void ModelloTabellone::CalcolaGioco(const TabellaGioco& tab, int fine, int inizio) {
+  beginResetModel();
+  m_righe.clear();
+  m_gioco = tab.formato().gioco;
+  m_fine = tab.Contiene(fine) && tab.Contiene(inizio) && inizio <= fine ? fine : 0;
+  if (m_fine > 0) {
+    const std::vector<stats::StatisticaNumero> figure = stats::TabelloneGioco(tab, m_fine, inizio);
+    m_righe.reserve(figure.size());
+    for (size_t numero = 1; numero < figure.size(); ++numero)
+      m_righe.push_back({0, static_cast<int>(numero), figure[numero]});
   }
   endResetModel();
 }
@@ -36,6 +52,7 @@ QVariant ModelloTabellone::Valore(const Riga& riga, int colonna) const {
     case kColonnaRitardo: return riga.dati.ritardo;
     case kColonnaFrequenza: return riga.dati.frequenza;
     case kColonnaStorico: return riga.dati.storico;
+    case kColonnaIncremento: return riga.dati.incr_storico;
     default: return {};
   }
 }
@@ -59,8 +76,9 @@ QVariant ModelloTabellone::data(const QModelIndex& indice, int ruolo) const {
   const Riga& riga = m_righe[static_cast<size_t>(indice.row())];
   const int colonna = indice.column();
   if (ruolo == kRuoloOrdinamento) return Valore(riga, colonna);
-  if (ruolo == Qt::DisplayRole)
-    return colonna == kColonnaRuota ? QString::fromUtf8(NomeRuota(riga.ruota)) : Valore(riga, colonna);
+  if (ruolo == Qt::DisplayRole && colonna == kColonnaRuota)
+    return m_gioco ? QString::fromUtf8(Formato(*m_gioco).nome.data()) : QString::fromUtf8(NomeRuota(riga.ruota));
+  if (ruolo == Qt::DisplayRole) return Valore(riga, colonna);
   if (ruolo == Qt::TextAlignmentRole)
     return colonna == kColonnaRuota ? QVariant(Qt::AlignLeft | Qt::AlignVCenter)
                                     : QVariant(Qt::AlignRight | Qt::AlignVCenter);
@@ -77,15 +95,22 @@ QVariant ModelloTabellone::headerData(int sezione, Qt::Orientation orientamento,
       case kColonnaRitardo: return QString("Ritardo");
       case kColonnaFrequenza: return QString("Frequenza");
       case kColonnaStorico: return QString("Storico");
+      case kColonnaIncremento: return QString("Incremento");
       default: return {};
     }
   }
   if (ruolo == Qt::ToolTipRole) {
+    // A game besides the Lotto has one draw where the Lotto has a wheel.
+    const QString dove = m_gioco ? QString() : QString(" sulla ruota");
     switch (sezione) {
       case kColonnaRitardo:
-        return "Estrazioni della ruota trascorse dall'ultima uscita del numero.\n" + DescrizioneScalaRitardo();
-      case kColonnaFrequenza: return QString("Uscite del numero sulla ruota fino all'estrazione scelta");
-      case kColonnaStorico: return QString("Il ritardo più lungo che il numero abbia avuto sulla ruota");
+        return (m_gioco ? QString("Estrazioni trascorse dall'ultima uscita del numero.\n")
+                        : QString("Estrazioni della ruota trascorse dall'ultima uscita del numero.\n")) +
+               DescrizioneScalaRitardo();
+      case kColonnaFrequenza: return "Uscite del numero" + dove + " nelle estrazioni scelte";
+      case kColonnaStorico: return "Il ritardo più lungo che il numero abbia avuto" + dove + " nelle estrazioni scelte";
+      case kColonnaIncremento:
+        return QString("Di quanto il ritardo attuale supera il massimo storico che c'era prima; 0 se non lo supera");
       default: return {};
     }
   }

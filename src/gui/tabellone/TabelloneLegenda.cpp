@@ -36,7 +36,9 @@ QWidget* NuovaLegendaRitardo(QWidget* parent) {
   riga->addWidget(striscia);
   riga->addWidget(new QLabel("100%"));
   riga->addStretch();
-  riga->addWidget(new QLabel("Doppio clic: grafico del ritardo"));
+  auto* suggerimento = new QLabel("Doppio clic: grafico del ritardo");
+  suggerimento->setObjectName(kSuggerimentoGrafico);
+  riga->addWidget(suggerimento);
   return legenda;
 }
 

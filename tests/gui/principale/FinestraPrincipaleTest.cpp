@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -118,6 +119,33 @@ class FinestraPrincipaleTest : public QObject {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     // A closed window is gone, not hidden.
     QCOMPARE(finestra.AreaFinestre()->subWindowList().size(), 3);
+  }
+
+  // The game of the active window, followed as the window changes game.
+  void LaBarraDiStatoNominaIlGiocoDellaFinestraAttiva() {
+    Importa("BaseDati.dat", kDueEstrazioni);
+    auto contesto = Contesto();
+    QVERIFY(contesto->RicaricaArchivio().Riuscito());
+    contesto->RicaricaArchiviGiochi();
+    FinestraPrincipale finestra(*contesto);
+    finestra.resize(1000, 700);
+    // Only a window on screen has an active window.
+    finestra.show();
+    auto* stato = finestra.findChild<QLabel*>("statoGioco");
+    QMdiArea* area = finestra.AreaFinestre();
+
+    finestra.findChild<QAction*>("azioneEstrazioniSE")->trigger();
+    QMdiSubWindow* superenalotto = area->activeSubWindow();
+    QCOMPARE(stato->text(), QString("Gioco: SuperEnalotto"));
+    finestra.findChild<QAction*>("azioneNuovoScript")->trigger();
+    QCOMPARE(stato->text(), QString("Gioco: Lotto"));
+    finestra.findChild<QAction*>("azioneTabellone")->trigger();
+    QCOMPARE(stato->text(), QString("Gioco: Lotto"));
+    auto* scelta = area->activeSubWindow()->widget()->findChild<QComboBox*>("sceltaGioco");
+    scelta->setCurrentIndex(scelta->findText("10eLotto ogni 5 minuti"));
+    QCOMPARE(stato->text(), QString("Gioco: 10eLotto ogni 5 minuti"));
+    area->setActiveSubWindow(superenalotto);
+    QCOMPARE(stato->text(), QString("Gioco: SuperEnalotto"));
   }
 
   void ScriptRecentiNellIni() {

@@ -7,6 +7,8 @@
 #include <array>
 #include <cmath>
 #include <initializer_list>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "archive/TabellaEstrazioni.h"
@@ -86,7 +88,7 @@ class TabelloneTest : public QObject {
     ModelloTabellone modello;
     modello.Calcola(ArchivioAMano(), kRuoteScelte, 12);
     QCOMPARE(modello.rowCount(), 3 * kMassimoNumero);
-    QCOMPARE(modello.columnCount(), 5);
+    QCOMPARE(modello.columnCount(), 6);
     QCOMPARE(modello.data(modello.index(0, ModelloTabellone::kColonnaRuota)).toString(), QString("Bari"));
     QCOMPARE(modello.data(modello.index(kMassimoNumero, ModelloTabellone::kColonnaRuota)).toString(),
              QString("Firenze"));
@@ -141,6 +143,53 @@ class TabelloneTest : public QObject {
 
     ordinamento.sort(ModelloTabellone::kColonnaRuota, Qt::DescendingOrder);
     QCOMPARE(ordinamento.data(ordinamento.index(0, ModelloTabellone::kColonnaRuota)).toString(), QString("Nazionale"));
+  }
+
+  // Every number of the game, counted over the chosen range; the figures checked against a plain
+  // walk of the draws.
+  void UnAltroGiocoHaUnaRigaPerNumero() {
+    const int numeri_estratti[][10] = {{1, 2, 3, 4, 5, 6, 7, 8, 9, 10},     {11, 12, 13, 14, 15, 16, 17, 18, 19, 20},
+                                       {1, 3, 5, 7, 9, 11, 13, 15, 17, 19}, {2, 4, 6, 8, 10, 12, 14, 16, 18, 20},
+                                       {1, 2, 3, 4, 5, 16, 17, 18, 19, 20}, {6, 7, 8, 9, 10, 11, 12, 13, 14, 15},
+                                       {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}};
+    std::vector<EstrazioneGioco> estrazioni;
+    for (const auto& numeri : numeri_estratti) {
+      EstrazioneGioco estrazione;
+      estrazione.id_estr = static_cast<int>(estrazioni.size()) + 1;
+      std::copy(std::begin(numeri), std::end(numeri), estrazione.numeri.begin());
+      estrazioni.push_back(estrazione);
+    }
+    const TabellaGioco tab(Formato(Gioco::WinForLife), std::move(estrazioni));
+
+    for (const auto& [inizio, fine] : {std::pair{1, 7}, std::pair{2, 5}, std::pair{4, 4}}) {
+      ModelloTabellone modello;
+      modello.CalcolaGioco(tab, fine, inizio);
+      QCOMPARE(modello.GiocoMostrato(), std::optional(Gioco::WinForLife));
+      QCOMPARE(modello.rowCount(), 20);
+      for (int numero = 1; numero <= 20; ++numero) {
+        int ritardo = 0, frequenza = 0, storico = 0, chiuso = 0;
+        for (int k = inizio; k <= fine; ++k) {
+          const int* numeri = numeri_estratti[k - 1];
+          if (std::find(numeri, numeri + 10, numero) != numeri + 10) {
+            ++frequenza;
+            chiuso = std::max(chiuso, ritardo);
+            ritardo = 0;
+          } else {
+            storico = std::max(storico, ++ritardo);
+          }
+        }
+        const int riga = numero - 1;
+        auto valore = [&](int colonna) { return modello.data(modello.index(riga, colonna)).toInt(); };
+        QCOMPARE(valore(ModelloTabellone::kColonnaNumero), numero);
+        ConfrontaFigure(FigureMostrate(modello, 0, numero), {ritardo, frequenza, storico});
+        QCOMPARE(valore(ModelloTabellone::kColonnaIncremento), std::max(0, ritardo - chiuso));
+      }
+    }
+    ModelloTabellone modello;
+    modello.CalcolaGioco(tab, 8);
+    QCOMPARE(modello.rowCount(), 0);
+    modello.CalcolaGioco(tab, 3, 5);
+    QCOMPARE(modello.rowCount(), 0);
   }
 
   void IlColoreDelRitardoLoMisuraSulloStorico() {
