@@ -127,16 +127,21 @@ std::string DelGioco(const FormatoGioco& formato) {
 
 }  // namespace
 
-int ComandoImportaGioco(Contesto& contesto, const Parole& parole) {
-  if (parole.size() != 1) return contesto.Fallisci(UsoErrato(contesto, "importa FILE"));
-  auto nuove = LeggiRisultati(contesto, parole[0]);
-  if (!nuove) return contesto.Fallisci(nuove.Errore());
+Esito<int> ImportaGioco(Contesto& contesto, const fs::path& file) {
+  auto nuove = LeggiRisultati(contesto, file);
+  if (!nuove) return nuove.Errore();
   std::error_code ec;
   if (contesto.archivio.has_parent_path()) fs::create_directories(contesto.archivio.parent_path(), ec);
   auto aggiunte = ImportaEstrazioniGioco(nuove->formato(), contesto.archivio, nuove->Tutte());
-  if (!aggiunte) return contesto.Fallisci(aggiunte.Errore());
+  if (!aggiunte) return aggiunte.Errore();
   fmt::print(contesto.out, "importate {} estrazioni {}\n", *aggiunte, DelGioco(nuove->formato()));
-  return kUscitaRiuscita;
+  return aggiunte;
+}
+
+int ComandoImportaGioco(Contesto& contesto, const Parole& parole) {
+  if (parole.size() != 1) return contesto.Fallisci(UsoErrato(contesto, "importa FILE"));
+  auto aggiunte = ImportaGioco(contesto, parole[0]);
+  return aggiunte ? kUscitaRiuscita : contesto.Fallisci(aggiunte.Errore());
 }
 
 int ComandoInfoGioco(Contesto& contesto, const Parole& parole) {

@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
-
 #include "TempDir.h"
 #include "archive/ArchivioGenerico.h"
 #include "archive/ArchivioGioco.h"
@@ -13,13 +10,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string Leggi(const fs::path& file) {
-  std::ostringstream byte;
-  byte << std::ifstream(file, std::ios::binary).rdbuf();
-  return byte.str();
-}
-
-void Scrivi(const fs::path& file, const std::string& byte) { std::ofstream(file, std::ios::binary) << byte; }
+using test::Leggi;
+using test::Scrivi;
 
 struct Rifiuto {
   std::string testo;
