@@ -45,9 +45,10 @@ Esito<std::optional<DieciELottoAllineato>> AllineaDieciELotto(const TabellaEstra
   const TabellaGioco& tabella = costruito.tabella;
   for (int k = 1; k <= tabella.EstrazioniArchivio(); ++k)
     if (auto difetto = DifettoEstrazioneGioco(formato, tabella[k], k, k > 1 ? &tabella[k - 1] : nullptr))
-      return AvvisoEsclamativo(fmt::format("La serata del {} ricavata dall'archivio del Lotto {}: l'{} non è stato "
-                                           "cambiato",
-                                           FormattaData(tabella[k].data), *difetto, NomeArchivioGioco(formato)));
+      return AvvisoEsclamativo(
+          fmt::format("La serata del {} ricavata dall'archivio del Lotto {}: l'{} non è stato "
+                      "cambiato",
+                      FormattaData(tabella[k].data), *difetto, NomeArchivioGioco(formato)));
   auto salvato = SalvaArchivioGioco(tabella, file);
   if (!salvato) return salvato.Errore();
   return std::optional(allineato);

@@ -17,8 +17,8 @@
 namespace lottolab {
 
 struct DieciELottoAllineato {
-  int aggiunte = 0;     // evenings the archive did not hold
-  int completate = 0;   // evenings it held that the Lotto draw now gives otherwise
+  int aggiunte = 0;    // evenings the archive did not hold
+  int completate = 0;  // evenings it held that the Lotto draw now gives otherwise
   // The evenings where the results held differ from what the Lotto archive gives, in the user's
   // words; the Lotto's are kept.
   std::vector<std::string> differenze;

@@ -82,9 +82,8 @@ Esito<TabellaGioco> LeggiGenerico(std::string_view byte, const fs::path& file) {
   const int massimo = static_cast<uint16_t>(Leggi16(p));
   if (!MisureGenericheValide(numeri, massimo))
     return AvvisoEsclamativo(
-        fmt::format("{}dice estrazioni di {} numeri da 1 a {} (al più {} numeri, da 1 a non "
-                    "più di {})",
-                    inizio, numeri, massimo, kMassimoNumeriGioco, kMassimoNumeroGenerico));
+        fmt::format("{}dice estrazioni di {} numeri da 1 a {} (al più {} numeri, da 1 a non più di {})", inizio, numeri,
+                    massimo, kMassimoNumeriGioco, kMassimoNumeroGenerico));
   return LeggiRecord(FormatoGenerico(numeri, massimo), byte, kByteTestataGenerico, inizio);
 }
 

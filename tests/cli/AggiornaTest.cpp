@@ -21,9 +21,9 @@ int Numero(int primo, int ruota, int posizione) { return (primo + ruota * 5 + po
 std::string EstrazioneDelLotto(const std::string& data, int primo) {
   std::string righe;
   for (int ruota = 0; ruota < 11; ++ruota)
-    righe += fmt::format("{}\t{}\t{}\t{}\t{}\t{}\t{}\n", data, kRuote[ruota], Numero(primo, ruota, 0),
-                         Numero(primo, ruota, 1), Numero(primo, ruota, 2), Numero(primo, ruota, 3),
-                         Numero(primo, ruota, 4));
+    righe +=
+        fmt::format("{}\t{}\t{}\t{}\t{}\t{}\t{}\n", data, kRuote[ruota], Numero(primo, ruota, 0),
+                    Numero(primo, ruota, 1), Numero(primo, ruota, 2), Numero(primo, ruota, 3), Numero(primo, ruota, 4));
   return righe;
 }
 
@@ -50,9 +50,8 @@ TEST_F(Aggiorna, OgniGiocoConUnIndirizzoEUnoCheFallisceNonFermaGliAltri) {
   Scrivi("lotto.txt", EstrazioneDelLotto("2010/01/05", 0));
   Scrivi("se.txt", "2010/01/02\t1\t1\t2\t3\t4\t5\t6\t7\t8\n");
   Scrivi("ft.txt", "# numeri 3 massimo 40\n01/02/2026 1 2 40\n");
-  Scrivi("lottolab.ini", "[GENERALE]\nsIndirizzoRisultati=" + Indirizzo("lotto.txt") +
-                             "\nsIndirizzoRisultatiSE=" + Indirizzo("se.txt") +
-                             "\nsIndirizzoRisultatiWF=" + Indirizzo("non-pubblicato.txt") +
+  Scrivi("lottolab.ini", "[GENERALE]\nsIndirizzoRisultati=" + Indirizzo("lotto.txt") + "\nsIndirizzoRisultatiSE=" +
+                             Indirizzo("se.txt") + "\nsIndirizzoRisultatiWF=" + Indirizzo("non-pubblicato.txt") +
                              "\nsIndirizzoRisultatiFT=" + Indirizzo("ft.txt") + "\n");
   auto tutti = Lottolab({"aggiorna"});
   EXPECT_EQ(tutti.codice, 2) << "Win for Life failed";
@@ -86,7 +85,8 @@ TEST_F(Aggiorna, OgniGiocoConUnIndirizzoEUnoCheFallisceNonFermaGliAltri) {
 // The 10eLotto evening archive follows the Lotto archive once it exists: the evenings the Lotto adds
 // are derived, those held from the results alone completed, their contests kept.
 TEST_F(Aggiorna, LImportazioneDelLottoAllineaIl10eLotto) {
-  EXPECT_EQ(Lottolab({"importa", Scrivi("lotto1.txt", EstrazioneDelLotto("2010/01/05", 0) + EstrazioneDelLotto("2010/01/07", 3))})
+  EXPECT_EQ(Lottolab({"importa",
+                      Scrivi("lotto1.txt", EstrazioneDelLotto("2010/01/05", 0) + EstrazioneDelLotto("2010/01/07", 3))})
                 .out,
             "importate 2 estrazioni\n")
       << "no 10eLotto archive yet, nothing to follow";
@@ -95,13 +95,15 @@ TEST_F(Aggiorna, LImportazioneDelLottoAllineaIl10eLotto) {
   const std::string sera_dai_risultati = Lottolab({"--gioco", "DL", "estrazione", "3"}).out;
   EXPECT_EQ(sera_dai_risultati.find("Oro"), std::string::npos) << sera_dai_risultati;
 
-  const std::string lotto2 = Scrivi("lotto2.txt", EstrazioneDelLotto("2010/01/09", 11) + EstrazioneDelLotto("2010/01/12", 20));
+  const std::string lotto2 =
+      Scrivi("lotto2.txt", EstrazioneDelLotto("2010/01/09", 11) + EstrazioneDelLotto("2010/01/12", 20));
   auto altro = Lottolab({"--archivio", (m_base / "prova.dat").string(), "importa", lotto2});
   EXPECT_EQ(altro.out, "importate 2 estrazioni\n") << "the 10eLotto follows the configured Lotto archive alone";
 
   auto lotto = Lottolab({"importa", lotto2});
   EXPECT_EQ(lotto.codice, 0) << lotto.err;
-  EXPECT_EQ(lotto.out, "importate 2 estrazioni\n10eLotto serale: aggiunte 1 serate dall'archivio del Lotto, completate 1\n");
+  EXPECT_EQ(lotto.out,
+            "importate 2 estrazioni\n10eLotto serale: aggiunte 1 serate dall'archivio del Lotto, completate 1\n");
   EXPECT_EQ(Lottolab({"--gioco", "DL", "info"}).out,
             "gioco: 10eLotto\nestrazioni: 4\nprima: 05/01/2010\nultima: 12/01/2010\n");
   const std::string completata = Lottolab({"--gioco", "DL", "estrazione", "3"}).out;
