@@ -31,9 +31,8 @@ Esito<std::optional<DieciELottoAllineato>> AllineaDieciELotto(const TabellaEstra
   for (const EstrazioneGioco& tenuta : archivio->Tutte()) {
     auto trovata = nuove.find(GiornoAssoluto(tenuta.data));
     if (trovata == nuove.end())
-      return AvvisoEsclamativo(fmt::format(
-          "L'{} {} ha la serata del {}, che l'archivio del Lotto non ha: il 10eLotto non è stato ricavato di nuovo",
-          NomeArchivioGioco(formato), file.string(), FormattaData(tenuta.data)));
+      return AvvisoEsclamativo(fmt::format("L'{} {} ha la serata del {}, che l'archivio del Lotto non ha",
+                                           NomeArchivioGioco(formato), file.string(), FormattaData(tenuta.data)));
     const EstrazioneGioco& nuova = *trovata->second;
     if (nuova.numeri != tenuta.numeri || nuova.extra != tenuta.extra || nuova.speciali != tenuta.speciali)
       ++allineato.completate;

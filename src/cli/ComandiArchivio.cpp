@@ -32,7 +32,8 @@ void AllineaIlDieciELotto(Contesto& contesto) {
   auto allineato =
       lotto ? AllineaDieciELotto(*lotto, file) : Esito<std::optional<DieciELottoAllineato>>(lotto.Errore());
   if (!allineato) {
-    contesto.segnalatore.Avverti(allineato.Errore().testo);
+    contesto.segnalatore.Avverti("10eLotto serale non ricavato di nuovo dall'archivio del Lotto: " +
+                                 allineato.Errore().testo);
     return;
   }
   if (!allineato->has_value()) return;

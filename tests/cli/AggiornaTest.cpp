@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "DatiReali.h"
 #include "LottolabDiProva.h"
 
 namespace lottolab::cli {
@@ -119,11 +120,35 @@ TEST_F(Aggiorna, LImportazioneDelLottoAllineaIl10eLotto) {
   const std::string con_la_14 = test::Leggi(m_base / "10eLotto.dat");
   auto senza = Lottolab({"importa", Scrivi("lotto3.txt", EstrazioneDelLotto("2010/01/16", 40))});
   EXPECT_EQ(senza.codice, 0) << "the Lotto import itself went well";
-  EXPECT_NE(senza.err.find("ha la serata del 14/01/2010, che l'archivio del Lotto non ha: il 10eLotto non è stato "
-                           "ricavato di nuovo"),
+  EXPECT_NE(senza.err.find("lottolab: attenzione: 10eLotto serale non ricavato di nuovo dall'archivio del Lotto: "
+                           "L'archivio del 10eLotto " +
+                           (m_base / "10eLotto.dat").string() +
+                           " ha la serata del 14/01/2010, che l'archivio del Lotto non ha\n"),
             std::string::npos)
       << senza.err;
   EXPECT_EQ(test::Leggi(m_base / "10eLotto.dat"), con_la_14);
+}
+
+// The last hundred Lotto draws imported after the 10eLotto results give the archive that the whole
+// Lotto archive gives at once, byte for byte.
+TEST_F(Aggiorna, IlLottoRealeImportatoInDueVolteDaIl10eLottoDiUnaVolta) {
+  LOTTOLAB_RICHIEDI_DATI_REALI();
+  const fs::path lotto = test::CartellaDatiReali() / "lotto.txt";
+  const fs::path dieci_e_lotto = test::CartellaDatiReali() / "10elotto.txt";
+  std::string testo = test::Leggi(lotto);
+  for (int righe = 0; righe < 100 * 11; ++righe) testo.erase(testo.rfind('\n', testo.size() - 2) + 1);
+  ASSERT_EQ(Lottolab({"importa", Scrivi("lotto-prima.txt", testo)}).codice, 0);
+  ASSERT_EQ(Lottolab({"--gioco", "DL", "importa", dieci_e_lotto.string()}).codice, 0);
+  const auto seguito = Lottolab({"importa", lotto.string()});
+  EXPECT_EQ(seguito.out,
+            "importate 100 estrazioni\n10eLotto serale: aggiunte 0 serate dall'archivio del Lotto, "
+            "completate 100\n")
+      << seguito.err;
+  const std::string allineato = test::Leggi(m_base / "10eLotto.dat");
+
+  fs::remove(m_base / "10eLotto.dat");
+  ASSERT_EQ(Lottolab({"--gioco", "DL", "importa", dieci_e_lotto.string()}).codice, 0);
+  EXPECT_EQ(test::Leggi(m_base / "10eLotto.dat"), allineato);
 }
 
 }  // namespace
