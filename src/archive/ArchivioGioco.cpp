@@ -190,7 +190,7 @@ Esito<TabellaGioco> CaricaArchivioGioco(const FormatoGioco& formato, const fs::p
   if (generico && formato.numeri != 0 && !StesseMisure(del_file, formato))
     return AvvisoEsclamativo(fmt::format("{}ha estrazioni di {}, non di {}", InizioRifiuto(formato, file),
                                          Misure(del_file), Misure(formato)));
-  return std::move(**letto);
+  return *std::move(letto).Valore();
 }
 
 Esito<TabellaGioco> CaricaArchivioGenerico(const fs::path& file) {
