@@ -27,6 +27,10 @@ std::string Configurazione::IndirizzoRisultati() const {
   return ini.Leggi(kSezioneGenerale, "sIndirizzoRisultati", "https://www.igt.it/STORICO_ESTRAZIONI_LOTTO/storico.zip");
 }
 
+std::string Configurazione::IndirizzoRisultatiGioco(Gioco gioco) const {
+  return ini.Leggi(kSezioneGenerale, fmt::format("sIndirizzoRisultati{}", Formato(gioco).sigla), "");
+}
+
 Esito<Configurazione> CaricaConfigurazione(const fs::path& base) {
   auto ini = FileIni::Carica(FileConfigurazione(base));
   if (!ini) return ini.Errore();

@@ -26,6 +26,11 @@ struct Configurazione {
   std::filesystem::path ArchivioGioco(Gioco gioco) const;
   // Key sIndirizzoRisultati: where the operator publishes the results file (zip of text lines).
   std::string IndirizzoRisultati() const;
+  // Keys sIndirizzoRisultatiSE, sIndirizzoRisultatiDL, sIndirizzoRisultatiDL5, sIndirizzoRisultatiWF,
+  // sIndirizzoRisultatiFT: where a results file of each other game is found (a text, or a zip holding
+  // one); empty by default, since no public file exists for some of them, and then `aggiorna`
+  // passes the game over.
+  std::string IndirizzoRisultatiGioco(Gioco gioco) const;
 };
 
 // Reads the configuration of the given base folder (lottolab.ini there; an absent file gives the

@@ -13,7 +13,6 @@ namespace lottolab {
 namespace {
 
 constexpr int kMassimoPredefinito = 90;
-constexpr int kMassimoAmmesso = 255;
 
 // "# numeri K massimo M", read into `misure` where the caller left them open.
 bool LeggiIntestazione(std::string_view testo, MisureGeneriche& misure) {
@@ -38,6 +37,15 @@ bool LeggiDataGenerica(std::string_view testo, GruppoData& data) {
 }
 
 }  // namespace
+
+std::optional<MisureGeneriche> MisureDichiarate(std::string_view testo) {
+  std::string prima_riga(testo.substr(0, testo.find('\n')));
+  for (char& c : prima_riga)
+    if (c == ';') c = '\t';
+  MisureGeneriche misure;
+  if (!LeggiIntestazione(prima_riga, misure)) return std::nullopt;
+  return misure;
+}
 
 Esito<TabellaGioco> LeggiArchivioGenerico(std::string_view testo, MisureGeneriche misure) {
   std::string senza_punti_e_virgola(testo);
@@ -66,10 +74,10 @@ Esito<TabellaGioco> LeggiArchivioGenerico(std::string_view testo, MisureGenerich
     }
     if (misure.numeri == 0) misure.numeri = static_cast<int>(numeri.size());
     if (misure.numeri < 1 || misure.numeri > kMassimoNumeriGioco || misure.massimo < misure.numeri ||
-        misure.massimo > kMassimoAmmesso)
+        misure.massimo > kMassimoNumeroGenerico)
       return ErroreRiga(riga, fmt::format("{} numeri da 1 a {} non sono un'estrazione che l'archivio possa tenere "
                                           "(al più {} numeri, da 1 a non più di {})",
-                                          misure.numeri, misure.massimo, kMassimoNumeriGioco, kMassimoAmmesso));
+                                          misure.numeri, misure.massimo, kMassimoNumeriGioco, kMassimoNumeroGenerico));
     formato = FormatoGenerico(misure.numeri, misure.massimo);
     if (static_cast<int>(numeri.size()) != misure.numeri)
       return ErroreRiga(riga, fmt::format("ci sono {} numeri invece di {}", numeri.size(), misure.numeri));

@@ -9,6 +9,7 @@
 // and otherwise K is the count of numbers on the first draw's line and M is 90. Lines starting with
 // '#' and empty lines are passed over; days do not go back and do not repeat.
 
+#include <optional>
 #include <string_view>
 
 #include "Esito.h"
@@ -20,6 +21,9 @@ struct MisureGeneriche {
   int numeri = 0;  // 0: from the text
   int massimo = 0;
 };
+
+// The K and M that the text's first line gives, if it is "# numeri K massimo M".
+std::optional<MisureGeneriche> MisureDichiarate(std::string_view testo);
 
 // The draws of such a text, numbered from 1, in the format they say; the first fault refuses the
 // text, naming its line.

@@ -307,19 +307,20 @@ Esito<std::vector<Estrazione>> LeggiNuoveEstrazioni(const TabellaEstrazioni& arc
   return EstrazioniNuove(archivio, *estrazioni);
 }
 
-Esito<std::vector<Estrazione>> LeggiNuoveEstrazioniDaFile(const TabellaEstrazioni& archivio, const fs::path& file) {
+Esito<std::string> LeggiTestoRisultati(const fs::path& file) {
   auto letto = LeggiFileRegolare(file, kLimiteRisultati);
   if (!letto) return letto.Errore();
   if (!letto->has_value())
     return AvvisoEsclamativo(fmt::format("Non esiste il file dei risultati \n{}", file.string()));
-  const std::string& contenuto = **letto;
   // A zip is known by its signature, not by its name: downloads are often saved under another one.
-  if (contenuto.starts_with("PK\x03\x04") || contenuto.starts_with("PK\x05\x06")) {
-    auto testo = TestoDaZip(contenuto, file);
-    if (!testo) return testo.Errore();
-    return LeggiNuoveEstrazioni(archivio, *testo);
-  }
-  return LeggiNuoveEstrazioni(archivio, contenuto);
+  if ((*letto)->starts_with("PK\x03\x04") || (*letto)->starts_with("PK\x05\x06")) return TestoDaZip(**letto, file);
+  return std::move(letto).Valore().value();
+}
+
+Esito<std::vector<Estrazione>> LeggiNuoveEstrazioniDaFile(const TabellaEstrazioni& archivio, const fs::path& file) {
+  auto testo = LeggiTestoRisultati(file);
+  if (!testo) return testo.Errore();
+  return LeggiNuoveEstrazioni(archivio, *testo);
 }
 
 Esito<int> ImportaRisultati(ClsEstrazioni& archivio_file, const fs::path& file) {

@@ -7,6 +7,7 @@
 // before a byte is written: a half-updated archive would be worse than a stale one.
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -22,8 +23,12 @@ namespace lottolab {
 // on a draw that differs from, or is missing in, the archive.
 Esito<std::vector<Estrazione>> LeggiNuoveEstrazioni(const TabellaEstrazioni& archivio, std::string_view testo);
 
-// The same from a file: plain text, or a zip holding the text file (its first ".txt" entry, or its
-// only entry). A missing or unreadable file is refused with the user's message.
+// The text of a results file, of this game or another: the file itself, or the text file a zip
+// holds (its first ".txt" entry, or its only entry). A missing or unreadable file is refused with the
+// user's message.
+Esito<std::string> LeggiTestoRisultati(const std::filesystem::path& file);
+
+// The draws of a results file read by LeggiTestoRisultati.
 Esito<std::vector<Estrazione>> LeggiNuoveEstrazioniDaFile(const TabellaEstrazioni& archivio,
                                                           const std::filesystem::path& file);
 

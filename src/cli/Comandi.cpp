@@ -33,7 +33,8 @@ constexpr std::string_view kParoleStatistica =
 constexpr std::array kComandi = {
     Comando{"importa", "FILE", "aggiunge all'archivio le estrazioni nuove di un file di risultati (testo o zip)",
             ComandoImporta, ComandoImportaGioco},
-    Comando{"aggiorna", "", "scarica i risultati pubblicati e li importa", ComandoAggiorna},
+    Comando{"aggiorna", "", "scarica e importa i risultati pubblicati (del Lotto e di ogni gioco con un indirizzo)",
+            ComandoAggiorna, ComandoAggiorna},
     Comando{"info", "", "numero di estrazioni, prima e ultima data; controlla l'archivio", ComandoInfo,
             ComandoInfoGioco},
     Comando{"ripara", "", "toglie da un archivio l'estrazione incompleta in fondo, dopo averlo copiato", ComandoRipara},
@@ -96,8 +97,8 @@ std::string TestoUso() {
   }
   testo +=
       "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
-      "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, info, estrazione,\n"
-      "  ritardo, frequenza, storico e tabellone (senza --ruote, --ruota e --posizioni)\n";
+      "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, aggiorna, info,\n"
+      "  estrazione, ritardo, frequenza, storico e tabellone (senza --ruote, --ruota e --posizioni)\n";
   return testo;
 }
 

@@ -2,6 +2,7 @@
 
 // The commands of `lottolab`. Each takes the words that follow its name and returns the exit status.
 
+#include <filesystem>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -13,14 +14,22 @@ namespace lottolab::cli {
 using Parole = std::vector<std::string>;
 
 int ComandoImporta(Contesto& contesto, const Parole& parole);
-int ComandoAggiorna(Contesto& contesto, const Parole& parole);
 // Prints the count and the dates of the draws; a damaged archive is told on stderr and fails it.
 int ComandoInfo(Contesto& contesto, const Parole& parole);
 // Cuts an archive's partial trailing record, after copying the archive beside it.
 int ComandoRipara(Contesto& contesto, const Parole& parole);
 int ComandoEstrazione(Contesto& contesto, const Parole& parole);
+// Updates the Lotto archive and each other game's whose results address is configured, or with
+// --gioco that game alone; a game that fails is told and the others go on.
+int ComandoAggiorna(Contesto& contesto, const Parole& parole);
 // The same three for the game of --gioco.
 int ComandoImportaGioco(Contesto& contesto, const Parole& parole);
+// What importa and aggiorna share: a results file, text or zip, imported into the Lotto archive (and
+// the evening 10eLotto derived again from it) or into the archive of the game of --gioco, what was
+// done printed on `out`. The first shows its failure and gives the exit status; the second gives
+// the failure back, so that aggiorna may name the game.
+int ImportaLotto(Contesto& contesto, const std::filesystem::path& file);
+Esito<int> ImportaGioco(Contesto& contesto, const std::filesystem::path& file);
 int ComandoInfoGioco(Contesto& contesto, const Parole& parole);
 int ComandoEstrazioneGioco(Contesto& contesto, const Parole& parole);
 

@@ -1,4 +1,4 @@
-// importa, info and estrazione for the games besides the Lotto (--gioco SE|DL|DL5|WF|FT).
+// The commands for the games besides the Lotto (--gioco SE|DL|DL5|WF|FT).
 
 #include <algorithm>
 #include <charconv>
@@ -14,7 +14,7 @@
 #include "archive/DateEstrazione.h"
 #include "archive/DieciELotto.h"
 #include "archive/DieciELottoOgniCinqueMinuti.h"
-#include "archive/FileSicuri.h"
+#include "archive/ImportaRisultati.h"
 #include "archive/SuperEnalotto.h"
 #include "archive/WinForLife.h"
 #include "stats/RitardiGioco.h"
@@ -24,9 +24,6 @@ namespace lottolab::cli {
 namespace fs = std::filesystem;
 
 namespace {
-
-// A results file of the other games is a few MB at most.
-constexpr size_t kLimiteRisultati = size_t{64} << 20;
 
 Avviso UsoErrato(const Contesto& contesto, std::string_view uso) {
   return AvvisoEsclamativo(fmt::format("uso: lottolab --gioco {} {}", Formato(*contesto.gioco).sigla, uso));
@@ -52,8 +49,23 @@ TabellaEstrazioni ArchivioDelLotto(Contesto& contesto) {
   return *tabella;
 }
 
+// The draws of a text for the generic archive, or of another generic archive's file. A text that
+// does not say its K and M is read in those of the archive it goes into.
+Esito<TabellaGioco> LeggiEstrazioniGeneriche(const Contesto& contesto, const fs::path& file, std::string_view testo) {
+  if (IsArchivioGenerico(testo)) return CaricaArchivioGenerico(file);
+  MisureGeneriche misure;
+  std::error_code ec;
+  if (!MisureDichiarate(testo) && fs::exists(contesto.archivio, ec))
+    if (auto archivio = CaricaArchivioGenerico(contesto.archivio))
+      misure = {archivio->formato().numeri, archivio->formato().massimo};
+  return LeggiArchivioGenerico(testo, misure);
+}
+
 // The draws of a results file for the game, with what it leaves in doubt told as warnings.
-Esito<TabellaGioco> LeggiRisultati(Contesto& contesto, std::string_view testo) {
+Esito<TabellaGioco> LeggiRisultati(Contesto& contesto, const fs::path& file) {
+  auto letto = LeggiTestoRisultati(file);
+  if (!letto) return letto.Errore();
+  const std::string_view testo = *letto;
   switch (*contesto.gioco) {
     case Gioco::SuperEnalotto: {
       auto risultati = LeggiRisultatiSuperEnalotto(testo);
@@ -76,7 +88,7 @@ Esito<TabellaGioco> LeggiRisultati(Contesto& contesto, std::string_view testo) {
     case Gioco::WinForLife: return LeggiRisultatiWinForLife(testo);
     case Gioco::Generico: break;
   }
-  return LeggiArchivioGenerico(testo);
+  return LeggiEstrazioniGeneriche(contesto, file, testo);
 }
 
 std::string Ora(const FormatoGioco& formato, const EstrazioneGioco& estrazione) {
@@ -102,30 +114,34 @@ std::string Speciali(const FormatoGioco& formato, const EstrazioneGioco& estrazi
   return testo;
 }
 
-// The generic archive's format is its file's; a missing one is still empty.
-Esito<TabellaGioco> CaricaArchivio(Contesto& contesto) {
-  if (*contesto.gioco != Gioco::Generico) return CaricaArchivioGioco(Formato(*contesto.gioco), contesto.archivio);
-  return AvvisoEsclamativo(
-      "l'archivio generico si legge dal suo file di testo: lottolab --gioco FT importa FILE ne mostra il contenuto");
+// The generic archive's format is its file's, so that file must be there.
+Esito<TabellaGioco> CaricaArchivio(const Contesto& contesto) {
+  if (*contesto.gioco == Gioco::Generico) return CaricaArchivioGenerico(contesto.archivio);
+  return CaricaArchivioGioco(Formato(*contesto.gioco), contesto.archivio);
+}
+
+// "del SuperEnalotto", "dell'archivio generico".
+std::string DelGioco(const FormatoGioco& formato) {
+  return formato.gioco == Gioco::Generico ? "dell'archivio generico" : fmt::format("del {}", formato.nome);
 }
 
 }  // namespace
 
-int ComandoImportaGioco(Contesto& contesto, const Parole& parole) {
-  if (parole.size() != 1) return contesto.Fallisci(UsoErrato(contesto, "importa FILE"));
-  auto letto = LeggiFileRegolare(parole[0], kLimiteRisultati);
-  if (!letto) return contesto.Fallisci(letto.Errore());
-  if (!letto->has_value())
-    return contesto.Fallisci(
-        AvvisoEsclamativo(fmt::format("il file {} non esiste", app::PercorsoPerMessaggio(parole[0]))));
-  auto nuove = LeggiRisultati(contesto, **letto);
-  if (!nuove) return contesto.Fallisci(nuove.Errore());
+Esito<int> ImportaGioco(Contesto& contesto, const fs::path& file) {
+  auto nuove = LeggiRisultati(contesto, file);
+  if (!nuove) return nuove.Errore();
   std::error_code ec;
   if (contesto.archivio.has_parent_path()) fs::create_directories(contesto.archivio.parent_path(), ec);
   auto aggiunte = ImportaEstrazioniGioco(nuove->formato(), contesto.archivio, nuove->Tutte());
-  if (!aggiunte) return contesto.Fallisci(aggiunte.Errore());
-  fmt::print(contesto.out, "importate {} estrazioni del {}\n", *aggiunte, nuove->formato().nome);
-  return kUscitaRiuscita;
+  if (!aggiunte) return aggiunte.Errore();
+  fmt::print(contesto.out, "importate {} estrazioni {}\n", *aggiunte, DelGioco(nuove->formato()));
+  return aggiunte;
+}
+
+int ComandoImportaGioco(Contesto& contesto, const Parole& parole) {
+  if (parole.size() != 1) return contesto.Fallisci(UsoErrato(contesto, "importa FILE"));
+  auto aggiunte = ImportaGioco(contesto, parole[0]);
+  return aggiunte ? kUscitaRiuscita : contesto.Fallisci(aggiunte.Errore());
 }
 
 int ComandoInfoGioco(Contesto& contesto, const Parole& parole) {
@@ -135,6 +151,8 @@ int ComandoInfoGioco(Contesto& contesto, const Parole& parole) {
   const FormatoGioco& formato = tabella->formato();
   const int n = tabella->EstrazioniArchivio();
   fmt::print(contesto.out, "gioco: {}\n", formato.nome);
+  if (formato.gioco == Gioco::Generico)
+    fmt::print(contesto.out, "numeri: {} da 1 a {}\n", formato.numeri, formato.massimo);
   fmt::print(contesto.out, "estrazioni: {}\n", n);
   fmt::print(contesto.out, "prima: {}\n", n ? FormattaData((*tabella)[1].data) + Ora(formato, (*tabella)[1]) : "-");
   fmt::print(contesto.out, "ultima: {}\n", n ? FormattaData((*tabella)[n].data) + Ora(formato, (*tabella)[n]) : "-");
@@ -176,7 +194,7 @@ int ComandoStatisticaGioco(Contesto& contesto, const Parole& parole, Statistica 
   if (!tabella) return contesto.Fallisci(tabella.Errore());
   const FormatoGioco& formato = tabella->formato();
   if (tabella->EstrazioniArchivio() == 0)
-    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("l'archivio del {} è vuoto", formato.nome)));
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("l'{} è vuoto", NomeArchivioGioco(formato))));
 
   std::vector<int> numeri;
   for (const std::string& parola : argomenti->parole) {
@@ -184,7 +202,7 @@ int ComandoStatisticaGioco(Contesto& contesto, const Parole& parole, Statistica 
     const auto [fine, errore] = std::from_chars(parola.data(), parola.data() + parola.size(), numero);
     if (errore != std::errc() || fine != parola.data() + parola.size() || numero < 1 || numero > formato.massimo)
       return contesto.Fallisci(AvvisoEsclamativo(
-          fmt::format("\"{}\" non è un numero del {} (da 1 a {})", parola, formato.nome, formato.massimo)));
+          fmt::format("\"{}\" non è un numero {} (da 1 a {})", parola, DelGioco(formato), formato.massimo)));
     if (std::find(numeri.begin(), numeri.end(), numero) != numeri.end())
       return contesto.Fallisci(AvvisoEsclamativo(fmt::format("numero ripetuto: {}", numero)));
     numeri.push_back(numero);
@@ -220,7 +238,7 @@ int ComandoTabelloneGioco(Contesto& contesto, const Parole& parole) {
   auto tabella = CaricaArchivio(contesto);
   if (!tabella) return contesto.Fallisci(tabella.Errore());
   if (tabella->EstrazioniArchivio() == 0)
-    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("l'archivio del {} è vuoto", tabella->formato().nome)));
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("l'{} è vuoto", NomeArchivioGioco(tabella->formato()))));
   auto intervallo = LeggiIntervallo(*tabella, *argomenti);
   if (!intervallo) return contesto.Fallisci(intervallo.Errore());
   const auto figure = stats::TabelloneGioco(*tabella, intervallo->fine, intervallo->inizio);

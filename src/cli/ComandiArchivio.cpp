@@ -4,11 +4,11 @@
 #include "Argomenti.h"
 #include "Comandi.h"
 #include "app/ErroreInatteso.h"
+#include "archive/AllineaDieciELotto.h"
 #include "archive/ClsEstrazioni.h"
 #include "archive/DateEstrazione.h"
 #include "archive/ImportaRisultati.h"
 #include "archive/RiparaArchivio.h"
-#include "archive/ScaricaRisultati.h"
 
 namespace lottolab::cli {
 
@@ -18,7 +18,37 @@ namespace {
 
 Avviso UsoErrato(std::string_view uso) { return AvvisoEsclamativo(fmt::format("uso: lottolab {}", uso)); }
 
-int Importa(Contesto& contesto, const fs::path& file) {
+// The evening 10eLotto derived again from the Lotto archive that has just grown, when it is the
+// configured one that the 10eLotto is derived from; what was done told in one line.
+void AllineaIlDieciELotto(Contesto& contesto) {
+  std::error_code ec, ec_configurato;
+  if (fs::weakly_canonical(contesto.archivio, ec) !=
+          fs::weakly_canonical(contesto.configurazione.ArchivioLotto(), ec_configurato) ||
+      ec || ec_configurato)
+    return;
+  const fs::path file = contesto.configurazione.ArchivioGioco(Gioco::DieciELotto);
+  if (!fs::exists(file, ec)) return;
+  auto lotto = ClsEstrazioni(contesto.archivio).CaricaEstrazioni();
+  auto allineato =
+      lotto ? AllineaDieciELotto(*lotto, file) : Esito<std::optional<DieciELottoAllineato>>(lotto.Errore());
+  if (!allineato) {
+    contesto.segnalatore.Avverti("10eLotto serale non ricavato di nuovo dall'archivio del Lotto: " +
+                                 allineato.Errore().testo);
+    return;
+  }
+  if (!allineato->has_value()) return;
+  const DieciELottoAllineato& fatto = **allineato;
+  for (const std::string& differenza : fatto.differenze) contesto.segnalatore.Avverti(differenza);
+  if (fatto.aggiunte == 0 && fatto.completate == 0)
+    fmt::print(contesto.out, "10eLotto serale: nessuna serata da aggiungere dall'archivio del Lotto\n");
+  else
+    fmt::print(contesto.out, "10eLotto serale: aggiunte {} serate dall'archivio del Lotto{}\n", fatto.aggiunte,
+               fatto.completate ? fmt::format(", completate {}", fatto.completate) : "");
+}
+
+}  // namespace
+
+int ImportaLotto(Contesto& contesto, const fs::path& file) {
   std::error_code ec;
   if (contesto.archivio.has_parent_path()) fs::create_directories(contesto.archivio.parent_path(), ec);
   if (ec)
@@ -29,10 +59,9 @@ int Importa(Contesto& contesto, const fs::path& file) {
   auto importate = ImportaRisultati(archivio, file);
   if (!importate) return contesto.Fallisci(importate.Errore());
   fmt::print(contesto.out, "importate {} estrazioni\n", *importate);
+  if (*importate > 0) AllineaIlDieciELotto(contesto);
   return kUscitaRiuscita;
 }
-
-}  // namespace
 
 int ComandoImporta(Contesto& contesto, const Parole& parole) {
   if (parole.size() != 1) return contesto.Fallisci(UsoErrato("importa FILE"));
@@ -42,18 +71,7 @@ int ComandoImporta(Contesto& contesto, const Parole& parole) {
         AvvisoEsclamativo(ec ? fmt::format("il file {} non è accessibile: {}", app::PercorsoPerMessaggio(parole[0]),
                                            app::DescriviErroreDiSistema(ec))
                              : fmt::format("il file {} non esiste", app::PercorsoPerMessaggio(parole[0]))));
-  return Importa(contesto, parole[0]);
-}
-
-int ComandoAggiorna(Contesto& contesto, const Parole& parole) {
-  if (!parole.empty()) return contesto.Fallisci(UsoErrato("aggiorna"));
-  fs::path scaricato = contesto.configurazione.base / "risultati-scaricati.zip";
-  auto download = ScaricaRisultati(contesto.configurazione.IndirizzoRisultati(), scaricato);
-  if (!download) return contesto.Fallisci(download.Errore());
-  int uscita = Importa(contesto, *download);
-  std::error_code ec;
-  fs::remove(*download, ec);
-  return uscita;
+  return ImportaLotto(contesto, parole[0]);
 }
 
 int ComandoInfo(Contesto& contesto, const Parole& parole) {

@@ -1,10 +1,17 @@
 #include <gtest/gtest.h>
 
+#include "TempDir.h"
 #include "archive/ArchivioGenerico.h"
+#include "archive/ArchivioGioco.h"
 #include "archive/WinForLife.h"
 
 namespace lottolab {
 namespace {
+
+namespace fs = std::filesystem;
+
+using test::Leggi;
+using test::Scrivi;
 
 struct Rifiuto {
   std::string testo;
@@ -71,6 +78,91 @@ TEST(ArchivioGenerico, MisureDaTestaDalChiamanteODallaPrimaRiga) {
     auto rifiutato = LeggiArchivioGenerico(caso.testo);
     ASSERT_FALSE(rifiutato) << caso.testo;
     EXPECT_EQ(rifiutato.Errore().testo, caso.messaggio);
+  }
+}
+
+TEST(ArchivioGenerico, IlFileDiceKEMESiRileggeUguale) {
+  test::CartellaTemporanea cartella;
+  const fs::path file = cartella / "generico.dat";
+  auto assente = CaricaArchivioGenerico(file);
+  ASSERT_FALSE(assente) << "no file gives no format";
+  EXPECT_EQ(assente.Errore().testo,
+            "Il file " + file.string() + " non esiste: un archivio generico nasce importando un testo di estrazioni");
+
+  auto tabella = LeggiArchivioGenerico("# numeri 3 massimo 255\n01/02/2026 1 128 255\n08/02/2026 2 3 4\n");
+  ASSERT_TRUE(tabella) << tabella.Errore().testo;
+  ASSERT_TRUE(SalvaArchivioGioco(*tabella, file));
+  const std::string byte = Leggi(file);
+  EXPECT_EQ(byte.substr(0, 8), std::string("LLFT\x03\x00\xFF\x00", 8));
+  EXPECT_EQ(byte.size(), 8 + 2 * ByteRecordGioco(tabella->formato()));
+  EXPECT_TRUE(IsArchivioGenerico(byte));
+  EXPECT_FALSE(IsArchivioGenerico("01/02/2026 1 2 3\n"));
+  auto letto = CaricaArchivioGenerico(file);
+  ASSERT_TRUE(letto) << letto.Errore().testo;
+  EXPECT_EQ(letto->formato().numeri, 3);
+  EXPECT_EQ(letto->formato().massimo, 255);
+  EXPECT_EQ(letto->Tutte(), tabella->Tutte());
+  EXPECT_TRUE(CaricaArchivioGioco(FormatoGenerico(3, 255), file)) << "the same K and M";
+  auto altro_formato = CaricaArchivioGioco(FormatoGenerico(3, 90), file);
+  ASSERT_FALSE(altro_formato);
+  EXPECT_EQ(altro_formato.Errore().testo, "Il file " + file.string() +
+                                              " non è un archivio generico valido: ha estrazioni di 3 numeri da 1 a "
+                                              "255, non di 3 numeri da 1 a 90");
+
+  const std::string inizio = "Il file " + file.string() + " non è un archivio generico valido: ";
+  std::string senza_testata = byte.substr(8);
+  std::string k_zero = byte, m_minore = byte, k_21 = byte, m_256 = byte, fuori = byte;
+  k_zero[4] = 0;
+  m_minore[6] = 2;
+  m_minore[7] = 0;
+  k_21[4] = 21;
+  m_256[6] = 0;
+  m_256[7] = 1;
+  fuori[8 + ByteRecordGioco(tabella->formato()) + 14 + 2] = 3;  // draw 2 was 2 3 4
+  for (const Rifiuto& caso : std::vector<Rifiuto>{
+           {"", inizio + "non comincia con gli 8 byte \"LLFT\", numeri e massimo che lo aprono"},
+           {"LLFT\x03", inizio + "non comincia con gli 8 byte \"LLFT\", numeri e massimo che lo aprono"},
+           {senza_testata, inizio + "non comincia con gli 8 byte \"LLFT\", numeri e massimo che lo aprono"},
+           {k_zero, inizio + "dice estrazioni di 0 numeri da 1 a 255 (al più 20 numeri, da 1 a non più di 255)"},
+           {k_21, inizio + "dice estrazioni di 21 numeri da 1 a 255 (al più 20 numeri, da 1 a non più di 255)"},
+           {m_minore, inizio + "dice estrazioni di 3 numeri da 1 a 2 (al più 20 numeri, da 1 a non più di 255)"},
+           {m_256, inizio + "dice estrazioni di 3 numeri da 1 a 256 (al più 20 numeri, da 1 a non più di 255)"},
+           {byte.substr(0, byte.size() - 1),
+            inizio + "la sua lunghezza (41 byte) non è di 8 byte di testata più un multiplo dei 17 byte di un record"},
+           {fuori, inizio + "il record 2 ha il numero 3 due volte"},
+       }) {
+    Scrivi(file, caso.testo);
+    auto rifiutato = CaricaArchivioGenerico(file);
+    ASSERT_FALSE(rifiutato) << caso.messaggio;
+    EXPECT_EQ(rifiutato.Errore().testo, caso.messaggio);
+  }
+  EXPECT_FALSE(SalvaArchivioGioco(TabellaGioco(FormatoGenerico(0, 90)), file)) << "no file it could not read again";
+}
+
+TEST(ArchivioGenerico, SiImportaSoloConGliStessiKEM) {
+  test::CartellaTemporanea cartella;
+  const fs::path file = cartella / "generico.dat";
+  auto prime = LeggiArchivioGenerico("01/02/2026 1 2 3\n");
+  ASSERT_TRUE(prime);
+  auto aggiunte = ImportaEstrazioniGioco(prime->formato(), file, prime->Tutte());
+  ASSERT_TRUE(aggiunte) << aggiunte.Errore().testo;
+  EXPECT_EQ(*aggiunte, 1) << "a missing archive starts empty, in the format of the draws";
+  auto seguenti = LeggiArchivioGenerico("01/02/2026 1 2 3\n08/02/2026 4 5 6\n");
+  aggiunte = ImportaEstrazioniGioco(seguenti->formato(), file, seguenti->Tutte());
+  ASSERT_TRUE(aggiunte) << aggiunte.Errore().testo;
+  EXPECT_EQ(*aggiunte, 1);
+  const std::string prima = Leggi(file);
+
+  for (const std::string altre : {"# numeri 3 massimo 40\n15/02/2026 7 8 9\n", "15/02/2026 7 8 9 10\n"}) {
+    auto diverse = LeggiArchivioGenerico(altre);
+    ASSERT_TRUE(diverse) << diverse.Errore().testo;
+    auto rifiutate = ImportaEstrazioniGioco(diverse->formato(), file, diverse->Tutte());
+    ASSERT_FALSE(rifiutate) << altre;
+    EXPECT_EQ(rifiutate.Errore().testo,
+              "L'archivio generico " + file.string() + " ha estrazioni di 3 numeri da 1 a 90, quelle da importare " +
+                  (diverse->formato().numeri == 3 ? "sono di 3 numeri da 1 a 40" : "sono di 4 numeri da 1 a 90") +
+                  ": l'archivio non è stato cambiato");
+    EXPECT_EQ(Leggi(file), prima) << "byte for byte";
   }
 }
 

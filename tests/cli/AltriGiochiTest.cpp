@@ -62,6 +62,38 @@ TEST_F(AltriGiochi, OgniGiocoHaIlSuoArchivioNellaCartellaBase) {
             "1 02/03/2026 08:00 concorso 1: 01 03 05 07 09 11 13 15 17 19  Numerone 20\n");
 }
 
+TEST_F(AltriGiochi, LArchivioGenericoSiImportaESiLeggeDalSuoFile) {
+  auto mancante = Lottolab({"--gioco", "FT", "info"});
+  EXPECT_EQ(mancante.codice, 2) << "no file, no format";
+  auto importa = Lottolab({"--gioco", "FT", "importa", Scrivi("ft.txt", "# numeri 3 massimo 40\n01/02/2026 1 2 40\n")});
+  EXPECT_EQ(importa.codice, 0) << importa.err;
+  EXPECT_EQ(importa.out, "importate 1 estrazioni dell'archivio generico\n");
+  // A text that does not say its measures is read in the archive's: 40 is then no number out of range.
+  EXPECT_EQ(Lottolab({"--gioco", "FT", "importa", Scrivi("ft2.txt", "08/02/2026 3 4 40\n")}).out,
+            "importate 1 estrazioni dell'archivio generico\n");
+  EXPECT_EQ(Lottolab({"--gioco", "FT", "info"}).out,
+            "gioco: Archivio generico\nnumeri: 3 da 1 a 40\nestrazioni: 2\nprima: 01/02/2026\nultima: 08/02/2026\n");
+  EXPECT_EQ(Lottolab({"--gioco", "FT", "estrazione", "2"}).out, "2 08/02/2026 concorso 0: 03 04 40\n");
+  EXPECT_EQ(Lottolab({"--gioco", "FT", "ritardo", "1"}).out, "1\n");
+  EXPECT_EQ(Lottolab({"--gioco", "FT", "frequenza", "40"}).out, "2\n");
+  EXPECT_EQ(Lottolab({"--gioco", "FT", "ritardo", "41"}).err,
+            "lottolab: \"41\" non è un numero dell'archivio generico (da 1 a 40)\n");
+  const std::string tabellone = Lottolab({"--gioco", "FT", "tabellone"}).out;
+  EXPECT_TRUE(tabellone.ends_with("    40         0         2         0\n")) << tabellone;
+
+  auto altre = Lottolab({"--gioco", "FT", "importa", Scrivi("ft3.txt", "# numeri 3 massimo 90\n15/02/2026 5 6 7\n")});
+  EXPECT_EQ(altre.codice, 2);
+  EXPECT_NE(altre.err.find("ha estrazioni di 3 numeri da 1 a 40, quelle da importare sono di 3 numeri da 1 a 90"),
+            std::string::npos)
+      << altre.err;
+  // Another generic archive's file is taken whole.
+  std::filesystem::copy_file(m_base / "ArchivioGenerico.dat", m_base / "copia.dat");
+  EXPECT_EQ(Lottolab({"--gioco", "FT", "--archivio", (m_base / "altro.dat").string(), "importa",
+                      (m_base / "copia.dat").string()})
+                .out,
+            "importate 2 estrazioni dell'archivio generico\n");
+}
+
 TEST_F(AltriGiochi, GiocoSconosciutoOComandoSoloDelLotto) {
   auto sconosciuto = Lottolab({"--gioco", "EJ", "info"});
   EXPECT_EQ(sconosciuto.codice, 2);

@@ -85,7 +85,8 @@ TEST_F(LottolabDiProva, UsoElencaIComandi) {
       "uso: lottolab [--gioco LO|SE|DL|DL5|WF|FT] [--archivio PATH] COMANDO ...\n"
       "comandi:\n"
       "  importa FILE              aggiunge all'archivio le estrazioni nuove di un file di risultati (testo o zip)\n"
-      "  aggiorna                  scarica i risultati pubblicati e li importa\n"
+      "  aggiorna                  scarica e importa i risultati pubblicati (del Lotto e di ogni gioco con un "
+      "indirizzo)\n"
       "  info                      numero di estrazioni, prima e ultima data; controlla l'archivio\n"
       "  ripara                    toglie da un archivio l'estrazione incompleta in fondo, dopo averlo copiato\n"
       "  estrazione ID|GG/MM/AAAA  mostra un'estrazione\n"
@@ -99,8 +100,8 @@ TEST_F(LottolabDiProva, UsoElencaIComandi) {
       "  funzioni [--html FILE]    elenca le funzioni degli script (o ne scrive la pagina di riferimento)\n"
       "  cerca-figura FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]   cerca una figura nell'archivio\n"
       "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
-      "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, info, estrazione,\n"
-      "  ritardo, frequenza, storico e tabellone (senza --ruote, --ruota e --posizioni)\n";
+      "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, aggiorna, info,\n"
+      "  estrazione, ritardo, frequenza, storico e tabellone (senza --ruote, --ruota e --posizioni)\n";
   EXPECT_EQ(Lottolab({}).err, uso);
   EXPECT_EQ(Lottolab({}).codice, 2);
   const Uscita aiuto = Lottolab({"--archivio", "x", "--help"});
