@@ -23,6 +23,12 @@ fs::path Configurazione::ArchivioGioco(Gioco gioco) const {
   return RisolviPercorso(base, ini.Leggi(kSezioneGenerale, chiave, kPredefiniti[static_cast<int>(gioco)]));
 }
 
+std::array<fs::path, 5> Configurazione::ArchiviGiochi() const {
+  std::array<fs::path, 5> file;
+  for (size_t g = 0; g < file.size(); ++g) file[g] = ArchivioGioco(static_cast<Gioco>(g));
+  return file;
+}
+
 std::string Configurazione::IndirizzoRisultati() const {
   return ini.Leggi(kSezioneGenerale, "sIndirizzoRisultati", "https://www.igt.it/STORICO_ESTRAZIONI_LOTTO/storico.zip");
 }

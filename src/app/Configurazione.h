@@ -3,6 +3,7 @@
 // The settings that the core needs before the first load, read from section "GENERALE" of the
 // program's INI file. Keys keep the names users already know from their configuration files.
 
+#include <array>
 #include <filesystem>
 #include <string>
 
@@ -24,6 +25,8 @@ struct Configurazione {
   // Keys sFileBdSE, sFileBdDL, sFileBdDL5, sFileBdWF, sFileBdFT: the archive of each other game,
   // "SuperEnalotto.dat", "10eLotto.dat", "10eLotto5.dat", "WinForLife.dat", "ArchivioGenerico.dat" by default.
   std::filesystem::path ArchivioGioco(Gioco gioco) const;
+  // Every game's archive, by Gioco.
+  std::array<std::filesystem::path, 5> ArchiviGiochi() const;
   // Key sIndirizzoRisultati: where the operator publishes the results file (zip of text lines).
   std::string IndirizzoRisultati() const;
   // Keys sIndirizzoRisultatiSE, sIndirizzoRisultatiDL, sIndirizzoRisultatiDL5, sIndirizzoRisultatiWF,

@@ -234,10 +234,9 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole) {
   opzioni.libreria.sola_lettura = {contesto.archivio, contesto.configurazione.ArchivioLotto(),
                                    contesto.configurazione.ArchivioModificabile(),
                                    app::FileConfigurazione(contesto.configurazione.base)};
-  for (size_t g = 0; g < opzioni.libreria.archivi_giochi.size(); ++g) {
-    opzioni.libreria.archivi_giochi[g] = contesto.configurazione.ArchivioGioco(static_cast<Gioco>(g));
-    opzioni.libreria.sola_lettura.push_back(opzioni.libreria.archivi_giochi[g]);
-  }
+  opzioni.libreria.archivi_giochi = contesto.configurazione.ArchiviGiochi();
+  opzioni.libreria.sola_lettura.insert(opzioni.libreria.sola_lettura.end(), opzioni.libreria.archivi_giochi.begin(),
+                                       opzioni.libreria.archivi_giochi.end());
   if (pagina) opzioni.nome_file_html = pagina->filename().string();
   opzioni.timeout_ms = timeout_ms;
   opzioni.nome_script = script_file->filename().string();

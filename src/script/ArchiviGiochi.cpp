@@ -14,16 +14,24 @@ size_t Indice(Gioco gioco) { return static_cast<size_t>(gioco); }
 std::string_view Sigla(Gioco gioco) { return Formato(gioco).sigla; }
 
 Esito<TabellaGioco> Carica(Gioco gioco, const std::filesystem::path& file, const TabellaEstrazioni* lotto) {
-  if (gioco == Gioco::Generico)
-    return AvvisoEsclamativo("Nessun archivio generico aperto: si apre con ApriBaseDatiFT");
+  std::error_code ec;
+  if (gioco == Gioco::Generico) {
+    if (!std::filesystem::exists(file, ec))
+      return AvvisoEsclamativo(fmt::format(
+          "Nessun archivio generico: si apre con ApriBaseDatiFT, o si importa con lottolab --gioco FT importa FILE "
+          "({})",
+          file.string()));
+    return CaricaArchivioGenerico(file);
+  }
   auto tabella = CaricaArchivioGioco(Formato(gioco), file);
   if (!tabella) return tabella;
   if (tabella->EstrazioniArchivio() > 0) return tabella;
   if (gioco == Gioco::DieciELotto && lotto && !lotto->Vuota())
     return TabellaGioco(Formato(gioco), DieciELottoDalLotto(*lotto));
-  return AvvisoEsclamativo(fmt::format("L'archivio del {} ({}) è vuoto o manca: si importa con lottolab --gioco {} "
-                                       "importa FILE",
-                                       Formato(gioco).nome, file.string(), Sigla(gioco)));
+  return AvvisoEsclamativo(
+      fmt::format("L'archivio del {} ({}) è vuoto o manca: si importa con lottolab --gioco {} "
+                  "importa FILE",
+                  Formato(gioco).nome, file.string(), Sigla(gioco)));
 }
 
 }  // namespace
@@ -39,7 +47,7 @@ Gioco ArchiviGiochi::GiocoDi(Suffisso suffisso) const {
 }
 
 const Esito<TabellaGioco>& ArchiviGiochi::Tabella(Suffisso suffisso, const FileDeiGiochi& file,
-                                                 const TabellaEstrazioni* lotto) {
+                                                  const TabellaEstrazioni* lotto) {
   const Gioco gioco = GiocoDi(suffisso);
   std::optional<Esito<TabellaGioco>>& tabella = m_tabelle[Indice(gioco)];
   if (!tabella) tabella.emplace(Carica(gioco, file[Indice(gioco)], lotto));

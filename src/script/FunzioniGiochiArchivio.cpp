@@ -190,8 +190,7 @@ Result<Variant> isSorteValida(Libreria& lib, CallArgs& args) {
   auto valore = args.Double(0);
   auto tab = TabellaDelGioco(lib, kSuffisso);
   if (!valore || !tab) return Variant::Boolean(false);
-  return Variant::Boolean(*valore == static_cast<int>(*valore) && *valore >= 1 &&
-                          *valore <= (*tab)->formato().numeri);
+  return Variant::Boolean(*valore == static_cast<int>(*valore) && *valore >= 1 && *valore <= (*tab)->formato().numeri);
 }
 
 // The position 1..N of the number among the main numbers, 0 when it was not drawn.
@@ -313,7 +312,6 @@ Result<Variant> AllineaArchivi(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto tab, TabellaDelGioco(lib, suffisso));
   return Variant::Long(EstrazioniDelGiorno(*tab, (*lotto)[id_estr].data).prima);
 }
-
 
 const FunzioneDeiGiochi kArchivioGiochi[] = {
     {"Estratto", 2, 2, LOTTOLAB_PER_OGNI_GIOCO(Estratto),

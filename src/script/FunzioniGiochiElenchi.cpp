@@ -51,9 +51,10 @@ Result<Variant> ElencoRitardiNumeroOroDL(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(*tab, args, 1, 2));
   std::vector<int> ritardi;
   for (int numero = 1; numero <= tab->formato().massimo_speciale; ++numero) {
-    ritardi.push_back(stats::PercorsoGioco(*tab, intervallo.inizio, intervallo.fine, [numero](const EstrazioneGioco& e) {
-                        return e.speciali[0] == numero;
-                      }).ritardo);
+    ritardi.push_back(
+        stats::PercorsoGioco(*tab, intervallo.inizio, intervallo.fine, [numero](const EstrazioneGioco& e) {
+          return e.speciali[0] == numero;
+        }).ritardo);
   }
   args.Out(0) = ArrayDaUno(ritardi);
   return Variant();

@@ -10,6 +10,7 @@
 #include "FamigliaGiochi.h"
 #include "LetturaFile.h"
 #include "archive/ArchivioGenerico.h"
+#include "archive/ArchivioGioco.h"
 #include "text/Utf.h"
 
 namespace lottolab::script {
@@ -26,11 +27,11 @@ Result<MisureGeneriche> MisureArgomento(const CallArgs& args) {
   VBS_TRY_ASSIGN(auto numeri, args.Long(1, 0));
   VBS_TRY_ASSIGN(auto massimo, args.Long(2, 0));
   if (numeri < 0 || numeri > kMassimoNumeriGioco)
-    return ArgomentoNonValido(
-        fmt::format("Numeri per estrazione non validi: {} (da 1 a {}, 0 per leggerli dal file)", numeri,
-                    kMassimoNumeriGioco));
+    return ArgomentoNonValido(fmt::format("Numeri per estrazione non validi: {} (da 1 a {}, 0 per leggerli dal file)",
+                                          numeri, kMassimoNumeriGioco));
   if (massimo < 0 || massimo > 255)
-    return ArgomentoNonValido(fmt::format("Numero massimo non valido: {} (fino a 255, 0 per leggerlo dal file)", massimo));
+    return ArgomentoNonValido(
+        fmt::format("Numero massimo non valido: {} (fino a 255, 0 per leggerlo dal file)", massimo));
   misure.numeri = numeri;
   misure.massimo = massimo;
   return misure;
@@ -43,7 +44,8 @@ Result<Variant> ApriBaseDatiFT(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto misure, MisureArgomento(args));
   auto contenuto = LeggiFileRegolare(file, kLimiteArchivioGenerico);
   if (!contenuto) return ArgomentoNonValido(contenuto.Errore().testo);
-  auto tabella = LeggiArchivioGenerico(*contenuto, misure);
+  auto tabella =
+      IsArchivioGenerico(*contenuto) ? CaricaArchivioGenerico(file) : LeggiArchivioGenerico(*contenuto, misure);
   if (!tabella) return ArgomentoNonValido(fmt::format("{}: {}", file.string(), tabella.Errore().testo));
   if (tabella->EstrazioniArchivio() == 0)
     return ArgomentoNonValido(fmt::format("Il file {} non contiene estrazioni", file.string()));

@@ -41,23 +41,37 @@ struct FiguraDiNumeri {
 };
 
 template <Suffisso s>
-Result<Variant> EstrattoRitardo(Libreria& l, CallArgs& a) { return FiguraDiNumeri<1, kRitardo>::Calcola<s>(l, a); }
+Result<Variant> EstrattoRitardo(Libreria& l, CallArgs& a) {
+  return FiguraDiNumeri<1, kRitardo>::Calcola<s>(l, a);
+}
 template <Suffisso s>
-Result<Variant> EstrattoFrequenza(Libreria& l, CallArgs& a) { return FiguraDiNumeri<1, kFrequenza>::Calcola<s>(l, a); }
+Result<Variant> EstrattoFrequenza(Libreria& l, CallArgs& a) {
+  return FiguraDiNumeri<1, kFrequenza>::Calcola<s>(l, a);
+}
 template <Suffisso s>
-Result<Variant> EstrattoStorico(Libreria& l, CallArgs& a) { return FiguraDiNumeri<1, kStorico>::Calcola<s>(l, a); }
+Result<Variant> EstrattoStorico(Libreria& l, CallArgs& a) {
+  return FiguraDiNumeri<1, kStorico>::Calcola<s>(l, a);
+}
 template <Suffisso s>
 Result<Variant> EstrattoIncrStorico(Libreria& l, CallArgs& a) {
   return FiguraDiNumeri<1, kIncrStorico>::Calcola<s>(l, a);
 }
 template <Suffisso s>
-Result<Variant> AmboRitardo(Libreria& l, CallArgs& a) { return FiguraDiNumeri<2, kRitardo>::Calcola<s>(l, a); }
+Result<Variant> AmboRitardo(Libreria& l, CallArgs& a) {
+  return FiguraDiNumeri<2, kRitardo>::Calcola<s>(l, a);
+}
 template <Suffisso s>
-Result<Variant> AmboFrequenza(Libreria& l, CallArgs& a) { return FiguraDiNumeri<2, kFrequenza>::Calcola<s>(l, a); }
+Result<Variant> AmboFrequenza(Libreria& l, CallArgs& a) {
+  return FiguraDiNumeri<2, kFrequenza>::Calcola<s>(l, a);
+}
 template <Suffisso s>
-Result<Variant> AmboStorico(Libreria& l, CallArgs& a) { return FiguraDiNumeri<2, kStorico>::Calcola<s>(l, a); }
+Result<Variant> AmboStorico(Libreria& l, CallArgs& a) {
+  return FiguraDiNumeri<2, kStorico>::Calcola<s>(l, a);
+}
 template <Suffisso s>
-Result<Variant> AmboIncrStorico(Libreria& l, CallArgs& a) { return FiguraDiNumeri<2, kIncrStorico>::Calcola<s>(l, a); }
+Result<Variant> AmboIncrStorico(Libreria& l, CallArgs& a) {
+  return FiguraDiNumeri<2, kIncrStorico>::Calcola<s>(l, a);
+}
 
 // The four figures into the variables RetRit, RetRitMax, RetIncrRitMax, RetFreq from argument i on.
 void RestituisciFigure(CallArgs& args, size_t i, const StatisticaNumero& dati) {
@@ -96,9 +110,13 @@ struct StatDiNumeri {
 };
 
 template <Suffisso s>
-Result<Variant> StatEstratto(Libreria& l, CallArgs& a) { return StatDiNumeri<1>::Calcola<s>(l, a); }
+Result<Variant> StatEstratto(Libreria& l, CallArgs& a) {
+  return StatDiNumeri<1>::Calcola<s>(l, a);
+}
 template <Suffisso s>
-Result<Variant> StatAmbo(Libreria& l, CallArgs& a) { return StatDiNumeri<2>::Calcola<s>(l, a); }
+Result<Variant> StatAmbo(Libreria& l, CallArgs& a) {
+  return StatDiNumeri<2>::Calcola<s>(l, a);
+}
 
 // aNumeri, Sorte, Fine, [aPosizioni], [Inizio].
 template <Suffisso kSuffisso>
@@ -119,11 +137,17 @@ struct FiguraSerie {
 };
 
 template <Suffisso s>
-Result<Variant> SerieRitardo(Libreria& l, CallArgs& a) { return FiguraSerie<kRitardo>::Calcola<s>(l, a); }
+Result<Variant> SerieRitardo(Libreria& l, CallArgs& a) {
+  return FiguraSerie<kRitardo>::Calcola<s>(l, a);
+}
 template <Suffisso s>
-Result<Variant> SerieFreq(Libreria& l, CallArgs& a) { return FiguraSerie<kFrequenza>::Calcola<s>(l, a); }
+Result<Variant> SerieFreq(Libreria& l, CallArgs& a) {
+  return FiguraSerie<kFrequenza>::Calcola<s>(l, a);
+}
 template <Suffisso s>
-Result<Variant> SerieStorico(Libreria& l, CallArgs& a) { return FiguraSerie<kStorico>::Calcola<s>(l, a); }
+Result<Variant> SerieStorico(Libreria& l, CallArgs& a) {
+  return FiguraSerie<kStorico>::Calcola<s>(l, a);
+}
 
 // The first draw of the range where the group won; 0 when it never did.
 template <Suffisso kSuffisso>
@@ -172,8 +196,8 @@ Result<Variant> StatisticaGruppoFormazioni(Libreria& lib, CallArgs& args) {
   for (size_t i = 0; i < formazioni.size(); ++i) {
     std::vector<int> numeri = formazioni[i];
     std::erase_if(numeri, [&](int n) { return n > tab->formato().massimo; });
-    const StatisticaNumero s = stats::StatisticaCombinazioneGioco(*tab, numeri, sorte, intervallo.fine,
-                                                                  intervallo.inizio);
+    const StatisticaNumero s =
+        stats::StatisticaCombinazioneGioco(*tab, numeri, sorte, intervallo.fine, intervallo.inizio);
     lib.Scrivi(
         fmt::format(kRiga, i + 1, s.ritardo, s.storico, s.incr_storico, s.frequenza, NumeriInTesto(formazioni[i])),
         lib.colore_testo(), false);

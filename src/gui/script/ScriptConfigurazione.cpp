@@ -12,6 +12,9 @@ script::ImpostazioniLibreria ImpostazioniLibreriaDa(const app::Configurazione& c
   impostazioni.cartella_output = configurazione.base / "scriptOutput";
   impostazioni.sola_lettura = {configurazione.ArchivioLotto(), configurazione.ArchivioModificabile(),
                                app::FileConfigurazione(configurazione.base)};
+  impostazioni.archivi_giochi = configurazione.ArchiviGiochi();
+  impostazioni.sola_lettura.insert(impostazioni.sola_lettura.end(), impostazioni.archivi_giochi.begin(),
+                                   impostazioni.archivi_giochi.end());
   const std::string colore = LeggiImpostazioni(configurazione.ini).colore_sfondo_html;
   if (!colore.empty()) impostazioni.colore_sfondo_html = colore;
   return impostazioni;
