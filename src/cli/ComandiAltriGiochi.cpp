@@ -103,13 +103,10 @@ std::string NumeriDi(const auto& numeri, int quanti) {
 
 // What follows the main numbers: the special numbers by name, where the draw holds them.
 std::string Speciali(const FormatoGioco& formato, const EstrazioneGioco& estrazione) {
-  static constexpr std::string_view kNomi[][3] = {
-      {"Jolly", "SuperStar", ""}, {"Oro", "Doppio Oro", "Gong"}, {"Oro", "Doppio Oro", "Gong"}, {"Numerone", "", ""}};
   std::string testo;
-  if (formato.gioco == Gioco::Generico) return testo;
   for (int i = 0; i < formato.speciali; ++i)
     if (estrazione.speciali[i] != 0)
-      testo += fmt::format("  {} {:02}", kNomi[static_cast<int>(formato.gioco)][i], estrazione.speciali[i]);
+      testo += fmt::format("  {} {:02}", NomeNumeroSpeciale(formato.gioco, i), estrazione.speciali[i]);
   if (formato.extra > 0 && estrazione.extra[0] != 0) testo += "  Extra " + NumeriDi(estrazione.extra, formato.extra);
   return testo;
 }

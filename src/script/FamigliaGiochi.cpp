@@ -34,7 +34,8 @@ bool Pubblico(std::string_view nome) {
 
 }  // namespace
 
-std::vector<ClsFunctionsGeodoScript::Funzione> DeclinaPerGioco(std::span<const FunzioneDeiGiochi> funzioni) {
+std::vector<ClsFunctionsGeodoScript::Funzione> DeclinaPerGioco(
+    std::span<const FunzioneDeiGiochi> funzioni, std::span<const ClsFunctionsGeodoScript::Funzione> altre) {
   // Rows point into these, which never move.
   static std::deque<std::string> testi;
   std::vector<ClsFunctionsGeodoScript::Funzione> righe;
@@ -49,6 +50,7 @@ std::vector<ClsFunctionsGeodoScript::Funzione> DeclinaPerGioco(std::span<const F
       righe.push_back({nome_fisso, funzione.min_args, funzione.max_args, funzione.chiamate[s], descrizione});
     }
   }
+  righe.insert(righe.end(), altre.begin(), altre.end());
   return righe;
 }
 

@@ -25,12 +25,15 @@ struct FunzioneDeiGiochi {
   std::string_view descrizione;
 };
 
-// The four instances of a function template over Suffisso, in the order of FunzioneDeiGiochi.
-#define LOTTOLAB_PER_OGNI_GIOCO(funzione) \
-  { &funzione<Suffisso::SE>, &funzione<Suffisso::DL>, &funzione<Suffisso::WF>, &funzione<Suffisso::FT> }
+// The four instances of a function template over Suffisso, in the order of FunzioneDeiGiochi; the
+// template may be a member of a class template (`Figura<1, kRitardo>::Calcola`).
+#define LOTTOLAB_PER_OGNI_GIOCO(...) \
+  { &__VA_ARGS__<Suffisso::SE>, &__VA_ARGS__<Suffisso::DL>, &__VA_ARGS__<Suffisso::WF>, &__VA_ARGS__<Suffisso::FT> }
 
-// The rows of the table for the public names among the declined ones. Call once per family: the
-// names and descriptions live as long as the program.
-std::vector<ClsFunctionsGeodoScript::Funzione> DeclinaPerGioco(std::span<const FunzioneDeiGiochi> funzioni);
+// The rows of the table for the public names among the declined ones, then the rows `altre` of the
+// names that only some games have. Call once per family: the names and descriptions live as long
+// as the program.
+std::vector<ClsFunctionsGeodoScript::Funzione> DeclinaPerGioco(
+    std::span<const FunzioneDeiGiochi> funzioni, std::span<const ClsFunctionsGeodoScript::Funzione> altre = {});
 
 }  // namespace lottolab::script

@@ -53,23 +53,6 @@ struct CampoData {
   }
 };
 
-template <Suffisso kSuffisso>
-Result<Variant> Giorno(Libreria& lib, CallArgs& args) {
-  return CampoData<&GruppoData::giorno>::Leggi<kSuffisso>(lib, args);
-}
-template <Suffisso kSuffisso>
-Result<Variant> Mese(Libreria& lib, CallArgs& args) {
-  return CampoData<&GruppoData::mese>::Leggi<kSuffisso>(lib, args);
-}
-template <Suffisso kSuffisso>
-Result<Variant> Anno(Libreria& lib, CallArgs& args) {
-  return CampoData<&GruppoData::anno>::Leggi<kSuffisso>(lib, args);
-}
-template <Suffisso kSuffisso>
-Result<Variant> IndiceAnnuale(Libreria& lib, CallArgs& args) {
-  return CampoData<&GruppoData::indice_annuale>::Leggi<kSuffisso>(lib, args);
-}
-
 bool StessoMese(const GruppoData& a, const GruppoData& b) { return a.anno == b.anno && a.mese == b.mese; }
 
 // Counted over the table, as the Lotto's: the contests of the month up to this one.
@@ -319,10 +302,13 @@ const FunzioneDeiGiochi kArchivioGiochi[] = {
      "per un'estrazione fuori dall'archivio o una posizione fuori da 1..{n}"},
     {"DataEstrazione", 1, 2, LOTTOLAB_PER_OGNI_GIOCO(DataEstrazione),
      "IdEstr, [AnnoBreve = False]: la data dell'estrazione come \"GG/MM/AAAA\", oppure \"GG/MM/AA\" con AnnoBreve"},
-    {"Giorno", 1, 1, LOTTOLAB_PER_OGNI_GIOCO(Giorno), "IdEstr: il giorno del mese dell'estrazione (Integer)"},
-    {"Mese", 1, 1, LOTTOLAB_PER_OGNI_GIOCO(Mese), "IdEstr: il mese dell'estrazione, 1..12 (Integer)"},
-    {"Anno", 1, 1, LOTTOLAB_PER_OGNI_GIOCO(Anno), "IdEstr: l'anno dell'estrazione, a quattro cifre (Integer)"},
-    {"IndiceAnnuale", 1, 1, LOTTOLAB_PER_OGNI_GIOCO(IndiceAnnuale),
+    {"Giorno", 1, 1, LOTTOLAB_PER_OGNI_GIOCO(CampoData<&GruppoData::giorno>::Leggi),
+     "IdEstr: il giorno del mese dell'estrazione (Integer)"},
+    {"Mese", 1, 1, LOTTOLAB_PER_OGNI_GIOCO(CampoData<&GruppoData::mese>::Leggi),
+     "IdEstr: il mese dell'estrazione, 1..12 (Integer)"},
+    {"Anno", 1, 1, LOTTOLAB_PER_OGNI_GIOCO(CampoData<&GruppoData::anno>::Leggi),
+     "IdEstr: l'anno dell'estrazione, a quattro cifre (Integer)"},
+    {"IndiceAnnuale", 1, 1, LOTTOLAB_PER_OGNI_GIOCO(CampoData<&GruppoData::indice_annuale>::Leggi),
      "IdEstr: il numero del concorso (nell'anno; nel giorno per i giochi estratti più volte al giorno) (Integer)"},
     {"IndiceMensile", 1, 1, LOTTOLAB_PER_OGNI_GIOCO(IndiceMensile),
      "IdEstr: il numero progressivo dell'estrazione nel suo mese, 1 per la prima (Long)"},
@@ -379,11 +365,7 @@ const Libreria::Funzione kSoloAlcuniGiochi[] = {
 }  // namespace
 
 std::span<const Libreria::Funzione> FunzioniGiochiArchivio() {
-  static const std::vector<Libreria::Funzione> funzioni = [] {
-    std::vector<Libreria::Funzione> righe = DeclinaPerGioco(kArchivioGiochi);
-    righe.insert(righe.end(), std::begin(kSoloAlcuniGiochi), std::end(kSoloAlcuniGiochi));
-    return righe;
-  }();
+  static const std::vector<Libreria::Funzione> funzioni = DeclinaPerGioco(kArchivioGiochi, kSoloAlcuniGiochi);
   return funzioni;
 }
 

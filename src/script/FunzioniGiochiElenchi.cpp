@@ -180,11 +180,7 @@ const Libreria::Funzione kOro[] = {
 }  // namespace
 
 std::span<const Libreria::Funzione> FunzioniGiochiElenchi() {
-  static const std::vector<Libreria::Funzione> funzioni = [] {
-    std::vector<Libreria::Funzione> righe = DeclinaPerGioco(kElenchiGiochi);
-    righe.insert(righe.end(), std::begin(kOro), std::end(kOro));
-    return righe;
-  }();
+  static const std::vector<Libreria::Funzione> funzioni = DeclinaPerGioco(kElenchiGiochi, kOro);
   return funzioni;
 }
 

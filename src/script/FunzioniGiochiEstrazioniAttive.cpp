@@ -99,11 +99,7 @@ const Libreria::Funzione kInizioFT[] = {
 }  // namespace
 
 std::span<const Libreria::Funzione> FunzioniGiochiEstrazioniAttive() {
-  static const std::vector<Libreria::Funzione> funzioni = [] {
-    std::vector<Libreria::Funzione> righe = DeclinaPerGioco(kEstrazioniAttiveGiochi);
-    righe.insert(righe.end(), std::begin(kInizioFT), std::end(kInizioFT));
-    return righe;
-  }();
+  static const std::vector<Libreria::Funzione> funzioni = DeclinaPerGioco(kEstrazioniAttiveGiochi, kInizioFT);
   return funzioni;
 }
 

@@ -40,39 +40,6 @@ struct FiguraDiNumeri {
   }
 };
 
-template <Suffisso s>
-Result<Variant> EstrattoRitardo(Libreria& l, CallArgs& a) {
-  return FiguraDiNumeri<1, kRitardo>::Calcola<s>(l, a);
-}
-template <Suffisso s>
-Result<Variant> EstrattoFrequenza(Libreria& l, CallArgs& a) {
-  return FiguraDiNumeri<1, kFrequenza>::Calcola<s>(l, a);
-}
-template <Suffisso s>
-Result<Variant> EstrattoStorico(Libreria& l, CallArgs& a) {
-  return FiguraDiNumeri<1, kStorico>::Calcola<s>(l, a);
-}
-template <Suffisso s>
-Result<Variant> EstrattoIncrStorico(Libreria& l, CallArgs& a) {
-  return FiguraDiNumeri<1, kIncrStorico>::Calcola<s>(l, a);
-}
-template <Suffisso s>
-Result<Variant> AmboRitardo(Libreria& l, CallArgs& a) {
-  return FiguraDiNumeri<2, kRitardo>::Calcola<s>(l, a);
-}
-template <Suffisso s>
-Result<Variant> AmboFrequenza(Libreria& l, CallArgs& a) {
-  return FiguraDiNumeri<2, kFrequenza>::Calcola<s>(l, a);
-}
-template <Suffisso s>
-Result<Variant> AmboStorico(Libreria& l, CallArgs& a) {
-  return FiguraDiNumeri<2, kStorico>::Calcola<s>(l, a);
-}
-template <Suffisso s>
-Result<Variant> AmboIncrStorico(Libreria& l, CallArgs& a) {
-  return FiguraDiNumeri<2, kIncrStorico>::Calcola<s>(l, a);
-}
-
 // The four figures into the variables RetRit, RetRitMax, RetIncrRitMax, RetFreq from argument i on.
 void RestituisciFigure(CallArgs& args, size_t i, const StatisticaNumero& dati) {
   args.Out(i) = Variant::Long(dati.ritardo);
@@ -109,15 +76,6 @@ struct StatDiNumeri {
   }
 };
 
-template <Suffisso s>
-Result<Variant> StatEstratto(Libreria& l, CallArgs& a) {
-  return StatDiNumeri<1>::Calcola<s>(l, a);
-}
-template <Suffisso s>
-Result<Variant> StatAmbo(Libreria& l, CallArgs& a) {
-  return StatDiNumeri<2>::Calcola<s>(l, a);
-}
-
 // aNumeri, Sorte, Fine, [aPosizioni], [Inizio].
 template <Suffisso kSuffisso>
 Result<Variant> RitardoCombinazione(Libreria& lib, CallArgs& args) {
@@ -135,19 +93,6 @@ struct FiguraSerie {
     return Variant::Long(Statistica(misura).*kFigura);
   }
 };
-
-template <Suffisso s>
-Result<Variant> SerieRitardo(Libreria& l, CallArgs& a) {
-  return FiguraSerie<kRitardo>::Calcola<s>(l, a);
-}
-template <Suffisso s>
-Result<Variant> SerieFreq(Libreria& l, CallArgs& a) {
-  return FiguraSerie<kFrequenza>::Calcola<s>(l, a);
-}
-template <Suffisso s>
-Result<Variant> SerieStorico(Libreria& l, CallArgs& a) {
-  return FiguraSerie<kStorico>::Calcola<s>(l, a);
-}
 
 // The first draw of the range where the group won; 0 when it never did.
 template <Suffisso kSuffisso>
@@ -219,47 +164,47 @@ Result<Variant> StatisticaNumeroSpeciale(Libreria& lib, CallArgs& args) {
 }
 
 const FunzioneDeiGiochi kStatisticheGiochi[] = {
-    {"EstrattoRitardo", 1, 4, LOTTOLAB_PER_OGNI_GIOCO(EstrattoRitardo),
+    {"EstrattoRitardo", 1, 4, LOTTOLAB_PER_OGNI_GIOCO(FiguraDiNumeri<1, kRitardo>::Calcola),
      "Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni(1..{n})]: le estrazioni da Fine indietro fino "
      "all'ultima in cui Numero (1..{m}) è uscito tra i numeri principali (Long)"},
-    {"RitardoEstratto", 1, 4, LOTTOLAB_PER_OGNI_GIOCO(EstrattoRitardo),
+    {"RitardoEstratto", 1, 4, LOTTOLAB_PER_OGNI_GIOCO(FiguraDiNumeri<1, kRitardo>::Calcola),
      "Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni(1..{n})]: lo stesso di EstrattoRitardo (Long)"},
-    {"EstrattoFrequenza", 1, 4, LOTTOLAB_PER_OGNI_GIOCO(EstrattoFrequenza),
+    {"EstrattoFrequenza", 1, 4, LOTTOLAB_PER_OGNI_GIOCO(FiguraDiNumeri<1, kFrequenza>::Calcola),
      "Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni(1..{n})]: le estrazioni di Inizio..Fine in cui "
      "Numero è uscito (Long)"},
-    {"EstrattoStorico", 1, 4, LOTTOLAB_PER_OGNI_GIOCO(EstrattoStorico),
+    {"EstrattoStorico", 1, 4, LOTTOLAB_PER_OGNI_GIOCO(FiguraDiNumeri<1, kStorico>::Calcola),
      "Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni(1..{n})]: il massimo storico di Numero in "
      "Inizio..Fine, compreso il ritardo in corso (Long)"},
-    {"EstrattoIncrStorico", 1, 4, LOTTOLAB_PER_OGNI_GIOCO(EstrattoIncrStorico),
+    {"EstrattoIncrStorico", 1, 4, LOTTOLAB_PER_OGNI_GIOCO(FiguraDiNumeri<1, kIncrStorico>::Calcola),
      "Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni(1..{n})]: di quanto il ritardo a Fine supera "
      "ogni serie chiusa da un'uscita in Inizio..Fine, 0 se non le supera tutte (Long)"},
-    {"AmboRitardo", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(AmboRitardo),
+    {"AmboRitardo", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(FiguraDiNumeri<2, kRitardo>::Calcola),
      "Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni(1..{n})]: il ritardo dell'ambo a Fine, "
      "con entrambi i numeri tra i principali della stessa estrazione (Long)"},
-    {"AmboFrequenza", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(AmboFrequenza),
+    {"AmboFrequenza", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(FiguraDiNumeri<2, kFrequenza>::Calcola),
      "Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni(1..{n})]: la frequenza dell'ambo in "
      "Inizio..Fine (Long)"},
-    {"AmboStorico", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(AmboStorico),
+    {"AmboStorico", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(FiguraDiNumeri<2, kStorico>::Calcola),
      "Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni(1..{n})]: il massimo storico "
      "dell'ambo in Inizio..Fine (Long)"},
-    {"AmboIncrStorico", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(AmboIncrStorico),
+    {"AmboIncrStorico", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(FiguraDiNumeri<2, kIncrStorico>::Calcola),
      "Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni(1..{n})]: l'incremento del massimo "
      "storico dell'ambo a Fine (Long)"},
-    {"StatEstratto", 7, 7, LOTTOLAB_PER_OGNI_GIOCO(StatEstratto),
+    {"StatEstratto", 7, 7, LOTTOLAB_PER_OGNI_GIOCO(StatDiNumeri<1>::Calcola),
      "Numero, Inizio, Fine, RetRit, RetRitMax, RetIncrRitMax, RetFreq: il ritardo, il massimo storico, il suo "
      "incremento e la frequenza di Numero in Inizio..Fine, nelle quattro variabili"},
-    {"StatAmbo", 8, 8, LOTTOLAB_PER_OGNI_GIOCO(StatAmbo),
+    {"StatAmbo", 8, 8, LOTTOLAB_PER_OGNI_GIOCO(StatDiNumeri<2>::Calcola),
      "Numero1, Numero2, Inizio, Fine, RetRit, RetRitMax, RetIncrRitMax, RetFreq: StatEstratto per l'ambo"},
     {"RitardoCombinazione", 3, 5, LOTTOLAB_PER_OGNI_GIOCO(RitardoCombinazione),
      "aNumeri, Sorte, Fine, [aPosizioni(1..{n})], [Inizio = 1]: le estrazioni da Fine indietro fino all'ultima in "
      "cui almeno Sorte (1..{n}) numeri di aNumeri sono usciti tra i principali (Long)"},
-    {"SerieRitardo", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(SerieRitardo),
+    {"SerieRitardo", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(FiguraSerie<kRitardo>::Calcola),
      "aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni(1..{n})]: il ritardo a Fine del gruppo "
      "giocato nel suo insieme per Sorte (Long)"},
-    {"SerieFreq", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(SerieFreq),
+    {"SerieFreq", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(FiguraSerie<kFrequenza>::Calcola),
      "aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni(1..{n})]: le estrazioni di Inizio..Fine "
      "in cui il gruppo ha vinto per Sorte (Long)"},
-    {"SerieStorico", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(SerieStorico),
+    {"SerieStorico", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(FiguraSerie<kStorico>::Calcola),
      "aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni(1..{n})]: il massimo storico del gruppo "
      "in Inizio..Fine, compreso il ritardo in corso (Long)"},
     {"SeriePrima", 2, 5, LOTTOLAB_PER_OGNI_GIOCO(SeriePrima),
@@ -288,11 +233,7 @@ const Libreria::Funzione kNumeriSpeciali[] = {
 }  // namespace
 
 std::span<const Libreria::Funzione> FunzioniGiochiStatistiche() {
-  static const std::vector<Libreria::Funzione> funzioni = [] {
-    std::vector<Libreria::Funzione> righe = DeclinaPerGioco(kStatisticheGiochi);
-    righe.insert(righe.end(), std::begin(kNumeriSpeciali), std::end(kNumeriSpeciali));
-    return righe;
-  }();
+  static const std::vector<Libreria::Funzione> funzioni = DeclinaPerGioco(kStatisticheGiochi, kNumeriSpeciali);
   return funzioni;
 }
 

@@ -55,9 +55,9 @@ class Giochi : public Libreria {
 };
 
 TEST_F(Giochi, UnoScriptLeggeIlLottoEIlSuperEnalottoFiancoAFianco) {
-  Scrivi(Gioco::SuperEnalotto, Numerata(Formato(Gioco::SuperEnalotto),
-                                        {Gioco6({1, 3, 12, 1997}, {3, 17, 25, 60, 71, 88}, 44, 0),
-                                         Gioco6({2, 6, 12, 1997}, {1, 2, 3, 4, 5, 90}, 9, 12)}));
+  Scrivi(Gioco::SuperEnalotto,
+         Numerata(Formato(Gioco::SuperEnalotto), {Gioco6({1, 3, 12, 1997}, {3, 17, 25, 60, 71, 88}, 44, 0),
+                                                  Gioco6({2, 6, 12, 1997}, {1, 2, 3, 4, 5, 90}, 9, 12)}));
   AvviaGiochi();
   Esegui(
       "Function Somme()\n"
@@ -217,8 +217,9 @@ TEST_F(GiochiReali, LeFigureDelSuperEnalottoSonoQuelleContateEstrazionePerEstraz
     std::vector<int> numeri;
     int sorte, inizio, fine;
   };
-  const Caso casi[] = {{{90}, 1, 1, ultima},     {{1}, 1, 500, 3000}, {{13, 47}, 2, 1, ultima},
-                       {{13, 47}, 1, 1, ultima}, {{5, 6, 7, 8}, 2, 100, ultima}, {{11, 22, 33}, 3, 1, ultima}};
+  const Caso casi[] = {{{90}, 1, 1, ultima},           {{1}, 1, 500, 3000},
+                       {{13, 47}, 2, 1, ultima},       {{13, 47}, 1, 1, ultima},
+                       {{5, 6, 7, 8}, 2, 100, ultima}, {{11, 22, 33}, 3, 1, ultima}};
   for (const Caso& c : casi) {
     const Figure attese = APiedi(tab, c.numeri, c.sorte, c.inizio, c.fine);
     const std::string gruppo = fmt::format("{}, {}, {}, {}", Lista(c.numeri), c.sorte, c.inizio, c.fine);
@@ -227,8 +228,7 @@ TEST_F(GiochiReali, LeFigureDelSuperEnalottoSonoQuelleContateEstrazionePerEstraz
     EXPECT_EQ(Testo("SerieFreqSE(" + gruppo + ")"), std::to_string(attese.frequenza)) << dove;
     EXPECT_EQ(Testo("SerieStoricoSE(" + gruppo + ")"), std::to_string(attese.storico)) << dove;
     EXPECT_EQ(Testo("SeriePrimaSE(" + gruppo + ")"), std::to_string(attese.prima)) << dove;
-    EXPECT_EQ(Testo(fmt::format("RitardoCombinazioneSE({}, {}, {}, , {})", Lista(c.numeri), c.sorte, c.fine,
-                                c.inizio)),
+    EXPECT_EQ(Testo(fmt::format("RitardoCombinazioneSE({}, {}, {}, , {})", Lista(c.numeri), c.sorte, c.fine, c.inizio)),
               std::to_string(attese.ritardo))
         << dove;
     Esegui(fmt::format("Dim r, m, i, f : StatisticaFormazioneSE {}, {}, r, m, i, f, {}, {}", Lista(c.numeri), c.sorte,
