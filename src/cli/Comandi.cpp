@@ -70,6 +70,10 @@ constexpr std::array kComandi = {
             ComandoFunzioni},
     Comando{"cerca-figura", "FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]",
             "cerca una figura nell'archivio", ComandoCercaFigura},
+    Comando{"premio", "--sorte S --numeri 12,34 --ruote BA,VE --posta 1 [--posizione P] [--data GG/MM/AAAA]",
+            "lordo, ritenuta e netto per ogni numero di punti", ComandoPremio, ComandoPremio},
+    Comando{"verifica-giocata", "--sorte S --numeri 12,34 --ruote BA,VE --posta 1 --dal GG/MM/AAAA --colpi N",
+            "il conto di una giocata estrazione per estrazione", ComandoVerificaGiocata},
 };
 
 // Descriptions line up in this column after the indent; a longer synopsis keeps its description

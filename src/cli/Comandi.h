@@ -57,6 +57,12 @@ int ComandoStruttura(Contesto& contesto, const Parole& parole);
 // with --colpi, what its play did next.
 int ComandoCercaFigura(Contesto& contesto, const Parole& parole);
 
+// What a line of a ticket pays for each count of numbers drawn: gross, tax and net; with --gioco the
+// 10eLotto's table, or a SuperEnalotto or Win for Life quota taxed.
+int ComandoPremio(Contesto& contesto, const Parole& parole);
+// A Lotto bet checked against the archive draw by draw, with its totals.
+int ComandoVerificaGiocata(Contesto& contesto, const Parole& parole);
+
 // The whole command line: global options, then a command and its words. An exception that escapes
 // a command ends it with one line on `err` opening with app::kErroreInatteso, and status 1.
 int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err);

@@ -69,6 +69,8 @@ std::optional<Centesimi> PremioNettoPerEuroDieciELotto(OpzioneDieciELotto opzion
   if (giocati < 1 || giocati > kMassimoGiocatiDieciELotto || punti < 0 || punti > giocati) return std::nullopt;
   const int64_t base = kBaseDieciELotto[static_cast<size_t>(giocati)][static_cast<size_t>(punti)];
   if (opzione == OpzioneDieciELotto::Base) return base * kCentesimiPerEuro;
+  // The Oro tables pay when the Oro numbers are among the matches, so fewer matches win nothing.
+  if (punti < (opzione == OpzioneDieciELotto::Oro ? 1 : opzione == OpzioneDieciELotto::DoppioOro ? 2 : 0)) return 0;
   for (const Cella& cella : kCelleOpzioni) {
     if (cella.opzione != opzione || cella.giocati != giocati || cella.punti != punti) continue;
     const bool aggiunta = opzione != OpzioneDieciELotto::Extra && regole.colonne_oro == ColonneOro::Incrementi;

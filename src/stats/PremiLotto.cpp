@@ -70,7 +70,7 @@ Esito<Fatto> ControllaPuntata(const PuntataLotto& puntata, const GruppoData& dat
   const int massimo = LimitiPosteLotto().massimo_numeri;
   const int quanti = static_cast<int>(puntata.numeri.size());
   if (!MoltiplicatoreLotto(puntata.sorte, data))
-    return AvvisoEsclamativo(fmt::format("il {} non si giocava il {}", nome, FormattaData(data)));
+    return AvvisoEsclamativo(fmt::format("la sorte {} non si giocava il {}", nome, FormattaData(data)));
   for (size_t i = 0; i < puntata.numeri.size(); ++i) {
     const int n = puntata.numeri[i];
     if (n < 1 || n > kMassimoNumero) return AvvisoEsclamativo(fmt::format("numero non valido: {} (da 1 a 90)", n));
@@ -80,7 +80,7 @@ Esito<Fatto> ControllaPuntata(const PuntataLotto& puntata, const GruppoData& dat
   }
   const int minimo = std::max(1, NumeriDellaSorte(puntata.sorte));
   if (quanti < minimo || quanti > massimo)
-    return AvvisoEsclamativo(fmt::format("per il {} si giocano da {} a {} numeri, non {}", nome, minimo, massimo, quanti));
+    return AvvisoEsclamativo(fmt::format("per la sorte {} si giocano da {} a {} numeri, non {}", nome, minimo, massimo, quanti));
   if (puntata.ruote.empty()) return AvvisoEsclamativo("nessuna ruota giocata");
   for (int r : puntata.ruote)
     if (r < 1 || r > kNumeroRuote) return AvvisoEsclamativo(fmt::format("ruota non valida: {}", r));
@@ -88,9 +88,9 @@ Esito<Fatto> ControllaPuntata(const PuntataLotto& puntata, const GruppoData& dat
   if (determinato && (puntata.posizione < 1 || puntata.posizione > kNumeriPerRuota))
     return AvvisoEsclamativo("per l'estratto determinato serve la posizione, da 1 a 5");
   if (!determinato && puntata.posizione != 0)
-    return AvvisoEsclamativo(fmt::format("la posizione vale solo per l'estratto determinato, non per il {}", nome));
+    return AvvisoEsclamativo(fmt::format("la posizione vale solo per l'estratto determinato, non per la sorte {}", nome));
   if (puntata.posta < LimitiPosteLotto().minima_sorte)
-    return AvvisoEsclamativo(fmt::format("la posta sul {} è di almeno {} euro", nome,
+    return AvvisoEsclamativo(fmt::format("la posta sulla sorte {} è di almeno {} euro", nome,
                                          FormattaEuro(LimitiPosteLotto().minima_sorte)));
   if (puntata.sorte == SorteLotto::Ambetto && CombinazioniAmbetto(puntata.numeri) == 0)
     return AvvisoEsclamativo("questi numeri non formano nessun ambetto");
@@ -144,8 +144,9 @@ std::vector<EsitoPossibile> EsitiPossibili(const PuntataLotto& puntata) {
     for (int m = k; m <= massimo; ++m) esiti.push_back({m, Intero(Combinazioni(m, k))});
     return esiti;
   }
-  // A winning ambetto needs only the played numbers and their neighbours: every five of those
-  // (at most thirty numbers) shows every count of combinations one wheel can give.
+  // A winning ambetto needs only the played numbers and their neighbours: every group of up to five
+  // of those (at most thirty numbers), the rest of the wheel drawn elsewhere, shows every count of
+  // combinations one wheel can give.
   std::vector<int> candidati(puntata.numeri);
   for (int n : puntata.numeri)
     for (int vicino : {Precedente(n), Seguente(n)})
@@ -153,12 +154,13 @@ std::vector<EsitoPossibile> EsitiPossibili(const PuntataLotto& puntata) {
   const auto coppie = CoppieAmbetto(puntata.numeri);
   std::set<int64_t> conteggi;
   const int quanti = static_cast<int>(candidati.size());
-  SviluppoCombinazioni cinquine(quanti, std::min(quanti, kNumeriPerRuota));
-  while (cinquine.Avanza()) {
-    CinquinaRuota estratti{};
-    for (size_t i = 0; i < cinquine.Gruppo().size(); ++i)
-      estratti[i] = candidati[static_cast<size_t>(cinquine.Gruppo()[i])];
-    if (int64_t vinte = VinteAmbetto(coppie, estratti); vinte > 0) conteggi.insert(vinte);
+  for (int k = 2; k <= std::min(quanti, kNumeriPerRuota); ++k) {
+    SviluppoCombinazioni gruppi(quanti, k);
+    while (gruppi.Avanza()) {
+      CinquinaRuota estratti{};
+      for (size_t i = 0; i < gruppi.Gruppo().size(); ++i) estratti[i] = candidati[static_cast<size_t>(gruppi.Gruppo()[i])];
+      if (int64_t vinte = VinteAmbetto(coppie, estratti); vinte > 0) conteggi.insert(vinte);
+    }
   }
   for (int64_t c : conteggi) esiti.push_back({static_cast<int>(c), c});
   return esiti;
