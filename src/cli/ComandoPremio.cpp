@@ -122,13 +122,15 @@ int PremioDieciELotto(Contesto& contesto, const Argomenti& argomenti, const Grup
     return contesto.Fallisci(
         AvvisoEsclamativo(fmt::format("opzione non valida: {} (base, oro, doppio-oro, extra, gong)", nome)));
   const int giocati = static_cast<int>(numeri->size());
+  if (auto controllo = stats::ControllaDieciELotto(opzione->second, giocati, data); !controllo)
+    return contesto.Fallisci(controllo.Errore());
   fmt::print(contesto.out, "10eLotto {} su {} numeri, posta {} euro, ritenuta {} al {}\n", nome, giocati,
              stats::FormattaEuro(*posta), Percento(stats::RitenutaDieciELotto(data)), FormattaData(data));
   fmt::print(contesto.out, fmt::runtime(kIntestazione), "punti", "", "lordo", "ritenuta", "netto");
   const int massimo = opzione->second == stats::OpzioneDieciELotto::Gong ? 1 : giocati;
   for (int punti = 0; punti <= massimo; ++punti) {
-    // An option's cell that is not known is told on its row; anything else refuses the command.
-    if (giocati <= 10 && !stats::PremioNettoPerEuroDieciELotto(opzione->second, giocati, punti)) {
+    // An option's cell that is not known is told on its row.
+    if (!stats::PremioNettoPerEuroDieciELotto(opzione->second, giocati, punti)) {
       fmt::print(contesto.out, "{:>5} {:>12} {:>14}\n", punti, "", "non noto");
       continue;
     }

@@ -79,8 +79,7 @@ std::optional<Centesimi> PremioNettoPerEuroDieciELotto(OpzioneDieciELotto opzion
   return std::nullopt;
 }
 
-Esito<Tassato> PremioDieciELotto(OpzioneDieciELotto opzione, int giocati, int punti, Centesimi posta,
-                                  const GruppoData& data, const RegoleDieciELotto& regole) {
+Esito<Fatto> ControllaDieciELotto(OpzioneDieciELotto opzione, int giocati, const GruppoData& data) {
   if (giocati < 1 || giocati > kMassimoGiocatiDieciELotto)
     return AvvisoEsclamativo(fmt::format("al 10eLotto si giocano da 1 a 10 numeri, non {}", giocati));
   if (ConfrontaDate(data, kInizioTabellaDieciELotto) < 0)
@@ -89,6 +88,12 @@ Esito<Tassato> PremioDieciELotto(OpzioneDieciELotto opzione, int giocati, int pu
   if ((opzione == OpzioneDieciELotto::Extra && ConfrontaDate(data, kInizioExtra) < 0) ||
       (opzione == OpzioneDieciELotto::Gong && ConfrontaDate(data, kInizioGong) < 0))
     return AvvisoEsclamativo(fmt::format("l'opzione {} non esisteva il {}", NomeOpzione(opzione), FormattaData(data)));
+  return Fatto{};
+}
+
+Esito<Tassato> PremioDieciELotto(OpzioneDieciELotto opzione, int giocati, int punti, Centesimi posta,
+                                  const GruppoData& data, const RegoleDieciELotto& regole) {
+  if (auto controllo = ControllaDieciELotto(opzione, giocati, data); !controllo) return controllo.Errore();
   auto per_euro = PremioNettoPerEuroDieciELotto(opzione, giocati, punti, regole);
   if (!per_euro)
     return AvvisoEsclamativo(fmt::format("premio {} del 10eLotto per {} punti su {} numeri non noto",

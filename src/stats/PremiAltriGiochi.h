@@ -35,8 +35,12 @@ struct RegoleDieciELotto {
 std::optional<Centesimi> PremioNettoPerEuroDieciELotto(OpzioneDieciELotto opzione, int giocati, int punti,
                                                        const RegoleDieciELotto& regole = {});
 
+// Whether the option can be played with that many numbers on the date: refused, with the user's
+// message, before the table's date or the option's, or for numbers played outside 1..10.
+Esito<Fatto> ControllaDieciELotto(OpzioneDieciELotto opzione, int giocati, const GruppoData& data);
+
 // Gross, tax and net of a 10eLotto score for a stake on a draw's date; refused, with the user's
-// message, before the table's date, for a cell not known, or for numbers played outside 1..10.
+// message as ControllaDieciELotto refuses, or for a cell not known.
 Esito<Tassato> PremioDieciELotto(OpzioneDieciELotto opzione, int giocati, int punti, Centesimi posta,
                                   const GruppoData& data, const RegoleDieciELotto& regole = {});
 
