@@ -70,10 +70,10 @@ constexpr std::array kComandi = {
             ComandoFunzioni},
     Comando{"cerca-figura", "FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]",
             "cerca una figura nell'archivio", ComandoCercaFigura},
-    Comando{"premio", "--sorte S --numeri 12,34 --ruote BA,VE --posta 1 [--posizione P] [--data GG/MM/AAAA]",
-            "lordo, ritenuta e netto per ogni numero di punti", ComandoPremio, ComandoPremio},
-    Comando{"verifica-giocata", "--sorte S --numeri 12,34 --ruote BA,VE --posta 1 --dal GG/MM/AAAA --colpi N",
-            "il conto di una giocata estrazione per estrazione", ComandoVerificaGiocata},
+    Comando{"premio", "--sorte S --numeri N1,N2 --ruote BA,VE --posta 1 [--data GG/MM/AAAA]",
+            "lordo, ritenuta e netto per punti", ComandoPremio, ComandoPremio},
+    Comando{"verifica-giocata", "--sorte S --numeri N1,N2 --ruote BA,VE --posta 1 --dal GG/MM/AAAA --colpi N",
+            "conto per estrazione", ComandoVerificaGiocata},
 };
 
 // Descriptions line up in this column after the indent; a longer synopsis keeps its description
@@ -102,7 +102,7 @@ std::string TestoUso() {
   testo +=
       "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
       "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, aggiorna, info,\n"
-      "  estrazione, ritardo, frequenza, storico e tabellone (senza --ruote, --ruota e --posizioni)\n";
+      "  estrazione, ritardo, frequenza, storico, tabellone (senza --ruote, --ruota e --posizioni) e premio\n";
   return testo;
 }
 

@@ -99,9 +99,12 @@ TEST_F(LottolabDiProva, UsoElencaIComandi) {
       "  struttura FILE            mostra vertici, linee e condizioni di un file di struttura\n"
       "  funzioni [--html FILE]    elenca le funzioni degli script (o ne scrive la pagina di riferimento)\n"
       "  cerca-figura FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]   cerca una figura nell'archivio\n"
+      "  premio --sorte S --numeri N1,N2 --ruote BA,VE --posta 1 [--data GG/MM/AAAA]   lordo, ritenuta e netto per punti\n"
+      "  verifica-giocata --sorte S --numeri N1,N2 --ruote BA,VE --posta 1 --dal GG/MM/AAAA --colpi N   conto per "
+      "estrazione\n"
       "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
       "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, aggiorna, info,\n"
-      "  estrazione, ritardo, frequenza, storico e tabellone (senza --ruote, --ruota e --posizioni)\n";
+      "  estrazione, ritardo, frequenza, storico, tabellone (senza --ruote, --ruota e --posizioni) e premio\n";
   EXPECT_EQ(Lottolab({}).err, uso);
   EXPECT_EQ(Lottolab({}).codice, 2);
   const Uscita aiuto = Lottolab({"--archivio", "x", "--help"});
