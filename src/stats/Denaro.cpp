@@ -8,7 +8,8 @@ namespace lottolab::stats {
 
 namespace {
 
-constexpr Centesimi kMassimoLeggibile = 1'000'000 * kCentesimiPerEuro;
+// Above the largest jackpot ever paid, far below where sums of cents could overflow.
+constexpr Centesimi kMassimoLeggibile = 1'000'000'000 * kCentesimiPerEuro;
 
 }  // namespace
 

@@ -26,7 +26,7 @@ Centesimi Percentuale(Centesimi importo, int centesimi_di_punto);
 std::string FormattaEuro(Centesimi importo);
 
 // "1", "0,10", "0.5", "1.234,50" is refused (no thousands separators): a non-negative amount with at
-// most two decimals, up to a million euro; anything else gets the user's message.
+// most two decimals, up to a billion euro; anything else gets the user's message.
 Esito<Centesimi> LeggiEuro(std::string_view testo);
 
 }  // namespace lottolab::stats

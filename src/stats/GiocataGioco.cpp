@@ -30,6 +30,9 @@ Esito<Colpo> DieciELotto(const GiocataGioco& giocata, const EstrazioneGioco& est
   const int punti = Presi(colonna, numeri);
   if (auto controllo = ControllaDieciELotto(giocata.opzione, giocati, estrazione.data); !controllo)
     return controllo.Errore();
+  // The base table knows every score, so this refuses the stake alone.
+  if (auto prova = PremioDieciELotto(OpzioneDieciELotto::Base, giocati, 0, giocata.posta, estrazione.data); !prova)
+    return prova.Errore();
   Colpo colpo;
   const int costo_opzione = giocata.opzione == OpzioneDieciELotto::Base        ? 0
                             : giocata.opzione == OpzioneDieciELotto::DoppioOro ? 2

@@ -10,6 +10,7 @@ namespace lottolab::stats {
 namespace {
 
 constexpr int kMassimoGiocatiDieciELotto = 10;
+constexpr Centesimi kMassimaPostaDieciELotto = 200 * kCentesimiPerEuro;
 
 // Net euro per euro staked, rows by numbers played, columns by matches (0..10).
 using Tabella = std::array<std::array<int64_t, kMassimoGiocatiDieciELotto + 1>, kMassimoGiocatiDieciELotto + 1>;
@@ -94,6 +95,9 @@ Esito<Fatto> ControllaDieciELotto(OpzioneDieciELotto opzione, int giocati, const
 Esito<Tassato> PremioDieciELotto(OpzioneDieciELotto opzione, int giocati, int punti, Centesimi posta,
                                   const GruppoData& data, const RegoleDieciELotto& regole) {
   if (auto controllo = ControllaDieciELotto(opzione, giocati, data); !controllo) return controllo.Errore();
+  if (posta < kCentesimiPerEuro || posta > kMassimaPostaDieciELotto || posta % (kCentesimiPerEuro / 2) != 0)
+    return AvvisoEsclamativo(fmt::format("la posta del 10eLotto va da 1 a 200 euro, a multipli di 0,50, non {}",
+                                         FormattaEuro(posta)));
   auto per_euro = PremioNettoPerEuroDieciELotto(opzione, giocati, punti, regole);
   if (!per_euro)
     return AvvisoEsclamativo(fmt::format("premio {} del 10eLotto per {} punti su {} numeri non noto",

@@ -40,7 +40,8 @@ std::optional<Centesimi> PremioNettoPerEuroDieciELotto(OpzioneDieciELotto opzion
 Esito<Fatto> ControllaDieciELotto(OpzioneDieciELotto opzione, int giocati, const GruppoData& data);
 
 // Gross, tax and net of a 10eLotto score for a stake on a draw's date; refused, with the user's
-// message as ControllaDieciELotto refuses, or for a cell not known.
+// message as ControllaDieciELotto refuses, for a cell not known, or for a stake outside 1..200
+// euro in steps of 0,50.
 Esito<Tassato> PremioDieciELotto(OpzioneDieciELotto opzione, int giocati, int punti, Centesimi posta,
                                   const GruppoData& data, const RegoleDieciELotto& regole = {});
 

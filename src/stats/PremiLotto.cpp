@@ -89,9 +89,11 @@ Esito<Fatto> ControllaPuntata(const PuntataLotto& puntata, const GruppoData& dat
     return AvvisoEsclamativo("per l'estratto determinato serve la posizione, da 1 a 5");
   if (!determinato && puntata.posizione != 0)
     return AvvisoEsclamativo(fmt::format("la posizione vale solo per l'estratto determinato, non per la sorte {}", nome));
-  if (puntata.posta < LimitiPosteLotto().minima_sorte)
-    return AvvisoEsclamativo(fmt::format("la posta sulla sorte {} è di almeno {} euro", nome,
-                                         FormattaEuro(LimitiPosteLotto().minima_sorte)));
+  const PosteLotto& poste = LimitiPosteLotto();
+  if (puntata.posta < poste.minima_sorte || puntata.posta > poste.massima_biglietto)
+    return AvvisoEsclamativo(fmt::format("la posta sulla sorte {} va da {} a {} euro, non {}", nome,
+                                         FormattaEuro(poste.minima_sorte), FormattaEuro(poste.massima_biglietto),
+                                         FormattaEuro(puntata.posta)));
   if (puntata.sorte == SorteLotto::Ambetto && CombinazioniAmbetto(puntata.numeri) == 0)
     return AvvisoEsclamativo("questi numeri non formano nessun ambetto");
   return Fatto{};

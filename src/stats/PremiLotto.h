@@ -35,8 +35,8 @@ std::vector<int> RuoteGiocate(std::span<const int> ruote);
 
 // Whether the line can be played on that date: numbers 1..90 all different and enough for the
 // sorte (2..10 for the ambetto, at most 10), wheels 1..11, a position only for the estratto
-// determinato, the sorte existing, a stake of at least the minimum per sorte. The refusal is the
-// user's message.
+// determinato, the sorte existing, a stake between the minimum per sorte and a ticket's maximum.
+// The refusal is the user's message.
 Esito<Fatto> ControllaPuntata(const PuntataLotto& puntata, const GruppoData& data);
 
 // Whether a ticket's whole stake is allowed: between the minimum and the maximum, in steps.

@@ -92,6 +92,9 @@ TEST(GiocataGioco, CategorieAQuota) {
   EXPECT_FALSE(VerificaGiocataGioco(corta, generico));
   const TabellaGioco vecchio(Formato(Gioco::DieciELotto), {Estrazione(1, Data(3, 1, 2019), DaA(1, 20), {1, 2, 3})});
   EXPECT_FALSE(VerificaGiocataGioco(corta, vecchio)) << "before the 10eLotto table's date";
+  const TabellaGioco dieci(Formato(Gioco::DieciELotto), {Estrazione(1, Data(3, 1, 2023), DaA(1, 20), {1, 2, 3})});
+  corta.posta = 125;
+  EXPECT_FALSE(VerificaGiocataGioco(corta, dieci)) << "stakes go in steps of 0,50";
 }
 
 }  // namespace

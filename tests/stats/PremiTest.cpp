@@ -31,7 +31,7 @@ TEST(PremiLotto, EsempiPubblicati) {
   const Tassato banda = TassaVincitaLotto(54'348, Data(1, 10, 2017));
   EXPECT_EQ(banda.netto, 50'000);
   EXPECT_EQ(banda.ritenuta, 4'348);
-  auto dieci = PremioDieciELotto(OpzioneDieciELotto::Base, 10, 8, 50, Data(1, 7, 2019));
+  auto dieci = PremioDieciELotto(OpzioneDieciELotto::Base, 6, 5, 500, Data(1, 7, 2019));
   ASSERT_TRUE(dieci);
   EXPECT_EQ(dieci->lordo, 56'180) << "500 net at 11%";
   EXPECT_EQ(dieci->netto, 50'000);
@@ -109,6 +109,7 @@ TEST(PremiLotto, PuntateRifiutate) {
                                       Linea(SorteLotto::Ambo, {0, 5}, {BA}, 100), Linea(SorteLotto::Ambo, {5, 91}, {BA}, 100),
                                       Linea(SorteLotto::Ambo, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}, {BA}, 100),
                                       Linea(SorteLotto::Ambo, {5, 6}, {}, 100), Linea(SorteLotto::Ambo, {5, 6}, {BA}, 4),
+                                      Linea(SorteLotto::Ambo, {5, 6}, {BA}, 20'001),
                                       senza_posizione, posizione_di_troppo}) {
     auto controllo = ControllaPuntata(puntata, data);
     ASSERT_FALSE(controllo);
@@ -129,7 +130,8 @@ TEST(Denaro, LetturaEScrittura) {
   EXPECT_EQ(LeggiEuro("0,10").ValoreOppure(-1), 10);
   EXPECT_EQ(LeggiEuro("1.5").ValoreOppure(-1), 150);
   EXPECT_EQ(LeggiEuro("200").ValoreOppure(-1), 20'000);
-  for (const char* sbagliato : {"", ",5", "1,234", "1.000,00", "-1", "1e3", "99999999999999999999", "1000001"})
+  EXPECT_EQ(LeggiEuro("371053900").ValoreOppure(-1), 37'105'390'000) << "a jackpot's quota";
+  for (const char* sbagliato : {"", ",5", "1,234", "1.000,00", "-1", "1e3", "99999999999999999999", "1000000001"})
     EXPECT_FALSE(LeggiEuro(sbagliato)) << sbagliato;
 }
 
