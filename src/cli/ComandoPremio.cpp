@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 #include <fmt/format.h>
 #include <fmt/ostream.h>
@@ -177,13 +178,24 @@ int ComandoPremio(Contesto& contesto, const Parole& parole) {
 }
 
 int ComandoVerificaGiocata(Contesto& contesto, const Parole& parole) {
-  auto argomenti = SeparaArgomenti(parole, {"sorte", "numeri", "ruote", "posta", "posizione", "dal", "colpi"});
+  auto argomenti =
+      SeparaArgomenti(parole, {"sorte", "numeri", "ruote", "posta", "posizione", "dal", "colpi", "arresto"});
   if (!argomenti) return contesto.Fallisci(argomenti.Errore());
   if (!argomenti->parole.empty())
     return contesto.Fallisci(AvvisoEsclamativo(fmt::format("parola inattesa: {}", argomenti->parole.front())));
   for (const char* richiesta : {"dal", "colpi"})
     if (!argomenti->opzioni.contains(richiesta))
       return contesto.Fallisci(AvvisoEsclamativo(fmt::format("manca l'opzione --{}", richiesta)));
+  const std::string testo_colpi = Opzione(*argomenti, "colpi");
+  int colpi = 0;
+  const auto [fine, errore] = std::from_chars(testo_colpi.data(), testo_colpi.data() + testo_colpi.size(), colpi);
+  if (errore != std::errc() || fine != testo_colpi.data() + testo_colpi.size() || colpi < 1 || colpi > 100'000)
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("colpi non validi: {} (da 1 a 100000)", testo_colpi)));
+
+  const std::string arresto = Opzione(*argomenti, "arresto", "fine");
+  if (arresto != "fine" && arresto != "vincita")
+    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("arresto non valido: {} (fine o vincita)", arresto)));
+
   auto tabella = contesto.CaricaTabellaNonVuota();
   if (!tabella) return contesto.Fallisci(tabella.Errore());
   // --dal names the first draw played: the one on that date, or the first after it.
@@ -196,18 +208,13 @@ int ComandoVerificaGiocata(Contesto& contesto, const Parole& parole) {
         AvvisoEsclamativo(fmt::format("nessuna estrazione in archivio dal {}", Opzione(*argomenti, "dal"))));
   auto puntata = LeggiPuntata(*argomenti, (*tabella)[prima].data);
   if (!puntata) return contesto.Fallisci(puntata.Errore());
-  const std::string testo_colpi = Opzione(*argomenti, "colpi");
-  int colpi = 0;
-  for (char c : testo_colpi) colpi = (c >= '0' && c <= '9' && colpi < 100'000) ? colpi * 10 + (c - '0') : -1;
-  if (colpi < 1 || testo_colpi.empty())
-    return contesto.Fallisci(AvvisoEsclamativo(fmt::format("colpi non validi: {} (da 1 a 100000)", testo_colpi)));
-
   stats::Giocata giocata;
   giocata.colonne = {puntata->numeri};
   giocata.ruote = puntata->ruote;
   giocata.poste = {stats::PostaSorte{puntata->sorte, puntata->posta, {}, puntata->posizione}};
   giocata.prima_estrazione = prima;
   giocata.colpi = colpi;
+  giocata.arresto = arresto == "vincita" ? stats::Arresto::AllaPrimaVincita : stats::Arresto::AllaFine;
   const stats::EsitoGiocata esito = stats::VerificaGiocata(giocata, *tabella);
 
   constexpr std::string_view kRiga = "{:>5} {:>10} {:>10} {:>10} {:>12} {:>10} {:>12} {:>12}\n";

@@ -57,6 +57,8 @@ TEST_F(Premio, RichiesteSbagliate) {
       {"--gioco", "SE", "premio"},
       {"--gioco", "FT", "premio"},
       {"verifica-giocata", "--sorte", "ambo", "--numeri", "7,8", "--ruote", "VE", "--posta", "1", "--colpi", "3"},
+      {"verifica-giocata", "--sorte", "ambo", "--numeri", "7,8", "--ruote", "VE", "--posta", "1", "--colpi", "0",
+       "--dal", "01/05/2005"},
   };
   for (const auto& parole : casi) {
     auto uscita = Esegui(parole);
@@ -81,6 +83,10 @@ TEST_F(Premio, VerificaGiocataSullArchivio) {
             "totale: spesa 2,00, lordo 250,00, ritenuta 15,00, netto 235,00, saldo 233,00\n"
             "colpi vincenti: 1; al più 1 colpi di fila senza vincite; calo massimo del saldo 1,00\n"
             "giocata in corso: mancano 1 colpi all'archivio\n");
+  auto fermata = Esegui({"verifica-giocata", "--sorte", "ambo", "--numeri", "7,8", "--ruote", "VE", "--posta", "1",
+                         "--dal", "01/05/2005", "--colpi", "3", "--arresto", "vincita"});
+  EXPECT_EQ(fermata.out.find("    2 "), std::string::npos) << fermata.out;
+  EXPECT_EQ(fermata.out.find("giocata in corso"), std::string::npos) << fermata.out;
 }
 
 }  // namespace
