@@ -85,7 +85,7 @@ TEST_F(Premio, VerificaGiocataSullArchivio) {
             "giocata in corso: mancano 1 colpi all'archivio\n");
   auto fermata = Esegui({"verifica-giocata", "--sorte", "ambo", "--numeri", "7,8", "--ruote", "VE", "--posta", "1",
                          "--dal", "01/05/2005", "--colpi", "3", "--arresto", "vincita"});
-  EXPECT_EQ(fermata.out.find("    2 "), std::string::npos) << fermata.out;
+  EXPECT_EQ(fermata.out.find("\n    2 "), std::string::npos) << fermata.out;
   EXPECT_EQ(fermata.out.find("giocata in corso"), std::string::npos) << fermata.out;
 }
 
