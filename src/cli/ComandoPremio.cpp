@@ -44,8 +44,8 @@ Esito<std::vector<int>> LeggiNumeri(const std::string& testo) {
 
 Esito<stats::SorteLotto> LeggiSorteLotto(const std::string& testo) {
   if (auto sorte = stats::SorteDaNome(testo)) return *sorte;
-  return AvvisoEsclamativo(fmt::format(
-      "sorte non valida: {} (estratto, ambo, terno, quaterna, cinquina, determinato, ambetto)", testo));
+  return AvvisoEsclamativo(
+      fmt::format("sorte non valida: {} (estratto, ambo, terno, quaterna, cinquina, determinato, ambetto)", testo));
 }
 
 Esito<GruppoData> LeggiDataPremio(const std::string& testo) {
@@ -59,8 +59,8 @@ constexpr std::string_view kIntestazione = "{:>5} {:>12} {:>14} {:>12} {:>14}\n"
 
 // A row of the table; no combinations column where the game has none (0).
 void StampaRiga(Contesto& contesto, int punti, int64_t combinazioni, const stats::Tassato& vinto) {
-  fmt::print(contesto.out, fmt::runtime(kIntestazione), punti, combinazioni == 0 ? "" : std::to_string(combinazioni), stats::FormattaEuro(vinto.lordo),
-             stats::FormattaEuro(vinto.ritenuta), stats::FormattaEuro(vinto.netto));
+  fmt::print(contesto.out, fmt::runtime(kIntestazione), punti, combinazioni == 0 ? "" : std::to_string(combinazioni),
+             stats::FormattaEuro(vinto.lordo), stats::FormattaEuro(vinto.ritenuta), stats::FormattaEuro(vinto.netto));
 }
 
 // The line of a Lotto ticket named by the options; the wheels expanded.
@@ -118,7 +118,8 @@ int PremioDieciELotto(Contesto& contesto, const Argomenti& argomenti, const Grup
       {"extra", stats::OpzioneDieciELotto::Extra},
       {"gong", stats::OpzioneDieciELotto::Gong},
   }};
-  auto opzione = std::ranges::find(kOpzioni, std::string_view(nome), &std::pair<std::string_view, stats::OpzioneDieciELotto>::first);
+  auto opzione = std::ranges::find(kOpzioni, std::string_view(nome),
+                                   &std::pair<std::string_view, stats::OpzioneDieciELotto>::first);
   if (opzione == kOpzioni.end())
     return contesto.Fallisci(
         AvvisoEsclamativo(fmt::format("opzione non valida: {} (base, oro, doppio-oro, extra, gong)", nome)));
@@ -150,8 +151,9 @@ int PremioAQuota(Contesto& contesto, const Argomenti& argomenti, const GruppoDat
   auto quota = stats::LeggiEuro(Opzione(argomenti, "quota"));
   if (!quota) return contesto.Fallisci(quota.Errore());
   const stats::Tassato vinto = stats::TassaVincitaSuperEnalotto(*quota, data);
-  fmt::print(contesto.out, "ritenuta {} sulla parte oltre {} euro, al {}\n", Percento(stats::RitenutaSuperEnalotto(data)),
-             stats::FormattaEuro(stats::kFranchigiaSuperEnalotto), FormattaData(data));
+  fmt::print(contesto.out, "ritenuta {} sulla parte oltre {} euro, al {}\n",
+             Percento(stats::RitenutaSuperEnalotto(data)), stats::FormattaEuro(stats::kFranchigiaSuperEnalotto),
+             FormattaData(data));
   fmt::print(contesto.out, "{:>14} {:>12} {:>14}\n{:>14} {:>12} {:>14}\n", "lordo", "ritenuta", "netto",
              stats::FormattaEuro(vinto.lordo), stats::FormattaEuro(vinto.ritenuta), stats::FormattaEuro(vinto.netto));
   return kUscitaRiuscita;
@@ -160,7 +162,8 @@ int PremioAQuota(Contesto& contesto, const Argomenti& argomenti, const GruppoDat
 }  // namespace
 
 int ComandoPremio(Contesto& contesto, const Parole& parole) {
-  auto argomenti = SeparaArgomenti(parole, {"sorte", "numeri", "ruote", "posta", "data", "posizione", "opzione", "quota"});
+  auto argomenti =
+      SeparaArgomenti(parole, {"sorte", "numeri", "ruote", "posta", "data", "posizione", "opzione", "quota"});
   if (!argomenti) return contesto.Fallisci(argomenti.Errore());
   if (!argomenti->parole.empty())
     return contesto.Fallisci(AvvisoEsclamativo(fmt::format("parola inattesa: {}", argomenti->parole.front())));

@@ -24,7 +24,8 @@ struct Colpo {
   std::vector<VincitaGioco> vincite;
 };
 
-Esito<Colpo> DieciELotto(const GiocataGioco& giocata, const EstrazioneGioco& estrazione, const std::vector<int>& colonna) {
+Esito<Colpo> DieciELotto(const GiocataGioco& giocata, const EstrazioneGioco& estrazione,
+                         const std::vector<int>& colonna) {
   const int giocati = static_cast<int>(colonna.size());
   const auto numeri = std::span(estrazione.numeri).first(20);
   const int punti = Presi(colonna, numeri);
@@ -40,7 +41,8 @@ Esito<Colpo> DieciELotto(const GiocataGioco& giocata, const EstrazioneGioco& est
   colpo.spesa = giocata.posta * (1 + costo_opzione);
   auto vincita = [&](OpzioneDieciELotto tabella, int punti_tabella, bool speciale, std::string categoria) {
     VincitaGioco v{estrazione.id_estr, 0, 0, punti_tabella, speciale, std::move(categoria), std::nullopt};
-    if (auto premio = PremioDieciELotto(tabella, giocati, punti_tabella, giocata.posta, estrazione.data, giocata.regole))
+    if (auto premio =
+            PremioDieciELotto(tabella, giocati, punti_tabella, giocata.posta, estrazione.data, giocata.regole))
       v.vinto = *premio;
     if (!v.vinto || v.vinto->netto > 0) colpo.vincite.push_back(std::move(v));
   };
@@ -70,7 +72,8 @@ Colpo Categoria(const GiocataGioco& giocata, const TabellaGioco& tabella, const 
     colpo.spesa = ConfrontaDate(estrazione.data, kInizioPuntiDue) >= 0 ? kCentesimiPerEuro : kCentesimiPerEuro / 2;
     if (auto c = CategoriaSuperEnalottoDi(punti, speciale, estrazione.data)) categoria = std::string(NomeCategoria(*c));
   } else {
-    const auto biglietto = giocata.posta == 2 * kCentesimiPerEuro ? BigliettoWinForLife::DueEuro : BigliettoWinForLife::UnEuro;
+    const auto biglietto =
+        giocata.posta == 2 * kCentesimiPerEuro ? BigliettoWinForLife::DueEuro : BigliettoWinForLife::UnEuro;
     colpo.spesa = biglietto == BigliettoWinForLife::DueEuro ? 2 * kCentesimiPerEuro : kCentesimiPerEuro;
     if (auto c = CategoriaWinForLifeDi(punti, speciale, biglietto)) categoria = std::string(NomeCategoria(*c));
   }
@@ -102,9 +105,11 @@ Esito<EsitoGiocataGioco> VerificaGiocataGioco(const GiocataGioco& giocata, const
       if (colonna[i] < 1 || colonna[i] > formato.massimo ||
           std::find(colonna.begin(), colonna.begin() + static_cast<std::ptrdiff_t>(i), colonna[i]) !=
               colonna.begin() + static_cast<std::ptrdiff_t>(i))
-        return AvvisoEsclamativo(fmt::format("numero non valido o ripetuto: {} (da 1 a {})", colonna[i], formato.massimo));
+        return AvvisoEsclamativo(
+            fmt::format("numero non valido o ripetuto: {} (da 1 a {})", colonna[i], formato.massimo));
     if (richiesti != 0 && static_cast<int>(colonna.size()) != richiesti)
-      return AvvisoEsclamativo(fmt::format("al {} una colonna ha {} numeri, non {}", formato.nome, richiesti, colonna.size()));
+      return AvvisoEsclamativo(
+          fmt::format("al {} una colonna ha {} numeri, non {}", formato.nome, richiesti, colonna.size()));
   }
 
   EsitoGiocataGioco esito;

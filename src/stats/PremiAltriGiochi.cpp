@@ -54,8 +54,8 @@ constexpr GruppoData kInizioExtra = Data(9, 9, 2020);
 constexpr GruppoData kInizioGong = Data(26, 10, 2022);
 
 constexpr std::array<std::string_view, 6> kNomiSuperEnalotto = {"6", "5+1", "5", "4", "3", "2"};
-constexpr std::array<std::string_view, 8> kNomiWinForLife = {"prima",  "seconda", "terza",  "quarta",
-                                                              "quinta", "sesta",   "settima", "Win for Life"};
+constexpr std::array<std::string_view, 8> kNomiWinForLife = {"prima",  "seconda", "terza",   "quarta",
+                                                             "quinta", "sesta",   "settima", "Win for Life"};
 
 std::string_view NomeOpzione(OpzioneDieciELotto opzione) {
   constexpr std::array<std::string_view, 5> kNomi = {"base", "Oro", "Doppio Oro", "Extra", "Gong"};
@@ -93,15 +93,15 @@ Esito<Fatto> ControllaDieciELotto(OpzioneDieciELotto opzione, int giocati, const
 }
 
 Esito<Tassato> PremioDieciELotto(OpzioneDieciELotto opzione, int giocati, int punti, Centesimi posta,
-                                  const GruppoData& data, const RegoleDieciELotto& regole) {
+                                 const GruppoData& data, const RegoleDieciELotto& regole) {
   if (auto controllo = ControllaDieciELotto(opzione, giocati, data); !controllo) return controllo.Errore();
   if (posta < kCentesimiPerEuro || posta > kMassimaPostaDieciELotto || posta % (kCentesimiPerEuro / 2) != 0)
-    return AvvisoEsclamativo(fmt::format("la posta del 10eLotto va da 1 a 200 euro, a multipli di 0,50, non {}",
-                                         FormattaEuro(posta)));
+    return AvvisoEsclamativo(
+        fmt::format("la posta del 10eLotto va da 1 a 200 euro, a multipli di 0,50, non {}", FormattaEuro(posta)));
   auto per_euro = PremioNettoPerEuroDieciELotto(opzione, giocati, punti, regole);
   if (!per_euro)
-    return AvvisoEsclamativo(fmt::format("premio {} del 10eLotto per {} punti su {} numeri non noto",
-                                         NomeOpzione(opzione), punti, giocati));
+    return AvvisoEsclamativo(
+        fmt::format("premio {} del 10eLotto per {} punti su {} numeri non noto", NomeOpzione(opzione), punti, giocati));
   const Centesimi netto = ArrotondaMetaInSu(*per_euro * posta, kCentesimiPerEuro);
   const int aliquota = RitenutaDieciELotto(data);
   const Centesimi lordo = ArrotondaMetaInSu(netto * 10'000, 10'000 - aliquota);
@@ -121,7 +121,9 @@ std::optional<CategoriaSuperEnalotto> CategoriaSuperEnalottoDi(int punti, bool j
   }
 }
 
-std::string_view NomeCategoria(CategoriaSuperEnalotto categoria) { return kNomiSuperEnalotto[static_cast<size_t>(categoria)]; }
+std::string_view NomeCategoria(CategoriaSuperEnalotto categoria) {
+  return kNomiSuperEnalotto[static_cast<size_t>(categoria)];
+}
 
 Tassato TassaVincitaSuperEnalotto(Centesimi quota, const GruppoData& data) {
   const Centesimi imponibile = std::max<Centesimi>(0, quota - kFranchigiaSuperEnalotto);
@@ -144,6 +146,8 @@ std::optional<CategoriaWinForLife> CategoriaWinForLifeDi(int punti, bool numeron
   }
 }
 
-std::string_view NomeCategoria(CategoriaWinForLife categoria) { return kNomiWinForLife[static_cast<size_t>(categoria)]; }
+std::string_view NomeCategoria(CategoriaWinForLife categoria) {
+  return kNomiWinForLife[static_cast<size_t>(categoria)];
+}
 
 }  // namespace lottolab::stats

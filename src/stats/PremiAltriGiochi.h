@@ -43,7 +43,7 @@ Esito<Fatto> ControllaDieciELotto(OpzioneDieciELotto opzione, int giocati, const
 // message as ControllaDieciELotto refuses, for a cell not known, or for a stake outside 1..200
 // euro in steps of 0,50.
 Esito<Tassato> PremioDieciELotto(OpzioneDieciELotto opzione, int giocati, int punti, Centesimi posta,
-                                  const GruppoData& data, const RegoleDieciELotto& regole = {});
+                                 const GruppoData& data, const RegoleDieciELotto& regole = {});
 
 enum class CategoriaSuperEnalotto { Sei, CinquePiuUno, Cinque, Quattro, Tre, Due };
 

@@ -34,13 +34,15 @@ std::set<std::pair<int, int>> CoppieAmbetto(std::span<const int> numeri) {
 
 int64_t VinteAmbetto(const std::set<std::pair<int, int>>& coppie, const CinquinaRuota& estratti) {
   const auto presente = [&](int n) { return std::ranges::find(estratti, n) != estratti.end(); };
-  return std::ranges::count_if(coppie, [&](const auto& coppia) { return presente(coppia.first) && presente(coppia.second); });
+  return std::ranges::count_if(coppie,
+                               [&](const auto& coppia) { return presente(coppia.first) && presente(coppia.second); });
 }
 
 int64_t Intero(double combinazioni) { return static_cast<int64_t>(combinazioni + 0.5); }
 
 int Presenti(std::span<const int> numeri, const CinquinaRuota& estratti) {
-  return static_cast<int>(std::ranges::count_if(numeri, [&](int n) { return std::ranges::find(estratti, n) != estratti.end(); }));
+  return static_cast<int>(
+      std::ranges::count_if(numeri, [&](int n) { return std::ranges::find(estratti, n) != estratti.end(); }));
 }
 
 }  // namespace
@@ -80,7 +82,8 @@ Esito<Fatto> ControllaPuntata(const PuntataLotto& puntata, const GruppoData& dat
   }
   const int minimo = std::max(1, NumeriDellaSorte(puntata.sorte));
   if (quanti < minimo || quanti > massimo)
-    return AvvisoEsclamativo(fmt::format("per la sorte {} si giocano da {} a {} numeri, non {}", nome, minimo, massimo, quanti));
+    return AvvisoEsclamativo(
+        fmt::format("per la sorte {} si giocano da {} a {} numeri, non {}", nome, minimo, massimo, quanti));
   if (puntata.ruote.empty()) return AvvisoEsclamativo("nessuna ruota giocata");
   for (int r : puntata.ruote)
     if (r < 1 || r > kNumeroRuote) return AvvisoEsclamativo(fmt::format("ruota non valida: {}", r));
@@ -88,7 +91,8 @@ Esito<Fatto> ControllaPuntata(const PuntataLotto& puntata, const GruppoData& dat
   if (determinato && (puntata.posizione < 1 || puntata.posizione > kNumeriPerRuota))
     return AvvisoEsclamativo("per l'estratto determinato serve la posizione, da 1 a 5");
   if (!determinato && puntata.posizione != 0)
-    return AvvisoEsclamativo(fmt::format("la posizione vale solo per l'estratto determinato, non per la sorte {}", nome));
+    return AvvisoEsclamativo(
+        fmt::format("la posizione vale solo per l'estratto determinato, non per la sorte {}", nome));
   const PosteLotto& poste = LimitiPosteLotto();
   if (puntata.posta < poste.minima_sorte || puntata.posta > poste.massima_biglietto)
     return AvvisoEsclamativo(fmt::format("la posta sulla sorte {} va da {} a {} euro, non {}", nome,
@@ -121,7 +125,8 @@ int64_t CombinazioniGiocate(const PuntataLotto& puntata) {
 
 Centesimi PremioPerCombinazione(const PuntataLotto& puntata, const GruppoData& data) {
   const Centesimi moltiplicatore = MoltiplicatoreLotto(puntata.sorte, data).value_or(0);
-  const int64_t divisore = kCentesimiPerEuro * static_cast<int64_t>(puntata.ruote.size()) * CombinazioniGiocate(puntata);
+  const int64_t divisore =
+      kCentesimiPerEuro * static_cast<int64_t>(puntata.ruote.size()) * CombinazioniGiocate(puntata);
   return ArrotondaMetaInSu(moltiplicatore * puntata.posta, divisore);
 }
 
@@ -132,8 +137,7 @@ int64_t CombinazioniVincenti(const PuntataLotto& puntata, const CinquinaRuota& e
       return uscito != 0 && std::ranges::find(puntata.numeri, uscito) != puntata.numeri.end() ? 1 : 0;
     }
     case SorteLotto::Ambetto: return VinteAmbetto(CoppieAmbetto(puntata.numeri), estratti);
-    default:
-      return Intero(Combinazioni(Presenti(puntata.numeri, estratti), NumeriDellaSorte(puntata.sorte)));
+    default: return Intero(Combinazioni(Presenti(puntata.numeri, estratti), NumeriDellaSorte(puntata.sorte)));
   }
 }
 
@@ -160,7 +164,8 @@ std::vector<EsitoPossibile> EsitiPossibili(const PuntataLotto& puntata) {
     SviluppoCombinazioni gruppi(quanti, k);
     while (gruppi.Avanza()) {
       CinquinaRuota estratti{};
-      for (size_t i = 0; i < gruppi.Gruppo().size(); ++i) estratti[i] = candidati[static_cast<size_t>(gruppi.Gruppo()[i])];
+      for (size_t i = 0; i < gruppi.Gruppo().size(); ++i)
+        estratti[i] = candidati[static_cast<size_t>(gruppi.Gruppo()[i])];
       if (int64_t vinte = VinteAmbetto(coppie, estratti); vinte > 0) conteggi.insert(vinte);
     }
   }

@@ -17,8 +17,8 @@ class Premio : public LottolabDiProva {
 };
 
 TEST_F(Premio, TabellaPerPunti) {
-  auto ambo = Esegui({"premio", "--sorte", "ambo", "--numeri", "12,34,56", "--ruote", "BA", "--posta", "1", "--data",
-                      "01/10/2017"});
+  auto ambo = Esegui(
+      {"premio", "--sorte", "ambo", "--numeri", "12,34,56", "--ruote", "BA", "--posta", "1", "--data", "01/10/2017"});
   EXPECT_EQ(ambo.codice, 0) << ambo.err;
   EXPECT_EQ(ambo.out,
             "ambo su 3 numeri, ruote BA, posta 1,00 euro, 3 combinazioni, ritenuta 8% al 01/10/2017\n"
@@ -27,8 +27,8 @@ TEST_F(Premio, TabellaPerPunti) {
             "    2            1          83,33         6,67          76,66\n"
             "    3            3         249,99        20,00         229,99\n");
 
-  auto tutte = Esegui({"premio", "--sorte", "estratto", "--numeri", "5", "--ruote", "TT", "--posta", "1", "--data",
-                       "31/12/2004"});
+  auto tutte = Esegui(
+      {"premio", "--sorte", "estratto", "--numeri", "5", "--ruote", "TT", "--posta", "1", "--data", "31/12/2004"});
   EXPECT_NE(tutte.out.find("ruote BA CA FI GE MI NA PA RO TO VE, posta 1,00 euro, 1 combinazioni, ritenuta 3%"),
             std::string::npos)
       << tutte.out;

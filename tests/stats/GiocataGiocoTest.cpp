@@ -66,9 +66,8 @@ TEST(GiocataGioco, DieciELottoConLeOpzioni) {
 }
 
 TEST(GiocataGioco, CategorieAQuota) {
-  const TabellaGioco superenalotto(Formato(Gioco::SuperEnalotto),
-                                   {Estrazione(1, Data(30, 1, 2016), DaA(1, 6), {7, 8}),
-                                    Estrazione(2, Data(3, 1, 2023), DaA(1, 6), {7, 8})});
+  const TabellaGioco superenalotto(Formato(Gioco::SuperEnalotto), {Estrazione(1, Data(30, 1, 2016), DaA(1, 6), {7, 8}),
+                                                                   Estrazione(2, Data(3, 1, 2023), DaA(1, 6), {7, 8})});
   GiocataGioco giocata;
   giocata.colonne = {{1, 2, 3, 4, 5, 7}, {1, 2, 40, 41, 42, 43}};
   giocata.colpi = 2;

@@ -38,8 +38,7 @@ TEST(PremiLotto, EsempiPubblicati) {
 }
 
 TEST(PremiLotto, PostaDivisaTraLeRuote) {
-  EXPECT_EQ(RuoteGiocate(std::vector<int>{kTutteLeRuote}),
-            (std::vector<int>{BA, CA, FI, GE, MI, NA, PA, RO, TO, VE}))
+  EXPECT_EQ(RuoteGiocate(std::vector<int>{kTutteLeRuote}), (std::vector<int>{BA, CA, FI, GE, MI, NA, PA, RO, TO, VE}))
       << "Tutte leaves Nazionale out";
   EXPECT_EQ(RuoteGiocate(std::vector<int>{VE, kTutteLeRuote, NZ}).size(), 11u);
   EXPECT_EQ(PremioPerCombinazione(Linea(SorteLotto::Ambo, {1, 2}, {kTutteLeRuote}, 100), kOggi), 2'500);
@@ -56,8 +55,8 @@ TEST(PremiLotto, CombinazioniDellAmbetto) {
     std::vector<int> numeri;
     int combinazioni;
   };
-  for (const Caso& caso : std::vector<Caso>{{{30, 55}, 4}, {{40, 41}, 2}, {{1, 2}, 2}, {{40, 50, 60}, 12},
-                                           {{40, 50, 52}, 11}})
+  for (const Caso& caso :
+       std::vector<Caso>{{{30, 55}, 4}, {{40, 41}, 2}, {{1, 2}, 2}, {{40, 50, 60}, 12}, {{40, 50, 52}, 11}})
     EXPECT_EQ(CombinazioniAmbetto(caso.numeri), caso.combinazioni) << caso.numeri.front() << "/" << caso.numeri[1];
 
   const PuntataLotto giro = Linea(SorteLotto::Ambetto, {1, 2}, {BA}, 100);
@@ -77,14 +76,14 @@ TEST(PremiLotto, RegoleDatate) {
     int lotto, dieci, superenalotto;
   };
   for (const Caso& caso : std::vector<Caso>{{Data(31, 12, 2004), 300, 600, 0},
-                                           {Data(1, 1, 2005), 600, 600, 0},
-                                           {Data(1, 1, 2012), 600, 600, 600},
-                                           {Data(30, 9, 2017), 600, 600, 600},
-                                           {Data(1, 10, 2017), 800, 800, 1'200},
-                                           {Data(30, 6, 2019), 800, 800, 1'200},
-                                           {Data(1, 7, 2019), 800, 1'100, 1'200},
-                                           {Data(29, 2, 2020), 800, 1'100, 1'200},
-                                           {Data(1, 3, 2020), 800, 1'100, 2'000}}) {
+                                            {Data(1, 1, 2005), 600, 600, 0},
+                                            {Data(1, 1, 2012), 600, 600, 600},
+                                            {Data(30, 9, 2017), 600, 600, 600},
+                                            {Data(1, 10, 2017), 800, 800, 1'200},
+                                            {Data(30, 6, 2019), 800, 800, 1'200},
+                                            {Data(1, 7, 2019), 800, 1'100, 1'200},
+                                            {Data(29, 2, 2020), 800, 1'100, 1'200},
+                                            {Data(1, 3, 2020), 800, 1'100, 2'000}}) {
     SCOPED_TRACE(FormattaData(caso.data));
     EXPECT_EQ(RitenutaLotto(caso.data), caso.lotto);
     EXPECT_EQ(RitenutaDieciELotto(caso.data), caso.dieci);
@@ -105,12 +104,12 @@ TEST(PremiLotto, PuntateRifiutate) {
   PuntataLotto senza_posizione = Linea(SorteLotto::EstrattoDeterminato, {5}, {BA}, 100);
   PuntataLotto posizione_di_troppo = Linea(SorteLotto::Ambo, {5, 6}, {BA}, 100);
   posizione_di_troppo.posizione = 1;
-  for (const PuntataLotto& puntata : {Linea(SorteLotto::Ambo, {5}, {BA}, 100), Linea(SorteLotto::Ambo, {5, 5}, {BA}, 100),
-                                      Linea(SorteLotto::Ambo, {0, 5}, {BA}, 100), Linea(SorteLotto::Ambo, {5, 91}, {BA}, 100),
-                                      Linea(SorteLotto::Ambo, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}, {BA}, 100),
-                                      Linea(SorteLotto::Ambo, {5, 6}, {}, 100), Linea(SorteLotto::Ambo, {5, 6}, {BA}, 4),
-                                      Linea(SorteLotto::Ambo, {5, 6}, {BA}, 20'001),
-                                      senza_posizione, posizione_di_troppo}) {
+  for (const PuntataLotto& puntata :
+       {Linea(SorteLotto::Ambo, {5}, {BA}, 100), Linea(SorteLotto::Ambo, {5, 5}, {BA}, 100),
+        Linea(SorteLotto::Ambo, {0, 5}, {BA}, 100), Linea(SorteLotto::Ambo, {5, 91}, {BA}, 100),
+        Linea(SorteLotto::Ambo, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}, {BA}, 100),
+        Linea(SorteLotto::Ambo, {5, 6}, {}, 100), Linea(SorteLotto::Ambo, {5, 6}, {BA}, 4),
+        Linea(SorteLotto::Ambo, {5, 6}, {BA}, 20'001), senza_posizione, posizione_di_troppo}) {
     auto controllo = ControllaPuntata(puntata, data);
     ASSERT_FALSE(controllo);
     EXPECT_FALSE(controllo.Errore().testo.empty());
@@ -161,7 +160,8 @@ TEST(AltriGiochi, DieciELotto) {
 TEST(AltriGiochi, CategorieEQuote) {
   const GruppoData oggi = kOggi;
   EXPECT_EQ(CategoriaSuperEnalottoDi(5, true, oggi), CategoriaSuperEnalotto::CinquePiuUno);
-  EXPECT_EQ(CategoriaSuperEnalottoDi(4, true, oggi), CategoriaSuperEnalotto::Quattro) << "the Jolly counts with five only";
+  EXPECT_EQ(CategoriaSuperEnalottoDi(4, true, oggi), CategoriaSuperEnalotto::Quattro)
+      << "the Jolly counts with five only";
   EXPECT_EQ(CategoriaSuperEnalottoDi(2, false, Data(2, 2, 2016)), CategoriaSuperEnalotto::Due);
   EXPECT_FALSE(CategoriaSuperEnalottoDi(2, false, Data(30, 1, 2016)));
   EXPECT_FALSE(CategoriaSuperEnalottoDi(1, true, oggi));
