@@ -1,6 +1,7 @@
 #include "Giocata.h"
 
 #include <algorithm>
+#include <cassert>
 #include <fmt/format.h>
 
 namespace lottolab::stats {
@@ -15,6 +16,7 @@ PuntataLotto Puntata(const Giocata& giocata, const std::vector<int>& ruote, size
 }  // namespace
 
 Centesimi PostaSorte::AlColpo(int colpo) const {
+  assert(colpo >= 1);
   if (progressione.empty()) return posta;
   return progressione[std::min(progressione.size(), static_cast<size_t>(colpo)) - 1];
 }

@@ -23,6 +23,7 @@ struct PostaSorte {
   std::vector<Centesimi> progressione;
   int posizione = 0;  // estratto determinato only
 
+  // The stake at colpo 1, 2, ...
   Centesimi AlColpo(int colpo) const;
 };
 
