@@ -103,7 +103,11 @@ EsitoImportazione AggiornamentoArchivio::ScaricaGioco(Gioco gioco) const {
   return esito;
 }
 
-EsitoAggiornamento AggiornamentoArchivio::Scarica() const {
+EsitoAggiornamento AggiornamentoArchivio::Scarica(const std::function<void(std::string)>& passo) const {
+  auto annuncia = [&](const std::string& archivio) {
+    if (passo) passo(fmt::format("Aggiornamento dell'{}...", archivio));
+  };
+  annuncia("archivio del Lotto");
   std::error_code ec;
   fs::create_directories(m_configurazione.base, ec);
   EsitoAggiornamento esito;
@@ -117,6 +121,7 @@ EsitoAggiornamento AggiornamentoArchivio::Scarica() const {
   }
   for (Gioco gioco : kAltriGiochi) {
     if (m_configurazione.IndirizzoRisultatiGioco(gioco).empty()) continue;
+    annuncia(NomeArchivioGioco(Formato(gioco)));
     esito.giochi.push_back(
         {gioco, SenzaEccezioniImportazione("AggiornamentoArchivio.ScaricaGioco", [&] { return ScaricaGioco(gioco); })});
   }

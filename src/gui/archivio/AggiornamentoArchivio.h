@@ -9,6 +9,7 @@
 // which are reloaded afterwards.
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -51,8 +52,9 @@ class AggiornamentoArchivio {
   EsitoAggiornamento ImportaDaFile(const std::filesystem::path& file) const;
 
   // Downloads the Lotto's results from the configured address and imports them, then does the same
-  // for every other game whose address is configured.
-  EsitoAggiornamento Scarica() const;
+  // for every other game whose address is configured; `passo` is told, in the user's words, each
+  // archive as its turn comes.
+  EsitoAggiornamento Scarica(const std::function<void(std::string)>& passo = {}) const;
 
  private:
   EsitoImportazione ScaricaGioco(Gioco gioco) const;

@@ -22,7 +22,7 @@ std::shared_ptr<DialoghiArchivio> DialoghiPer(std::shared_ptr<DialoghiArchivio> 
 
 struct Lavoro {
   QString descrizione;
-  std::function<EsitoAggiornamento()> esegui;
+  std::function<EsitoAggiornamento(Avanzamento&)> esegui;
 };
 
 // The source the user chooses; nothing when the user cancels.
@@ -37,12 +37,14 @@ std::optional<Lavoro> ScegliLavoro(const ContestoGui& contesto, DialoghiArchivio
                       {"Scarica", "Da file..."});
   if (scelta == 0u)
     return Lavoro{QStringLiteral("Scaricamento e importazione dei risultati..."),
-                  [aggiornamento] { return aggiornamento.Scarica(); }};
+                  [aggiornamento](Avanzamento& avanzamento) {
+                    return aggiornamento.Scarica([&](std::string passo) { avanzamento.Passo(std::move(passo)); });
+                  }};
   if (scelta != 1u) return std::nullopt;
   auto file = dialoghi.ScegliFile("File dei risultati del Lotto", contesto.Configurazione().base, kFiltroRisultati);
   if (!file) return std::nullopt;
   return Lavoro{QStringLiteral("Importazione dei risultati..."),
-                [aggiornamento, percorso = *file] { return aggiornamento.ImportaDaFile(percorso); }};
+                [aggiornamento, percorso = *file](Avanzamento&) { return aggiornamento.ImportaDaFile(percorso); }};
 }
 
 // A report with a critical failure in it says so by its icon.
@@ -99,7 +101,7 @@ void AvviaImportazioneGioco(ContestoGui& contesto, Gioco gioco, QWidget* finestr
   AvviaLavoroConProgresso<EsitoImportazione>(
       finestra, QString::fromStdString(titolo), QStringLiteral("Importazione dei risultati..."),
       "ImportazioneGioco.Avvia",
-      [configurazione = contesto.Configurazione(), gioco, percorso = *file] {
+      [configurazione = contesto.Configurazione(), gioco, percorso = *file](Avanzamento&) {
         return ImportaRisultatiGioco(configurazione, gioco, percorso);
       },
       [&contesto, dialoghi, nome, titolo](const Esito<EsitoImportazione>& esito) {

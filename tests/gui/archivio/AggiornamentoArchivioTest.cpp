@@ -99,7 +99,11 @@ class AggiornamentoArchivioTest : public QObject {
         "\nsIndirizzoRisultatiWF=" + Indirizzo("non-pubblicato.txt") +
         "\nsIndirizzoRisultatiFT=" + Indirizzo("ft.txt")));
 
-    const EsitoAggiornamento esito = aggiornamento.Scarica();
+    std::vector<std::string> passi;
+    const EsitoAggiornamento esito = aggiornamento.Scarica([&](std::string passo) { passi.push_back(passo); });
+    QCOMPARE(passi, (std::vector<std::string>{
+                        "Aggiornamento dell'archivio del Lotto...", "Aggiornamento dell'archivio del SuperEnalotto...",
+                        "Aggiornamento dell'archivio del Win for Life...", "Aggiornamento dell'archivio generico..."}));
     QVERIFY(!esito.Riuscito());
     QVERIFY(esito.GiochiCambiati());
     QVERIFY(!esito.dieci_e_lotto);
