@@ -1,33 +1,143 @@
 #include "gui/archivio/AggiornamentoArchivio.h"
 
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "archive/AllineaDieciELotto.h"
+#include "archive/ArchivioGioco.h"
 #include "archive/ClsEstrazioni.h"
 #include "archive/ImportaRisultati.h"
 #include "archive/ScaricaRisultati.h"
+#include "gui/comuni/LavoroSenzaEccezioni.h"
 
 namespace lottolab::gui {
 
 namespace fs = std::filesystem;
 
-AggiornamentoArchivio::AggiornamentoArchivio(const app::Configurazione& configurazione)
-    : m_archivio(configurazione.ArchivioLotto()),
-      m_scaricato(configurazione.base / "risultati-scaricati.zip"),
-      m_indirizzo(configurazione.IndirizzoRisultati()) {}
+namespace {
 
-Esito<int> AggiornamentoArchivio::ImportaDaFile(const fs::path& file) const {
-  std::error_code ec;
-  // The first update of a new installation creates the archive's folder along with the archive.
-  if (m_archivio.has_parent_path()) fs::create_directories(m_archivio.parent_path(), ec);
-  ClsEstrazioni archivio(m_archivio);
-  return ImportaRisultati(archivio, file);
+// The games after the Lotto, in the order `lottolab aggiorna` updates them.
+constexpr Gioco kAltriGiochi[] = {Gioco::SuperEnalotto, Gioco::DieciELotto, Gioco::DieciELottoOgniCinqueMinuti,
+                                  Gioco::WinForLife, Gioco::Generico};
+
+const std::string kNonRicavato = "10eLotto serale: non ricavato di nuovo dall'archivio del Lotto. ";
+
+// An import that throws is one more failed step: the steps after it still run.
+template <typename Lavoro>
+EsitoImportazione SenzaEccezioniImportazione(const char* procedura, Lavoro&& lavoro) {
+  auto esito = SenzaEccezioni<EsitoImportazione>(procedura, std::forward<Lavoro>(lavoro));
+  if (esito) return std::move(esito).Valore();
+  return EsitoImportazione{esito.Errore(), {}};
 }
 
-Esito<int> AggiornamentoArchivio::Scarica() const {
-  auto scaricato = ScaricaRisultati(m_indirizzo, m_scaricato);
-  if (!scaricato) return scaricato.Errore();
-  auto aggiunte = ImportaDaFile(*scaricato);
+// The desktop imports into the configured Lotto archive only, which is the one the 10eLotto is
+// derived from, so the only condition left is that there is a 10eLotto archive to keep up.
+std::optional<DieciELottoRicavato> RicavaDieciELotto(const app::Configurazione& configurazione,
+                                                     std::vector<std::string>& avvisi) {
+  const fs::path file = configurazione.ArchivioGioco(Gioco::DieciELotto);
+  std::error_code ec;
+  if (!fs::exists(file, ec)) return std::nullopt;
+  auto lotto = ClsEstrazioni(configurazione.ArchivioLotto()).CaricaEstrazioni();
+  auto allineato =
+      lotto ? AllineaDieciELotto(*lotto, file) : Esito<std::optional<DieciELottoAllineato>>(lotto.Errore());
+  if (!allineato) return DieciELottoRicavato{false, false, kNonRicavato + allineato.Errore().testo};
+  if (!allineato->has_value()) return std::nullopt;
+  const DieciELottoAllineato& fatto = **allineato;
+  avvisi.insert(avvisi.end(), fatto.differenze.begin(), fatto.differenze.end());
+  if (fatto.aggiunte == 0 && fatto.completate == 0)
+    return DieciELottoRicavato{true, false, "10eLotto serale: nessuna serata da aggiungere dall'archivio del Lotto."};
+  std::string riga = "10eLotto serale: ";
+  if (fatto.aggiunte > 0)
+    riga += fatto.aggiunte == 1 ? "aggiunta 1 serata" : fmt::format("aggiunte {} serate", fatto.aggiunte);
+  if (fatto.completate > 0)
+    riga += fmt::format(
+        "{}{}", fatto.aggiunte > 0 ? ", " : "",
+        fatto.completate == 1 ? "completata 1 serata" : fmt::format("completate {} serate", fatto.completate));
+  return DieciELottoRicavato{true, true, riga + " dall'archivio del Lotto."};
+}
+
+}  // namespace
+
+bool EsitoAggiornamento::Riuscito() const {
+  return lotto.aggiunte.Riuscito() && (!dieci_e_lotto || dieci_e_lotto->riuscito) &&
+         std::all_of(giochi.begin(), giochi.end(), [](const DelGioco& del) { return del.esito.aggiunte.Riuscito(); });
+}
+
+bool EsitoAggiornamento::GiochiCambiati() const {
+  return (dieci_e_lotto && dieci_e_lotto->cambiato) ||
+         std::any_of(giochi.begin(), giochi.end(),
+                     [](const DelGioco& del) { return del.esito.aggiunte.ValoreOppure(0) > 0; });
+}
+
+AggiornamentoArchivio::AggiornamentoArchivio(app::Configurazione configurazione)
+    : m_configurazione(std::move(configurazione)) {}
+
+EsitoAggiornamento AggiornamentoArchivio::ImportaDaFile(const fs::path& file) const {
+  EsitoAggiornamento esito;
+  esito.lotto = SenzaEccezioniImportazione("AggiornamentoArchivio.ImportaDaFile", [&] {
+    const fs::path archivio = m_configurazione.ArchivioLotto();
+    std::error_code ec;
+    // The first update of a new installation creates the archive's folder along with the archive.
+    if (archivio.has_parent_path()) fs::create_directories(archivio.parent_path(), ec);
+    ClsEstrazioni archivio_file(archivio);
+    return EsitoImportazione{ImportaRisultati(archivio_file, file), {}};
+  });
+  if (esito.lotto.aggiunte.ValoreOppure(0) == 0) return esito;
+  auto ricavato = SenzaEccezioni<std::optional<DieciELottoRicavato>>("AggiornamentoArchivio.RicavaDieciELotto", [&] {
+    return RicavaDieciELotto(m_configurazione, esito.lotto.avvisi);
+  });
+  esito.dieci_e_lotto =
+      ricavato ? *ricavato : DieciELottoRicavato{false, false, kNonRicavato + ricavato.Errore().testo};
+  return esito;
+}
+
+EsitoImportazione AggiornamentoArchivio::ScaricaGioco(Gioco gioco) const {
+  const fs::path destinazione = m_configurazione.base / fmt::format("risultati-scaricati-{}", Formato(gioco).sigla);
+  auto scaricato = ScaricaRisultati(m_configurazione.IndirizzoRisultatiGioco(gioco), destinazione);
+  if (!scaricato) return EsitoImportazione{scaricato.Errore(), {}};
+  EsitoImportazione esito = ImportaRisultatiGioco(m_configurazione, gioco, *scaricato);
   std::error_code ec;
   fs::remove(*scaricato, ec);
-  return aggiunte;
+  return esito;
+}
+
+EsitoAggiornamento AggiornamentoArchivio::Scarica(const std::function<void(std::string)>& passo) const {
+  auto annuncia = [&](const std::string& archivio) {
+    if (passo) passo(fmt::format("Aggiornamento dell'{}...", archivio));
+  };
+  annuncia("archivio del Lotto");
+  std::error_code ec;
+  fs::create_directories(m_configurazione.base, ec);
+  EsitoAggiornamento esito;
+  auto scaricato =
+      ScaricaRisultati(m_configurazione.IndirizzoRisultati(), m_configurazione.base / "risultati-scaricati.zip");
+  if (scaricato) {
+    esito = ImportaDaFile(*scaricato);
+    fs::remove(*scaricato, ec);
+  } else {
+    esito.lotto.aggiunte = scaricato.Errore();
+  }
+  for (Gioco gioco : kAltriGiochi) {
+    if (m_configurazione.IndirizzoRisultatiGioco(gioco).empty()) continue;
+    annuncia(NomeArchivioGioco(Formato(gioco)));
+    esito.giochi.push_back(
+        {gioco, SenzaEccezioniImportazione("AggiornamentoArchivio.ScaricaGioco", [&] { return ScaricaGioco(gioco); })});
+  }
+  return esito;
+}
+
+std::string TestoAggiornamento(const EsitoAggiornamento& esito) {
+  std::string testo = RigaImportazione("Lotto", esito.lotto.aggiunte);
+  std::vector<std::string> avvisi = esito.lotto.avvisi;
+  if (esito.dieci_e_lotto) testo += "\n" + esito.dieci_e_lotto->riga;
+  for (const EsitoAggiornamento::DelGioco& del : esito.giochi) {
+    const std::string nome(Formato(del.gioco).nome);
+    testo += "\n" + RigaImportazione(nome, del.esito.aggiunte);
+    for (const std::string& avviso : del.esito.avvisi) avvisi.push_back(nome + ": " + avviso);
+  }
+  return ConAvvisi(std::move(testo), avvisi);
 }
 
 }  // namespace lottolab::gui

@@ -1,32 +1,69 @@
 #pragma once
 
-// The update of the archive file behind the desktop's "Aggiorna archivio": from the operator's
-// published results or from a results file the user already has. Both block for as long as the
-// download or the import takes, so the window runs them on another thread; they touch only files,
-// never the table the windows show, which is reloaded afterwards.
+// The update of the archive files behind the desktop's "Aggiorna archivio": the Lotto's from the
+// operator's published results or from a results file the user already has, then, after a download,
+// every other game whose results address lottolab.ini gives, as `lottolab aggiorna` does. A Lotto
+// archive that grew gives the evening 10eLotto again. Each step's failure is kept and the next step
+// runs all the same. Everything here blocks for as long as the downloads and the imports take, so
+// the window runs it on another thread; it touches only files, never the tables the windows show,
+// which are reloaded afterwards.
 
 #include <filesystem>
+#include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "app/Configurazione.h"
-#include "archive/Esito.h"
+#include "gui/archivio/ImportazioneGioco.h"
 
 namespace lottolab::gui {
 
+// The evening 10eLotto derived again from the Lotto archive that has just grown.
+struct DieciELottoRicavato {
+  bool riuscito = true;
+  bool cambiato = false;  // evenings were added or completed
+  std::string riga;       // what was done, or why it was not, in one line
+};
+
+// What an update did to each archive it touched.
+struct EsitoAggiornamento {
+  EsitoImportazione lotto;
+  // Nothing when no Lotto draw was added or there is no 10eLotto archive to keep up.
+  std::optional<DieciELottoRicavato> dieci_e_lotto;
+  struct DelGioco {
+    Gioco gioco;
+    EsitoImportazione esito;
+  };
+  // Each game whose results address is configured, in the order of the menus.
+  std::vector<DelGioco> giochi;
+
+  // Whether every step succeeded.
+  bool Riuscito() const;
+  // Whether an archive of another game than the Lotto changed, so that its windows must reload it.
+  bool GiochiCambiati() const;
+};
+
 class AggiornamentoArchivio {
  public:
-  explicit AggiornamentoArchivio(const app::Configurazione& configurazione);
+  explicit AggiornamentoArchivio(app::Configurazione configurazione);
 
-  // Appends the draws of `file` (text, or a zip holding it) that the archive lacks; how many.
-  Esito<int> ImportaDaFile(const std::filesystem::path& file) const;
+  // Appends the draws of `file` (text, or a zip holding it) that the Lotto archive lacks.
+  EsitoAggiornamento ImportaDaFile(const std::filesystem::path& file) const;
 
-  // Downloads the results from the configured address and imports them; how many were added.
-  Esito<int> Scarica() const;
+  // Downloads the Lotto's results from the configured address and imports them, then does the same
+  // for every other game whose address is configured; `passo` is told, in the user's words, each
+  // archive as its turn comes.
+  EsitoAggiornamento Scarica(const std::function<void(std::string)>& passo = {}) const;
 
  private:
-  std::filesystem::path m_archivio;
-  std::filesystem::path m_scaricato;
-  std::string m_indirizzo;
+  EsitoImportazione ScaricaGioco(Gioco gioco) const;
+
+  app::Configurazione m_configurazione;
 };
+
+// The report of an update in the user's words: a line for the Lotto, one for the 10eLotto derived
+// again, one for each other game, then what the user should check, the longest lists cut short.
+std::string TestoAggiornamento(const EsitoAggiornamento& esito);
 
 }  // namespace lottolab::gui

@@ -1,108 +1,121 @@
 #include "gui/archivio/AvvioAggiornamento.h"
 
-#include <QFileDialog>
-#include <QMessageBox>
-#include <QProgressDialog>
-#include <QPushButton>
-#include <QThread>
-
 #include <functional>
-#include <memory>
 #include <optional>
 
+#include "archive/ArchivioGioco.h"
 #include "archive/Estrazione.h"
 #include "gui/archivio/AggiornamentoArchivio.h"
-#include "gui/comuni/LavoroSenzaEccezioni.h"
-#include "gui/principale/SegnalatoreGui.h"
+#include "gui/archivio/DialoghiArchivioGui.h"
+#include "gui/comuni/LavoroConProgresso.h"
 
 namespace lottolab::gui {
 
 namespace {
 
-const QString kTitolo = QStringLiteral("Aggiorna archivio");
+const std::string kTitolo = "Aggiorna archivio";
+const std::string kFiltroRisultati = "Risultati (*.txt *.zip);;Tutti i file (*)";
+
+std::shared_ptr<DialoghiArchivio> DialoghiPer(std::shared_ptr<DialoghiArchivio> dialoghi, QWidget* finestra) {
+  return dialoghi ? std::move(dialoghi) : std::make_shared<DialoghiArchivioGui>(finestra);
+}
 
 struct Lavoro {
   QString descrizione;
-  std::function<Esito<int>()> esegui;
+  std::function<EsitoAggiornamento(Avanzamento&)> esegui;
 };
 
 // The source the user chooses; nothing when the user cancels.
-std::optional<Lavoro> ScegliLavoro(const AggiornamentoArchivio& aggiornamento,
-                                   const app::Configurazione& configurazione, QWidget* finestra) {
-  QMessageBox domanda(QMessageBox::Question, kTitolo,
-                      QStringLiteral("Da dove prendere le nuove estrazioni?\n\n"
-                                     "Scarica: i risultati pubblicati dall'operatore (serve Internet).\n"
-                                     "Da file: un file dei risultati già scaricato, di testo o zip."),
-                      QMessageBox::NoButton, finestra);
-  QPushButton* scarica = domanda.addButton(QStringLiteral("Scarica"), QMessageBox::AcceptRole);
-  QPushButton* da_file = domanda.addButton(QStringLiteral("Da file..."), QMessageBox::AcceptRole);
-  domanda.addButton(QStringLiteral("Annulla"), QMessageBox::RejectRole);
-  domanda.setDefaultButton(scarica);
-  domanda.exec();
-
-  if (domanda.clickedButton() == scarica)
+std::optional<Lavoro> ScegliLavoro(const ContestoGui& contesto, DialoghiArchivio& dialoghi) {
+  const AggiornamentoArchivio aggiornamento(contesto.Configurazione());
+  const std::optional<size_t> scelta =
+      dialoghi.Scegli(kTitolo,
+                      "Da dove prendere le nuove estrazioni?\n\n"
+                      "Scarica: i risultati pubblicati dall'operatore, per il Lotto e per ogni gioco di cui "
+                      "lottolab.ini dà l'indirizzo (serve Internet).\n"
+                      "Da file: un file dei risultati del Lotto già scaricato, di testo o zip.",
+                      {"Scarica", "Da file..."});
+  if (scelta == 0u)
     return Lavoro{QStringLiteral("Scaricamento e importazione dei risultati..."),
-                  [aggiornamento] { return aggiornamento.Scarica(); }};
-  if (domanda.clickedButton() != da_file) return std::nullopt;
-
-  const QString file = QFileDialog::getOpenFileName(finestra, QStringLiteral("File dei risultati"),
-                                                    QString::fromStdString(configurazione.base.string()),
-                                                    QStringLiteral("Risultati (*.txt *.zip);;Tutti (*)"));
-  if (file.isEmpty()) return std::nullopt;
-  const std::filesystem::path percorso = file.toStdString();
+                  [aggiornamento](Avanzamento& avanzamento) {
+                    return aggiornamento.Scarica([&](std::string passo) { avanzamento.Passo(std::move(passo)); });
+                  }};
+  if (scelta != 1u) return std::nullopt;
+  auto file = dialoghi.ScegliFile("File dei risultati del Lotto", contesto.Configurazione().base, kFiltroRisultati);
+  if (!file) return std::nullopt;
   return Lavoro{QStringLiteral("Importazione dei risultati..."),
-                [aggiornamento, percorso] { return aggiornamento.ImportaDaFile(percorso); }};
+                [aggiornamento, percorso = *file](Avanzamento&) { return aggiornamento.ImportaDaFile(percorso); }};
 }
 
-QString TestoAggiunte(int aggiunte) {
-  if (aggiunte == 0) return QStringLiteral("L'archivio è già aggiornato: nessuna nuova estrazione.");
-  if (aggiunte == 1) return QStringLiteral("Aggiunta 1 estrazione all'archivio.");
-  return QStringLiteral("Aggiunte %1 estrazioni all'archivio.").arg(aggiunte);
+// A report with a critical failure in it says so by its icon.
+TipoAvviso TipoDelResoconto(const EsitoAggiornamento& esito) {
+  auto critico = [](const Esito<int>& aggiunte) { return !aggiunte && aggiunte.Errore().tipo == TipoAvviso::Critico; };
+  bool grave = critico(esito.lotto.aggiunte);
+  for (const EsitoAggiornamento::DelGioco& del : esito.giochi) grave = grave || critico(del.esito.aggiunte);
+  return grave ? TipoAvviso::Critico : TipoAvviso::Esclamativo;
 }
 
-void MostraEsito(ContestoGui& contesto, QWidget* finestra, const Esito<int>& esito) {
-  SegnalatoreGui segnalatore(finestra);
-  if (!esito) {
-    Avviso avviso = esito.Errore();
-    if (avviso.titolo.empty()) avviso.titolo = kTitolo.toStdString();
-    segnalatore.Mostra(avviso);
-    // An archive refused for a partial record at its end is reloaded: the main window then offers
-    // its repair, as it does when it opens one.
-    std::error_code ec;
-    const uintmax_t lunghezza = std::filesystem::file_size(contesto.Configurazione().ArchivioLotto(), ec);
-    if (!ec && lunghezza % kByteRecordArchivio != 0) (void)contesto.RicaricaArchivio();
-    return;
-  }
-  // The file grew even if the reload fails, so both outcomes are told.
-  if (*esito > 0)
-    if (auto ricaricato = contesto.RicaricaArchivio(); !ricaricato) segnalatore.Mostra(ricaricato.Errore());
-  QMessageBox::information(finestra, kTitolo, TestoAggiunte(*esito));
+void MostraEsito(ContestoGui& contesto, DialoghiArchivio& dialoghi, const EsitoAggiornamento& esito) {
+  // The files grew even if a reload fails, so both are told.
+  if (esito.lotto.aggiunte.ValoreOppure(0) > 0)
+    if (auto ricaricato = contesto.RicaricaArchivio(); !ricaricato) dialoghi.Mostra(ricaricato.Errore());
+  if (esito.GiochiCambiati()) contesto.RicaricaArchiviGiochi();
+
+  const std::string testo = TestoAggiornamento(esito);
+  if (esito.Riuscito())
+    dialoghi.Informa(kTitolo, testo);
+  else
+    dialoghi.Mostra(Avviso{TipoDelResoconto(esito), kTitolo, testo});
+
+  if (esito.lotto.aggiunte) return;
+  // A Lotto archive refused for a partial record at its end is reloaded: the main window then offers
+  // its repair, as it does when it opens one.
+  std::error_code ec;
+  const uintmax_t lunghezza = std::filesystem::file_size(contesto.Configurazione().ArchivioLotto(), ec);
+  if (!ec && lunghezza % kByteRecordArchivio != 0) (void)contesto.RicaricaArchivio();
 }
 
 }  // namespace
 
-void AvviaAggiornamentoArchivio(ContestoGui& contesto, QWidget* finestra) {
-  const AggiornamentoArchivio aggiornamento(contesto.Configurazione());
-  std::optional<Lavoro> lavoro = ScegliLavoro(aggiornamento, contesto.Configurazione(), finestra);
+void AvviaAggiornamentoArchivio(ContestoGui& contesto, QWidget* finestra, std::shared_ptr<DialoghiArchivio> dialoghi) {
+  dialoghi = DialoghiPer(std::move(dialoghi), finestra);
+  std::optional<Lavoro> lavoro = ScegliLavoro(contesto, *dialoghi);
   if (!lavoro) return;
+  AvviaLavoroConProgresso<EsitoAggiornamento>(finestra, QString::fromStdString(kTitolo), lavoro->descrizione,
+                                              "AggiornamentoArchivio.Avvia", std::move(lavoro->esegui),
+                                              [&contesto, dialoghi](const Esito<EsitoAggiornamento>& esito) {
+                                                if (esito)
+                                                  MostraEsito(contesto, *dialoghi, *esito);
+                                                else
+                                                  dialoghi->Mostra(esito.Errore());
+                                              });
+}
 
-  // No cancel button: neither the download nor the import can be stopped half-way safely.
-  auto* progresso = new QProgressDialog(lavoro->descrizione, QString(), 0, 0, finestra);
-  progresso->setWindowTitle(kTitolo);
-  progresso->setWindowModality(Qt::ApplicationModal);
-  progresso->setMinimumDuration(0);
-  progresso->show();
-
-  auto esito = std::make_shared<std::optional<Esito<int>>>();
-  QThread* thread = QThread::create(
-      [esito, esegui = lavoro->esegui] { *esito = SenzaEccezioni<int>("AggiornamentoArchivio.Avvia", esegui); });
-  QObject::connect(thread, &QThread::finished, progresso, [&contesto, finestra, progresso, thread, esito] {
-    thread->deleteLater();
-    progresso->deleteLater();
-    progresso->close();
-    MostraEsito(contesto, finestra, **esito);
-  });
-  thread->start();
+void AvviaImportazioneGioco(ContestoGui& contesto, Gioco gioco, QWidget* finestra,
+                            std::shared_ptr<DialoghiArchivio> dialoghi) {
+  dialoghi = DialoghiPer(std::move(dialoghi), finestra);
+  const std::string nome(Formato(gioco).nome);
+  auto file = dialoghi->ScegliFile("File dei risultati del " + nome, contesto.Configurazione().base, kFiltroRisultati);
+  if (!file) return;
+  const std::string titolo = "Importa nell'" + NomeArchivioGioco(Formato(gioco));
+  AvviaLavoroConProgresso<EsitoImportazione>(
+      finestra, QString::fromStdString(titolo), QStringLiteral("Importazione dei risultati..."),
+      "ImportazioneGioco.Avvia",
+      [configurazione = contesto.Configurazione(), gioco, percorso = *file](Avanzamento&) {
+        return ImportaRisultatiGioco(configurazione, gioco, percorso);
+      },
+      [&contesto, dialoghi, nome, titolo](const Esito<EsitoImportazione>& esito) {
+        if (!esito) {
+          dialoghi->Mostra(esito.Errore());
+          return;
+        }
+        if (esito->aggiunte.ValoreOppure(0) > 0) contesto.RicaricaArchiviGiochi();
+        const std::string testo = ConAvvisi(RigaImportazione(nome, esito->aggiunte), esito->avvisi);
+        if (esito->aggiunte)
+          dialoghi->Informa(titolo, testo);
+        else
+          dialoghi->Mostra(Avviso{esito->aggiunte.Errore().tipo, titolo, testo});
+      });
 }
 
 }  // namespace lottolab::gui

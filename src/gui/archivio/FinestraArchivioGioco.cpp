@@ -12,6 +12,7 @@
 
 #include <algorithm>
 
+#include "gui/archivio/AvvioAggiornamento.h"
 #include "gui/archivio/ModelloEstrazioniGioco.h"
 #include "gui/principale/Finestre.h"
 #include "gui/principale/GiocoFinestra.h"
@@ -51,12 +52,16 @@ class FinestraArchivioGioco : public QWidget {
     auto* vai = new QPushButton(QStringLiteral("Vai"));
     vai->setObjectName(QStringLiteral("pulsanteVai"));
     m_esito_ricerca->setObjectName(QStringLiteral("esitoRicerca"));
+    auto* importa = new QPushButton(QStringLiteral("Importa da file..."));
+    importa->setObjectName(QStringLiteral("pulsanteImporta"));
+    importa->setToolTip(QStringLiteral("Aggiunge all'archivio le estrazioni di un file dei risultati, di testo o zip"));
 
     auto* barra = new QHBoxLayout;
     barra->addWidget(new QLabel(QStringLiteral("Vai alla data:")));
     barra->addWidget(m_data);
     barra->addWidget(vai);
     barra->addWidget(m_esito_ricerca, 1);
+    barra->addWidget(importa);
 
     m_avviso->setObjectName(QStringLiteral("avvisoArchivio"));
     m_avviso->setTextFormat(Qt::RichText);
@@ -99,6 +104,7 @@ class FinestraArchivioGioco : public QWidget {
               m_dettaglio->setText(TestoDettaglio(m_modello->Dettaglio(corrente.row())));
             });
     connect(vai, &QPushButton::clicked, this, &FinestraArchivioGioco::VaiAllaData);
+    connect(importa, &QPushButton::clicked, this, [this] { AvviaImportazioneGioco(m_contesto, m_gioco, this); });
     connect(&m_contesto, &ContestoGui::ArchiviGiochiCambiati, this, &FinestraArchivioGioco::MostraArchivio);
     MostraArchivio();
   }
@@ -175,11 +181,12 @@ class FinestraArchivioGioco : public QWidget {
     if (!errore.empty())
       return QStringLiteral(
                  "<b>L'archivio del %1 non si può leggere.</b><p>%2</p>Per ricostruirlo, mettilo da parte e "
-                 "importa di nuovo i risultati dal terminale, poi riapri lottolab:%3Archivio: %4")
+                 "importa di nuovo i risultati con <b>Importa da file...</b>, oppure dal terminale (poi riapri "
+                 "lottolab):%3Archivio: %4")
           .arg(DaStd(formato.nome), QString::fromStdString(errore).toHtmlEscaped(), comando, file);
     return QStringLiteral(
-               "<b>L'archivio del %1 è vuoto.</b><br>Per riempirlo importa un file dei risultati dal "
-               "terminale, poi riapri lottolab:%2Archivio atteso: %3")
+               "<b>L'archivio del %1 è vuoto.</b><br>Per riempirlo importa un file dei risultati con <b>Importa da "
+               "file...</b>, oppure dal terminale (poi riapri lottolab):%2Archivio atteso: %3")
         .arg(DaStd(formato.nome), comando, file);
   }
 

@@ -12,8 +12,8 @@ namespace lottolab::gui {
 
 // The list of the archive's draws, with a draw's detail, a jump to a date and the update.
 QWidget* NuovaFinestraArchivio(ContestoGui& contesto, QWidget* parent = nullptr);
-// The list of the draws of another game (one of kGiochiDesktop), with a draw's detail and a jump to
-// a date; an empty archive says how to import it.
+// The list of the draws of another game (one of kGiochiDesktop), with a draw's detail, a jump to
+// a date and the import of a results file; an empty archive says how to import it.
 QWidget* NuovaFinestraArchivioGioco(ContestoGui& contesto, Gioco gioco, QWidget* parent = nullptr);
 // The script window; with a file, the script read from it.
 QWidget* NuovaFinestraScript(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);

@@ -114,12 +114,13 @@ class FinestraArchivioTest : public QObject {
     AggiornamentoArchivio aggiornamento(Configurazione("[GENERALE]\nsFileBd=dati/Estrazioni.dat\n"));
     const auto archivio = *m_cartella / "dati" / "Estrazioni.dat";
 
-    auto prima = aggiornamento.ImportaDaFile(Scrivi("risultati.txt", kRisultati));
+    auto prima = aggiornamento.ImportaDaFile(Scrivi("risultati.txt", kRisultati)).lotto.aggiunte;
     QVERIFY2(prima.Riuscito(), prima.Riuscito() ? "" : prima.Errore().testo.c_str());
     QCOMPARE(*prima, 3);
     QCOMPARE(std::filesystem::file_size(archivio), uintmax_t{3 * 67});
 
-    auto di_nuovo = aggiornamento.ImportaDaFile(Scrivi("risultati.txt", std::string(kRisultati) + kRisultatiSeguenti));
+    auto di_nuovo = aggiornamento.ImportaDaFile(Scrivi("risultati.txt", std::string(kRisultati) + kRisultatiSeguenti))
+                        .lotto.aggiunte;
     QVERIFY(di_nuovo.Riuscito());
     // Only the draw the archive lacks is added.
     QCOMPARE(*di_nuovo, 1);
@@ -134,7 +135,7 @@ class FinestraArchivioTest : public QObject {
     const auto risultati = Scrivi("pubblicati.txt", kRisultati);
     AggiornamentoArchivio aggiornamento(
         Configurazione("[GENERALE]\nsIndirizzoRisultati=file://" + risultati.string() + "\n"));
-    auto aggiunte = aggiornamento.Scarica();
+    auto aggiunte = aggiornamento.Scarica().lotto.aggiunte;
     QVERIFY2(aggiunte.Riuscito(), aggiunte.Riuscito() ? "" : aggiunte.Errore().testo.c_str());
     QCOMPARE(*aggiunte, 3);
     QCOMPARE(std::filesystem::file_size(*m_cartella / "BaseDati.dat"), uintmax_t{3 * 67});
@@ -145,11 +146,12 @@ class FinestraArchivioTest : public QObject {
     AggiornamentoArchivio aggiornamento(Configurazione());
     QVERIFY(aggiornamento.ImportaDaFile(Scrivi("risultati.txt", kRisultati)).Riuscito());
 
-    auto mancante = aggiornamento.ImportaDaFile(*m_cartella / "non-esiste.txt");
+    auto mancante = aggiornamento.ImportaDaFile(*m_cartella / "non-esiste.txt").lotto.aggiunte;
     QVERIFY(!mancante.Riuscito());
     QVERIFY(!mancante.Errore().testo.empty());
 
-    auto contraddice = aggiornamento.ImportaDaFile(Scrivi("altri.txt", "2005/04/30\tBA\t9\t2\t3\t4\t5\n"));
+    auto contraddice =
+        aggiornamento.ImportaDaFile(Scrivi("altri.txt", "2005/04/30\tBA\t9\t2\t3\t4\t5\n")).lotto.aggiunte;
     QVERIFY(!contraddice.Riuscito());
     QVERIFY(contraddice.Errore().testo.find("Riga 1") != std::string::npos);
 
