@@ -8,15 +8,12 @@
 #include "Argomenti.h"
 #include "Comandi.h"
 #include "app/ErroreInatteso.h"
-#include "archive/ArchivioGenerico.h"
 #include "archive/ArchivioGioco.h"
 #include "archive/ClsEstrazioni.h"
 #include "archive/DateEstrazione.h"
 #include "archive/DieciELotto.h"
 #include "archive/DieciELottoOgniCinqueMinuti.h"
-#include "archive/ImportaRisultati.h"
-#include "archive/SuperEnalotto.h"
-#include "archive/WinForLife.h"
+#include "archive/RisultatiGioco.h"
 #include "stats/RitardiGioco.h"
 
 namespace lottolab::cli {
@@ -29,66 +26,13 @@ Avviso UsoErrato(const Contesto& contesto, std::string_view uso) {
   return AvvisoEsclamativo(fmt::format("uso: lottolab --gioco {} {}", Formato(*contesto.gioco).sigla, uso));
 }
 
-// The Lotto archive that the SuperEnalotto before 2009 and the evening 10eLotto are derived from;
-// an empty table, with a warning, when there is none yet.
-TabellaEstrazioni ArchivioDelLotto(Contesto& contesto) {
-  const fs::path file = contesto.configurazione.ArchivioLotto();
-  std::error_code ec;
-  if (!fs::exists(file, ec)) {
-    contesto.segnalatore.Avverti(
-        fmt::format("l'archivio del Lotto {} non c'è: le estrazioni che ne derivano non sono "
-                    "state ricavate",
-                    app::PercorsoPerMessaggio(file.string())));
-    return {};
-  }
-  auto tabella = ClsEstrazioni(file).CaricaEstrazioni();
-  if (!tabella) {
-    contesto.segnalatore.Avverti(tabella.Errore().testo);
-    return {};
-  }
-  return *tabella;
-}
-
-// The draws of a text for the generic archive, or of another generic archive's file. A text that
-// does not say its K and M is read in those of the archive it goes into.
-Esito<TabellaGioco> LeggiEstrazioniGeneriche(const Contesto& contesto, const fs::path& file, std::string_view testo) {
-  if (IsArchivioGenerico(testo)) return CaricaArchivioGenerico(file);
-  MisureGeneriche misure;
-  std::error_code ec;
-  if (!MisureDichiarate(testo) && fs::exists(contesto.archivio, ec))
-    if (auto archivio = CaricaArchivioGenerico(contesto.archivio))
-      misure = {archivio->formato().numeri, archivio->formato().massimo};
-  return LeggiArchivioGenerico(testo, misure);
-}
-
 // The draws of a results file for the game, with what it leaves in doubt told as warnings.
 Esito<TabellaGioco> LeggiRisultati(Contesto& contesto, const fs::path& file) {
-  auto letto = LeggiTestoRisultati(file);
-  if (!letto) return letto.Errore();
-  const std::string_view testo = *letto;
-  switch (*contesto.gioco) {
-    case Gioco::SuperEnalotto: {
-      auto risultati = LeggiRisultatiSuperEnalotto(testo);
-      if (!risultati) return risultati.Errore();
-      return ArchivioSuperEnalotto(ArchivioDelLotto(contesto), *risultati);
-    }
-    case Gioco::DieciELotto: {
-      auto risultati = LeggiRisultatiDieciELotto(testo);
-      if (!risultati) return risultati.Errore();
-      auto costruito = ArchivioDieciELotto(ArchivioDelLotto(contesto), *risultati);
-      for (const std::string& differenza : costruito.differenze) contesto.segnalatore.Avverti(differenza);
-      return costruito.tabella;
-    }
-    case Gioco::DieciELottoOgniCinqueMinuti: {
-      auto risultati = LeggiRisultatiCinqueMinuti(testo);
-      if (!risultati) return risultati.Errore();
-      for (const std::string& segnalazione : risultati->segnalazioni) contesto.segnalatore.Avverti(segnalazione);
-      return risultati->tabella;
-    }
-    case Gioco::WinForLife: return LeggiRisultatiWinForLife(testo);
-    case Gioco::Generico: break;
-  }
-  return LeggiEstrazioniGeneriche(contesto, file, testo);
+  std::vector<std::string> avvisi;
+  auto letti =
+      LeggiRisultatiGioco(*contesto.gioco, file, contesto.archivio, contesto.configurazione.ArchivioLotto(), avvisi);
+  for (const std::string& avviso : avvisi) contesto.segnalatore.Avverti(avviso);
+  return letti;
 }
 
 std::string Ora(const FormatoGioco& formato, const EstrazioneGioco& estrazione) {

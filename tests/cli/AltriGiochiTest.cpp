@@ -23,7 +23,7 @@ TEST_F(AltriGiochi, OgniGiocoHaIlSuoArchivioNellaCartellaBase) {
   auto importa = Lottolab({"--gioco", "SE", "importa", risultati});
   EXPECT_EQ(importa.codice, 0) << importa.err;
   EXPECT_EQ(importa.out, "importate 2 estrazioni del SuperEnalotto\n");
-  EXPECT_NE(importa.err.find("l'archivio del Lotto"), std::string::npos) << "nothing to derive the years before from";
+  EXPECT_NE(importa.err.find("L'archivio del Lotto"), std::string::npos) << "nothing to derive the years before from";
   EXPECT_TRUE(std::filesystem::exists(m_base / "SuperEnalotto.dat"));
   EXPECT_FALSE(std::filesystem::exists(m_base / "BaseDati.dat")) << "the Lotto archive is not touched";
 

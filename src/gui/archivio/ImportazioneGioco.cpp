@@ -5,14 +5,8 @@
 #include <algorithm>
 
 #include "app/ErroreInatteso.h"
-#include "archive/ArchivioGenerico.h"
 #include "archive/ArchivioGioco.h"
-#include "archive/ClsEstrazioni.h"
-#include "archive/DieciELotto.h"
-#include "archive/DieciELottoOgniCinqueMinuti.h"
-#include "archive/ImportaRisultati.h"
-#include "archive/SuperEnalotto.h"
-#include "archive/WinForLife.h"
+#include "archive/RisultatiGioco.h"
 
 namespace lottolab::gui {
 
@@ -22,71 +16,12 @@ namespace {
 
 constexpr size_t kAvvisiMostrati = 8;
 
-// The Lotto archive that the SuperEnalotto before 2009 and the evening 10eLotto are derived from;
-// an empty table, with a warning, when there is none to read.
-TabellaEstrazioni ArchivioDelLotto(const fs::path& file, std::vector<std::string>& avvisi) {
-  std::error_code ec;
-  if (!fs::exists(file, ec)) {
-    avvisi.push_back(
-        fmt::format("L'archivio del Lotto {} non c'è: le estrazioni che ne derivano non sono state ricavate.",
-                    app::PercorsoPerMessaggio(file.string())));
-    return {};
-  }
-  auto tabella = ClsEstrazioni(file).CaricaEstrazioni();
-  if (!tabella) {
-    avvisi.push_back(tabella.Errore().testo);
-    return {};
-  }
-  return std::move(tabella).Valore();
-}
-
-// A text for the generic archive, or another generic archive's file. A text that does not say its
-// K and M is read in those of the archive it goes into.
-Esito<TabellaGioco> LeggiEstrazioniGeneriche(const fs::path& archivio, const fs::path& file, std::string_view testo) {
-  if (IsArchivioGenerico(testo)) return CaricaArchivioGenerico(file);
-  MisureGeneriche misure;
-  std::error_code ec;
-  if (!MisureDichiarate(testo) && fs::exists(archivio, ec))
-    if (auto esistente = CaricaArchivioGenerico(archivio))
-      misure = {esistente->formato().numeri, esistente->formato().massimo};
-  return LeggiArchivioGenerico(testo, misure);
-}
-
-Esito<TabellaGioco> LeggiRisultati(const app::Configurazione& configurazione, Gioco gioco, const fs::path& file,
-                                   std::vector<std::string>& avvisi) {
-  auto letto = LeggiTestoRisultati(file);
-  if (!letto) return letto.Errore();
-  const std::string_view testo = *letto;
-  switch (gioco) {
-    case Gioco::SuperEnalotto: {
-      auto risultati = LeggiRisultatiSuperEnalotto(testo);
-      if (!risultati) return risultati.Errore();
-      return ArchivioSuperEnalotto(ArchivioDelLotto(configurazione.ArchivioLotto(), avvisi), std::move(*risultati));
-    }
-    case Gioco::DieciELotto: {
-      auto risultati = LeggiRisultatiDieciELotto(testo);
-      if (!risultati) return risultati.Errore();
-      auto costruito = ArchivioDieciELotto(ArchivioDelLotto(configurazione.ArchivioLotto(), avvisi), *risultati);
-      avvisi.insert(avvisi.end(), costruito.differenze.begin(), costruito.differenze.end());
-      return std::move(costruito.tabella);
-    }
-    case Gioco::DieciELottoOgniCinqueMinuti: {
-      auto risultati = LeggiRisultatiCinqueMinuti(testo);
-      if (!risultati) return risultati.Errore();
-      avvisi.insert(avvisi.end(), risultati->segnalazioni.begin(), risultati->segnalazioni.end());
-      return std::move(risultati->tabella);
-    }
-    case Gioco::WinForLife: return LeggiRisultatiWinForLife(testo);
-    case Gioco::Generico: break;
-  }
-  return LeggiEstrazioniGeneriche(configurazione.ArchivioGioco(gioco), file, testo);
-}
-
 }  // namespace
 
 EsitoImportazione ImportaRisultatiGioco(const app::Configurazione& configurazione, Gioco gioco, const fs::path& file) {
   EsitoImportazione esito;
-  auto nuove = LeggiRisultati(configurazione, gioco, file, esito.avvisi);
+  auto nuove = LeggiRisultatiGioco(gioco, file, configurazione.ArchivioGioco(gioco), configurazione.ArchivioLotto(),
+                                   esito.avvisi);
   if (!nuove) {
     esito.aggiunte = nuove.Errore();
     return esito;
