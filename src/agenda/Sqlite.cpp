@@ -126,6 +126,15 @@ Esito<Connessione> Connessione::Apri(const fs::path& file) {
 Connessione::Connessione(Connessione&& altra) noexcept
     : m_file(std::move(altra.m_file)), m_db(std::exchange(altra.m_db, nullptr)) {}
 
+Connessione& Connessione::operator=(Connessione&& altra) noexcept {
+  if (this != &altra) {
+    sqlite3_close(m_db);
+    m_file = std::move(altra.m_file);
+    m_db = std::exchange(altra.m_db, nullptr);
+  }
+  return *this;
+}
+
 Connessione::~Connessione() { sqlite3_close(m_db); }
 
 Esito<Istruzione> Connessione::Prepara(std::string_view sql) const {

@@ -62,7 +62,7 @@ class Connessione {
   static Esito<Connessione> Apri(const std::filesystem::path& file);
 
   Connessione(Connessione&& altra) noexcept;
-  Connessione& operator=(Connessione&&) = delete;
+  Connessione& operator=(Connessione&& altra) noexcept;
   Connessione(const Connessione&) = delete;
   ~Connessione();
 
