@@ -17,7 +17,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string TestoData(const GruppoData& data) { return fmt::format("{:04}-{:02}-{:02}", data.anno, data.mese, data.giorno); }
+std::string TestoData(const GruppoData& data) {
+  return fmt::format("{:04}-{:02}-{:02}", data.anno, data.mese, data.giorno);
+}
 
 // "AAAA-MM-GG" back into a date; anything else gives none, and the caller refuses the record.
 std::optional<GruppoData> DataDaTesto(std::string_view testo) {
@@ -70,8 +72,12 @@ constexpr std::string_view kSommeVerifiche =
     "COALESCE(SUM(v.netto), 0), COALESCE(SUM(v.lordo > 0), 0)";
 
 Totali LeggiTotali(const Istruzione& riga, int prima) {
-  return Totali{riga.Intero(prima + 1), riga.Intero(prima + 2), riga.Intero(prima + 3), riga.Intero(prima + 4),
-                static_cast<int>(riga.Intero(prima)), static_cast<int>(riga.Intero(prima + 5))};
+  return Totali{riga.Intero(prima + 1),
+                riga.Intero(prima + 2),
+                riga.Intero(prima + 3),
+                riga.Intero(prima + 4),
+                static_cast<int>(riga.Intero(prima)),
+                static_cast<int>(riga.Intero(prima + 5))};
 }
 
 // A count or index read back from the file, kept within int; the checks that follow refuse it when
@@ -148,16 +154,16 @@ Esito<int64_t> Agenda::Aggiungi(const Giocata& giocata) {
     if (auto fatto = scrivi(
             "INSERT INTO poste VALUES (?, ?, ?, ?)",
             [&](Istruzione& i, size_t k) {
-              i.Lega(2, static_cast<int64_t>(k) + 1).Lega(3, giocata.poste[k].sorte).Lega(4, giocata.poste[k].centesimi);
+              i.Lega(2, static_cast<int64_t>(k) + 1)
+                  .Lega(3, giocata.poste[k].sorte)
+                  .Lega(4, giocata.poste[k].centesimi);
             },
             giocata.poste.size());
         !fatto)
       return fatto.Errore();
     if (auto fatto = scrivi(
             "INSERT INTO progressione VALUES (?, ?, ?)",
-            [&](Istruzione& i, size_t k) {
-              i.Lega(2, static_cast<int64_t>(k) + 1).Lega(3, giocata.progressione[k]);
-            },
+            [&](Istruzione& i, size_t k) { i.Lega(2, static_cast<int64_t>(k) + 1).Lega(3, giocata.progressione[k]); },
             giocata.progressione.size());
         !fatto)
       return fatto.Errore();
@@ -199,8 +205,8 @@ Esito<Giocata> Agenda::Carica(int64_t id) const {
   giocata.creata = riga->Intero(7);
   if (auto parti = CaricaParti(giocata); !parti) return parti.Errore();
   if (auto valida = ControllaGiocata(giocata); !valida)
-    return AvvisoEsclamativo(fmt::format("la giocata {} dell'agenda {} non è valida: {}", id, File().string(),
-                                         valida.Errore().testo));
+    return AvvisoEsclamativo(
+        fmt::format("la giocata {} dell'agenda {} non è valida: {}", id, File().string(), valida.Errore().testo));
   return giocata;
 }
 
@@ -232,7 +238,9 @@ Esito<Fatto> Agenda::CaricaParti(Giocata& giocata) const {
       !fatto)
     return fatto;
   if (auto fatto = leggi("SELECT sorte, centesimi FROM poste WHERE giocata = ? ORDER BY ordine",
-                         [&](const Istruzione& r) { giocata.poste.push_back(Posta{r.Testo(0), r.Intero(1)}); });
+                         [&](const Istruzione& r) {
+                           giocata.poste.push_back(Posta{r.Testo(0), r.Intero(1)});
+                         });
       !fatto)
     return fatto;
   return leggi("SELECT fattore FROM progressione WHERE giocata = ? ORDER BY colpo",
@@ -240,10 +248,10 @@ Esito<Fatto> Agenda::CaricaParti(Giocata& giocata) const {
 }
 
 Esito<std::vector<VoceAgenda>> Agenda::Elenco(const FiltroGiocate& filtro) const {
-  auto righe = m_connessione.Prepara(fmt::format(
-      "SELECT g.id, {}, {} FROM giocate g LEFT JOIN verifiche v ON v.giocata = g.id WHERE {} GROUP BY g.id "
-      "ORDER BY g.id",
-      kChiusa, kSommeVerifiche, CondizioneFiltro(filtro)));
+  auto righe = m_connessione.Prepara(
+      fmt::format("SELECT g.id, {}, {} FROM giocate g LEFT JOIN verifiche v ON v.giocata = g.id WHERE {} GROUP BY g.id "
+                  "ORDER BY g.id",
+                  kChiusa, kSommeVerifiche, CondizioneFiltro(filtro)));
   if (!righe) return righe.Errore();
   std::vector<VoceAgenda> voci;
   for (;;) {
@@ -284,7 +292,8 @@ Esito<Fatto> Agenda::SalvaVerifiche(int64_t id, const std::vector<VerificaColpo>
 Esito<Fatto> Agenda::ScriviVerifiche(const Giocata& giocata, const std::vector<VerificaColpo>& verifiche) {
   std::set<ChiaveVincita> viste;
   {
-    auto righe = m_connessione.Prepara("SELECT colpo, ruota, sorte, numeri FROM vincite WHERE giocata = ? AND vista = 1");
+    auto righe =
+        m_connessione.Prepara("SELECT colpo, ruota, sorte, numeri FROM vincite WHERE giocata = ? AND vista = 1");
     if (!righe) return righe.Errore();
     righe->Lega(1, giocata.id);
     for (;;) {
@@ -339,8 +348,8 @@ Esito<std::vector<VerificaColpo>> Agenda::Verifiche(int64_t id) const {
     if (!*passo) break;
     auto data = DataDaTesto(colpi->Testo(2));
     if (colpi->Intero(0) != static_cast<int64_t>(verifiche.size()) + 1 || !data) return guasta;
-    verifiche.push_back(VerificaColpo{Stretto(colpi->Intero(1)), *data,
-                                      colpi->Intero(3), colpi->Intero(4), colpi->Intero(5), colpi->Intero(6), {}});
+    verifiche.push_back(VerificaColpo{
+        Stretto(colpi->Intero(1)), *data, colpi->Intero(3), colpi->Intero(4), colpi->Intero(5), colpi->Intero(6), {}});
   }
   auto vincite = m_connessione.Prepara(
       "SELECT colpo, ruota, sorte, numeri, combinazioni, lordo FROM vincite WHERE giocata = ? ORDER BY colpo, ordine");
@@ -354,8 +363,7 @@ Esito<std::vector<VerificaColpo>> Agenda::Verifiche(int64_t id) const {
     auto numeri = NumeriDaTesto(vincite->Testo(3));
     if (colpo < 1 || colpo > static_cast<int64_t>(verifiche.size()) || !numeri) return guasta;
     verifiche[static_cast<size_t>(colpo) - 1].vincite.push_back(
-        VincitaColpo{Stretto(vincite->Intero(1)), vincite->Testo(2),
-                     std::move(*numeri), Stretto(vincite->Intero(4)),
+        VincitaColpo{Stretto(vincite->Intero(1)), vincite->Testo(2), std::move(*numeri), Stretto(vincite->Intero(4)),
                      vincite->Intero(5)});
   }
   if (auto valide = ControllaVerifiche(*esiste, verifiche); !valide) return guasta;
@@ -375,9 +383,9 @@ Esito<Totali> Agenda::TotaliGiocata(int64_t id) const {
 }
 
 Esito<Totali> Agenda::TotaliComplessivi(const FiltroGiocate& filtro) const {
-  auto riga = m_connessione.Prepara(fmt::format(
-      "SELECT {} FROM giocate g JOIN verifiche v ON v.giocata = g.id WHERE {}", kSommeVerifiche,
-      CondizioneFiltro(filtro)));
+  auto riga =
+      m_connessione.Prepara(fmt::format("SELECT {} FROM giocate g JOIN verifiche v ON v.giocata = g.id WHERE {}",
+                                        kSommeVerifiche, CondizioneFiltro(filtro)));
   if (!riga) return riga.Errore();
   auto passo = riga->Passo();
   if (!passo) return passo.Errore();
@@ -415,12 +423,12 @@ Esito<std::vector<VincitaNonVista>> Agenda::VinciteNonViste() const {
     auto data = DataDaTesto(righe->Testo(3));
     auto numeri = NumeriDaTesto(righe->Testo(6));
     if (!data || !numeri)
-      return AvvisoEsclamativo(fmt::format("una vincita della giocata {} nell'agenda {} non è valida: il file è stato alterato",
-                                           righe->Intero(0), File().string()));
-    non_viste.push_back(VincitaNonVista{
-        righe->Intero(0), Stretto(righe->Intero(1)), Stretto(righe->Intero(2)), *data,
-        VincitaColpo{Stretto(righe->Intero(4)), righe->Testo(5), std::move(*numeri), Stretto(righe->Intero(7)),
-                     righe->Intero(8)}});
+      return AvvisoEsclamativo(
+          fmt::format("una vincita della giocata {} nell'agenda {} non è valida: il file è stato alterato",
+                      righe->Intero(0), File().string()));
+    non_viste.push_back(VincitaNonVista{righe->Intero(0), Stretto(righe->Intero(1)), Stretto(righe->Intero(2)), *data,
+                                        VincitaColpo{Stretto(righe->Intero(4)), righe->Testo(5), std::move(*numeri),
+                                                     Stretto(righe->Intero(7)), righe->Intero(8)}});
   }
 }
 

@@ -57,10 +57,9 @@ Esito<Fatto> ControllaColonna(const RegoleGioco& regole, const std::vector<int>&
   std::set<int> visti;
   for (int numero : colonna) {
     if (numero < 1 || numero > regole.massimo)
-      return AvvisoEsclamativo(fmt::format("numero non valido{}: {} (deve essere tra 1 e {})", dove, numero,
-                                           regole.massimo));
-    if (!visti.insert(numero).second)
-      return AvvisoEsclamativo(fmt::format("il numero {} è ripetuto{}", numero, dove));
+      return AvvisoEsclamativo(
+          fmt::format("numero non valido{}: {} (deve essere tra 1 e {})", dove, numero, regole.massimo));
+    if (!visti.insert(numero).second) return AvvisoEsclamativo(fmt::format("il numero {} è ripetuto{}", numero, dove));
   }
   return Fatto{};
 }
@@ -73,10 +72,8 @@ Esito<Fatto> ControllaRuote(const Giocata& giocata) {
   if (giocata.ruote.empty()) return AvvisoEsclamativo("mancano le ruote della giocata");
   std::set<int> viste;
   for (int ruota : giocata.ruote) {
-    if (ruota < 1 || ruota > kTutteLeRuote)
-      return AvvisoEsclamativo(fmt::format("ruota non valida: {}", ruota));
-    if (!viste.insert(ruota).second)
-      return AvvisoEsclamativo(fmt::format("la ruota {} è ripetuta", SiglaRuota(ruota)));
+    if (ruota < 1 || ruota > kTutteLeRuote) return AvvisoEsclamativo(fmt::format("ruota non valida: {}", ruota));
+    if (!viste.insert(ruota).second) return AvvisoEsclamativo(fmt::format("la ruota {} è ripetuta", SiglaRuota(ruota)));
   }
   if (viste.contains(kTutteLeRuote) && viste.size() > 1)
     return AvvisoEsclamativo("TT (tutte le ruote) si gioca da sola, senza altre ruote");
@@ -89,19 +86,18 @@ Esito<Fatto> ControllaPoste(const Giocata& giocata) {
   for (const Posta& posta : giocata.poste) {
     const auto& sorti = SortiDelGioco(giocata.gioco);
     if (std::find(sorti.begin(), sorti.end(), posta.sorte) == sorti.end())
-      return AvvisoEsclamativo(fmt::format("sorte non valida per il gioco {}: {}", SiglaGioco(giocata.gioco),
-                                           posta.sorte));
+      return AvvisoEsclamativo(
+          fmt::format("sorte non valida per il gioco {}: {}", SiglaGioco(giocata.gioco), posta.sorte));
     if (!viste.insert(posta.sorte).second)
       return AvvisoEsclamativo(fmt::format("la posta sulla sorte {} è data due volte", posta.sorte));
     if (posta.centesimi <= 0 || posta.centesimi > kMassimaPosta)
-      return AvvisoEsclamativo(fmt::format("posta non valida sulla sorte {}: deve essere tra 0,01 e 200 euro",
-                                           posta.sorte));
+      return AvvisoEsclamativo(
+          fmt::format("posta non valida sulla sorte {}: deve essere tra 0,01 e 200 euro", posta.sorte));
     if (giocata.gioco == GiocoGiocata::Lotto) {
       const size_t servono = static_cast<size_t>(NumeriPerSorte(posta.sorte));
       for (const auto& colonna : giocata.colonne)
         if (colonna.size() < servono)
-          return AvvisoEsclamativo(
-              fmt::format("la sorte {} vuole almeno {} numeri per colonna", posta.sorte, servono));
+          return AvvisoEsclamativo(fmt::format("la sorte {} vuole almeno {} numeri per colonna", posta.sorte, servono));
     }
     const bool vuole_speciale = posta.sorte == "superstar" || posta.sorte == "gong";
     if (vuole_speciale && giocata.numero_speciale == 0)
@@ -119,12 +115,12 @@ Esito<Fatto> ControllaColpi(const Giocata& giocata) {
   if (giocata.colpi < 1 || giocata.colpi > kMassimiColpi)
     return AvvisoEsclamativo(fmt::format("colpi non validi: {} (da 1 a {})", giocata.colpi, kMassimiColpi));
   if (!giocata.progressione.empty() && giocata.progressione.size() != static_cast<size_t>(giocata.colpi))
-    return AvvisoEsclamativo(fmt::format("la progressione ha {} valori ma i colpi sono {}",
-                                         giocata.progressione.size(), giocata.colpi));
+    return AvvisoEsclamativo(
+        fmt::format("la progressione ha {} valori ma i colpi sono {}", giocata.progressione.size(), giocata.colpi));
   for (int fattore : giocata.progressione)
     if (fattore < 1 || fattore > kMassimoFattore)
-      return AvvisoEsclamativo(fmt::format("fattore della progressione non valido: {} (da 1 a {})", fattore,
-                                           kMassimoFattore));
+      return AvvisoEsclamativo(
+          fmt::format("fattore della progressione non valido: {} (da 1 a {})", fattore, kMassimoFattore));
   return Fatto{};
 }
 
@@ -163,13 +159,13 @@ Esito<Fatto> ControllaGiocata(const Giocata& giocata) {
   const RegoleGioco& regole = Regole(giocata.gioco);
   if (giocata.colonne.empty()) return AvvisoEsclamativo("mancano i numeri della giocata");
   if (giocata.colonne.size() > kMassimeColonne)
-    return AvvisoEsclamativo(fmt::format("troppe colonne: {} (al massimo {})", giocata.colonne.size(),
-                                         kMassimeColonne));
+    return AvvisoEsclamativo(
+        fmt::format("troppe colonne: {} (al massimo {})", giocata.colonne.size(), kMassimeColonne));
   for (size_t c = 0; c < giocata.colonne.size(); ++c)
     if (auto fatto = ControllaColonna(regole, giocata.colonne[c], giocata.colonne.size() == 1 ? 0 : c); !fatto)
       return fatto;
-  if (giocata.numero_speciale != 0 &&
-      (regole.massimo_speciale == 0 || giocata.numero_speciale < 1 || giocata.numero_speciale > regole.massimo_speciale))
+  if (giocata.numero_speciale != 0 && (regole.massimo_speciale == 0 || giocata.numero_speciale < 1 ||
+                                       giocata.numero_speciale > regole.massimo_speciale))
     return AvvisoEsclamativo(regole.massimo_speciale == 0
                                  ? std::string("il Lotto non ha un numero speciale")
                                  : fmt::format("numero speciale non valido: {} (deve essere tra 1 e {})",
@@ -180,16 +176,15 @@ Esito<Fatto> ControllaGiocata(const Giocata& giocata) {
   if (auto fatto = ControllaPoste(giocata); !fatto) return fatto;
   if (auto fatto = ControllaColpi(giocata); !fatto) return fatto;
   if (giocata.nota.size() > kMassimaNota)
-    return AvvisoEsclamativo(fmt::format("nota troppo lunga: {} caratteri (al massimo {})", giocata.nota.size(),
-                                         kMassimaNota));
+    return AvvisoEsclamativo(
+        fmt::format("nota troppo lunga: {} caratteri (al massimo {})", giocata.nota.size(), kMassimaNota));
   return Fatto{};
 }
 
 Esito<Fatto> ControllaVerifiche(const Giocata& giocata, const std::vector<VerificaColpo>& verifiche) {
   if (verifiche.size() > static_cast<size_t>(giocata.colpi))
-    return AvvisoEsclamativo(
-        fmt::format("la verifica ha {} estrazioni ma la giocata {} ha {} colpi", verifiche.size(), giocata.id,
-                    giocata.colpi));
+    return AvvisoEsclamativo(fmt::format("la verifica ha {} estrazioni ma la giocata {} ha {} colpi", verifiche.size(),
+                                         giocata.id, giocata.colpi));
   for (size_t k = 0; k < verifiche.size(); ++k) {
     const VerificaColpo& colpo = verifiche[k];
     const std::string quale = fmt::format("colpo {} della giocata {}", k + 1, giocata.id);

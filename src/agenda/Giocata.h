@@ -55,11 +55,11 @@ struct Giocata {
 
 // One win inside one draw's check.
 struct VincitaColpo {
-  int ruota = 0;              // wheel index; 0 for the games without wheels
-  std::string sorte;          // as the engine names it: "ambo", "punti 5", "10+1", ...
-  std::vector<int> numeri;    // the numbers played that came out
-  int combinazioni = 1;       // how many winning combinations
-  int64_t lordo = 0;          // cents
+  int ruota = 0;            // wheel index; 0 for the games without wheels
+  std::string sorte;        // as the engine names it: "ambo", "punti 5", "10+1", ...
+  std::vector<int> numeri;  // the numbers played that came out
+  int combinazioni = 1;     // how many winning combinations
+  int64_t lordo = 0;        // cents
 
   friend bool operator==(const VincitaColpo&, const VincitaColpo&) = default;
 };

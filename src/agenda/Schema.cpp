@@ -83,8 +83,8 @@ CREATE INDEX vincite_non_viste ON vincite (vista) WHERE vista = 0;
 std::string Nome(const Connessione& connessione) { return connessione.File().string(); }
 
 Avviso NonUnAgenda(const Connessione& connessione, std::string_view perche) {
-  return AvvisoEsclamativo(fmt::format("il file {} non è un'agenda delle giocate ({}): non viene modificato",
-                                       Nome(connessione), perche));
+  return AvvisoEsclamativo(
+      fmt::format("il file {} non è un'agenda delle giocate ({}): non viene modificato", Nome(connessione), perche));
 }
 
 Esito<Fatto> Migra(const Connessione& connessione) {
@@ -94,8 +94,8 @@ Esito<Fatto> Migra(const Connessione& connessione) {
     if (!versione) return versione.Errore();
     for (int v = static_cast<int>(*versione); v < VersioneSchema(); ++v)
       if (auto fatto = connessione.Esegui(Migrazioni()[static_cast<size_t>(v)]); !fatto) return fatto;
-    return connessione.Esegui(fmt::format("PRAGMA application_id = {}; PRAGMA user_version = {};", kIdApplicazione,
-                                          VersioneSchema()));
+    return connessione.Esegui(
+        fmt::format("PRAGMA application_id = {}; PRAGMA user_version = {};", kIdApplicazione, VersioneSchema()));
   });
 }
 

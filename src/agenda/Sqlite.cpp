@@ -18,27 +18,18 @@ constexpr int kAttesaMillisecondi = 5000;
 std::string_view Motivo(int codice) {
   switch (codice & 0xff) {
     case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-      return "è in uso da un altro programma";
-    case SQLITE_FULL:
-      return "il disco è pieno";
+    case SQLITE_LOCKED: return "è in uso da un altro programma";
+    case SQLITE_FULL: return "il disco è pieno";
     case SQLITE_READONLY:
     case SQLITE_PERM:
-    case SQLITE_AUTH:
-      return "non si può scrivere (permesso negato o file in sola lettura)";
+    case SQLITE_AUTH: return "non si può scrivere (permesso negato o file in sola lettura)";
     case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-      return "è danneggiato o non è un database";
-    case SQLITE_CANTOPEN:
-      return "non si può aprire";
-    case SQLITE_IOERR:
-      return "errore di lettura o scrittura sul disco";
-    case SQLITE_NOMEM:
-      return "memoria esaurita";
-    case SQLITE_CONSTRAINT:
-      return "dati non coerenti con lo schema";
-    default:
-      return {};
+    case SQLITE_NOTADB: return "è danneggiato o non è un database";
+    case SQLITE_CANTOPEN: return "non si può aprire";
+    case SQLITE_IOERR: return "errore di lettura o scrittura sul disco";
+    case SQLITE_NOMEM: return "memoria esaurita";
+    case SQLITE_CONSTRAINT: return "dati non coerenti con lo schema";
+    default: return {};
   }
 }
 

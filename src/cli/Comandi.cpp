@@ -70,6 +70,8 @@ constexpr std::array kComandi = {
             ComandoFunzioni},
     Comando{"cerca-figura", "FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]",
             "cerca una figura nell'archivio", ComandoCercaFigura},
+    Comando{"giocata", "aggiungi|elenco|rimuovi|verifica ...", "l'agenda delle giocate (lottolab giocata per l'uso)",
+            ComandoGiocata, ComandoGiocata},
 };
 
 // Descriptions line up in this column after the indent; a longer synopsis keeps its description

@@ -57,6 +57,9 @@ int ComandoStruttura(Contesto& contesto, const Parole& parole);
 // with --colpi, what its play did next.
 int ComandoCercaFigura(Contesto& contesto, const Parole& parole);
 
+// The agenda of the bets played: aggiungi, elenco, rimuovi, verifica.
+int ComandoGiocata(Contesto& contesto, const Parole& parole);
+
 // The whole command line: global options, then a command and its words. An exception that escapes
 // a command ends it with one line on `err` opening with app::kErroreInatteso, and status 1.
 int EseguiLottolab(const Parole& argomenti, std::ostream& out, std::ostream& err);

@@ -82,28 +82,59 @@ TEST_F(AgendaGiocate, LeGiocateNonValideSonoRifiutateSenzaScrivereNulla) {
       {"0", [](Giocata& g) { g.colonne[0][0] = 0; }, "numero non valido: 0 (deve essere tra 1 e 90)"},
       {"eleven numbers", [](Giocata& g) { g.colonne[0] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}; },
        "i numeri sono 11: ne servono da 1 a 10"},
-      {"repeat in column 2", [](Giocata& g) { g.colonne.push_back({7, 8, 7}); }, "il numero 7 è ripetuto della colonna 2"},
-      {"terno on two numbers", [](Giocata& g) { g.colonne[0] = {1, 2}; }, "la sorte terno vuole almeno 3 numeri per colonna"},
+      {"repeat in column 2",
+       [](Giocata& g) {
+         g.colonne.push_back({7, 8, 7});
+       },
+       "il numero 7 è ripetuto della colonna 2"},
+      {"terno on two numbers",
+       [](Giocata& g) {
+         g.colonne[0] = {1, 2};
+       },
+       "la sorte terno vuole almeno 3 numeri per colonna"},
       {"no wheels", [](Giocata& g) { g.ruote.clear(); }, "mancano le ruote della giocata"},
-      {"TT with BA", [](Giocata& g) { g.ruote = {kTutteLeRuote, BA}; }, "TT (tutte le ruote) si gioca da sola, senza altre ruote"},
-      {"wheel twice", [](Giocata& g) { g.ruote = {VE, VE}; }, "la ruota VE è ripetuta"},
-      {"stake twice", [](Giocata& g) { g.poste.push_back({"ambo", 5}); }, "la posta sulla sorte ambo è data due volte"},
+      {"TT with BA",
+       [](Giocata& g) {
+         g.ruote = {kTutteLeRuote, BA};
+       },
+       "TT (tutte le ruote) si gioca da sola, senza altre ruote"},
+      {"wheel twice",
+       [](Giocata& g) {
+         g.ruote = {VE, VE};
+       },
+       "la ruota VE è ripetuta"},
+      {"stake twice",
+       [](Giocata& g) {
+         g.poste.push_back({"ambo", 5});
+       },
+       "la posta sulla sorte ambo è data due volte"},
       {"zero stake", [](Giocata& g) { g.poste[0].centesimi = 0; },
        "posta non valida sulla sorte ambo: deve essere tra 0,01 e 200 euro"},
-      {"foreign sorte", [](Giocata& g) { g.poste[0].sorte = "superstar"; }, "sorte non valida per il gioco LO: superstar"},
+      {"foreign sorte", [](Giocata& g) { g.poste[0].sorte = "superstar"; },
+       "sorte non valida per il gioco LO: superstar"},
       {"no first draw", [](Giocata& g) { g.dal.reset(); }, "manca la prima estrazione in gioco"},
-      {"31 February", [](Giocata& g) { g.dal = GruppoData{0, 31, 2, 2023}; }, "data non valida: 31/02/2023"},
+      {"31 February",
+       [](Giocata& g) {
+         g.dal = GruppoData{0, 31, 2, 2023};
+       },
+       "data non valida: 31/02/2023"},
       {"no colpi", [](Giocata& g) { g.colpi = 0; }, "colpi non validi: 0 (da 1 a 999)"},
-      {"short progression", [](Giocata& g) { g.progressione = {1, 2}; }, "la progressione ha 2 valori ma i colpi sono 10"},
+      {"short progression",
+       [](Giocata& g) {
+         g.progressione = {1, 2};
+       },
+       "la progressione ha 2 valori ma i colpi sono 10"},
       {"Lotto special", [](Giocata& g) { g.numero_speciale = 5; }, "il Lotto non ha un numero speciale"},
-      {"WF wheels", [](Giocata& g) {
+      {"WF wheels",
+       [](Giocata& g) {
          g.gioco = GiocoGiocata::WinForLife;
          g.colonne = {{1, 2, 3, 4, 5, 6, 7, 8, 9, 20}};
          g.numero_speciale = 20;
          g.poste = {{"giocata", 100}};
        },
        "le ruote valgono solo per il Lotto"},
-      {"WF 21", [](Giocata& g) {
+      {"WF 21",
+       [](Giocata& g) {
          g.gioco = GiocoGiocata::WinForLife;
          g.ruote.clear();
          g.colonne = {{1, 2, 3, 4, 5, 6, 7, 8, 9, 21}};
@@ -111,7 +142,8 @@ TEST_F(AgendaGiocate, LeGiocateNonValideSonoRifiutateSenzaScrivereNulla) {
          g.poste = {{"giocata", 100}};
        },
        "numero non valido: 21 (deve essere tra 1 e 20)"},
-      {"SE superstar without its number", [](Giocata& g) {
+      {"SE superstar without its number",
+       [](Giocata& g) {
          g.gioco = GiocoGiocata::SuperEnalotto;
          g.ruote.clear();
          g.colonne = {{1, 2, 3, 4, 5, 6}};
@@ -243,9 +275,7 @@ TEST_F(AgendaGiocate, LaVerificaPassaLeGiocateAperteAlMotore) {
   EXPECT_EQ(VerificaGiocate(*m_agenda, motore, chiusa).Errore().testo,
             fmt::format("la verifica ha 2 estrazioni ma la giocata {} ha 1 colpi", chiusa))
       << "a bet named is checked even when closed";
-  auto guasto = [](const Giocata&) -> Esito<std::vector<VerificaColpo>> {
-    return AvvisoEsclamativo("archivio vuoto");
-  };
+  auto guasto = [](const Giocata&) -> Esito<std::vector<VerificaColpo>> { return AvvisoEsclamativo("archivio vuoto"); };
   EXPECT_EQ(VerificaGiocate(*m_agenda, guasto).Errore().testo, "archivio vuoto");
   EXPECT_EQ(VerificaGiocate(*m_agenda, motore, 77).Errore().testo, "la giocata 77 non è nell'agenda");
 }
@@ -257,7 +287,8 @@ TEST(Importi, LettiEScrittiAlCentesimo) {
   EXPECT_EQ(LeggiImporto("200").Valore(), 20000);
   for (const char* cattivo : {"", "-1", "1.", ".5", "1.005", "1,2,3", "1e3", "abc", " 1", "99999999"})
     EXPECT_FALSE(LeggiImporto(cattivo)) << cattivo;
-  EXPECT_EQ(LeggiImporto("x").Errore().testo, "importo non valido: x (euro con al più due decimali, per esempio 1 o 0,50)");
+  EXPECT_EQ(LeggiImporto("x").Errore().testo,
+            "importo non valido: x (euro con al più due decimali, per esempio 1 o 0,50)");
   EXPECT_EQ(FormattaImporto(238095), "2380,95");
   EXPECT_EQ(FormattaImporto(5), "0,05");
   EXPECT_EQ(FormattaImporto(-300), "-3,00");

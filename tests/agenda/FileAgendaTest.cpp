@@ -82,9 +82,10 @@ TEST_F(FileAgenda, UnFileDellaVersione1EAggiornatoETenuto) {
 TEST_F(FileAgenda, UnFileDiUnaVersionePiuRecenteERifiutato) {
   ASSERT_TRUE(Agenda::Apri(m_file));
   EseguiSql(m_file, "PRAGMA user_version = 3");
-  Rifiutato(fmt::format("l'agenda delle giocate {} è di una versione più recente del programma (schema 3, questa "
-                        "versione legge fino allo schema 2): aggiornare il programma; il file non viene modificato",
-                        m_file.string()));
+  Rifiutato(
+      fmt::format("l'agenda delle giocate {} è di una versione più recente del programma (schema 3, questa "
+                  "versione legge fino allo schema 2): aggiornare il programma; il file non viene modificato",
+                  m_file.string()));
 }
 
 TEST_F(FileAgenda, IFileCheNonSonoUnAgendaSonoRifiutatiSenzaToccarli) {
@@ -129,8 +130,8 @@ TEST_F(FileAgenda, UnFileVuotoDiventaUnAgenda) {
   EXPECT_TRUE(agenda->Aggiungi(test::GiocataLotto()));
   auto dentro_cartella_assente = Agenda::Apri(m_cartella / "manca" / "AgendaGiocate.db");
   ASSERT_FALSE(dentro_cartella_assente);
-  EXPECT_EQ(dentro_cartella_assente.Errore().testo,
-            fmt::format("agenda delle giocate {}: non si può aprire", (m_cartella / "manca" / "AgendaGiocate.db").string()));
+  EXPECT_EQ(dentro_cartella_assente.Errore().testo, fmt::format("agenda delle giocate {}: non si può aprire",
+                                                                (m_cartella / "manca" / "AgendaGiocate.db").string()));
 }
 
 }  // namespace

@@ -28,7 +28,8 @@ Giocata GiocataDaSeme(unsigned s) {
   Giocata giocata;
   for (unsigned c = 0; c < s % 3 + 1; ++c) {
     giocata.colonne.emplace_back();
-    for (unsigned p = 0; p < s % 4 + 2; ++p) giocata.colonne.back().push_back(static_cast<int>((s + 7 * c + 11 * p) % 90 + 1));
+    for (unsigned p = 0; p < s % 4 + 2; ++p)
+      giocata.colonne.back().push_back(static_cast<int>((s + 7 * c + 11 * p) % 90 + 1));
   }
   giocata.ruote = s % 2 ? std::vector<int>{BA, CA, FI} : std::vector<int>{kTutteLeRuote};
   giocata.poste = {{"estratto", 5 + s % 100}, {"ambo", 100}};
@@ -43,8 +44,13 @@ Giocata GiocataDaSeme(unsigned s) {
 std::vector<VerificaColpo> VerificaDaSeme(unsigned m) {
   std::vector<VerificaColpo> verifiche;
   for (unsigned k = 0; k < m; ++k) {
-    VerificaColpo colpo{static_cast<int>(k + 1), GruppoData{0, static_cast<int16_t>(k + 1), 3, 2024},
-                        static_cast<int64_t>(m) * 100 + k, 0, 0, 0, {}};
+    VerificaColpo colpo{static_cast<int>(k + 1),
+                        GruppoData{0, static_cast<int16_t>(k + 1), 3, 2024},
+                        static_cast<int64_t>(m) * 100 + k,
+                        0,
+                        0,
+                        0,
+                        {}};
     if (k % 2 == 0) {
       colpo.lordo = colpo.netto = m;
       colpo.vincite.push_back(VincitaColpo{BA, "estratto", {static_cast<int>(k + 1)}, 1, m});

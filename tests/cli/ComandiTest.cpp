@@ -99,6 +99,7 @@ TEST_F(LottolabDiProva, UsoElencaIComandi) {
       "  struttura FILE            mostra vertici, linee e condizioni di un file di struttura\n"
       "  funzioni [--html FILE]    elenca le funzioni degli script (o ne scrive la pagina di riferimento)\n"
       "  cerca-figura FILE [--inizio X] [--fine X] [--ruote BA,VE|TT] [--colpi N]   cerca una figura nell'archivio\n"
+      "  giocata aggiungi|elenco|rimuovi|verifica ...   l'agenda delle giocate (lottolab giocata per l'uso)\n"
       "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
       "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, aggiorna, info,\n"
       "  estrazione, ritardo, frequenza, storico e tabellone (senza --ruote, --ruota e --posizioni)\n";
