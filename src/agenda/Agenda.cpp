@@ -248,6 +248,10 @@ Esito<Fatto> Agenda::CaricaParti(Giocata& giocata) const {
 }
 
 Esito<std::vector<VoceAgenda>> Agenda::Elenco(const FiltroGiocate& filtro) const {
+  return m_connessione.InLettura([&] { return LeggiElenco(filtro); });
+}
+
+Esito<std::vector<VoceAgenda>> Agenda::LeggiElenco(const FiltroGiocate& filtro) const {
   auto righe = m_connessione.Prepara(
       fmt::format("SELECT g.id, {}, {} FROM giocate g LEFT JOIN verifiche v ON v.giocata = g.id WHERE {} GROUP BY g.id "
                   "ORDER BY g.id",
@@ -283,10 +287,12 @@ Esito<Fatto> Agenda::Rimuovi(int64_t id) {
 }
 
 Esito<Fatto> Agenda::SalvaVerifiche(int64_t id, const std::vector<VerificaColpo>& verifiche) {
-  auto giocata = Carica(id);
-  if (!giocata) return giocata.Errore();
-  if (auto valide = ControllaVerifiche(*giocata, verifiche); !valide) return valide;
-  return m_connessione.InTransazione([&]() { return ScriviVerifiche(*giocata, verifiche); });
+  return m_connessione.InTransazione([&]() -> Esito<Fatto> {
+    auto giocata = Carica(id);
+    if (!giocata) return giocata.Errore();
+    if (auto valide = ControllaVerifiche(*giocata, verifiche); !valide) return valide;
+    return ScriviVerifiche(*giocata, verifiche);
+  });
 }
 
 Esito<Fatto> Agenda::ScriviVerifiche(const Giocata& giocata, const std::vector<VerificaColpo>& verifiche) {
@@ -333,6 +339,10 @@ Esito<Fatto> Agenda::ScriviVerifiche(const Giocata& giocata, const std::vector<V
 }
 
 Esito<std::vector<VerificaColpo>> Agenda::Verifiche(int64_t id) const {
+  return m_connessione.InLettura([&] { return LeggiVerifiche(id); });
+}
+
+Esito<std::vector<VerificaColpo>> Agenda::LeggiVerifiche(int64_t id) const {
   auto esiste = Carica(id);
   if (!esiste) return esiste.Errore();
   const auto guasta = AvvisoEsclamativo(fmt::format(

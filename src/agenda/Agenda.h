@@ -93,6 +93,8 @@ class Agenda {
  private:
   explicit Agenda(Connessione connessione) : m_connessione(std::move(connessione)) {}
   Esito<Fatto> CaricaParti(Giocata& giocata) const;
+  Esito<std::vector<VoceAgenda>> LeggiElenco(const FiltroGiocate& filtro) const;
+  Esito<std::vector<VerificaColpo>> LeggiVerifiche(int64_t id) const;
   Esito<Fatto> ScriviVerifiche(const Giocata& giocata, const std::vector<VerificaColpo>& verifiche);
 
   Connessione m_connessione;

@@ -76,7 +76,22 @@ class Connessione {
   // fails, so that a failure or a kill leaves the database as it was before.
   template <typename F>
   [[nodiscard]] auto InTransazione(F lavoro) const -> decltype(lavoro()) {
-    if (auto inizio = Esegui("BEGIN IMMEDIATE"); !inizio) return inizio.Errore();
+    return Transazione("BEGIN IMMEDIATE", lavoro);
+  }
+  // Runs the reads of `lavoro` on one snapshot of the database, which other programs' writes do not
+  // change half way.
+  template <typename F>
+  [[nodiscard]] auto InLettura(F lavoro) const -> decltype(lavoro()) {
+    return Transazione("BEGIN", lavoro);
+  }
+
+  const std::filesystem::path& File() const { return m_file; }
+
+ private:
+  Connessione(std::filesystem::path file, sqlite3* db) : m_file(std::move(file)), m_db(db) {}
+  template <typename F>
+  auto Transazione(std::string_view inizio, F& lavoro) const -> decltype(lavoro()) {
+    if (auto iniziata = Esegui(inizio); !iniziata) return iniziata.Errore();
     auto esito = lavoro();
     if (!esito) {
       Annulla();
@@ -88,11 +103,6 @@ class Connessione {
     }
     return esito;
   }
-
-  const std::filesystem::path& File() const { return m_file; }
-
- private:
-  Connessione(std::filesystem::path file, sqlite3* db) : m_file(std::move(file)), m_db(db) {}
   void Annulla() const;
 
   std::filesystem::path m_file;
