@@ -102,8 +102,7 @@ std::string Istruzione::Testo(int colonna) const {
 
 Esito<Connessione> Connessione::Apri(const fs::path& file) {
   sqlite3* db = nullptr;
-  const int codice =
-      sqlite3_open_v2(file.c_str(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+  const int codice = sqlite3_open_v2(file.c_str(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
   if (codice != SQLITE_OK) {
     Avviso guasto = GuastoDatabase(db, file, codice);
     sqlite3_close(db);
