@@ -89,10 +89,11 @@ Avviso GiocataAssente(int64_t id) { return AvvisoEsclamativo(fmt::format("la gio
 }  // namespace
 
 Esito<Agenda> Agenda::Apri(const fs::path& file) {
-  if (fs::exists(file) || fs::is_symlink(file))
-    if (auto ordinario = VerificaFileOrdinario(file); !ordinario)
-      return AvvisoEsclamativo(
-          fmt::format("l'agenda delle giocate {} non si può aprire: {}", file.string(), ordinario.Errore().motivo));
+  // An absent file becomes a new agenda; a folder, a device or a pipe in its place is refused.
+  if (auto ordinario = VerificaFileOrdinario(file);
+      !ordinario && ordinario.Errore().genere != GuastoFile::Genere::Assente)
+    return AvvisoEsclamativo(
+        fmt::format("l'agenda delle giocate {} non si può aprire: {}", file.string(), ordinario.Errore().motivo));
   auto connessione = Connessione::Apri(file);
   if (!connessione) return connessione.Errore();
   if (auto schema = PreparaSchema(*connessione); !schema) return schema.Errore();
