@@ -29,6 +29,10 @@ std::array<fs::path, 5> Configurazione::ArchiviGiochi() const {
   return file;
 }
 
+fs::path Configurazione::FileAgenda() const {
+  return RisolviPercorso(base, ini.Leggi(kSezioneGenerale, "sFileAgenda", "AgendaGiocate.db"));
+}
+
 std::string Configurazione::IndirizzoRisultati() const {
   return ini.Leggi(kSezioneGenerale, "sIndirizzoRisultati", "https://www.igt.it/STORICO_ESTRAZIONI_LOTTO/storico.zip");
 }

@@ -27,6 +27,8 @@ struct Configurazione {
   std::filesystem::path ArchivioGioco(Gioco gioco) const;
   // Every game's archive, by Gioco.
   std::array<std::filesystem::path, 5> ArchiviGiochi() const;
+  // Key sFileAgenda: the agenda of the bets played, "AgendaGiocate.db" in the base folder by default.
+  std::filesystem::path FileAgenda() const;
   // Key sIndirizzoRisultati: where the operator publishes the results file (zip of text lines).
   std::string IndirizzoRisultati() const;
   // Keys sIndirizzoRisultatiSE, sIndirizzoRisultatiDL, sIndirizzoRisultatiDL5, sIndirizzoRisultatiWF,

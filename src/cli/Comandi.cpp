@@ -74,6 +74,8 @@ constexpr std::array kComandi = {
             "lordo, ritenuta e netto per punti", ComandoPremio, ComandoPremio},
     Comando{"verifica-giocata", "--sorte S --numeri N1,N2 --ruote BA,VE --posta 1 --dal GG/MM/AAAA --colpi N",
             "conto per estrazione", ComandoVerificaGiocata},
+    Comando{"giocata", "aggiungi|elenco|rimuovi|verifica ...", "l'agenda delle giocate (lottolab giocata per l'uso)",
+            ComandoGiocata, ComandoGiocata},
 };
 
 // Descriptions line up in this column after the indent; a longer synopsis keeps its description

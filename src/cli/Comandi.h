@@ -62,6 +62,8 @@ int ComandoCercaFigura(Contesto& contesto, const Parole& parole);
 int ComandoPremio(Contesto& contesto, const Parole& parole);
 // A Lotto bet checked against the archive draw by draw, with its totals.
 int ComandoVerificaGiocata(Contesto& contesto, const Parole& parole);
+// The agenda of the bets played: aggiungi, elenco, rimuovi, verifica.
+int ComandoGiocata(Contesto& contesto, const Parole& parole);
 
 // The whole command line: global options, then a command and its words. An exception that escapes
 // a command ends it with one line on `err` opening with app::kErroreInatteso, and status 1.

@@ -103,6 +103,7 @@ TEST_F(LottolabDiProva, UsoElencaIComandi) {
       "punti\n"
       "  verifica-giocata --sorte S --numeri N1,N2 --ruote BA,VE --posta 1 --dal GG/MM/AAAA --colpi N   conto per "
       "estrazione\n"
+      "  giocata aggiungi|elenco|rimuovi|verifica ...   l'agenda delle giocate (lottolab giocata per l'uso)\n"
       "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
       "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, aggiorna, info,\n"
       "  estrazione, ritardo, frequenza, storico, tabellone (senza --ruote, --ruota e --posizioni) e premio\n";

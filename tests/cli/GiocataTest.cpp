@@ -1,0 +1,166 @@
+#include <gtest/gtest.h>
+
+#include "LottolabDiProva.h"
+#include "agenda/Agenda.h"
+
+namespace lottolab::cli {
+namespace {
+
+class Giocata : public LottolabDiProva {
+ protected:
+  Uscita Aggiungi(std::vector<std::string> parole) {
+    parole.insert(parole.begin(), {"giocata", "aggiungi"});
+    return Lottolab(parole);
+  }
+};
+
+TEST_F(Giocata, AggiuntaElencataERimossa) {
+  const Uscita prima =
+      Aggiungi({"--numeri", "12,34,56", "--ruote",        "BA,VE",   "--sorte", "ambo",   "--posta",
+                "1",        "--sorte",  "Terno",          "--posta", "0,50",    "--dal",  "05/01/2023",
+                "--colpi",  "4",        "--progressione", "1,1,2,2", "--ferma", "--nota", "dal giornale"});
+  ASSERT_EQ(prima.codice, 0) << prima.err;
+  EXPECT_EQ(prima.out, "aggiunta la giocata 1\n");
+  const Uscita seconda = Lottolab({"--gioco",    "SE",
+                                   "giocata",    "aggiungi",
+                                   "--numeri",   "1,2,3,4,5,6",
+                                   "--numeri",   "7,8,9,10,11,12",
+                                   "--speciale", "90",
+                                   "--sorte",    "giocata",
+                                   "--posta",    "1",
+                                   "--sorte",    "superstar",
+                                   "--posta",    "0.5",
+                                   "--dal",      "1234",
+                                   "--colpi",    "2"});
+  ASSERT_EQ(seconda.codice, 0) << seconda.err;
+  ASSERT_EQ(Aggiungi({"--gioco", "LO", "--numeri", "90", "--ruote", "TT", "--sorte", "ambata", "--posta", "10", "--dal",
+                      "1/2/2024", "--colpi", "1"})
+                .codice,
+            0);
+
+  // The engine's results, stored as the check would store them.
+  {
+    auto agenda = agenda::Agenda::Apri(m_base / "AgendaGiocate.db").Valore();
+    agenda::VerificaColpo vinto{101, GruppoData{0, 7, 1, 2023}, 150, 25000, 2000, 23000, {}};
+    vinto.vincite.push_back({BA, "ambo", {12, 34}, 1, 25000});
+    ASSERT_TRUE(agenda.SalvaVerifiche(1, {{100, GruppoData{0, 5, 1, 2023}, 150, 0, 0, 0, {}}, vinto}));
+  }
+  const Uscita elenco = Lottolab({"giocata", "elenco"});
+  ASSERT_EQ(elenco.codice, 0) << elenco.err;
+  EXPECT_EQ(elenco.out,
+            "    id  gioco  numeri                            ruote  poste                          dal         "
+            "colpi  stato   spesa   vinto   saldo\n"
+            "     1  LO     12.34.56                          BA,VE  ambo 1,00 terno 0,50 x1,1,2,2  05/01/2023  "
+            "2/4    chiusa   3,00  230,00  227,00\n"
+            "     2  SE     1.2.3.4.5.6 / 7.8.9.10.11.12 +90  -      giocata 1,00 superstar 0,50    estr. 1234  "
+            "0/2    aperta   0,00    0,00    0,00\n"
+            "     3  LO     90                                TT     estratto 10,00                 01/02/2024  "
+            "0/1    aperta   0,00    0,00    0,00\n"
+            "totale                                                                                             "
+            "                3,00  230,00  227,00\n");
+  EXPECT_EQ(Lottolab({"giocata", "elenco", "--chiuse"}).out.find("     2  SE"), std::string::npos);
+  const std::string aperte = Lottolab({"giocata", "elenco", "--aperte", "--gioco", "SE"}).out;
+  EXPECT_NE(aperte.find("     2  SE"), std::string::npos);
+  EXPECT_EQ(aperte.find("     3  LO"), std::string::npos);
+
+  const Uscita rimossa = Lottolab({"giocata", "rimuovi", "1"});
+  EXPECT_EQ(rimossa.out, "rimossa la giocata 1\n");
+  EXPECT_EQ(Lottolab({"giocata", "elenco", "--chiuse"}).out, "nessuna giocata\n");
+  const Uscita di_nuovo = Lottolab({"giocata", "rimuovi", "1"});
+  EXPECT_EQ(di_nuovo.codice, 2);
+  EXPECT_EQ(di_nuovo.err, "lottolab: la giocata 1 non è nell'agenda\n");
+}
+
+TEST_F(Giocata, OgniParolaSbagliataHaIlSuoMessaggio) {
+  const std::vector<std::string> base = {"--numeri", "12,34", "--ruote", "BA",       "--sorte", "ambo",
+                                         "--posta",  "1",     "--dal",   "1/2/2024", "--colpi", "3"};
+  struct Caso {
+    std::vector<std::string> parole;
+    std::string messaggio;
+  };
+  auto con = [&](std::string opzione, std::string valore) {
+    std::vector<std::string> parole = base;
+    auto trovata = std::find(parole.begin(), parole.end(), opzione);
+    if (trovata == parole.end()) {
+      parole.push_back(opzione);
+      if (!valore.empty()) parole.push_back(valore);
+    } else {
+      *std::next(trovata) = valore;
+    }
+    return parole;
+  };
+  const std::vector<Caso> casi = {
+      {con("--numeri", "12,,34"), "numero mancante in 12,,34"},
+      {con("--numeri", "12,x"), "numero non valido: x"},
+      {con("--ruote", "BA,XX"), "ruota sconosciuta: XX (usare BA CA FI GE MI NA PA RO TO VE NZ o TT)"},
+      {con("--sorte", "quintina"),
+       "sorte non valida per il gioco LO: quintina (si gioca su estratto, ambo, terno, quaterna, cinquina, ambetto, "
+       "estratto1, estratto2, estratto3, estratto4, estratto5)"},
+      {con("--sorte", "terno"), "la sorte terno vuole almeno 3 numeri per colonna"},
+      {con("--posta", "0.001"), "importo non valido: 0.001 (euro con al più due decimali, per esempio 1 o 0,50)"},
+      {con("--dal", "31/02/2024"), "data non valida: 31/02/2024"},
+      {con("--dal", "ieri"), "prima estrazione non valida: ieri (una data GG/MM/AAAA o un'estrazione)"},
+      {con("--colpi", "0"), "colpi non validi: 0 (da 1 a 999)"},
+      {con("--gioco", "DL5"), "gioco non valido per l'agenda: DL5 (LO, SE, DL o WF)"},
+      {con("--gioco", "SE"), "sorte non valida per il gioco SE: ambo (si gioca su giocata, superstar)"},
+      {con("--ruota", "BA"), "opzione sconosciuta: --ruota"},
+      {{"--numeri", "1,2", "--ruote", "BA", "--sorte", "ambo", "--posta", "1", "--colpi"},
+       "manca il valore dell'opzione --colpi"},
+      {{"--gioco", "SE", "--numeri", "1,2", "--sorte", "giocata", "--posta", "1", "--dal", "1", "--colpi", "1"},
+       "i numeri sono 2: ne servono da 6 a 20"},
+      {{"--numeri", "1,2", "--ruote", "BA", "--posta", "1", "--dal", "1", "--colpi", "1"},
+       "--posta va dopo la sua --sorte"},
+      {{"--numeri", "1,2", "--ruote", "BA", "--sorte", "ambo", "--sorte", "estratto", "--posta", "1"},
+       "manca la posta della sorte ambo"},
+      {{"--numeri", "1,2", "--ruote", "BA", "--sorte", "ambo", "--posta", "1", "--dal", "1"},
+       "manca --colpi: quante estrazioni la giocata resta in gioco"},
+  };
+  for (const Caso& caso : casi) {
+    const Uscita uscita = Aggiungi(caso.parole);
+    EXPECT_EQ(uscita.codice, 2) << caso.messaggio;
+    EXPECT_TRUE(uscita.err.starts_with("lottolab: " + caso.messaggio)) << uscita.err;
+    EXPECT_EQ(std::count(uscita.err.begin(), uscita.err.end(), '\n'), 1) << uscita.err;
+  }
+  EXPECT_EQ(Lottolab({"giocata", "elenco"}).out, "nessuna giocata\n");
+
+  const std::vector<std::pair<std::vector<std::string>, std::string>> altre = {
+      {{"giocata", "gioca"}, "azione sconosciuta: gioca (aggiungi, elenco, rimuovi o verifica)"},
+      {{"giocata", "elenco", "--aperte", "--chiuse"}, "--aperte e --chiuse non vanno insieme"},
+      {{"giocata", "elenco", "tutte"}, "parola inattesa: tutte (elenco prende --aperte o --chiuse e --gioco)"},
+      {{"giocata", "rimuovi", "-3"}, "numero di giocata non valido: -3"},
+      {{"giocata", "rimuovi"}, "uso: lottolab giocata rimuovi ID"},
+      {{"giocata", "verifica", "8"}, "la giocata 8 non è nell'agenda"},
+      {{"giocata", "verifica"},
+       "la verifica delle giocate sulle estrazioni non è ancora disponibile: arriverà con il calcolo dei premi"},
+  };
+  for (const auto& [parole, messaggio] : altre) {
+    const Uscita uscita = Lottolab(parole);
+    EXPECT_EQ(uscita.codice, 2) << messaggio;
+    EXPECT_EQ(uscita.err, "lottolab: " + messaggio + "\n");
+  }
+  const Uscita senza_azione = Lottolab({"giocata"});
+  EXPECT_EQ(senza_azione.codice, 2);
+  EXPECT_TRUE(senza_azione.err.starts_with("uso: lottolab giocata aggiungi")) << senza_azione.err;
+}
+
+TEST_F(Giocata, LAgendaConfigurataEUnFileGuastoNonToccato) {
+  test::Scrivi(m_base / "lottolab.ini", "[GENERALE]\nsFileAgenda=mie/giocate.db\n");
+  std::filesystem::create_directories(m_base / "mie");
+  ASSERT_EQ(
+      Aggiungi({"--numeri", "1", "--ruote", "NZ", "--sorte", "estratto", "--posta", "1", "--dal", "7", "--colpi", "1"})
+          .codice,
+      0);
+  EXPECT_TRUE(std::filesystem::exists(m_base / "mie" / "giocate.db"));
+  EXPECT_FALSE(std::filesystem::exists(m_base / "AgendaGiocate.db"));
+
+  test::Scrivi(m_base / "mie" / "giocate.db", "non un database");
+  const Uscita guasto = Lottolab({"giocata", "elenco"});
+  EXPECT_EQ(guasto.codice, 2);
+  EXPECT_EQ(guasto.err, "lottolab: il file " + (m_base / "mie" / "giocate.db").string() +
+                            " non è un'agenda delle giocate (è danneggiato o non è un database SQLite): non viene "
+                            "modificato\n");
+  EXPECT_EQ(test::Leggi(m_base / "mie" / "giocate.db"), "non un database");
+}
+
+}  // namespace
+}  // namespace lottolab::cli
