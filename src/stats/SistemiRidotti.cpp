@@ -17,16 +17,18 @@ constexpr double kMassimoCostoMossa = 200'000;
 std::optional<Avviso> ParametriFuoriMisura(const ParametriSistema& p) {
   const int n = p.numeri;
   if (n < 1 || n > kMassimoNumeriSistema)
-    return AvvisoEsclamativo(fmt::format("I numeri del sistema devono essere da 1 a {}, non {}.", kMassimoNumeriSistema, n));
+    return AvvisoEsclamativo(
+        fmt::format("I numeri del sistema devono essere da 1 a {}, non {}.", kMassimoNumeriSistema, n));
   if (p.classe < 1 || p.classe > std::min(n, kMassimaClasseSistema))
     return AvvisoEsclamativo(fmt::format("Le colonne del sistema devono avere da 1 a {} numeri, non {}.",
                                          std::min(n, kMassimaClasseSistema), p.classe));
   if (p.garanzia < 1 || p.garanzia > p.classe)
-    return AvvisoEsclamativo(
-        fmt::format("La sorte garantita deve essere da 1 a {} (i numeri di una colonna), non {}.", p.classe, p.garanzia));
+    return AvvisoEsclamativo(fmt::format("La sorte garantita deve essere da 1 a {} (i numeri di una colonna), non {}.",
+                                         p.classe, p.garanzia));
   if (p.condizione < p.garanzia || p.condizione > std::min(n, kMassimaCondizioneSistema))
-    return AvvisoEsclamativo(fmt::format("La condizione (quanti dei {} numeri devono uscire) deve essere da {} a {}, non {}.",
-                                         n, p.garanzia, std::min(n, kMassimaCondizioneSistema), p.condizione));
+    return AvvisoEsclamativo(
+        fmt::format("La condizione (quanti dei {} numeri devono uscire) deve essere da {} a {}, non {}.", n, p.garanzia,
+                    std::min(n, kMassimaCondizioneSistema), p.condizione));
   const double gruppi = Combinazioni(n, p.condizione);
   if (gruppi > kMassimiGruppiVerificati)
     return AvvisoEsclamativo(fmt::format(
@@ -45,7 +47,8 @@ std::optional<Avviso> ParametriFuoriMisura(const ParametriSistema& p) {
 
 // Marks the m-groups, by colexicographic rank, that share at least t numbers with the column:
 // `scelti` are the numbers taken so far, in increasing order, `comuni` how many of them the column
-// holds, `della_colonna_da[p]` how many of the column's numbers are p or above. Written apart from the search's own enumeration so that the check shares no code with it.
+// holds, `della_colonna_da[p]` how many of the column's numbers are p or above. Written apart from the search's own
+// enumeration so that the check shares no code with it.
 void SegnaCoperti(const std::vector<bool>& nella_colonna, const std::vector<int>& della_colonna_da, int numeri,
                   int condizione, int garanzia, std::vector<int>& scelti, int comuni, std::vector<bool>& coperti) {
   const int presi = static_cast<int>(scelti.size());
@@ -120,7 +123,8 @@ Esito<SistemaRidotto> CostruisciSistemaRidotto(const ParametriSistema& parametri
       [&](const ricerca::Copertura& copertura, int migliore) -> std::optional<ricerca::EsitoRicerca> {
     if (controllo.interrompi && controllo.interrompi()) return ricerca::EsitoRicerca::Interrotto;
     if (controllo.avanzamento) controllo.avanzamento({copertura.Colonne(), migliore, copertura.Scoperti()});
-    if (std::chrono::steady_clock::now() - inizio > controllo.tempo_massimo) return ricerca::EsitoRicerca::TempoScaduto;
+    if (std::chrono::steady_clock::now() - inizio > controllo.tempo_massimo || (controllo.basta && controllo.basta()))
+      return ricerca::EsitoRicerca::TempoScaduto;
     return std::nullopt;
   };
   auto trovato = ricerca::CercaConRicottura(d, parametri.seme, std::max(controllo.sforzo, 1), minimo, osserva);

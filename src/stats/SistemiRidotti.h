@@ -40,9 +40,9 @@ struct ParametriSistema {
 };
 
 struct AvanzamentoSistema {
-  int colonne = 0;           // the columns of the system being improved
-  int migliore = 0;          // the fewest columns of a system found so far that keeps the guarantee
-  std::int64_t scoperti = 0; // the m-groups the current columns leave without the guarantee
+  int colonne = 0;            // the columns of the system being improved
+  int migliore = 0;           // the fewest columns of a system found so far that keeps the guarantee
+  std::int64_t scoperti = 0;  // the m-groups the current columns leave without the guarantee
 };
 
 // How long the search may go on and how a caller stops it or watches it. The callbacks are called
@@ -51,6 +51,9 @@ struct ControlloSistema {
   // True when the caller wants the search to stop; the build then fails with an Italian message.
   std::function<bool()> interrompi;
   std::function<void(const AvanzamentoSistema&)> avanzamento;
+  // True when the caller has waited enough: the search stops improving and returns its best, as
+  // when the time limit is reached.
+  std::function<bool()> basta;
   // After this the search stops improving and returns the smallest system found so far, which
   // always keeps the guarantee. Without a time limit reached, equal seeds give equal systems.
   std::chrono::milliseconds tempo_massimo{20'000};
@@ -68,7 +71,8 @@ struct SistemaRidotto {
 
 // A system for the given parameters, or an Italian message: parameters out of range, a check too
 // large to perform, the caller's stop, or (a fault) a system that failed its own check.
-Esito<SistemaRidotto> CostruisciSistemaRidotto(const ParametriSistema& parametri, const ControlloSistema& controllo = {});
+Esito<SistemaRidotto> CostruisciSistemaRidotto(const ParametriSistema& parametri,
+                                               const ControlloSistema& controllo = {});
 
 // The first m-group of 1..N, in lexicographic order, in which no column holds t numbers; nothing
 // when the columns keep the guarantee. Preconditions (asserted): 1 <= t <= m <= N <= 90 and every

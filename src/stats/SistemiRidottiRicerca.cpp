@@ -4,6 +4,12 @@
 #include <cassert>
 
 namespace lottolab::stats::ricerca {
+namespace {
+
+// Above this many (t-1)-groups the index of the columns by (t-1)-group is not worth its memory.
+constexpr std::uint64_t kMassimiSottogruppi = 200'000;
+
+}  // namespace
 
 Binomiali::Binomiali() {
   for (int n = 0; n <= 90; ++n) {
@@ -39,6 +45,42 @@ Copertura::Copertura(Dimensioni d, const Binomiali& binomiali) : m_d(d), m_binom
     m_scoperti[r] = r;
     m_posizione[r] = static_cast<std::int32_t>(r);
   }
+  m_con_indice = d.t >= 2 && binomiali(d.n, d.t - 1) <= kMassimiSottogruppi;
+  if (m_con_indice) m_per_sottogruppo.resize(binomiali(d.n, d.t - 1));
+}
+
+template <typename F>
+void Copertura::PerOgniSottogruppo(std::span<const int> numeri, F&& f) const {
+  PerOgniCombinazione(numeri, m_d.t - 1, [&](std::span<const int> sottogruppo) { f(m_binomiali.Rango(sottogruppo)); });
+}
+
+// Column `vecchio`'s entries in the index become `indice`'s; -1 adds or removes them.
+void Copertura::Indicizza(int indice, int vecchio) {
+  if (!m_con_indice) return;
+  const int di = vecchio >= 0 ? vecchio : indice;
+  PerOgniSottogruppo(m_colonne[static_cast<size_t>(di)], [&](std::uint64_t r) {
+    auto& lista = m_per_sottogruppo[r];
+    if (vecchio < 0) {
+      lista.push_back(indice);
+    } else {
+      auto posto = std::find(lista.begin(), lista.end(), vecchio);
+      if (indice >= 0) {
+        *posto = indice;
+      } else {
+        *posto = lista.back();
+        lista.pop_back();
+      }
+    }
+  });
+}
+
+bool Copertura::Vicine(std::span<const int> gruppo, std::vector<int>& colonne) const {
+  if (!m_con_indice) return false;
+  PerOgniSottogruppo(gruppo, [&](std::uint64_t r) {
+    const auto& lista = m_per_sottogruppo[r];
+    colonne.insert(colonne.end(), lista.begin(), lista.end());
+  });
+  return true;
 }
 
 void Copertura::Conta(std::uint64_t rango, int delta) {
@@ -120,10 +162,14 @@ void Copertura::AggiungiColonna(std::span<const int> colonna) {
   for (int p : ordinata) maschera.Aggiungi(p);
   m_colonne.push_back(std::move(ordinata));
   m_maschere.push_back(maschera);
+  Indicizza(Colonne() - 1, -1);
 }
 
 void Copertura::RimuoviColonna(int indice) {
   PerOgniGruppoCoperto(m_d, m_binomiali, m_colonne[indice], [&](std::uint64_t r) { Conta(r, -1); });
+  const int ultima = Colonne() - 1;
+  Indicizza(-1, indice);
+  if (indice != ultima) Indicizza(indice, ultima);
   m_colonne[indice] = std::move(m_colonne.back());
   m_colonne.pop_back();
   m_maschere[indice] = m_maschere.back();
@@ -165,11 +211,13 @@ void Copertura::Sposta(int indice, int esce, int entra) {
   const Resto resto(m_colonne[indice], esce);
   PerOgniGruppoAlConfine(resto.Numeri(), esce, entra, [&](std::uint64_t r) { Conta(r, -1); });
   PerOgniGruppoAlConfine(resto.Numeri(), entra, esce, [&](std::uint64_t r) { Conta(r, +1); });
+  Indicizza(-1, indice);
   auto& colonna = m_colonne[indice];
   colonna.erase(std::find(colonna.begin(), colonna.end(), esce));
   colonna.insert(std::upper_bound(colonna.begin(), colonna.end(), entra), entra);
   m_maschere[indice].Togli(esce);
   m_maschere[indice].Aggiungi(entra);
+  Indicizza(indice, -1);
 }
 
 std::int64_t Copertura::NuoviCoperti(std::span<const int> parziale, int entra) const {

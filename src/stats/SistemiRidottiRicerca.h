@@ -88,6 +88,9 @@ class Copertura {
   std::uint32_t Scoperto(std::size_t i) const { return m_scoperti[i]; }
   // The uncovered groups that a column being built, `parziale`, would cover once `entra` joined it.
   std::int64_t NuoviCoperti(std::span<const int> parziale, int entra) const;
+  // Appends the columns that hold exactly t - 1 numbers of an uncovered `gruppo`. False when the
+  // index behind it is not kept (t = 1, or too many (t-1)-groups), and the caller must scan.
+  bool Vicine(std::span<const int> gruppo, std::vector<int>& colonne) const;
   int Colonne() const { return static_cast<int>(m_colonne.size()); }
   const std::vector<int>& Colonna(int i) const { return m_colonne[i]; }
   const Maschera& MascheraColonna(int i) const { return m_maschere[i]; }
@@ -100,6 +103,10 @@ class Copertura {
   template <typename F>
   void PerOgniGruppoAlConfine(std::span<const int> resto, int numero, int escluso, F&& f) const;
   void Conta(std::uint64_t rango, int delta);
+  // Calls f(rank) for every (t-1)-group of `numeri`.
+  template <typename F>
+  void PerOgniSottogruppo(std::span<const int> numeri, F&& f) const;
+  void Indicizza(int indice, int vecchio);
 
   Dimensioni m_d;
   const Binomiali& m_binomiali;
@@ -108,6 +115,10 @@ class Copertura {
   std::vector<std::uint32_t> m_coperture;
   std::vector<std::uint32_t> m_scoperti;
   std::vector<std::int32_t> m_posizione;  // index in m_scoperti, -1 when covered
+  // For every (t-1)-group, by rank, the columns that hold it: the candidates of a move are found
+  // without scanning every column.
+  bool m_con_indice = false;
+  std::vector<std::vector<int>> m_per_sottogruppo;
 };
 
 enum class EsitoRicerca { Concluso, Interrotto, TempoScaduto };

@@ -17,7 +17,7 @@
 namespace lottolab::stats::ricerca {
 namespace {
 
-constexpr double kTemperaturaIniziale = 0.6;
+constexpr double kTemperaturaIniziale = 0.3;
 constexpr double kTemperaturaFinale = 0.02;
 constexpr int kPassiTraControlli = 2048;
 // A size is given up after this many annealings, each from where the previous one stopped.
@@ -51,7 +51,8 @@ class Ricottura {
 };
 
 std::optional<EsitoRicerca> Ricottura::CostruisciGolosamente() {
-  const bool pesa = m_binomiali(m_d.k - 1, m_d.t - 1) * m_binomiali(m_d.n - m_d.t, m_d.m - m_d.t) <= kMassimoCostoGoloso;
+  const bool pesa =
+      m_binomiali(m_d.k - 1, m_d.t - 1) * m_binomiali(m_d.n - m_d.t, m_d.m - m_d.t) <= kMassimoCostoGoloso;
   std::array<int, 16> gruppo{};
   while (m_copertura.Scoperti() > 0) {
     const auto rango = m_copertura.Scoperto(static_cast<size_t>(Caso(static_cast<int>(m_copertura.Scoperti()))));
@@ -126,15 +127,19 @@ std::optional<EsitoRicerca> Ricottura::Ricuoci(bool& coperto, int migliore) {
     // The columns one number short of covering the group; when there is none, the closest ones.
     vicine.clear();
     massime.clear();
-    int piu_vicina = -1;
-    for (int c = 0; c < colonne; ++c) {
-      const int comuni = m_copertura.MascheraColonna(c).Comuni(maschera);
-      if (comuni == m_d.t - 1) vicine.push_back(c);
-      if (comuni > piu_vicina) {
-        piu_vicina = comuni;
-        massime.clear();
+    const bool indicizzate =
+        m_copertura.Vicine(std::span<const int>(gruppo.data(), static_cast<size_t>(m_d.m)), vicine);
+    if (!indicizzate || vicine.empty()) {
+      int piu_vicina = -1;
+      for (int c = 0; c < colonne; ++c) {
+        const int comuni = m_copertura.MascheraColonna(c).Comuni(maschera);
+        if (!indicizzate && comuni == m_d.t - 1) vicine.push_back(c);
+        if (comuni > piu_vicina) {
+          piu_vicina = comuni;
+          massime.clear();
+        }
+        if (comuni == piu_vicina) massime.push_back(c);
       }
-      if (comuni == piu_vicina) massime.push_back(c);
     }
     const auto& candidate = vicine.empty() ? massime : vicine;
     const int c = candidate[static_cast<size_t>(Caso(static_cast<int>(candidate.size())))];

@@ -98,8 +98,8 @@ TEST(SistemiRidotti, CasiPiccoliAlMinimoNoto) {
   // C(8,4,3) = 14 (a Steiner system), and a lotto design checked by hand: 6 numbers in columns of 3
   // with an ambo whenever 4 come out take 2 columns ({1,2,3} and {4,5,6}: any 4 of the 6 hold two
   // of one of them), and one column is not enough.
-  for (const auto& caso : {Caso{6, 3, 2, 2, 6}, Caso{7, 3, 2, 2, 7}, Caso{7, 4, 2, 2, 5}, Caso{8, 4, 3, 3, 14},
-                           Caso{6, 3, 2, 4, 2}}) {
+  for (const auto& caso :
+       {Caso{6, 3, 2, 2, 6}, Caso{7, 3, 2, 2, 7}, Caso{7, 4, 2, 2, 5}, Caso{8, 4, 3, 3, 14}, Caso{6, 3, 2, 4, 2}}) {
     auto sistema = CostruisciSistemaRidotto({caso.n, caso.k, caso.t, caso.m, 7}, Leggero());
     ASSERT_TRUE(sistema) << sistema.Errore().testo;
     EXPECT_EQ(sistema->colonne.size(), caso.minimo) << caso.n << " " << caso.k << " " << caso.t << " " << caso.m;
