@@ -6,8 +6,8 @@
 // of the group's missing numbers, so that the move covers the group it was chosen for. Moves that
 // uncover more than they cover are accepted with the Metropolis probability, under a temperature
 // that falls geometrically over the steps allowed at each size. Whenever no group is left uncovered
-// the system is kept, the column that alone covers the fewest groups is taken away, and the
-// annealing starts again one column smaller.
+// the system is kept, the columns that alone cover the fewest groups are taken away, and the
+// annealing starts again with fewer columns.
 
 #include <algorithm>
 #include <cmath>
@@ -40,7 +40,7 @@ class Ricottura {
   std::optional<EsitoRicerca> Controlla(int migliore) { return m_controllo(m_copertura, migliore); }
   std::optional<EsitoRicerca> CostruisciGolosamente();
   std::optional<EsitoRicerca> Ricuoci(bool& coperto, int migliore);
-  void TogliColonnaMenoUtile();
+  void TogliColonne(int quante);
 
   Dimensioni m_d;
   Binomiali m_binomiali;
@@ -91,21 +91,23 @@ std::optional<EsitoRicerca> Ricottura::CostruisciGolosamente() {
   return std::nullopt;
 }
 
-void Ricottura::TogliColonnaMenoUtile() {
-  int scelta = 0;
-  std::int64_t meno = -1;
-  int pari = 0;
-  for (int i = 0; i < m_copertura.Colonne(); ++i) {
-    const auto soli = m_copertura.SoloDa(i);
-    if (meno < 0 || soli < meno) {
-      meno = soli;
-      scelta = i;
-      pari = 1;
-    } else if (soli == meno && Caso(++pari) == 0) {
-      scelta = i;
-    }
-  }
-  m_copertura.RimuoviColonna(scelta);
+void Ricottura::TogliColonne(int quante) {
+  // The columns that alone cover the fewest groups go first, ties in random order; all are weighed
+  // once, before any goes, so that taking many away costs one pass over them.
+  struct Peso {
+    std::int64_t soli;
+    std::uint64_t caso;
+    int indice;
+  };
+  std::vector<Peso> pesi;
+  for (int i = 0; i < m_copertura.Colonne(); ++i) pesi.push_back({m_copertura.SoloDa(i), m_caso(), i});
+  std::sort(pesi.begin(), pesi.end(),
+            [](const Peso& a, const Peso& b) { return a.soli != b.soli ? a.soli < b.soli : a.caso < b.caso; });
+  std::vector<int> tolte;
+  for (int i = 0; i < quante; ++i) tolte.push_back(pesi[static_cast<size_t>(i)].indice);
+  // From the highest index down, the last column moved into a freed place is never one to take away.
+  std::sort(tolte.rbegin(), tolte.rend());
+  for (int indice : tolte) m_copertura.RimuoviColonna(indice);
 }
 
 std::optional<EsitoRicerca> Ricottura::Ricuoci(bool& coperto, int migliore) {
@@ -179,7 +181,7 @@ RisultatoRicerca Ricottura::Esegui(std::int64_t minimo) {
   std::int64_t salto = std::max<std::int64_t>(1, (m_copertura.Colonne() - fondo) / 2);
   while (static_cast<std::int64_t>(risultato.colonne.size()) > fondo) {
     const auto obiettivo = std::max(fondo, static_cast<std::int64_t>(risultato.colonne.size()) - salto);
-    while (m_copertura.Colonne() > obiettivo) TogliColonnaMenoUtile();
+    TogliColonne(m_copertura.Colonne() - static_cast<int>(obiettivo));
     bool coperto = false;
     for (int tentativo = 0; tentativo < kTentativiPerMisura && !coperto; ++tentativo) {
       if (auto stop = Ricuoci(coperto, static_cast<int>(risultato.colonne.size()))) {
