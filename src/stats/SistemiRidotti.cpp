@@ -86,6 +86,7 @@ std::int64_t LimiteSchoenheim(int v, int k, int t) {
 std::optional<std::vector<int>> VerificaGaranzia(std::span<const ColonnaSistema> colonne, int numeri, int condizione,
                                                  int garanzia) {
   assert(1 <= garanzia && garanzia <= condizione && condizione <= numeri && numeri <= kMassimoNumeriSistema);
+  assert(Combinazioni(numeri, condizione) <= kMassimiGruppiVerificati);
   std::vector<bool> coperti(static_cast<size_t>(Combinazioni(numeri, condizione)), false);
   std::vector<int> scelti;
   for (const auto& colonna : colonne) {

@@ -75,8 +75,8 @@ Esito<SistemaRidotto> CostruisciSistemaRidotto(const ParametriSistema& parametri
                                                const ControlloSistema& controllo = {});
 
 // The first m-group of 1..N, in lexicographic order, in which no column holds t numbers; nothing
-// when the columns keep the guarantee. Preconditions (asserted): 1 <= t <= m <= N <= 90 and every
-// column made of different numbers in 1..N.
+// when the columns keep the guarantee. Preconditions (asserted): 1 <= t <= m <= N <= 90, C(N,m) at
+// most kMassimiGruppiVerificati, and every column made of different numbers in 1..N.
 std::optional<std::vector<int>> VerificaGaranzia(std::span<const ColonnaSistema> colonne, int numeri, int condizione,
                                                  int garanzia);
 
