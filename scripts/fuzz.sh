@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # Builds the libFuzzer targets with clang into build-fuzz/ and runs each one in turn over its corpus
-# for LOTTOLAB_FUZZ_SECONDI seconds (20 by default). The corpora in fuzz/corpus are only read: the
+# for LOTTOLAB_FUZZ_SECONDI seconds (10 by default). The corpora in fuzz/corpus are only read: the
 # inputs a run finds go to build-fuzz/corpus-nuovo/<target>, a failing input and the log to
 # build-fuzz/artefatti/<target>/. Exits non-zero when a target fails. Without clang there is
 # nothing to build: it says so and exits 0.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-secondi="${LOTTOLAB_FUZZ_SECONDI:-20}"
+secondi="${LOTTOLAB_FUZZ_SECONDI:-10}"
 target=(parser script archivio risultati risultati_zip strutture condizione ini altri_giochi archivi_gioco)
 
 if ! command -v clang++ >/dev/null 2>&1; then

@@ -69,6 +69,9 @@ FinestraPrincipale::FinestraPrincipale(ContestoGui& contesto, QWidget* parent)
   QTimer::singleShot(0, this, [this] { AvvisaArchivioCaricato(m_contesto, *m_interlocutore); });
 }
 
+// The windows of the area close after this object is gone, and the area tells of each activation.
+FinestraPrincipale::~FinestraPrincipale() { disconnect(m_area, nullptr, this, nullptr); }
+
 void FinestraPrincipale::CreaMenu() {
   auto azione = [this](QMenu* menu, const QString& testo, const char* nome, auto&& eseguire) {
     QAction* nuova = menu->addAction(testo);

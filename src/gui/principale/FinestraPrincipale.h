@@ -23,6 +23,7 @@ class FinestraPrincipale : public QMainWindow {
 
  public:
   explicit FinestraPrincipale(ContestoGui& contesto, QWidget* parent = nullptr);
+  ~FinestraPrincipale() override;
 
   QMdiArea* AreaFinestre() const { return m_area; }
 
