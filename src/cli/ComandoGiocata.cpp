@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 #include <fmt/ostream.h>
+#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <array>
@@ -12,6 +13,7 @@
 #include "Comandi.h"
 #include "agenda/Agenda.h"
 #include "agenda/Importi.h"
+#include "agenda/VerificaLotto.h"
 #include "archive/DateEstrazione.h"
 #include "archive/Ruote.h"
 
@@ -261,15 +263,32 @@ int Rimuovi(Contesto& contesto, Agenda& agenda, const Parole& parole) {
   return kUscitaRiuscita;
 }
 
+// The open bets (or the one named) checked against the archive, then every win not seen yet.
 int Verifica(Contesto& contesto, Agenda& agenda, const Parole& parole) {
   if (parole.size() > 1) return contesto.Fallisci(AvvisoEsclamativo("uso: lottolab giocata verifica [ID]"));
+  std::optional<int64_t> scelta;
   if (parole.size() == 1) {
     auto id = LeggiId(parole[0]);
     if (!id) return contesto.Fallisci(id.Errore());
     if (auto giocata = agenda.Carica(*id); !giocata) return contesto.Fallisci(giocata.Errore());
+    scelta = *id;
   }
-  return contesto.Fallisci(AvvisoEsclamativo(
-      "la verifica delle giocate sulle estrazioni non è ancora disponibile: arriverà con il calcolo dei premi"));
+  auto tabella = contesto.CaricaTabella();
+  if (!tabella) return contesto.Fallisci(tabella.Errore());
+  auto verificate = agenda::VerificaGiocate(
+      agenda, [&](const agenda::Giocata& giocata) { return agenda::VerificaGiocataLotto(giocata, *tabella); }, scelta);
+  if (!verificate) return contesto.Fallisci(verificate.Errore());
+  fmt::print(contesto.out, "giocate verificate: {}\n", *verificate);
+  auto nuove = agenda.VinciteNonViste();
+  if (!nuove) return contesto.Fallisci(nuove.Errore());
+  for (const agenda::VincitaNonVista& v : *nuove)
+    fmt::print(contesto.out, "giocata {} colpo {} del {}: {} {} su {} ({}), lordo {}\n", v.giocata, v.colpo,
+               FormattaData(v.data), v.vincita.sorte, fmt::join(v.vincita.numeri, "."),
+               v.vincita.ruota ? std::string(SiglaRuota(v.vincita.ruota)) : std::string("-"), v.vincita.combinazioni,
+               agenda::FormattaImporto(v.vincita.lordo));
+  // What was printed has been seen: the next check shows only what it adds.
+  if (auto vista = agenda.SegnaVisione(); !vista) return contesto.Fallisci(vista.Errore());
+  return kUscitaRiuscita;
 }
 
 }  // namespace

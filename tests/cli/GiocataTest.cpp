@@ -130,8 +130,6 @@ TEST_F(Giocata, OgniParolaSbagliataHaIlSuoMessaggio) {
       {{"giocata", "rimuovi", "-3"}, "numero di giocata non valido: -3"},
       {{"giocata", "rimuovi"}, "uso: lottolab giocata rimuovi ID"},
       {{"giocata", "verifica", "8"}, "la giocata 8 non è nell'agenda"},
-      {{"giocata", "verifica"},
-       "la verifica delle giocate sulle estrazioni non è ancora disponibile: arriverà con il calcolo dei premi"},
   };
   for (const auto& [parole, messaggio] : altre) {
     const Uscita uscita = Lottolab(parole);
@@ -160,6 +158,26 @@ TEST_F(Giocata, LAgendaConfigurataEUnFileGuastoNonToccato) {
                             " non è un'agenda delle giocate (è danneggiato o non è un database SQLite): non viene "
                             "modificato\n");
   EXPECT_EQ(test::Leggi(m_base / "mie" / "giocate.db"), "non un database");
+}
+
+// The check plays the stored bet on the archive: 12-34 comes out on Bari in the second draw, and a
+// bet that stops at its first win is closed there. 250 x 1 euro / 3 ambi = 83,33 gross, 76,66 net.
+TEST_F(Giocata, LaVerificaGiocaLeGiocateSullArchivio) {
+  test::Scrivi(m_base / "lotto.txt",
+               "2023/01/05\tBA\t1\t2\t3\t4\t5\n"
+               "2023/01/07\tBA\t12\t7\t34\t8\t9\n"
+               "2023/01/10\tBA\t12\t34\t56\t8\t9\n");
+  ASSERT_EQ(Lottolab({"importa", (m_base / "lotto.txt").string()}).codice, 0);
+  ASSERT_EQ(Aggiungi({"--numeri", "12,34,56", "--ruote", "BA", "--sorte", "ambo", "--posta", "1", "--dal", "05/01/2023",
+                      "--colpi", "3", "--ferma"})
+                .codice,
+            0);
+  const Uscita verifica = Lottolab({"giocata", "verifica"});
+  ASSERT_EQ(verifica.codice, 0) << verifica.err;
+  EXPECT_EQ(verifica.out,
+            "giocate verificate: 1\ngiocata 1 colpo 2 del 07/01/2023: ambo 12.34 su BA (1), lordo 83,33\n");
+  EXPECT_EQ(Lottolab({"giocata", "verifica"}).out, "giocate verificate: 0\n") << "closed, and its win already seen";
+  EXPECT_NE(Lottolab({"giocata", "elenco"}).out.find("2/3    chiusa   2,00  76,66  74,66"), std::string::npos);
 }
 
 }  // namespace
