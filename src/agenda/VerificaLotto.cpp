@@ -39,8 +39,8 @@ int PrimaEstrazione(const Giocata& giocata, const TabellaEstrazioni& tabella) {
 
 Esito<std::vector<VerificaColpo>> VerificaGiocataLotto(const Giocata& giocata, const TabellaEstrazioni& tabella) {
   if (giocata.gioco != GiocoGiocata::Lotto)
-    return AvvisoEsclamativo(fmt::format("la verifica delle giocate del gioco {} non è ancora disponibile",
-                                         SiglaGioco(giocata.gioco)));
+    return AvvisoEsclamativo(
+        fmt::format("la verifica delle giocate del gioco {} non è ancora disponibile", SiglaGioco(giocata.gioco)));
   const int prima = PrimaEstrazione(giocata, tabella);
   if (prima == 0) return std::vector<VerificaColpo>();
   stats::Giocata motore;

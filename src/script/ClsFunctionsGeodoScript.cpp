@@ -45,7 +45,8 @@ const Tabella& TabellaCompleta() {
                           FunzioniGiochiStatistiche(),
                           FunzioniGiochiElenchi(),
                           FunzioniGiochiEstrazioniAttive(),
-                          FunzioniGiochiFile()})
+                          FunzioniGiochiFile(),
+                          FunzioniSistemi()})
       t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =

@@ -191,5 +191,6 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiStatistiche();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiElenchi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiEstrazioniAttive();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiFile();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniSistemi();
 
 }  // namespace lottolab::script
