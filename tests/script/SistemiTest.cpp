@@ -22,16 +22,16 @@ TEST_F(Libreria, UnSistemaRidottoHaINumeriDelloScriptEMantieneLaGaranzia) {
   EXPECT_EQ(Testo("UBound(a, 1) & \" \" & UBound(a, 2)"), fmt::format("{} 4", colonne));
   std::vector<std::vector<int>> sistema(static_cast<size_t>(colonne));
   for (int c = 1; c <= colonne; ++c)
-    for (int j = 1; j <= 4; ++j) sistema[static_cast<size_t>(c - 1)].push_back(std::stoi(Testo(fmt::format("a({}, {})", c, j))));
+    for (int j = 1; j <= 4; ++j)
+      sistema[static_cast<size_t>(c - 1)].push_back(std::stoi(Testo(fmt::format("a({}, {})", c, j))));
   for (const auto& colonna : sistema)
     for (int numero : colonna) ASSERT_NE(std::find(numeri.begin(), numeri.end(), numero), numeri.end()) << numero;
   for (size_t x = 0; x < numeri.size(); ++x)
     for (size_t y = x + 1; y < numeri.size(); ++y)
       for (size_t z = y + 1; z < numeri.size(); ++z) {
         const bool coperto = std::any_of(sistema.begin(), sistema.end(), [&](const std::vector<int>& colonna) {
-          return std::count_if(colonna.begin(), colonna.end(), [&](int n) {
-                   return n == numeri[x] || n == numeri[y] || n == numeri[z];
-                 }) >= 2;
+          return std::count_if(colonna.begin(), colonna.end(),
+                               [&](int n) { return n == numeri[x] || n == numeri[y] || n == numeri[z]; }) >= 2;
         });
         ASSERT_TRUE(coperto) << numeri[x] << " " << numeri[y] << " " << numeri[z];
       }

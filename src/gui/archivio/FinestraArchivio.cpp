@@ -11,6 +11,7 @@
 
 #include "gui/archivio/AvvioAggiornamento.h"
 #include "gui/archivio/ModelloEstrazioni.h"
+#include "gui/archivio/VistaEstrazioni.h"
 #include "gui/principale/Finestre.h"
 
 namespace lottolab::gui {
@@ -58,15 +59,8 @@ class FinestraArchivio : public QWidget {
     barra->addWidget(m_esito_ricerca, 1);
     barra->addWidget(aggiorna);
 
-    m_tabella->setObjectName(QStringLiteral("tabellaEstrazioni"));
     m_tabella->setModel(m_modello);
-    m_tabella->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_tabella->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_tabella->setAlternatingRowColors(true);
-    m_tabella->verticalHeader()->hide();
-    // Fixed row heights let the view place any of thousands of rows without measuring the others.
-    m_tabella->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_tabella->verticalHeader()->setDefaultSectionSize(m_tabella->fontMetrics().height() + 6);
+    PreparaTabellaEstrazioni(*m_tabella);
 
     m_dettaglio->setObjectName(QStringLiteral("dettaglioEstrazione"));
     m_dettaglio->setTextFormat(Qt::RichText);

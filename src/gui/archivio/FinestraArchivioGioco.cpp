@@ -14,6 +14,7 @@
 
 #include "gui/archivio/AvvioAggiornamento.h"
 #include "gui/archivio/ModelloEstrazioniGioco.h"
+#include "gui/archivio/VistaEstrazioni.h"
 #include "gui/principale/Finestre.h"
 #include "gui/principale/GiocoFinestra.h"
 
@@ -70,15 +71,8 @@ class FinestraArchivioGioco : public QWidget {
     m_avviso->setFrameShape(QFrame::StyledPanel);
     m_avviso->setMargin(8);
 
-    m_tabella->setObjectName(QStringLiteral("tabellaEstrazioni"));
     m_tabella->setModel(m_modello);
-    m_tabella->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_tabella->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_tabella->setAlternatingRowColors(true);
-    m_tabella->verticalHeader()->hide();
-    // Fixed row heights let the view place any of a hundred thousand rows without measuring the others.
-    m_tabella->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_tabella->verticalHeader()->setDefaultSectionSize(m_tabella->fontMetrics().height() + 6);
+    PreparaTabellaEstrazioni(*m_tabella);
 
     m_dettaglio->setObjectName(QStringLiteral("dettaglioEstrazione"));
     m_dettaglio->setTextFormat(Qt::RichText);

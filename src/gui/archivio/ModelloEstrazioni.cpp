@@ -1,4 +1,5 @@
 #include "gui/archivio/ModelloEstrazioni.h"
+#include "gui/archivio/VistaEstrazioni.h"
 
 #include <QFontDatabase>
 
@@ -84,11 +85,7 @@ DettaglioEstrazione ModelloEstrazioni::Dettaglio(int riga) const {
 }
 
 int ModelloEstrazioni::RigaEntro(const QDate& data) const {
-  GruppoData cercata;
-  cercata.giorno = static_cast<int16_t>(data.day());
-  cercata.mese = static_cast<int16_t>(data.month());
-  cercata.anno = static_cast<int16_t>(data.year());
-  return m_tabella->UltimaEstrazioneEntro(cercata) - 1;
+  return m_tabella->UltimaEstrazioneEntro(DataDelCalendario(data)) - 1;
 }
 
 }  // namespace lottolab::gui
