@@ -3,6 +3,8 @@
 
 #include "Argomenti.h"
 #include "Comandi.h"
+#include "agenda/Agenda.h"
+#include "agenda/VerificaLotto.h"
 #include "app/ErroreInatteso.h"
 #include "archive/AllineaDieciELotto.h"
 #include "archive/ClsEstrazioni.h"
@@ -18,14 +20,44 @@ namespace {
 
 Avviso UsoErrato(std::string_view uso) { return AvvisoEsclamativo(fmt::format("uso: lottolab {}", uso)); }
 
+// Whether the archive of the command is the configured one, which the other archives and the
+// agenda follow.
+bool ArchivioConfigurato(const Contesto& contesto) {
+  std::error_code ec, ec_configurato;
+  return fs::weakly_canonical(contesto.archivio, ec) ==
+             fs::weakly_canonical(contesto.configurazione.ArchivioLotto(), ec_configurato) &&
+         !ec && !ec_configurato;
+}
+
+// The agenda's open bets checked on the archive that has just grown; the wins are left for
+// `giocata verifica` to show.
+void VerificaLAgenda(Contesto& contesto) {
+  std::error_code ec;
+  if (!ArchivioConfigurato(contesto) || !fs::exists(contesto.configurazione.FileAgenda(), ec)) return;
+  auto lotto = ClsEstrazioni(contesto.archivio).CaricaEstrazioni();
+  auto aperta = agenda::Agenda::Apri(contesto.configurazione.FileAgenda());
+  if (!lotto || !aperta) {
+    contesto.segnalatore.Avverti("giocate dell'agenda non verificate: " +
+                                 (lotto ? aperta.Errore().testo : lotto.Errore().testo));
+    return;
+  }
+  auto verificate = agenda::VerificaGiocate(
+      aperta.Valore(), [&](const agenda::Giocata& giocata) { return agenda::VerificaGiocataLotto(giocata, *lotto); });
+  auto nuove =
+      verificate ? aperta.Valore().VinciteNonViste() : Esito<std::vector<agenda::VincitaNonVista>>(verificate.Errore());
+  if (!verificate || !nuove) {
+    contesto.segnalatore.Avverti("giocate dell'agenda non verificate: " + nuove.Errore().testo);
+    return;
+  }
+  fmt::print(contesto.out, "agenda: verificate {} giocate, vincite da vedere {} (lottolab giocata verifica)\n",
+             *verificate, nuove->size());
+}
+
 // The evening 10eLotto derived again from the Lotto archive that has just grown, when it is the
 // configured one that the 10eLotto is derived from; what was done told in one line.
 void AllineaIlDieciELotto(Contesto& contesto) {
-  std::error_code ec, ec_configurato;
-  if (fs::weakly_canonical(contesto.archivio, ec) !=
-          fs::weakly_canonical(contesto.configurazione.ArchivioLotto(), ec_configurato) ||
-      ec || ec_configurato)
-    return;
+  std::error_code ec;
+  if (!ArchivioConfigurato(contesto)) return;
   const fs::path file = contesto.configurazione.ArchivioGioco(Gioco::DieciELotto);
   if (!fs::exists(file, ec)) return;
   auto lotto = ClsEstrazioni(contesto.archivio).CaricaEstrazioni();
@@ -59,7 +91,10 @@ int ImportaLotto(Contesto& contesto, const fs::path& file) {
   auto importate = ImportaRisultati(archivio, file);
   if (!importate) return contesto.Fallisci(importate.Errore());
   fmt::print(contesto.out, "importate {} estrazioni\n", *importate);
-  if (*importate > 0) AllineaIlDieciELotto(contesto);
+  if (*importate > 0) {
+    AllineaIlDieciELotto(contesto);
+    VerificaLAgenda(contesto);
+  }
   return kUscitaRiuscita;
 }
 

@@ -180,5 +180,20 @@ TEST_F(Giocata, LaVerificaGiocaLeGiocateSullArchivio) {
   EXPECT_NE(Lottolab({"giocata", "elenco"}).out.find("2/3    chiusa   2,00  76,66  74,66"), std::string::npos);
 }
 
+// An import that adds draws checks the open bets at once and leaves their wins to be seen.
+TEST_F(Giocata, LImportazioneVerificaLeGiocateAperte) {
+  test::Scrivi(m_base / "a.txt", "2023/01/05\tBA\t1\t2\t3\t4\t5\n");
+  test::Scrivi(m_base / "b.txt", "2023/01/07\tBA\t12\t7\t34\t8\t9\n");
+  ASSERT_EQ(Lottolab({"importa", (m_base / "a.txt").string()}).out, "importate 1 estrazioni\n")
+      << "no agenda yet, nothing to check";
+  ASSERT_EQ(Aggiungi({"--numeri", "12,34,56", "--ruote", "BA", "--sorte", "ambo", "--posta", "1", "--dal", "06/01/2023",
+                      "--colpi", "3"})
+                .codice,
+            0);
+  EXPECT_EQ(Lottolab({"importa", (m_base / "b.txt").string()}).out,
+            "importate 1 estrazioni\nagenda: verificate 1 giocate, vincite da vedere 1 (lottolab giocata verifica)\n");
+  EXPECT_NE(Lottolab({"giocata", "verifica"}).out.find("ambo 12.34 su BA (1), lordo 83,33"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace lottolab::cli
