@@ -27,17 +27,24 @@ Result<int> SorteDelGioco(const TabellaGioco& tab, const CallArgs& args, size_t 
 
 Result<MisuraGioco> Completa(const TabellaGioco& tab, const CallArgs& args, MisuraGioco misura, PostiGioco posti) {
   misura.tab = &tab;
-  VBS_TRY_ASSIGN(auto inizio, EstrazioneArgomento(tab.EstrazioniArchivio(), args, posti.inizio, 1, "Inizio"));
-  misura.inizio = inizio;
-  VBS_TRY_ASSIGN(auto fine,
-                 EstrazioneArgomento(tab.EstrazioniArchivio(), args, posti.fine, tab.EstrazioniArchivio(), "Fine"));
-  misura.fine = fine;
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(tab, args, posti.inizio, posti.fine));
+  misura.inizio = intervallo.inizio;
+  misura.fine = intervallo.fine;
   VBS_TRY_ASSIGN(auto posizioni, PosizioniArgomento(args, posti.posizioni, tab.formato().numeri));
   misura.posizioni = posizioni;
   return misura;
 }
 
 }  // namespace
+
+Result<Intervallo> IntervalloGioco(const TabellaGioco& tab, const CallArgs& args, std::optional<size_t> i_inizio,
+                                   size_t i_fine) {
+  const int estrazioni = tab.EstrazioniArchivio();
+  VBS_TRY_ASSIGN(auto inizio,
+                 i_inizio ? EstrazioneArgomento(estrazioni, args, *i_inizio, 1, "Inizio") : Result<int>(1));
+  VBS_TRY_ASSIGN(auto fine, EstrazioneArgomento(estrazioni, args, i_fine, estrazioni, "Fine"));
+  return Intervallo{inizio, fine};
+}
 
 Result<const TabellaGioco*> TabellaDelGioco(Libreria& lib, Suffisso suffisso) {
   const Esito<TabellaGioco>& tabella =

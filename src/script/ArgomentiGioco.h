@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "ArchiviGiochi.h"
+#include "ArgomentiRitardi.h"
 #include "ClsFunctionsGeodoScript.h"
 #include "stats/RitardiGioco.h"
 
@@ -24,6 +25,11 @@ vbs::Result<const EstrazioneGioco*> EstrazioneDelGioco(const TabellaGioco& tab, 
 
 // Argument i as one number, brought into 1..M.
 vbs::Result<int> NumeroDelGioco(const TabellaGioco& tab, const vbs::CallArgs& args, size_t i);
+
+// Inizio at i_inizio (1 when omitted, or when the function has none) and Fine at i_fine (the last
+// draw when omitted), each a draw of the table; a range with Inizio after Fine measures no draw.
+vbs::Result<Intervallo> IntervalloGioco(const TabellaGioco& tab, const vbs::CallArgs& args,
+                                        std::optional<size_t> i_inizio, size_t i_fine);
 
 // What a measure of a combination in a game's archive needs, checked.
 struct MisuraGioco {

@@ -18,14 +18,13 @@ namespace {
 using namespace famiglia;
 using S = Suffisso;
 
-Result<Intervallo> IntervalloGioco(const TabellaGioco& tab, const CallArgs& args, std::optional<size_t> i_inizio,
-                                   size_t i_fine) {
-  const int estrazioni = tab.EstrazioniArchivio();
-  VBS_TRY_ASSIGN(auto inizio,
-                 i_inizio ? EstrazioneArgomento(estrazioni, args, *i_inizio, 1, "Inizio") : Result<int>(1));
-  VBS_TRY_ASSIGN(auto fine, EstrazioneArgomento(estrazioni, args, i_fine, estrazioni, "Fine"));
-  if (inizio > fine) return ArgomentoNonValido(fmt::format("Inizio ({}) dopo Fine ({})", inizio, fine));
-  return Intervallo{inizio, fine};
+// The ranges of the lists must not be empty.
+Result<Intervallo> IntervalloOrdinato(const TabellaGioco& tab, const CallArgs& args, std::optional<size_t> i_inizio,
+                                      size_t i_fine) {
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(tab, args, i_inizio, i_fine));
+  if (intervallo.inizio > intervallo.fine)
+    return ArgomentoNonValido(fmt::format("Inizio ({}) dopo Fine ({})", intervallo.inizio, intervallo.fine));
+  return intervallo;
 }
 
 // Element n is the delay of number n, 1..M; element 0 is unused.
@@ -40,7 +39,7 @@ std::vector<int> Ritardi(const TabellaGioco& tab, Intervallo intervallo) {
 template <Suffisso kSuffisso>
 Result<Variant> ElencoRitardi(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto tab, TabellaDelGioco(lib, kSuffisso));
-  VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(*tab, args, 1, 2));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloOrdinato(*tab, args, 1, 2));
   const std::vector<int> ritardi = Ritardi(*tab, intervallo);
   args.Out(0) = ArrayDaUno(std::span<const int>(ritardi).subspan(1));
   return Variant();
@@ -48,7 +47,7 @@ Result<Variant> ElencoRitardi(Libreria& lib, CallArgs& args) {
 
 Result<Variant> ElencoRitardiNumeroOroDL(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto tab, TabellaDelGioco(lib, S::DL));
-  VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(*tab, args, 1, 2));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloOrdinato(*tab, args, 1, 2));
   std::vector<int> ritardi;
   for (int numero = 1; numero <= tab->formato().massimo_speciale; ++numero) {
     ritardi.push_back(
@@ -64,7 +63,7 @@ Result<Variant> ElencoRitardiNumeroOroDL(Libreria& lib, CallArgs& args) {
 // smaller number first.
 Result<std::vector<int>> Classifica(Libreria& lib, Suffisso suffisso, const CallArgs& args, size_t i_fine) {
   VBS_TRY_ASSIGN(auto tab, TabellaDelGioco(lib, suffisso));
-  VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(*tab, args, std::nullopt, i_fine));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloOrdinato(*tab, args, std::nullopt, i_fine));
   const std::vector<int> ritardi = Ritardi(*tab, intervallo);
   std::vector<int> numeri(ritardi.size() - 1);
   std::iota(numeri.begin(), numeri.end(), 1);
@@ -126,7 +125,7 @@ template <Suffisso kSuffisso>
 Result<Variant> RitPos(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto tab, TabellaDelGioco(lib, kSuffisso));
   VBS_TRY_ASSIGN(auto posto, NumeroInPosizioneArgomento(*tab, args, 0, "Posizione"));
-  VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(*tab, args, 2, 3));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloOrdinato(*tab, args, 2, 3));
   return Variant::Long(stats::PercorsoGioco(*tab, intervallo.inizio, intervallo.fine, [&](const EstrazioneGioco& e) {
                          return InPosizione(e, posto);
                        }).ritardo);
@@ -140,7 +139,7 @@ Result<Variant> AmboPosRit(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto secondo, NumeroInPosizioneArgomento(*tab, args, 2, "Posizione2"));
   if (primo.numero == secondo.numero || primo.posizione == secondo.posizione)
     return ArgomentoNonValido("Un ambo posizionale vuole due numeri diversi in due posizioni diverse");
-  VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(*tab, args, 4, 5));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloOrdinato(*tab, args, 4, 5));
   return Variant::Long(stats::PercorsoGioco(*tab, intervallo.inizio, intervallo.fine, [&](const EstrazioneGioco& e) {
                          return InPosizione(e, primo) && InPosizione(e, secondo);
                        }).ritardo);

@@ -61,18 +61,11 @@ struct StatDiNumeri {
       misura.numeri.push_back(numero);
     }
     misura.sorte = kNumeri;
-    VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(*tab, args, kNumeri));
+    VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(*tab, args, kNumeri, kNumeri + 1));
     misura.inizio = intervallo.inizio;
     misura.fine = intervallo.fine;
     RestituisciFigure(args, kNumeri + 2, Statistica(misura));
     return Variant();
-  }
-
-  static Result<Intervallo> IntervalloGioco(const TabellaGioco& tab, const CallArgs& args, size_t i) {
-    const int estrazioni = tab.EstrazioniArchivio();
-    VBS_TRY_ASSIGN(auto inizio, EstrazioneArgomento(estrazioni, args, i, 1, "Inizio"));
-    VBS_TRY_ASSIGN(auto fine, EstrazioneArgomento(estrazioni, args, i + 1, estrazioni, "Fine"));
-    return Intervallo{inizio, fine};
   }
 };
 
@@ -133,7 +126,7 @@ template <Suffisso kSuffisso>
 Result<Variant> StatisticaGruppoFormazioni(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto tab, TabellaDelGioco(lib, kSuffisso));
   VBS_TRY_ASSIGN(auto sorte, InteroTra(args, 0, 1, tab->formato().numeri, "Sorte"));
-  VBS_TRY_ASSIGN(auto intervallo, StatDiNumeri<0>::IntervalloGioco(*tab, args, 1));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(*tab, args, 1, 2));
   const auto& formazioni = FormazioniDellEsecuzione(lib);
   if (formazioni.empty()) return ArgomentoNonValido("Nessuna formazione nel gruppo statistico");
   constexpr std::string_view kRiga = "{:>10} {:>8} {:>8} {:>8} {:>8}  {}\n";
@@ -156,7 +149,7 @@ template <Suffisso kSuffisso>
 Result<Variant> StatisticaNumeroSpeciale(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto tab, TabellaDelGioco(lib, kSuffisso));
   VBS_TRY_ASSIGN(auto numero, NumeroDelGioco(*tab, args, 0));
-  VBS_TRY_ASSIGN(auto intervallo, StatDiNumeri<0>::IntervalloGioco(*tab, args, 1));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(*tab, args, 1, 2));
   RestituisciFigure(args, 3,
                     stats::PercorsoGioco(*tab, intervallo.inizio, intervallo.fine,
                                          [numero](const EstrazioneGioco& e) { return e.speciali[0] == numero; }));
