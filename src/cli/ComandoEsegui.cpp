@@ -235,6 +235,7 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole) {
                                    contesto.configurazione.ArchivioModificabile(),
                                    app::FileConfigurazione(contesto.configurazione.base)};
   opzioni.libreria.archivi_giochi = contesto.configurazione.ArchiviGiochi();
+  opzioni.libreria.file_agenda = contesto.configurazione.FileAgenda();
   opzioni.libreria.sola_lettura.insert(opzioni.libreria.sola_lettura.end(), opzioni.libreria.archivi_giochi.begin(),
                                        opzioni.libreria.archivi_giochi.end());
   if (pagina) opzioni.nome_file_html = pagina->filename().string();

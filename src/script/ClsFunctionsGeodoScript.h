@@ -47,6 +47,7 @@ struct ImpostazioniLibreria {
   std::string colore_sfondo_html = "#FFFFFF";
   Modalita modalita = Modalita::Normale;
   std::vector<std::filesystem::path> sola_lettura;  // lottolab.ini and the archives
+  std::filesystem::path file_agenda;                // the agenda of real bets; empty when the host has none
 };
 
 // One record of ImpostaInterruzioni.
@@ -192,5 +193,8 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiElenchi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiEstrazioniAttive();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiFile();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniSistemi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocate();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocateGiochi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocateAgenda();
 
 }  // namespace lottolab::script

@@ -146,7 +146,6 @@ const Libreria::Funzione kEsecuzione[] = {
     {"AzzeraArrayInterruzioni", 0, 0, &AzzeraArrayInterruzioni, "(host) svuota i record delle interruzioni"},
     {"InitArrayFlagEstrazioniAttive", 0, 0, &InitArrayFlagEstrazioniAttive, "(host) rende attive tutte le estrazioni"},
     {"AzzeraFlagStopProcess", 0, 0, &AzzeraFlagStopProcess, "azzera il segnale di arresto"},
-    {"ResettaGiocate", 0, 0, &NienteDaRilasciare, "(host) dimentica le giocate di un'esecuzione precedente"},
     {"AzzeraHtmlOutput", 0, 0, &AzzeraHtmlOutput, "(host) avvia la pagina HTML dell'esecuzione"},
     {"AzzeraHtmlOutputMulti", 0, 0, &AzzeraHtmlOutputMulti, "avvia la pagina HTML dell'output successivo"},
     {"ColoraRtfOutput", 0, 0, &ColoraRtfOutput, "(host) completa l'output di testo"},

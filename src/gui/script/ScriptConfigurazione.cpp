@@ -13,6 +13,7 @@ script::ImpostazioniLibreria ImpostazioniLibreriaDa(const app::Configurazione& c
   impostazioni.sola_lettura = {configurazione.ArchivioLotto(), configurazione.ArchivioModificabile(),
                                app::FileConfigurazione(configurazione.base)};
   impostazioni.archivi_giochi = configurazione.ArchiviGiochi();
+  impostazioni.file_agenda = configurazione.FileAgenda();
   impostazioni.sola_lettura.insert(impostazioni.sola_lettura.end(), impostazioni.archivi_giochi.begin(),
                                    impostazioni.archivi_giochi.end());
   const std::string colore = LeggiImpostazioni(configurazione.ini).colore_sfondo_html;
