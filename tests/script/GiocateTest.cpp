@@ -260,6 +260,18 @@ TEST_F(Libreria, UnaGiocataNellAgendaSenzaAgendaEUnErroreChiaro) {
   AvvisoErrore5("AddRecordAgendaGiocate", "Nessuna agenda delle giocate configurata", "no agenda");
 }
 
+TEST_F(Libreria, UnoScriptProtettoNonScriveNellAgenda) {
+  test::CartellaTemporanea cartella;
+  ImpostazioniLibreria impostazioni;
+  impostazioni.modalita = Modalita::Protetta;
+  impostazioni.cartella_base = cartella.Percorso();
+  impostazioni.cartella_output = cartella / "scriptOutput";
+  impostazioni.file_agenda = cartella / "AgendaGiocate.db";
+  Avvia(SeiEstrazioni(), impostazioni);
+  EXPECT_EQ(Testo("AddRecordAgendaGiocate(Array(12, 34), Array(BA_), Array(0, 0, 1), 3)"), "errore 70");
+  EXPECT_FALSE(std::filesystem::exists(cartella / "AgendaGiocate.db"));
+}
+
 // The other games: a SuperEnalotto win is its category, without money; the generic archive wins
 // what the script said a score pays.
 TEST_F(Giocate, GliAltriGiochiVinconoCategorieOPremiDelloScript) {
