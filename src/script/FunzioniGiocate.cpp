@@ -32,10 +32,20 @@ constexpr std::string_view NomeImposta() {
   return Virtuale ? "ImpostaGiocataVirtuale" : "ImpostaGiocata";
 }
 
-// The slot checked against the archive's last draw: a refusal reaches the script where it set the
-// bet, not only when it plays it (Gioca checks again on the bet's own first draw).
-Result<Variant> Controlla(const SlotLotto& slot, int indice, const TabellaEstrazioni& tab) {
-  if (auto controllo = ControllaSlotLotto(slot, indice, tab.EstrazioniArchivio(), tab); !controllo)
+// A slot is checked against the archive's last draw as it is filled, so that a refusal reaches the
+// script where it set the bet; Gioca checks again on the bet's own first draw, where only the date
+// can make a difference. A system's development may have a hundred thousand columns, so each check
+// takes the part that changed: a new column with the stakes, a new stake with every column but only
+// its first value, the progression with the first column.
+Result<Variant> Controlla(const SlotLotto& slot, std::vector<std::vector<int>> colonne,
+                          std::vector<stats::PostaSorte> poste, std::string_view dove, int prima,
+                          const TabellaEstrazioni& tab) {
+  SlotLotto prova;
+  prova.giocata.colonne = std::move(colonne);
+  prova.giocata.ruote = slot.giocata.ruote;
+  prova.giocata.poste = std::move(poste);
+  prova.giocata.colpi = slot.giocata.colpi;
+  if (auto controllo = ControllaSlotLotto(prova, dove, prima, tab); !controllo)
     return ArgomentoNonValido(controllo.Errore().testo);
   return Variant::Boolean(true);
 }
@@ -66,7 +76,8 @@ Result<Variant> ImpostaGiocata(Libreria& lib, CallArgs& args) {
   slot.giocata.poste = std::move(poste);
   slot.giocata.colpi = colpi;
   slot.sorte_arresto = arresto;
-  VBS_TRY_ASSIGN(auto fatto, Controlla(slot, indice, *archivio));
+  VBS_TRY_ASSIGN(auto fatto, Controlla(slot, slot.giocata.colonne, slot.giocata.poste, fmt::format("giocata {}", indice),
+                                       archivio->EstrazioniArchivio(), *archivio));
   Registro<Virtuale>(lib).lotto[indice] = std::move(slot);
   return fatto;
 }
@@ -76,10 +87,12 @@ Result<Variant> AddLunghettaInGiocata(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto indice, IndiceArgomento(args, 0));
   VBS_TRY_ASSIGN(auto slot, Slot<kReale>(lib, indice));
   VBS_TRY_ASSIGN(auto numeri, NumeriGiocati(args, 1));
-  SlotLotto prova = *slot;
-  prova.giocata.colonne.push_back(std::move(numeri));
-  VBS_TRY_ASSIGN(auto fatto, Controlla(prova, indice, *archivio));
-  *slot = std::move(prova);
+  const SlotLotto& giocata = *slot;
+  VBS_TRY_ASSIGN(auto fatto,
+                 Controlla(giocata, {numeri}, giocata.giocata.poste,
+                           fmt::format("giocata {}, colonna {}", indice, giocata.giocata.colonne.size() + 1),
+                           archivio->EstrazioniArchivio(), *archivio));
+  slot->giocata.colonne.push_back(std::move(numeri));
   return fatto;
 }
 
@@ -91,16 +104,21 @@ Result<Variant> ImpostaProgressione(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto slot, Slot<Virtuale>(lib, indice));
   VBS_TRY_ASSIGN(auto sorte, SorteGiocataArgomento(args, 1));
   VBS_TRY_ASSIGN(auto progressione, ProgressioneArgomento(args, 2));
-  SlotLotto prova = *slot;
-  auto& poste = prova.giocata.poste;
+  const int ultima = archivio->EstrazioniArchivio();
+  stats::PostaSorte nuova = sorte;
+  nuova.posta = progressione.front();
+  const std::string dove = fmt::format("giocata {}", indice);
+  VBS_TRY(Controlla(*slot, slot->giocata.colonne, {nuova}, dove, ultima, *archivio));
+  nuova.progressione = std::move(progressione);
+  VBS_TRY_ASSIGN(auto fatto, Controlla(*slot, {slot->giocata.colonne.front()}, {nuova}, dove, ultima, *archivio));
+  auto& poste = slot->giocata.poste;
   auto posta = std::ranges::find_if(poste, [&sorte](const stats::PostaSorte& p) {
     return p.sorte == sorte.sorte && p.posizione == sorte.posizione;
   });
-  if (posta == poste.end()) posta = poste.insert(poste.end(), sorte);
-  posta->posta = progressione.front();
-  posta->progressione = std::move(progressione);
-  VBS_TRY_ASSIGN(auto fatto, Controlla(prova, indice, *archivio));
-  *slot = std::move(prova);
+  if (posta == poste.end())
+    poste.push_back(std::move(nuova));
+  else
+    *posta = std::move(nuova);
   return fatto;
 }
 
@@ -118,8 +136,8 @@ Result<Variant> Gioca(Libreria& lib, CallArgs& args) {
   const std::map<int, SlotLotto> slots = std::move(registro.lotto);
   registro.lotto.clear();
   for (const auto& [indice, slot] : slots)
-    if (auto controllo = ControllaSlotLotto(slot, indice, dopo + 1, tab); !controllo)
-      return ArgomentoNonValido(controllo.Errore().testo);
+    VBS_TRY(Controlla(slot, {slot.giocata.colonne.front()}, slot.giocata.poste, fmt::format("giocata {}", indice),
+                      dopo + 1, tab));
   bool vinta = false;
   for (const auto& [indice, slot] : slots) {
     GiocataEffettuata giocata = GiocaSlotLotto(slot, indice, dopo, tab);

@@ -55,10 +55,12 @@ Result<agenda::Giocata> VoceAgenda(const SlotLotto& slot, int prima, std::string
   for (const stats::PostaSorte& posta : slot.giocata.poste) voce.poste.push_back({ParolaSorte(posta), posta.posta});
   voce.id_estr_dal = prima;
   voce.colpi = slot.giocata.colpi;
-  VBS_TRY_ASSIGN(auto fattori, Fattori(slot.giocata));
-  voce.progressione = std::move(fattori);
   voce.ferma_alla_vincita = slot.sorte_arresto == 1;
   voce.nota = std::move(nota);
+  // The agenda's limits first: its bound on colpi keeps the factors' list short.
+  if (auto valida = agenda::ControllaGiocata(voce); !valida) return ArgomentoNonValido(valida.Errore().testo);
+  VBS_TRY_ASSIGN(auto fattori, Fattori(slot.giocata));
+  voce.progressione = std::move(fattori);
   return voce;
 }
 
@@ -100,7 +102,7 @@ Result<Variant> AddRecordAgendaGiocate(Libreria& lib, CallArgs& args) {
     return ArgomentoNonValido(fmt::format("IdEstrInizio non valido: {} (da 1 a {}, la prossima estrazione)", prima,
                                           prossima));
   VBS_TRY_ASSIGN(auto nota, Nota(args, 5));
-  if (auto controllo = ControllaSlotLotto(slot, 0, prima, tab); !controllo)
+  if (auto controllo = ControllaSlotLotto(slot, "la giocata", prima, tab); !controllo)
     return ArgomentoNonValido(controllo.Errore().testo);
   VBS_TRY_ASSIGN(auto voce, VoceAgenda(slot, prima, std::move(nota)));
   return Aggiungi(lib, voce, "AddRecordAgendaGiocate");

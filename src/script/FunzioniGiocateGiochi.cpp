@@ -4,6 +4,8 @@
 
 #include <fmt/format.h>
 
+#include <set>
+
 #include "ArgomentiGioco.h"
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
@@ -86,9 +88,9 @@ Result<Variant> ImpostaProgressione(Libreria& lib, CallArgs& args) {
   SlotGioco slot = trovato->second;
   slot.posta = progressione.front();
   slot.progressione = std::move(progressione);
-  for (size_t colpo = 1; colpo <= slot.progressione.size(); ++colpo) {
+  for (stats::Centesimi posta : std::set(slot.progressione.begin(), slot.progressione.end())) {
     SlotGioco uno = slot;
-    uno.posta = slot.progressione[colpo - 1];
+    uno.posta = posta;
     uno.progressione.clear();
     auto prova = GiocaSlotGioco(uno, GiocoDi(S), indice, tab->EstrazioniArchivio(), *tab, {});
     if (!prova) return ArgomentoNonValido(prova.Errore().testo);

@@ -175,6 +175,8 @@ vbs::Result<std::vector<stats::Centesimi>> ProgressioneArgomento(const vbs::Call
     poste.push_back(posta);
   }
   if (poste.empty()) return ArgomentoNonValido("aPoste non contiene nessuna posta");
+  if (poste.size() > kMassimaProgressione)
+    return ArgomentoNonValido(fmt::format("aPoste ha {} poste: al più {}", poste.size(), kMassimaProgressione));
   return poste;
 }
 
@@ -258,11 +260,11 @@ void RegistroGiocate::InterrompiAperte() {
     }
 }
 
-Esito<Fatto> ControllaSlotLotto(const SlotLotto& slot, int indice, int prima, const TabellaEstrazioni& tab) {
+Esito<Fatto> ControllaSlotLotto(const SlotLotto& slot, std::string_view dove, int prima, const TabellaEstrazioni& tab) {
   stats::Giocata giocata = slot.giocata;
   giocata.prima_estrazione = std::min(prima, tab.EstrazioniArchivio());
   if (auto controllo = stats::ControllaGiocata(giocata, tab); !controllo)
-    return AvvisoEsclamativo(fmt::format("giocata {}: {}", indice, controllo.Errore().testo));
+    return AvvisoEsclamativo(fmt::format("{}: {}", dove, controllo.Errore().testo));
   return Fatto{};
 }
 

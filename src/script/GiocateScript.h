@@ -102,6 +102,9 @@ struct StatoGiocate {
 // The slots a script may use: 1..kMassimoIndice.
 inline constexpr int kMassimoIndice = 10000;
 
+// The stakes of a progression: a colpo for each, far more than any bet plays.
+inline constexpr size_t kMassimaProgressione = 10000;
+
 // Argument i as a slot, 1..kMassimoIndice.
 vbs::Result<int> IndiceArgomento(const vbs::CallArgs& args, size_t i);
 // Argument i as the numbers of a column, as given: one value or an array of any bounds (the Empty
@@ -123,8 +126,8 @@ vbs::Result<int> SorteArrestoArgomento(const vbs::CallArgs& args, size_t i, int 
 // ---- Playing ----
 
 // Whether the slot can be played from draw `prima` (the archive's last draw when `prima` is past
-// it): the engine's checks, and the user's message naming the slot otherwise.
-Esito<Fatto> ControllaSlotLotto(const SlotLotto& slot, int indice, int prima, const TabellaEstrazioni& tab);
+// it): the engine's checks, and otherwise the user's message after `dove` ("giocata 2").
+Esito<Fatto> ControllaSlotLotto(const SlotLotto& slot, std::string_view dove, int prima, const TabellaEstrazioni& tab);
 // The account of a checked slot placed after draw `dopo`; a bet placed after the last draw has all
 // its colpi still to play.
 GiocataEffettuata GiocaSlotLotto(const SlotLotto& slot, int indice, int dopo, const TabellaEstrazioni& tab);

@@ -192,6 +192,12 @@ TEST_F(Giocate, GliArgomentiSbagliatiDannoUnMessaggio) {
   Esegui("Dim a(2) : a(1) = 10 : a(2) = 20 : Dim r(1) : r(1) = BA_");
   EXPECT_EQ(Testo("ImpostaGiocata(1, a, r, pAmbo, 3)"), "Vero");
   EXPECT_EQ(Testo("ImpostaGiocata(2, Array(10, 20), BA_, Array(Empty, 0, 1), 3)"), "Vero");
+  EXPECT_TRUE(Vuoto("AddLunghettaInGiocata(1, Array(5, 5))"));
+  AvvisoErrore5("AddLunghettaInGiocata", "giocata 1, colonna 2: il numero 5 è giocato due volte", "a column refused");
+  EXPECT_TRUE(Vuoto("ImpostaProgressione(1, TERNO_, Array(1))"));
+  AvvisoErrore5("ImpostaProgressione", "per la sorte terno si giocano da 3", "a sorte the columns cannot play");
+  EXPECT_TRUE(Vuoto("AddRecordAgendaGiocate(Array(10, 20), Array(BA_), pAmbo, 100000000)"));
+  AvvisoErrore5("AddRecordAgendaGiocate", "colpi", "more colpi than the agenda keeps");
   EXPECT_TRUE(Vuoto("ImpostaProgressione(1, AMBO_, Array(1, 0.01))"));
   AvvisoErrore5("ImpostaProgressione", "va da 0,05", "a stake below the minimum in the progression");
   EXPECT_EQ(Testo("Gioca(2, False)"), "Vero");
