@@ -76,8 +76,8 @@ Result<Variant> ImpostaGiocata(Libreria& lib, CallArgs& args) {
   slot.giocata.poste = std::move(poste);
   slot.giocata.colpi = colpi;
   slot.sorte_arresto = arresto;
-  VBS_TRY_ASSIGN(auto fatto, Controlla(slot, slot.giocata.colonne, slot.giocata.poste, fmt::format("giocata {}", indice),
-                                       archivio->EstrazioniArchivio(), *archivio));
+  VBS_TRY_ASSIGN(auto fatto, Controlla(slot, slot.giocata.colonne, slot.giocata.poste,
+                                       fmt::format("giocata {}", indice), archivio->EstrazioniArchivio(), *archivio));
   Registro<Virtuale>(lib).lotto[indice] = std::move(slot);
   return fatto;
 }
@@ -112,9 +112,8 @@ Result<Variant> ImpostaProgressione(Libreria& lib, CallArgs& args) {
   nuova.progressione = std::move(progressione);
   VBS_TRY_ASSIGN(auto fatto, Controlla(*slot, {slot->giocata.colonne.front()}, {nuova}, dove, ultima, *archivio));
   auto& poste = slot->giocata.poste;
-  auto posta = std::ranges::find_if(poste, [&sorte](const stats::PostaSorte& p) {
-    return p.sorte == sorte.sorte && p.posizione == sorte.posizione;
-  });
+  auto posta = std::ranges::find_if(
+      poste, [&sorte](const stats::PostaSorte& p) { return p.sorte == sorte.sorte && p.posizione == sorte.posizione; });
   if (posta == poste.end())
     poste.push_back(std::move(nuova));
   else
@@ -290,7 +289,8 @@ const Libreria::Funzione kGiocate[] = {
      "[Titolo = \"Giocate\"]: il riepilogo delle giocate reali del Lotto: giocate vinte, perse, in corso, colpi, "
      "spesa, vinto lordo, ritenuta, netto, saldo, estrazioni vincenti per sorte, serie più lunga senza vincite, calo "
      "massimo del saldo; come testo e come tabella nella pagina HTML"},
-    {"OutputVirtuale", 0, 1, &Output<kVirtuale>, "[Titolo = \"Giocate virtuali\"]: come Output, per le giocate virtuali"},
+    {"OutputVirtuale", 0, 1, &Output<kVirtuale>,
+     "[Titolo = \"Giocate virtuali\"]: come Output, per le giocate virtuali"},
     {"ScriviResoconto", 0, 1, &ScriviResoconto,
      "[Indice]: il conto estrazione per estrazione delle giocate reali del Lotto, o di quelle del numero Indice: "
      "estrazione, data, giocate in corso, spesa, vinto lordo e netto, saldo, vincite; come testo e come tabella "

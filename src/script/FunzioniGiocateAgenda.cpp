@@ -99,8 +99,8 @@ Result<Variant> AddRecordAgendaGiocate(Libreria& lib, CallArgs& args) {
   const int prossima = tab.EstrazioniArchivio() + 1;
   VBS_TRY_ASSIGN(auto prima, args.Long(4, prossima));
   if (prima < 1 || prima > prossima)
-    return ArgomentoNonValido(fmt::format("IdEstrInizio non valido: {} (da 1 a {}, la prossima estrazione)", prima,
-                                          prossima));
+    return ArgomentoNonValido(
+        fmt::format("IdEstrInizio non valido: {} (da 1 a {}, la prossima estrazione)", prima, prossima));
   VBS_TRY_ASSIGN(auto nota, Nota(args, 5));
   if (auto controllo = ControllaSlotLotto(slot, "la giocata", prima, tab); !controllo)
     return ArgomentoNonValido(controllo.Errore().testo);

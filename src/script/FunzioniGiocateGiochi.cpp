@@ -36,8 +36,9 @@ Result<stats::OpzioneDieciELotto> OpzioneArgomento(const CallArgs& args, size_t 
   if (opzione == "oro") return stats::OpzioneDieciELotto::Oro;
   if (opzione == "doppiooro") return stats::OpzioneDieciELotto::DoppioOro;
   if (opzione == "extra") return stats::OpzioneDieciELotto::Extra;
-  return ArgomentoNonValido(fmt::format(
-      "Opzione del 10eLotto non valida: \"{}\" (\"base\", \"oro\", \"doppio oro\" o \"extra\")", text::Utf16ToUtf8(testo)));
+  return ArgomentoNonValido(
+      fmt::format("Opzione del 10eLotto non valida: \"{}\" (\"base\", \"oro\", \"doppio oro\" o \"extra\")",
+                  text::Utf16ToUtf8(testo)));
 }
 
 // The stake a column costs: what each game sells.
@@ -45,7 +46,8 @@ Result<stats::Centesimi> PostaArgomento(Suffisso suffisso, const CallArgs& args,
   if (suffisso == Suffisso::SE) return stats::kCentesimiPerEuro;
   VBS_TRY_ASSIGN(auto posta, CentesimiDi(args[i], args.locale(), "Posta"));
   if (suffisso == Suffisso::WF && posta != stats::kCentesimiPerEuro && posta != 2 * stats::kCentesimiPerEuro)
-    return ArgomentoNonValido(fmt::format("Posta del Win for Life non valida: {} euro (1 o 2)", stats::FormattaEuro(posta)));
+    return ArgomentoNonValido(
+        fmt::format("Posta del Win for Life non valida: {} euro (1 o 2)", stats::FormattaEuro(posta)));
   return posta;
 }
 

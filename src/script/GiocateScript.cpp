@@ -79,18 +79,21 @@ Esito<Fatto> ControllaColonneFT(const std::vector<std::vector<int>>& colonne, co
     if (colonna.empty() || static_cast<int>(colonna.size()) > formato.massimo)
       return AvvisoEsclamativo(fmt::format("una colonna ha {} numeri (da 1 a {})", colonna.size(), formato.massimo));
     for (size_t i = 0; i < colonna.size(); ++i)
-      if (colonna[i] < 1 || colonna[i] > formato.massimo || std::find(colonna.begin(), colonna.begin() + i, colonna[i]) !=
-                                                                colonna.begin() + static_cast<std::ptrdiff_t>(i))
+      if (colonna[i] < 1 || colonna[i] > formato.massimo ||
+          std::find(colonna.begin(), colonna.begin() + i, colonna[i]) !=
+              colonna.begin() + static_cast<std::ptrdiff_t>(i))
         return AvvisoEsclamativo(
             fmt::format("numero non valido o ripetuto: {} (da 1 a {})", colonna[i], formato.massimo));
   }
   return Fatto{};
 }
 
-// One draw of an FT bet: the hits of each column, won when the script gave that score a prize.
+// One draw of an FT bet: the hits of each column, won when the script gave that score a prize;
+// `ferma` says whether a win stops the bet, as FermaGioco does for the other games.
 ColpoConto ColpoFT(const SlotGioco& slot, const EstrazioneGioco& estrazione, int colpo, const FormatoGioco& formato,
-                   const std::map<int, Centesimi>& premi) {
+                   const std::map<int, Centesimi>& premi, bool& ferma) {
   ColpoConto conto{colpo, estrazione.id_estr, estrazione.data, 0, {}, 0, {}, false};
+  ferma = false;
   for (size_t c = 0; c < slot.colonne.size(); ++c) {
     conto.spesa += slot.AlColpo(colpo);
     const int punti = Presi(slot.colonne[c], estrazione, formato.numeri);
@@ -101,6 +104,7 @@ ColpoConto ColpoFT(const SlotGioco& slot, const EstrazioneGioco& estrazione, int
     conto.vincite.push_back(std::move(testo));
     if (premio == premi.end()) continue;
     conto.vincente = true;
+    ferma = ferma || slot.sorte_arresto == 1 || (slot.sorte_arresto > 1 && punti >= slot.sorte_arresto);
     conto.vinto.lordo += premio->second;
     conto.vinto.netto += premio->second;
   }
@@ -156,7 +160,8 @@ vbs::Result<std::vector<int>> NumeriGiocati(const vbs::CallArgs& args, size_t i)
   return numeri;
 }
 
-vbs::Result<stats::Centesimi> CentesimiDi(const vbs::Variant& valore, const vbs::Locale& locale, std::string_view cosa) {
+vbs::Result<stats::Centesimi> CentesimiDi(const vbs::Variant& valore, const vbs::Locale& locale,
+                                          std::string_view cosa) {
   VBS_TRY_ASSIGN(auto euro, valore.to_double(locale));
   const double centesimi = euro * stats::kCentesimiPerEuro;
   if (!(centesimi >= 0 && centesimi <= 1e11) || std::abs(centesimi - std::round(centesimi)) > 1e-6)
@@ -199,9 +204,10 @@ constexpr std::string_view kFormaPoste =
 vbs::Result<stats::PostaSorte> SorteGiocataArgomento(const vbs::CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto sorte, args.Long(i));
   if (sorte < 1 || sorte > kSorti)
-    return ArgomentoNonValido(fmt::format("Sorte non valida: {} (da 1 a 5 estratto .. cinquina, da 6 a 10 l'estratto "
-                                          "determinato nelle posizioni 1 .. 5, 11 l'ambetto)",
-                                          sorte));
+    return ArgomentoNonValido(
+        fmt::format("Sorte non valida: {} (da 1 a 5 estratto .. cinquina, da 6 a 10 l'estratto "
+                    "determinato nelle posizioni 1 .. 5, 11 l'ambetto)",
+                    sorte));
   return PostaDellaSorte(sorte);
 }
 
@@ -281,7 +287,7 @@ GiocataEffettuata GiocaSlotLotto(const SlotLotto& slot, int indice, int dopo, co
 
   GiocataEffettuata effettuata{GiocoGiocata::Lotto, indice, dopo, giocata.colpi, {}, 0, {}, 0, false, false, {}};
   for (const stats::ColpoGiocata& colpo : esito.colpi) {
-    ColpoConto conto{colpo.colpo, colpo.id_estr, tab[colpo.id_estr].data, colpo.spesa, colpo.vinto, colpo.saldo,
+    ColpoConto conto{colpo.colpo, colpo.id_estr,         tab[colpo.id_estr].data, colpo.spesa, colpo.vinto, colpo.saldo,
                      {},          !colpo.vincite.empty()};
     for (const stats::VincitaGiocata& vincita : colpo.vincite)
       conto.vincite.push_back(DescriviVincita(vincita, giocata.colonne.size()));
@@ -306,7 +312,8 @@ Esito<GiocataEffettuata> GiocaSlotGioco(const SlotGioco& slot, GiocoGiocata gioc
   giocata.opzione = slot.opzione;
   const int ultima = tab.EstrazioniArchivio();
   if (gioco == GiocoGiocata::FT) {
-    if (auto controllo = ControllaColonneFT(slot.colonne, tab.formato()); !controllo) return rifiuto(controllo.Errore());
+    if (auto controllo = ControllaColonneFT(slot.colonne, tab.formato()); !controllo)
+      return rifiuto(controllo.Errore());
   } else {
     // A bet placed after the last draw plays nothing yet: it is checked on the last one.
     giocata.prima_estrazione = std::min(dopo + 1, ultima);
@@ -319,8 +326,7 @@ Esito<GiocataEffettuata> GiocaSlotGioco(const SlotGioco& slot, GiocoGiocata gioc
   for (int id = dopo + 1; id <= ultima && colpo < slot.colpi && !fermata; ++id) {
     ++colpo;
     if (gioco == GiocoGiocata::FT) {
-      effettuata.conto.push_back(ColpoFT(slot, tab[id], colpo, tab.formato(), premi_ft));
-      fermata = slot.sorte_arresto > 0 && effettuata.conto.back().vincente;
+      effettuata.conto.push_back(ColpoFT(slot, tab[id], colpo, tab.formato(), premi_ft, fermata));
       continue;
     }
     giocata.prima_estrazione = id;
@@ -400,8 +406,8 @@ TabellaOutput TabellaResoconto(const std::vector<GiocataEffettuata>& effettuate,
     }
   }
   RigaTabella titoli;
-  for (std::string_view titolo : {"Estrazione", "Data", "Giocate", "Spesa", "Vinto lordo", "Vinto netto", "Saldo",
-                                  "Vincite"})
+  for (std::string_view titolo :
+       {"Estrazione", "Data", "Giocate", "Spesa", "Vinto lordo", "Vinto netto", "Saldo", "Vincite"})
     titoli.celle.push_back(Testo(std::string(titolo)));
   titoli.allineamento = Allineamento::Centro;
   TabellaOutput tabella(std::move(titoli), 1);
@@ -411,18 +417,18 @@ TabellaOutput TabellaResoconto(const std::vector<GiocataEffettuata>& effettuate,
     spesa += riga.spesa;
     Aggiungi(vinto, riga.vinto);
     RigaTabella celle;
-    for (std::string testo : {std::to_string(id), FormattaData(riga.data), std::to_string(riga.giocate),
-                              stats::FormattaEuro(riga.spesa), stats::FormattaEuro(riga.vinto.lordo),
-                              stats::FormattaEuro(riga.vinto.netto), stats::FormattaEuro(vinto.netto - spesa),
-                              Unisci(riga.vincite, ", ")})
+    for (std::string testo :
+         {std::to_string(id), FormattaData(riga.data), std::to_string(riga.giocate), stats::FormattaEuro(riga.spesa),
+          stats::FormattaEuro(riga.vinto.lordo), stats::FormattaEuro(riga.vinto.netto),
+          stats::FormattaEuro(vinto.netto - spesa), Unisci(riga.vincite, ", ")})
       celle.celle.push_back(Testo(std::move(testo)));
     if (!riga.vincite.empty()) celle.colori.testo = kRosso;
     tabella.AggiungiRiga(std::move(celle));
   }
   RigaTabella totale;
-  for (std::string testo : {std::string("Totale"), std::string(), std::string(), stats::FormattaEuro(spesa),
-                            stats::FormattaEuro(vinto.lordo), stats::FormattaEuro(vinto.netto),
-                            stats::FormattaEuro(vinto.netto - spesa)})
+  for (std::string testo :
+       {std::string("Totale"), std::string(), std::string(), stats::FormattaEuro(spesa),
+        stats::FormattaEuro(vinto.lordo), stats::FormattaEuro(vinto.netto), stats::FormattaEuro(vinto.netto - spesa)})
     totale.celle.push_back(Testo(std::move(testo)));
   tabella.AggiungiRiga(std::move(totale));
   return tabella;
@@ -470,8 +476,8 @@ TabellaOutput TabellaRiepilogo(const std::vector<GiocataEffettuata>& effettuate)
 }
 
 std::string RigaGiocata(const GiocataEffettuata& giocata) {
-  std::string riga = fmt::format("Giocata {} ({}) dopo l'estrazione {}: ", giocata.indice, NomeGioco(giocata.gioco),
-                                 giocata.dopo);
+  std::string riga =
+      fmt::format("Giocata {} ({}) dopo l'estrazione {}: ", giocata.indice, NomeGioco(giocata.gioco), giocata.dopo);
   std::vector<std::string> vincenti;
   for (const ColpoConto& conto : giocata.conto)
     if (conto.vincente)
@@ -480,8 +486,9 @@ std::string RigaGiocata(const GiocataEffettuata& giocata) {
   riga += vincenti.empty() ? "nessuna vincita" : "vinta " + Unisci(vincenti, "; ");
   if (giocata.colpi_mancanti > 0) riga += fmt::format(", {} colpi ancora da giocare", giocata.colpi_mancanti);
   if (giocata.interrotta) riga += ", interrotta";
-  riga += fmt::format("; spesa {}, vinto netto {}, saldo {}", stats::FormattaEuro(giocata.spesa),
-                      stats::FormattaEuro(giocata.vinto.netto), stats::FormattaEuro(giocata.vinto.netto - giocata.spesa));
+  riga +=
+      fmt::format("; spesa {}, vinto netto {}, saldo {}", stats::FormattaEuro(giocata.spesa),
+                  stats::FormattaEuro(giocata.vinto.netto), stats::FormattaEuro(giocata.vinto.netto - giocata.spesa));
   if (giocata.importi_mancanti) riga += " (senza le quote non note)";
   return riga;
 }

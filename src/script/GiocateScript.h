@@ -72,7 +72,7 @@ struct GiocataEffettuata {
   stats::Tassato vinto;
   int colpi_mancanti = 0;  // colpi past the end of the archive, still to be played
   bool interrotta = false;
-  bool importi_mancanti = false;  // a win whose money is not known (a quota not given)
+  bool importi_mancanti = false;                   // a win whose money is not known (a quota not given)
   std::optional<stats::EsitoGiocata> esito_lotto;  // the engine's account, for the Lotto's summary
 
   int PrimoColpoVincente() const;

@@ -89,8 +89,9 @@ TEST_F(Giocate, UnaGiocataSiFermaAllaSorteChiestaOGiocaTuttiIColpi) {
   EXPECT_EQ(Testo("Gioca(4, False)"), "Falso");
   Esegui("Dim s, n : n = GetSituazioneGiocate(s)");
   EXPECT_EQ(Testo("n & \" \" & GetQuantitaGiocateEffettuate()"), "4 4");
-  const std::string riga = "s(4, 1) & s(4, 2) & \" \" & s(4, 3) & \" \" & s(4, 4) & \" \" & s(4, 5) & \" \" & "
-                           "s(4, 6) & \" \" & s(4, 7) & \" \" & s(4, 8) & \" \" & s(4, 9)";
+  const std::string riga =
+      "s(4, 1) & s(4, 2) & \" \" & s(4, 3) & \" \" & s(4, 4) & \" \" & s(4, 5) & \" \" & "
+      "s(4, 6) & \" \" & s(4, 7) & \" \" & s(4, 8) & \" \" & s(4, 9)";
   EXPECT_EQ(Testo(riga), "7LO 4 10 2 2 0 2 0");
   EXPECT_EQ(Testo("s(1, 6) & s(1, 7) & s(2, 6) & s(3, 5) & s(3, 9)"), "12144523,31");
   Esegui("InterrompiTutteLegiocate : n = GetSituazioneGiocate(s)");
@@ -221,9 +222,9 @@ TEST_F(Giocate, ResocontoERiepilogoSonoTabelleNellaPagina) {
   EXPECT_NE(m_ospite.testo.find("150,32"), std::string::npos) << "the balance after draw 4:\n" << m_ospite.testo;
   Esegui("Output \"Prova\"");
   const std::string riepilogo = Testo("GetTestoHtml");
-  for (std::string_view voce : {"<b>Prova", "Estrazioni vincenti di ambo</td><td>2 (lordo 166,66)",
-                                "Serie più lunga senza vincite</td><td>1 estrazioni",
-                                "Calo massimo del saldo</td><td>1,00"})
+  for (std::string_view voce :
+       {"<b>Prova", "Estrazioni vincenti di ambo</td><td>2 (lordo 166,66)",
+        "Serie più lunga senza vincite</td><td>1 estrazioni", "Calo massimo del saldo</td><td>1,00"})
     EXPECT_NE(riepilogo.find(voce), std::string::npos) << voce << "\n" << riepilogo;
 }
 
@@ -363,7 +364,7 @@ TEST_F(Libreria, UnaRetroverificaDelloScriptSullArchivioRealeTornaConLaVerificaD
       "End Function");
   EXPECT_EQ(Testo(fmt::format("Prova({}, {})", prima, ultima)), fmt::format("{} {}", vinte, aperte));
   EXPECT_EQ(Testo("Round(GetSpesa() * 100) & \" \" & Round(GetVincita() * 100) & \" \" & "
-                      "GetQuantitaGiocateEffettuate()"),
+                  "GetQuantitaGiocateEffettuate()"),
             fmt::format("{} {} 300", spesa, netto));
   EXPECT_GT(vinte, 0) << "an ambo on two wheels over 300 bets wins at times";
 }
