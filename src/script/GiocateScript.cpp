@@ -30,12 +30,12 @@ std::string DescriviVincita(const stats::VincitaGiocata& vincita, size_t colonne
   return testo;
 }
 
+// The 10eLotto's wins are a score on one of its tables, the pool games' a category.
 std::string DescriviVincita(const stats::VincitaGioco& vincita, size_t colonne) {
-  std::string testo = vincita.categoria == "base" || vincita.categoria == "Extra" || vincita.categoria == "Oro" ||
-                              vincita.categoria == "Doppio Oro"
-                          ? fmt::format("punti {} {}", vincita.punti, vincita.categoria)
-                          : vincita.categoria;
-  if (!vincita.vinto) testo += " (quota non nota)";
+  const bool tabella = vincita.categoria == "base" || vincita.categoria == "Extra" || vincita.categoria == "Oro" ||
+                       vincita.categoria == "Doppio Oro";
+  std::string testo = tabella ? fmt::format("punti {} {}", vincita.punti, vincita.categoria) : vincita.categoria;
+  if (!vincita.vinto) testo += tabella ? " (premio non noto)" : " (quota non nota)";
   if (colonne > 1) testo += fmt::format(" (colonna {})", vincita.colonna + 1);
   return testo;
 }

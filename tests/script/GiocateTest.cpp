@@ -51,6 +51,7 @@ class Giocate : public Libreria {
     impostazioni.cartella_output = m_cartella.Percorso();
     impostazioni.file_agenda = m_cartella / "AgendaGiocate.db";
     impostazioni.archivi_giochi[static_cast<size_t>(Gioco::SuperEnalotto)] = m_cartella / "SE.dat";
+    impostazioni.archivi_giochi[static_cast<size_t>(Gioco::DieciELotto)] = m_cartella / "DL.dat";
     Avvia(SeiEstrazioni(), impostazioni);
     Esegui("Dim pAmbo(5), pAmboTerno(5) : pAmbo(AMBO_) = 1 : pAmboTerno(AMBO_) = 1 : pAmboTerno(TERNO_) = 1");
   }
@@ -316,6 +317,29 @@ TEST_F(Giocate, GliAltriGiochiVinconoCategorieOPremiDelloScript) {
   Esegui("ScriviResocontoFT");
   EXPECT_NE(m_ospite.testo.find("punti 2"), std::string::npos) << m_ospite.testo;
   EXPECT_NE(m_ospite.testo.find("punti 3"), std::string::npos) << m_ospite.testo;
+
+  // The 10eLotto with the Oro: each colpo costs the stake twice. Five numbers with two matches, the
+  // Oro not among them, win 1 euro net per euro staked (1,12 gross, 11% tax); the progression
+  // stakes 1, then 2.
+  std::vector<EstrazioneGioco> serate;
+  for (int id = 1; id <= 3; ++id) {
+    EstrazioneGioco serata;
+    serata.id_estr = id;
+    serata.data = {static_cast<int16_t>(id), static_cast<int16_t>(id + 1), 1, 2020};
+    for (size_t i = 0; i < 20; ++i) serata.numeri[i] = static_cast<uint8_t>((id == 1 ? 30 : 60) + i);
+    if (id > 1) serata.numeri[0] = 1, serata.numeri[1] = 2;
+    serata.speciali = {serata.numeri[5], serata.numeri[6], 0};
+    serate.push_back(serata);
+  }
+  ASSERT_TRUE(SalvaArchivioGioco(TabellaGioco(Formato(Gioco::DieciELotto), serate), m_cartella / "DL.dat").Riuscito());
+  EXPECT_TRUE(Vuoto("ImpostaGiocataDL(1, Array(11, 12, 13, 14, 15), 1, 2, 0, \"platino\")"));
+  AvvisoErrore5("ImpostaGiocataDL", "Opzione del 10eLotto non valida", "an option the game has not");
+  Esegui("ImpostaGiocataDL 1, Array(11, 12, 13, 1, 2), 1, 2, 0, \"Oro\"");
+  Esegui("ImpostaProgressioneDL 1, 0, Array(1, 2)");
+  m_ospite.testo.clear();
+  EXPECT_EQ(Testo("GiocaDL(1)"), "Vero");
+  EXPECT_NE(m_ospite.testo.find("spesa 6,00, vinto netto 3,00"), std::string::npos) << m_ospite.testo;
+  EXPECT_EQ(Testo("GetSpesa() & \" \" & GetVincita()"), "9 13");
 }
 
 // A back-test over the real archive: after each of the last 300 draws, the first two numbers of Bari
