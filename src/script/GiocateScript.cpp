@@ -23,8 +23,11 @@ void Aggiungi(stats::Tassato& totale, const stats::Tassato& parte) {
   totale.netto += parte.netto;
 }
 
-std::string DescriviVincita(const stats::VincitaGiocata& vincita, size_t colonne) {
-  std::string testo = fmt::format("{} su {}", stats::NomeSorte(vincita.sorte), SiglaRuota(vincita.ruota));
+// `posizione` names the estratto determinato's position, 0 for the other sorti.
+std::string DescriviVincita(const stats::VincitaGiocata& vincita, size_t colonne, int posizione) {
+  std::string testo = fmt::format("{}{} su {}", stats::NomeSorte(vincita.sorte),
+                                  posizione > 0 ? fmt::format(" in posizione {}", posizione) : std::string(),
+                                  SiglaRuota(vincita.ruota));
   if (vincita.combinazioni > 1) testo += fmt::format(" x{}", vincita.combinazioni);
   if (colonne > 1) testo += fmt::format(" (colonna {})", vincita.colonna + 1);
   return testo;
@@ -38,6 +41,19 @@ std::string DescriviVincita(const stats::VincitaGioco& vincita, size_t colonne) 
   if (!vincita.vinto) testo += tabella ? " (premio non noto)" : " (quota non nota)";
   if (colonne > 1) testo += fmt::format(" (colonna {})", vincita.colonna + 1);
   return testo;
+}
+
+// The positions of the estratto determinato that a column won on a wheel, in the order of the
+// bet's stakes: the order in which the engine lists those wins.
+std::vector<int> PosizioniVinte(const stats::Giocata& giocata, const Estrazione& estrazione, int ruota,
+                                const std::vector<int>& colonna) {
+  const stats::CinquinaRuota numeri = stats::NumeriRuota(estrazione, ruota);
+  std::vector<int> posizioni;
+  for (const stats::PostaSorte& posta : giocata.poste)
+    if (posta.sorte == stats::SorteLotto::EstrattoDeterminato &&
+        std::ranges::find(colonna, numeri[static_cast<size_t>(posta.posizione - 1)]) != colonna.end())
+      posizioni.push_back(posta.posizione);
+  return posizioni;
 }
 
 // The account cut after the first colpo that won a sorte of `minima` numbers or more.
@@ -289,8 +305,17 @@ GiocataEffettuata GiocaSlotLotto(const SlotLotto& slot, int indice, int dopo, co
   for (const stats::ColpoGiocata& colpo : esito.colpi) {
     ColpoConto conto{colpo.colpo, colpo.id_estr,         tab[colpo.id_estr].data, colpo.spesa, colpo.vinto, colpo.saldo,
                      {},          !colpo.vincite.empty()};
-    for (const stats::VincitaGiocata& vincita : colpo.vincite)
-      conto.vincite.push_back(DescriviVincita(vincita, giocata.colonne.size()));
+    std::map<std::pair<int, int>, size_t> determinati;  // by column and wheel
+    for (const stats::VincitaGiocata& vincita : colpo.vincite) {
+      int posizione = 0;
+      if (vincita.sorte == stats::SorteLotto::EstrattoDeterminato) {
+        const auto posizioni = PosizioniVinte(giocata, tab[colpo.id_estr], vincita.ruota,
+                                              giocata.colonne[static_cast<size_t>(vincita.colonna)]);
+        const size_t k = determinati[{vincita.colonna, vincita.ruota}]++;
+        posizione = k < posizioni.size() ? posizioni[k] : 0;
+      }
+      conto.vincite.push_back(DescriviVincita(vincita, giocata.colonne.size(), posizione));
+    }
     effettuata.conto.push_back(std::move(conto));
   }
   effettuata.spesa = esito.spesa;

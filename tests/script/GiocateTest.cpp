@@ -125,6 +125,18 @@ TEST_F(Giocate, UnaLunghettaAggiuntaEUnaColonnaInPiu) {
   EXPECT_NE(m_ospite.testo.find("ambo su BA (colonna 1)"), std::string::npos) << m_ospite.testo;
 }
 
+// The estratto determinato on two positions: draw 3 has 10 first and 20 second on Bari, each paying
+// 55 / 2 numbers = 27,50; 55,00 gross, 4,40 tax.
+TEST_F(Giocate, LEstrattoDeterminatoDiceLaPosizioneVinta) {
+  Esegui("Dim p(11) : p(EDET1_) = 1 : p(EDET2_) = 1");
+  Esegui("ImpostaGiocata 1, Array(10, 20), Array(BA_), p, 1");
+  EXPECT_EQ(Testo("Gioca(2)"), "Vero");
+  EXPECT_NE(m_ospite.testo.find("estratto determinato in posizione 1 su BA, estratto determinato in posizione 2 su BA"),
+            std::string::npos)
+      << m_ospite.testo;
+  EXPECT_EQ(Testo("GetSpesa() & \" \" & GetVincita()"), "2 50,6");
+}
+
 // The virtual ledger is kept apart: its bets never reach the real totals and each reset forgets
 // its own ledger only.
 TEST_F(Giocate, LeGiocateVirtualiNonEntranoNeiTotaliReali) {
