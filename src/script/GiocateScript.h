@@ -102,7 +102,7 @@ struct StatoGiocate {
 // The slots a script may use: 1..kMassimoIndice.
 inline constexpr int kMassimoIndice = 10000;
 
-// The stakes of a progression: a colpo for each, far more than any bet plays.
+// The most stakes a progression holds, one a colpo: far more colpi than any bet plays.
 inline constexpr size_t kMassimaProgressione = 10000;
 
 // Argument i as a slot, 1..kMassimoIndice.
@@ -132,8 +132,9 @@ Esito<Fatto> ControllaSlotLotto(const SlotLotto& slot, std::string_view dove, in
 // its colpi still to play.
 GiocataEffettuata GiocaSlotLotto(const SlotLotto& slot, int indice, int dopo, const TabellaEstrazioni& tab);
 
-// The same for a slot of another game; refused, with the user's message naming the slot, for
-// columns the game does not take, a stake it does not sell, an FT bet, and so on.
+// The same for a slot of another game, checked here: refused, with the user's message naming the
+// slot, for columns the game does not take, a stake it does not sell, a 10eLotto draw before its
+// prize table, and so on.
 Esito<GiocataEffettuata> GiocaSlotGioco(const SlotGioco& slot, GiocoGiocata gioco, int indice, int dopo,
                                         const TabellaGioco& tab, const std::map<int, stats::Centesimi>& premi_ft);
 
