@@ -246,7 +246,8 @@ const Libreria::Funzione kGiocate[] = {
      "alla prima vincita di una sorte di k numeri o più (l'ambetto conta come ambo). Numeri, ruote e poste sono "
      "controllati subito: un errore dice cosa non va. Restituisce True"},
     {"ImpostaGiocataVirtuale", 5, 6, &ImpostaGiocata<kVirtuale>,
-     "come ImpostaGiocata, per una giocata virtuale: seguita senza puntare denaro, non entra mai nei totali reali"},
+     "Indice, aNumeri, aRuote, aPoste, Colpi, [SorteArresto = 1]: come ImpostaGiocata, per una giocata virtuale, "
+     "seguita senza puntare denaro; non entra mai nei totali reali"},
     {"AddLunghettaInGiocata", 2, 2, &AddLunghettaInGiocata,
      "Indice, aNumeri: aggiunge alla giocata Indice un'altra colonna, con le stesse ruote e poste (lo sviluppo di un "
      "sistema)"},
@@ -254,13 +255,13 @@ const Libreria::Funzione kGiocate[] = {
      "Indice, Sorte, aPoste: la posta in euro della sorte (numerata come in aPoste) a ogni colpo della giocata "
      "Indice, aPoste(1) al primo; dopo l'ultima si ripete l'ultima. Una sorte non ancora giocata si aggiunge"},
     {"ImpostaProgressioneVirtuale", 3, 3, &ImpostaProgressione<kVirtuale>,
-     "come ImpostaProgressione, per una giocata virtuale"},
+     "Indice, Sorte, aPoste: come ImpostaProgressione, per una giocata virtuale"},
     {"Gioca", 1, 2, &Gioca<kReale>,
      "IdEstr, [Scrivi = True]: gioca le giocate impostate dopo l'estrazione IdEstr, dalla successiva per i loro "
      "colpi, e le aggiunge ai conti dell'esecuzione; le giocate impostate si liberano per la previsione seguente. Una "
      "giocata che va oltre l'ultima estrazione resta in corso. Con Scrivi una riga per giocata: vinta o no, dove, "
      "quanto. True se una giocata ha vinto; errore se nessuna giocata è impostata"},
-    {"GiocaVirtuale", 1, 2, &Gioca<kVirtuale>, "come Gioca, per le giocate virtuali"},
+    {"GiocaVirtuale", 1, 2, &Gioca<kVirtuale>, "IdEstr, [Scrivi = True]: come Gioca, per le giocate virtuali"},
     {"GetSpesa", 0, 1, &Totale<&Spesa>,
      "[Indice]: gli euro spesi nelle giocate reali dell'esecuzione, di ogni gioco, o in quelle del numero Indice "
      "(Double)"},
@@ -278,7 +279,7 @@ const Libreria::Funzione kGiocate[] = {
      "5 colpi giocati, 6 stato (0 persa, 1 vinta, 2 in corso oltre l'ultima estrazione, 3 interrotta), 7 primo colpo "
      "vincente (0 nessuno), 8 spesa, 9 vincita netta; restituisce quante giocate"},
     {"InterrompiTutteLegiocate", 0, 0, &InterrompiTutte<kReale>,
-     "chiude le giocate reali ancora in corso: i loro colpi mancanti non si giocano più"},
+     "chiude le giocate reali ancora in corso, i cui colpi mancanti non si giocano più"},
     {"InterrompiTutteLegiocateVirtuali", 0, 0, &InterrompiTutte<kVirtuale>,
      "chiude le giocate virtuali ancora in corso"},
     {"ResettaGiocate", 0, 0, &ResettaGiocate,
