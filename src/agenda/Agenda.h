@@ -36,6 +36,8 @@ struct Totali {
   int64_t netto = 0;
   int colpi_verificati = 0;
   int colpi_vincenti = 0;
+  // Wins whose money is not known (a pool prize without its quota): counted in none of the sums.
+  int vincite_senza_importo = 0;
 
   int64_t Saldo() const { return netto - spesa; }
 };

@@ -80,6 +80,12 @@ CREATE TABLE stato (chiave TEXT PRIMARY KEY, valore INTEGER NOT NULL);
 CREATE INDEX vincite_non_viste ON vincite (vista) WHERE vista = 0;
 )";
 
+// Version 3: the wins whose money is not known (a pool prize without its quota) say so, rather
+// than passing for wins of nothing. Every win stored before was a Lotto win, always priced.
+constexpr std::string_view kVersione3 = R"(
+ALTER TABLE vincite ADD COLUMN importo_noto INTEGER NOT NULL DEFAULT 1 CHECK (importo_noto IN (0, 1));
+)";
+
 std::string Nome(const Connessione& connessione) { return connessione.File().string(); }
 
 Avviso NonUnAgenda(const Connessione& connessione, std::string_view perche) {
@@ -102,7 +108,7 @@ Esito<Fatto> Migra(const Connessione& connessione) {
 }  // namespace
 
 const std::vector<std::string_view>& Migrazioni() {
-  static const std::vector<std::string_view> kMigrazioni = {kVersione1, kVersione2};
+  static const std::vector<std::string_view> kMigrazioni = {kVersione1, kVersione2, kVersione3};
   return kMigrazioni;
 }
 

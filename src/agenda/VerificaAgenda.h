@@ -1,0 +1,57 @@
+#pragma once
+
+// The check of the agenda's bets against the archives, as the command line and the desktop both run
+// it after an update and on demand: each bet goes to its game's engine (VerificaLotto.h for the
+// Lotto, VerificaGioco.h for the others), each one's results are stored, and a bet that cannot be
+// checked is told without stopping the others.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Agenda.h"
+#include "archive/TabellaEstrazioni.h"
+#include "archive/TabellaGioco.h"
+
+namespace lottolab::agenda {
+
+// The draws the bets are checked on; a game left empty is not checked. The tables are only read.
+struct ArchiviGiocate {
+  const TabellaEstrazioni* lotto = nullptr;
+  const TabellaGioco* superenalotto = nullptr;
+  const TabellaGioco* dieci_e_lotto = nullptr;  // the evening 10eLotto
+  const TabellaGioco* win_for_life = nullptr;
+
+  // The table of the game, or nothing.
+  const void* Di(GiocoGiocata gioco) const;
+};
+
+// The bet's results draw by draw, by its game's engine on its game's table; refused, with a message
+// naming the archive, when that table is not given.
+Esito<std::vector<VerificaColpo>> VerificaGiocataAgenda(const Giocata& giocata, const ArchiviGiocate& archivi);
+
+struct EsitoVerificaAgenda {
+  int verificate = 0;
+  // A line for each bet that could not be checked, and for each game whose open bets wait for its archive.
+  std::vector<std::string> non_verificate;
+  int vincite_da_vedere = 0;  // every win not seen yet, this check's and the earlier ones'
+};
+
+struct SceltaVerifica {
+  std::optional<int64_t> id = std::nullopt;          // one bet, open or closed; otherwise every open bet
+  std::optional<GiocoGiocata> gioco = std::nullopt;  // only the open bets of this game
+};
+
+// Checks the bets chosen and stores each one's results. Fails only when the agenda itself cannot be
+// read or written, or when the one bet named is not in it. May take a while: run it off a window's
+// thread, with an Agenda of that thread.
+Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& archivi, const SceltaVerifica& scelta = {});
+
+// The games of the bets that VerificaAgenda would check with `scelta`, so that a caller loads only
+// their archives.
+Esito<std::vector<GiocoGiocata>> GiochiDaVerificare(const Agenda& agenda, const SceltaVerifica& scelta = {});
+
+// "giocata 4" or "3 giocate": how the messages count bets.
+std::string ContaGiocate(int quante);
+
+}  // namespace lottolab::agenda
