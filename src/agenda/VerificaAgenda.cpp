@@ -6,6 +6,8 @@
 #include <map>
 
 #include "VerificaGioco.h"
+#include "archive/ArchivioGioco.h"
+#include "archive/ClsEstrazioni.h"
 #include "VerificaLotto.h"
 
 namespace lottolab::agenda {
@@ -29,10 +31,13 @@ Esito<std::vector<Giocata>> GiocateScelte(const Agenda& agenda, const SceltaVeri
     if (!giocata) return giocata.Errore();
     return std::vector<Giocata>{std::move(giocata).Valore()};
   }
-  auto aperte = agenda.Elenco({StatoGiocate::Aperte, scelta.gioco});
+  auto aperte = agenda.Elenco({StatoGiocate::Aperte, std::nullopt});
   if (!aperte) return aperte.Errore();
   std::vector<Giocata> giocate;
-  for (const VoceAgenda& voce : *aperte) giocate.push_back(voce.giocata);
+  for (const VoceAgenda& voce : *aperte)
+    if (scelta.giochi.empty() ||
+        std::find(scelta.giochi.begin(), scelta.giochi.end(), voce.giocata.gioco) != scelta.giochi.end())
+      giocate.push_back(voce.giocata);
   return giocate;
 }
 
@@ -90,6 +95,57 @@ Esito<std::vector<GiocoGiocata>> GiochiDaVerificare(const Agenda& agenda, const 
     if (std::find(giochi.begin(), giochi.end(), giocata.gioco) == giochi.end()) giochi.push_back(giocata.gioco);
   std::sort(giochi.begin(), giochi.end());
   return giochi;
+}
+
+ArchiviGiocate ArchiviCaricati::Archivi() const {
+  auto di = [](const auto& tabella) { return tabella ? &*tabella : nullptr; };
+  return ArchiviGiocate{di(lotto), di(superenalotto), di(dieci_e_lotto), di(win_for_life)};
+}
+
+ArchiviCaricati CaricaArchivi(const std::vector<GiocoGiocata>& giochi, const FileArchivio& file) {
+  ArchiviCaricati caricati;
+  for (GiocoGiocata gioco : giochi) {
+    const std::filesystem::path percorso = file(gioco);
+    std::error_code ec;
+    if (!std::filesystem::exists(percorso, ec)) continue;
+    auto errore = [&](const Avviso& avviso) {
+      caricati.errori.push_back(fmt::format("giocate del gioco {} non verificate: {}", SiglaGioco(gioco), avviso.testo));
+    };
+    if (gioco == GiocoGiocata::Lotto) {
+      auto tabella = ClsEstrazioni(percorso).CaricaEstrazioni();
+      if (tabella)
+        caricati.lotto = std::move(tabella).Valore();
+      else
+        errore(tabella.Errore());
+      continue;
+    }
+    auto tabella = CaricaArchivioGioco(Formato(GiocoDellArchivio(gioco)), percorso);
+    if (!tabella) {
+      errore(tabella.Errore());
+      continue;
+    }
+    auto& posto = gioco == GiocoGiocata::SuperEnalotto ? caricati.superenalotto
+                  : gioco == GiocoGiocata::WinForLife  ? caricati.win_for_life
+                                                       : caricati.dieci_e_lotto;
+    posto = std::move(tabella).Valore();
+  }
+  return caricati;
+}
+
+Esito<EsitoVerificaAgenda> VerificaAgendaSuiFile(const std::filesystem::path& file_agenda, const FileArchivio& file,
+                                                 const SceltaVerifica& scelta) {
+  std::error_code ec;
+  if (!std::filesystem::exists(file_agenda, ec)) return EsitoVerificaAgenda{};
+  auto aperta = Agenda::Apri(file_agenda);
+  if (!aperta) return aperta.Errore();
+  Agenda& agenda = aperta.Valore();
+  auto giochi = GiochiDaVerificare(agenda, scelta);
+  if (!giochi) return giochi.Errore();
+  const ArchiviCaricati caricati = CaricaArchivi(*giochi, file);
+  auto esito = VerificaAgenda(agenda, caricati.Archivi(), scelta);
+  if (!esito) return esito;
+  esito->non_verificate.insert(esito->non_verificate.begin(), caricati.errori.begin(), caricati.errori.end());
+  return esito;
 }
 
 std::string ContaGiocate(int quante) { return quante == 1 ? "1 giocata" : fmt::format("{} giocate", quante); }

@@ -5,6 +5,8 @@
 // Lotto, VerificaGioco.h for the others), each one's results are stored, and a bet that cannot be
 // checked is told without stopping the others.
 
+#include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -39,7 +41,7 @@ struct EsitoVerificaAgenda {
 
 struct SceltaVerifica {
   std::optional<int64_t> id = std::nullopt;          // one bet, open or closed; otherwise every open bet
-  std::optional<GiocoGiocata> gioco = std::nullopt;  // only the open bets of this game
+  std::vector<GiocoGiocata> giochi = {};             // only the open bets of these games; empty: of every game
 };
 
 // Checks the bets chosen and stores each one's results. Fails only when the agenda itself cannot be
@@ -51,7 +53,25 @@ Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& 
 // their archives.
 Esito<std::vector<GiocoGiocata>> GiochiDaVerificare(const Agenda& agenda, const SceltaVerifica& scelta = {});
 
-// "giocata 4" or "3 giocate": how the messages count bets.
+// The archives of some games read from their files, as ArchiviGiocate points to them. A game whose
+// file does not exist is left out, so its bets wait for it; one that cannot be read is told.
+struct ArchiviCaricati {
+  std::optional<TabellaEstrazioni> lotto;
+  std::optional<TabellaGioco> superenalotto, dieci_e_lotto, win_for_life;
+  std::vector<std::string> errori;
+
+  ArchiviGiocate Archivi() const;
+};
+using FileArchivio = std::function<std::filesystem::path(GiocoGiocata)>;
+ArchiviCaricati CaricaArchivi(const std::vector<GiocoGiocata>& giochi, const FileArchivio& file);
+
+// VerificaAgenda on the agenda of `file_agenda` with the archives of the games it needs, read
+// from their files; what could not be read joins the bets not checked. An agenda file that does not
+// exist has nothing to check and is not created.
+Esito<EsitoVerificaAgenda> VerificaAgendaSuiFile(const std::filesystem::path& file_agenda, const FileArchivio& file,
+                                                 const SceltaVerifica& scelta = {});
+
+// "1 giocata" or "3 giocate": how the messages count bets.
 std::string ContaGiocate(int quante);
 
 }  // namespace lottolab::agenda

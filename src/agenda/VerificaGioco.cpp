@@ -21,15 +21,6 @@ using stats::Tassato;
 // Past this many columns a system is refused: every draw would check them all, colpo after colpo.
 constexpr size_t kMassimeColonneSviluppate = 50'000;
 
-// The bet's game as the archives name it.
-Gioco GiocoDellArchivio(GiocoGiocata gioco) {
-  switch (gioco) {
-    case GiocoGiocata::SuperEnalotto: return Gioco::SuperEnalotto;
-    case GiocoGiocata::WinForLife: return Gioco::WinForLife;
-    default: return Gioco::DieciELotto;
-  }
-}
-
 // Each column of `k` numbers, or every k-subset of a longer one (an integral system).
 Esito<std::vector<std::vector<int>>> ColonneSviluppate(const std::vector<std::vector<int>>& colonne, size_t k) {
   std::vector<std::vector<int>> sviluppate;
@@ -199,6 +190,14 @@ class Colpi {
 };
 
 }  // namespace
+
+Gioco GiocoDellArchivio(GiocoGiocata gioco) {
+  switch (gioco) {
+    case GiocoGiocata::SuperEnalotto: return Gioco::SuperEnalotto;
+    case GiocoGiocata::WinForLife: return Gioco::WinForLife;
+    default: return Gioco::DieciELotto;
+  }
+}
 
 Esito<std::vector<VerificaColpo>> VerificaGiocataAltroGioco(const Giocata& giocata, const TabellaGioco& tabella) {
   if (giocata.gioco == GiocoGiocata::Lotto)

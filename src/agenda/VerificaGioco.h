@@ -20,6 +20,9 @@
 
 namespace lottolab::agenda {
 
+// The archive that holds the draws of a bet of the other games: the evening 10eLotto for DL.
+Gioco GiocoDellArchivio(GiocoGiocata gioco);
+
 // The draws checked, from the bet's first draw in `tabella` (the archive of the bet's game) for at
 // most its colpi, as far as the archive goes, stopping after the winning draw when the bet stops at
 // its first win. A SuperEnalotto column of more than six numbers, or a Win for Life one of more

@@ -13,7 +13,8 @@
 #include "Comandi.h"
 #include "agenda/Agenda.h"
 #include "agenda/Importi.h"
-#include "agenda/VerificaLotto.h"
+#include "agenda/VerificaAgenda.h"
+#include "agenda/VerificaGioco.h"
 #include "archive/DateEstrazione.h"
 #include "archive/Ruote.h"
 
@@ -185,6 +186,11 @@ std::string TestoDal(const Giocata& giocata) {
   return fmt::format("estr. {}", *giocata.id_estr_dal);
 }
 
+// The net won, marked when some win's money is not known and so not in it.
+std::string Vinto(const agenda::Totali& totali) {
+  return agenda::FormattaImporto(totali.netto) + (totali.vincite_senza_importo > 0 ? "*" : "");
+}
+
 int Aggiungi(Contesto& contesto, Agenda& agenda, const Parole& parole) {
   auto giocata = LeggiGiocata(contesto, parole);
   if (!giocata) return contesto.Fallisci(giocata.Errore());
@@ -227,10 +233,10 @@ int Elenco(Contesto& contesto, const Agenda& agenda, const Parole& parole) {
     righe.push_back({std::to_string(g.id), std::string(agenda::SiglaGioco(g.gioco)), TestoNumeri(g), TestoRuote(g),
                      TestoPoste(g), TestoDal(g), fmt::format("{}/{}", voce.totali.colpi_verificati, g.colpi),
                      voce.chiusa ? "chiusa" : "aperta", agenda::FormattaImporto(voce.totali.spesa),
-                     agenda::FormattaImporto(voce.totali.netto), agenda::FormattaImporto(voce.totali.Saldo())});
+                     Vinto(voce.totali), agenda::FormattaImporto(voce.totali.Saldo())});
   }
-  righe.push_back({"totale", "", "", "", "", "", "", "", agenda::FormattaImporto(totali->spesa),
-                   agenda::FormattaImporto(totali->netto), agenda::FormattaImporto(totali->Saldo())});
+  righe.push_back({"totale", "", "", "", "", "", "", "", agenda::FormattaImporto(totali->spesa), Vinto(*totali),
+                   agenda::FormattaImporto(totali->Saldo())});
   std::array<size_t, 11> larghezze{};
   for (const Riga& riga : righe)
     for (size_t c = 0; c < riga.size(); ++c) larghezze[c] = std::max(larghezze[c], riga[c].size());
@@ -245,6 +251,11 @@ int Elenco(Contesto& contesto, const Agenda& agenda, const Parole& parole) {
     while (!testo.empty() && testo.back() == ' ') testo.pop_back();
     fmt::print(contesto.out, "{}\n", testo);
   }
+  if (totali->vincite_senza_importo > 0)
+    fmt::print(contesto.out,
+               "* più {} vincit{} di cui la quota non è nota (SuperEnalotto, Win for Life o premio del 10eLotto non "
+               "confermato): vinto e saldo non le contano\n",
+               totali->vincite_senza_importo, totali->vincite_senza_importo == 1 ? "a" : "e");
   return kUscitaRiuscita;
 }
 
@@ -263,35 +274,71 @@ int Rimuovi(Contesto& contesto, Agenda& agenda, const Parole& parole) {
   return kUscitaRiuscita;
 }
 
-// The open bets (or the one named) checked against the archive, then every win not seen yet.
+// Where the draws of each game's bets are: the Lotto's archive of the command, the others'
+// configured ones.
+agenda::FileArchivio FileDegliArchivi(const Contesto& contesto, std::filesystem::path lotto) {
+  return [&contesto, lotto = std::move(lotto)](GiocoGiocata gioco) {
+    return gioco == GiocoGiocata::Lotto ? lotto
+                                        : contesto.configurazione.ArchivioGioco(agenda::GiocoDellArchivio(gioco));
+  };
+}
+
+std::string TestoVincita(const agenda::VincitaColpo& vincita) {
+  std::string testo = vincita.sorte;
+  if (!vincita.numeri.empty()) testo += fmt::format(" {}", fmt::join(vincita.numeri, "."));
+  if (vincita.ruota != 0) testo += fmt::format(" su {}", SiglaRuota(vincita.ruota));
+  testo += fmt::format(" ({}), ", vincita.combinazioni);
+  return testo + (vincita.importo_noto ? "lordo " + agenda::FormattaImporto(vincita.lordo)
+                                       : std::string("importo non noto (la quota non è nell'archivio)"));
+}
+
+// The open bets (or the one named) checked against the archives, then every win not seen yet.
 int Verifica(Contesto& contesto, Agenda& agenda, const Parole& parole) {
   if (parole.size() > 1) return contesto.Fallisci(AvvisoEsclamativo("uso: lottolab giocata verifica [ID]"));
-  std::optional<int64_t> scelta;
+  agenda::SceltaVerifica scelta;
   if (parole.size() == 1) {
     auto id = LeggiId(parole[0]);
     if (!id) return contesto.Fallisci(id.Errore());
     if (auto giocata = agenda.Carica(*id); !giocata) return contesto.Fallisci(giocata.Errore());
-    scelta = *id;
+    scelta.id = *id;
   }
-  auto tabella = contesto.CaricaTabella();
-  if (!tabella) return contesto.Fallisci(tabella.Errore());
-  auto verificate = agenda::VerificaGiocate(
-      agenda, [&](const agenda::Giocata& giocata) { return agenda::VerificaGiocataLotto(giocata, *tabella); }, scelta);
-  if (!verificate) return contesto.Fallisci(verificate.Errore());
-  fmt::print(contesto.out, "giocate verificate: {}\n", *verificate);
+  auto giochi = agenda::GiochiDaVerificare(agenda, scelta);
+  if (!giochi) return contesto.Fallisci(giochi.Errore());
+  const agenda::ArchiviCaricati caricati = agenda::CaricaArchivi(*giochi, FileDegliArchivi(contesto, contesto.archivio));
+  auto esito = agenda::VerificaAgenda(agenda, caricati.Archivi(), scelta);
+  if (!esito) return contesto.Fallisci(esito.Errore());
+  std::vector<std::string> non_verificate = caricati.errori;
+  non_verificate.insert(non_verificate.end(), esito->non_verificate.begin(), esito->non_verificate.end());
+  // The one bet asked for, when it could not be checked, is the command's failure.
+  if (scelta.id && esito->verificate == 0 && !non_verificate.empty())
+    return contesto.Fallisci(AvvisoEsclamativo(non_verificate.back()));
+  for (const std::string& riga : non_verificate) contesto.segnalatore.Avverti(riga);
+  fmt::print(contesto.out, "giocate verificate: {}\n", esito->verificate);
   auto nuove = agenda.VinciteNonViste();
   if (!nuove) return contesto.Fallisci(nuove.Errore());
   for (const agenda::VincitaNonVista& v : *nuove)
-    fmt::print(contesto.out, "giocata {} colpo {} del {}: {} {} su {} ({}), lordo {}\n", v.giocata, v.colpo,
-               FormattaData(v.data), v.vincita.sorte, fmt::join(v.vincita.numeri, "."),
-               v.vincita.ruota ? std::string(SiglaRuota(v.vincita.ruota)) : std::string("-"), v.vincita.combinazioni,
-               agenda::FormattaImporto(v.vincita.lordo));
+    fmt::print(contesto.out, "giocata {} colpo {} del {}: {}\n", v.giocata, v.colpo, FormattaData(v.data),
+               TestoVincita(v.vincita));
   // What was printed has been seen: the next check shows only what it adds.
   if (auto vista = agenda.SegnaVisione(); !vista) return contesto.Fallisci(vista.Errore());
   return kUscitaRiuscita;
 }
 
 }  // namespace
+
+void VerificaAgendaDopoImportazione(Contesto& contesto, const std::vector<GiocoGiocata>& giochi) {
+  auto esito = agenda::VerificaAgendaSuiFile(contesto.configurazione.FileAgenda(),
+                                             FileDegliArchivi(contesto, contesto.configurazione.ArchivioLotto()),
+                                             {.giochi = giochi});
+  if (!esito) {
+    contesto.segnalatore.Avverti("giocate dell'agenda non verificate: " + esito.Errore().testo);
+    return;
+  }
+  for (const std::string& riga : esito->non_verificate) contesto.segnalatore.Avverti("agenda: " + riga);
+  if (esito->verificate > 0 || esito->vincite_da_vedere > 0)
+    fmt::print(contesto.out, "agenda: verificate {} giocate, vincite da vedere {} (lottolab giocata verifica)\n",
+               esito->verificate, esito->vincite_da_vedere);
+}
 
 int ComandoGiocata(Contesto& contesto, const Parole& parole) {
   if (parole.empty()) {

@@ -206,7 +206,7 @@ TEST(VerificaAltriGiochi, LAgendaMandaOgniGiocataAlSuoArchivio) {
   Giocata ferma = Altra(GiocoGiocata::SuperEnalotto, {DaA(1, 6)}, {{"giocata", 100}});
   ferma.ferma_alla_vincita = true;
   const int64_t id_ferma = agenda.Aggiungi(ferma).Valore();
-  ASSERT_TRUE(VerificaAgenda(agenda, archivi, {.gioco = GiocoGiocata::SuperEnalotto}));
+  ASSERT_TRUE(VerificaAgenda(agenda, archivi, {.giochi = {GiocoGiocata::SuperEnalotto}}));
   EXPECT_EQ(agenda.Elenco({StatoGiocate::Chiuse, std::nullopt})->back().giocata.id, id_ferma)
       << "a win whose money is not known still closes a bet that stops at its first win";
   EXPECT_EQ(VerificaAgenda(agenda, archivi, {.id = 99}).Errore().testo, "la giocata 99 non è nell'agenda");

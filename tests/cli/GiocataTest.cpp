@@ -195,5 +195,40 @@ TEST_F(Giocata, LImportazioneVerificaLeGiocateAperte) {
   EXPECT_NE(Lottolab({"giocata", "verifica"}).out.find("ambo 12.34 su BA (1), lordo 83,33"), std::string::npos);
 }
 
+// A SuperEnalotto bet: the import that adds its draws checks it, its win is its category, and a
+// quota the archive does not hold is said to be unknown rather than counted as nothing.
+TEST_F(Giocata, LeGiocateDegliAltriGiochiSiVerificanoPerCategoria) {
+  test::Scrivi(m_base / "se1.txt", "2023/01/03\t1\t1\t2\t3\t4\t5\t6\t7\t8\n");
+  test::Scrivi(m_base / "se2.txt", "2023/01/05\t2\t1\t2\t3\t40\t50\t60\t70\t80\n");
+  ASSERT_EQ(Lottolab({"--gioco", "SE", "importa", (m_base / "se1.txt").string()}).codice, 0);
+  ASSERT_EQ(Aggiungi({"--gioco", "SE", "--numeri", "1,2,3,4,5,9", "--sorte", "giocata", "--posta", "1", "--dal",
+                      "04/01/2023", "--colpi", "2"})
+                .codice,
+            0);
+  ASSERT_EQ(Aggiungi({"--numeri", "12,34", "--ruote", "BA", "--sorte", "ambo", "--posta", "1", "--dal", "04/01/2023",
+                      "--colpi", "1"})
+                .codice,
+            0);
+  const Uscita importa = Lottolab({"--gioco", "SE", "importa", (m_base / "se2.txt").string()});
+  ASSERT_EQ(importa.codice, 0) << importa.err;
+  EXPECT_EQ(importa.out,
+            "importate 1 estrazioni del SuperEnalotto\n"
+            "agenda: verificate 1 giocate, vincite da vedere 1 (lottolab giocata verifica)\n")
+      << "the Lotto bet waits for the Lotto's draws";
+
+  const Uscita verifica = Lottolab({"giocata", "verifica"});
+  EXPECT_EQ(verifica.codice, 0);
+  EXPECT_EQ(verifica.err, "lottolab: attenzione: 1 giocata del gioco LO non verificata: manca l'archivio del Lotto\n");
+  EXPECT_EQ(verifica.out,
+            "giocate verificate: 1\n"
+            "giocata 1 colpo 1 del 05/01/2023: punti 3 1.2.3 (1), importo non noto (la quota non è nell'archivio)\n");
+  const std::string elenco = Lottolab({"giocata", "elenco", "--gioco", "SE"}).out;
+  EXPECT_NE(elenco.find("1/2    aperta   1,00  0,00*  -1,00"), std::string::npos) << elenco;
+  EXPECT_NE(elenco.find("* più 1 vincita di cui la quota non è nota"), std::string::npos) << elenco;
+  const Uscita senza_lotto = Lottolab({"giocata", "verifica", "2"});
+  EXPECT_EQ(senza_lotto.codice, 2);
+  EXPECT_EQ(senza_lotto.err, "lottolab: 1 giocata del gioco LO non verificata: manca l'archivio del Lotto\n");
+}
+
 }  // namespace
 }  // namespace lottolab::cli
