@@ -13,6 +13,7 @@
 #include "Comandi.h"
 #include "agenda/Agenda.h"
 #include "agenda/Importi.h"
+#include "agenda/TestiGiocata.h"
 #include "agenda/VerificaAgenda.h"
 #include "agenda/VerificaGioco.h"
 #include "archive/DateEstrazione.h"
@@ -25,6 +26,10 @@ namespace {
 using agenda::Agenda;
 using agenda::Giocata;
 using agenda::GiocoGiocata;
+using agenda::TestoDal;
+using agenda::TestoNumeri;
+using agenda::TestoPoste;
+using agenda::TestoRuote;
 
 constexpr std::string_view kUso =
     "uso: lottolab giocata aggiungi --numeri 12,34,56 [--numeri ...] --ruote BA,VE --sorte ambo --posta 1 "
@@ -158,34 +163,6 @@ Esito<Giocata> LeggiGiocata(const Contesto& contesto, const Parole& parole) {
   return giocata;
 }
 
-std::string TestoNumeri(const Giocata& giocata) {
-  std::string testo;
-  for (const auto& colonna : giocata.colonne)
-    testo += fmt::format("{}{}", testo.empty() ? "" : " / ", fmt::join(colonna, "."));
-  if (giocata.numero_speciale) testo += fmt::format(" +{}", giocata.numero_speciale);
-  return testo;
-}
-
-std::string TestoRuote(const Giocata& giocata) {
-  if (giocata.ruote.empty()) return "-";
-  std::string testo;
-  for (int ruota : giocata.ruote) testo += fmt::format("{}{}", testo.empty() ? "" : ",", SiglaRuota(ruota));
-  return testo;
-}
-
-std::string TestoPoste(const Giocata& giocata) {
-  std::string testo;
-  for (const agenda::Posta& posta : giocata.poste)
-    testo += fmt::format("{}{} {}", testo.empty() ? "" : " ", posta.sorte, agenda::FormattaImporto(posta.centesimi));
-  if (!giocata.progressione.empty()) testo += fmt::format(" x{}", fmt::join(giocata.progressione, ","));
-  return testo;
-}
-
-std::string TestoDal(const Giocata& giocata) {
-  if (giocata.dal) return FormattaData(*giocata.dal);
-  return fmt::format("estr. {}", *giocata.id_estr_dal);
-}
-
 // The net won, marked when some win's money is not known and so not in it.
 std::string Vinto(const agenda::Totali& totali) {
   return agenda::FormattaImporto(totali.netto) + (totali.vincite_senza_importo > 0 ? "*" : "");
@@ -283,15 +260,6 @@ agenda::FileArchivio FileDegliArchivi(const Contesto& contesto, std::filesystem:
   };
 }
 
-std::string TestoVincita(const agenda::VincitaColpo& vincita) {
-  std::string testo = vincita.sorte;
-  if (!vincita.numeri.empty()) testo += fmt::format(" {}", fmt::join(vincita.numeri, "."));
-  if (vincita.ruota != 0) testo += fmt::format(" su {}", SiglaRuota(vincita.ruota));
-  testo += fmt::format(" ({}), ", vincita.combinazioni);
-  return testo + (vincita.importo_noto ? "lordo " + agenda::FormattaImporto(vincita.lordo)
-                                       : std::string("importo non noto (la quota non è nell'archivio)"));
-}
-
 // The open bets (or the one named) checked against the archives, then every win not seen yet.
 int Verifica(Contesto& contesto, Agenda& agenda, const Parole& parole) {
   if (parole.size() > 1) return contesto.Fallisci(AvvisoEsclamativo("uso: lottolab giocata verifica [ID]"));
@@ -318,7 +286,7 @@ int Verifica(Contesto& contesto, Agenda& agenda, const Parole& parole) {
   if (!nuove) return contesto.Fallisci(nuove.Errore());
   for (const agenda::VincitaNonVista& v : *nuove)
     fmt::print(contesto.out, "giocata {} colpo {} del {}: {}\n", v.giocata, v.colpo, FormattaData(v.data),
-               TestoVincita(v.vincita));
+               agenda::TestoVincita(v.vincita));
   // What was printed has been seen: the next check shows only what it adds.
   if (auto vista = agenda.SegnaVisione(); !vista) return contesto.Fallisci(vista.Errore());
   return kUscitaRiuscita;

@@ -11,6 +11,7 @@
 #include "AgendaDiProva.h"
 #include "TempDir.h"
 #include "agenda/VerificaAgenda.h"
+#include "agenda/TestiGiocata.h"
 #include "agenda/VerificaGioco.h"
 
 namespace lottolab::agenda {
@@ -210,6 +211,18 @@ TEST(VerificaAltriGiochi, LAgendaMandaOgniGiocataAlSuoArchivio) {
   EXPECT_EQ(agenda.Elenco({StatoGiocate::Chiuse, std::nullopt})->back().giocata.id, id_ferma)
       << "a win whose money is not known still closes a bet that stops at its first win";
   EXPECT_EQ(VerificaAgenda(agenda, archivi, {.id = 99}).Errore().testo, "la giocata 99 non è nell'agenda");
+}
+
+TEST(TestiGiocata, ColonneLetteComeLUtenteLeScrive) {
+  using Colonne = std::vector<std::vector<int>>;
+  EXPECT_EQ(LeggiColonne("12 34 56").Valore(), (Colonne{{12, 34, 56}}));
+  EXPECT_EQ(LeggiColonne(" 1,2.3 / 4 5 6;\n7 ;").Valore(), (Colonne{{1, 2, 3}, {4, 5, 6}, {7}}));
+  EXPECT_EQ(LeggiColonne("1 2 x3").Errore().testo, "numero non valido: x3");
+  EXPECT_EQ(LeggiColonne("1 -2").Errore().testo, "numero non valido: -2");
+  EXPECT_EQ(LeggiColonne("99999999999").Errore().testo, "numero non valido: 99999999999");
+  EXPECT_EQ(LeggiColonne(" / ; ").Errore().testo, "mancano i numeri della giocata");
+  const VincitaColpo ignota{0, "punti 3", {1, 2, 3}, 2, 0, false};
+  EXPECT_EQ(TestoVincita(ignota), "punti 3 1.2.3 (2), importo non noto (la quota non è nell'archivio)");
 }
 
 }  // namespace
