@@ -60,12 +60,15 @@ Esito<std::vector<VerificaColpo>> VerificaGiocataAgenda(const Giocata& giocata, 
   return VerificaGiocataAltroGioco(giocata, *static_cast<const TabellaGioco*>(archivi.Di(giocata.gioco)));
 }
 
-Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& archivi, const SceltaVerifica& scelta) {
+Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& archivi, const SceltaVerifica& scelta,
+                                          const PassoVerifica& passo) {
   auto giocate = GiocateScelte(agenda, scelta);
   if (!giocate) return giocate.Errore();
   EsitoVerificaAgenda esito;
   std::map<GiocoGiocata, int> in_attesa;
+  int fatte = 0;
   for (const Giocata& giocata : *giocate) {
+    if (passo) passo(fatte++, static_cast<int>(giocate->size()));
     if (archivi.Di(giocata.gioco) == nullptr) {
       ++in_attesa[giocata.gioco];
       continue;
