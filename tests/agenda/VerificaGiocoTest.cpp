@@ -222,7 +222,7 @@ TEST(TestiGiocata, ColonneLetteComeLUtenteLeScrive) {
   EXPECT_EQ(LeggiColonne("99999999999").Errore().testo, "numero non valido: 99999999999");
   EXPECT_EQ(LeggiColonne(" / ; ").Errore().testo, "mancano i numeri della giocata");
   const VincitaColpo ignota{0, "punti 3", {1, 2, 3}, 2, 0, false};
-  EXPECT_EQ(TestoVincita(ignota), "punti 3 1.2.3 (2), importo non noto (la quota non è nell'archivio)");
+  EXPECT_EQ(TestoVincita(ignota), "punti 3 1.2.3 (2), importo non noto");
 }
 
 }  // namespace

@@ -221,7 +221,7 @@ TEST_F(Giocata, LeGiocateDegliAltriGiochiSiVerificanoPerCategoria) {
   EXPECT_EQ(verifica.err, "lottolab: attenzione: 1 giocata del gioco LO non verificata: manca l'archivio del Lotto\n");
   EXPECT_EQ(verifica.out,
             "giocate verificate: 1\n"
-            "giocata 1 colpo 1 del 05/01/2023: punti 3 1.2.3 (1), importo non noto (la quota non è nell'archivio)\n");
+            "giocata 1 colpo 1 del 05/01/2023: punti 3 1.2.3 (1), importo non noto\n");
   const std::string elenco = Lottolab({"giocata", "elenco", "--gioco", "SE"}).out;
   EXPECT_NE(elenco.find("1/2    aperta   1,00  0,00*  -1,00"), std::string::npos) << elenco;
   EXPECT_NE(elenco.find("* più 1 vincita di cui la quota non è nota"), std::string::npos) << elenco;
