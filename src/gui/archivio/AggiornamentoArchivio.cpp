@@ -59,18 +59,6 @@ std::optional<DieciELottoRicavato> RicavaDieciELotto(const app::Configurazione& 
   return DieciELottoRicavato{true, true, riga + " dall'archivio del Lotto."};
 }
 
-// "Agenda delle giocate: verificate 3 giocate, 1 vincita da vedere.", the bets not checked among
-// what the user should check.
-std::string RigaAgenda(const Esito<agenda::EsitoVerificaAgenda>& verifica, std::vector<std::string>& avvisi) {
-  if (!verifica) return "Agenda delle giocate: non verificata. " + verifica.Errore().testo;
-  for (const std::string& riga : verifica->non_verificate) avvisi.push_back("Agenda: " + riga);
-  const int nuove = verifica->vincite_da_vedere;
-  return fmt::format("Agenda delle giocate: verificate {}, {}.", agenda::ContaGiocate(verifica->verificate),
-                     nuove == 0   ? std::string("nessuna vincita da vedere")
-                     : nuove == 1 ? std::string("1 vincita da vedere")
-                                  : fmt::format("{} vincite da vedere", nuove));
-}
-
 }  // namespace
 
 bool EsitoAggiornamento::Riuscito() const {
@@ -104,7 +92,7 @@ AggiornamentoArchivio::AggiornamentoArchivio(app::Configurazione configurazione)
 
 EsitoAggiornamento AggiornamentoArchivio::ImportaDaFile(const fs::path& file) const {
   EsitoAggiornamento esito = ImportaLotto(file);
-  VerificaAgenda(esito);
+  esito.agenda = VerificaAgendaDopoAggiornamento(m_configurazione, esito.GiochiCresciuti());
   return esito;
 }
 
@@ -159,23 +147,33 @@ EsitoAggiornamento AggiornamentoArchivio::Scarica(const std::function<void(std::
     esito.giochi.push_back(
         {gioco, SenzaEccezioniImportazione("AggiornamentoArchivio.ScaricaGioco", [&] { return ScaricaGioco(gioco); })});
   }
-  VerificaAgenda(esito);
+  esito.agenda = VerificaAgendaDopoAggiornamento(m_configurazione, esito.GiochiCresciuti());
   return esito;
 }
 
-void AggiornamentoArchivio::VerificaAgenda(EsitoAggiornamento& esito) const {
-  const std::vector<agenda::GiocoGiocata> giochi = esito.GiochiCresciuti();
+std::optional<Esito<agenda::EsitoVerificaAgenda>> VerificaAgendaDopoAggiornamento(
+    const app::Configurazione& configurazione, const std::vector<agenda::GiocoGiocata>& giochi) {
   std::error_code ec;
-  if (giochi.empty() || !fs::exists(m_configurazione.FileAgenda(), ec)) return;
-  esito.agenda = SenzaEccezioni<agenda::EsitoVerificaAgenda>("AggiornamentoArchivio.VerificaAgenda", [&] {
+  if (giochi.empty() || !fs::exists(configurazione.FileAgenda(), ec)) return std::nullopt;
+  return SenzaEccezioni<agenda::EsitoVerificaAgenda>("AggiornamentoArchivio.VerificaAgenda", [&] {
     return agenda::VerificaAgendaSuiFile(
-        m_configurazione.FileAgenda(),
+        configurazione.FileAgenda(),
         [&](agenda::GiocoGiocata gioco) {
-          return gioco == agenda::GiocoGiocata::Lotto ? m_configurazione.ArchivioLotto()
-                                                      : m_configurazione.ArchivioGioco(agenda::GiocoDellArchivio(gioco));
+          return gioco == agenda::GiocoGiocata::Lotto ? configurazione.ArchivioLotto()
+                                                      : configurazione.ArchivioGioco(agenda::GiocoDellArchivio(gioco));
         },
         {.giochi = giochi});
   });
+}
+
+std::string RigaAgenda(const Esito<agenda::EsitoVerificaAgenda>& verifica, std::vector<std::string>& avvisi) {
+  if (!verifica) return "Agenda delle giocate: non verificata. " + verifica.Errore().testo;
+  for (const std::string& riga : verifica->non_verificate) avvisi.push_back("Agenda: " + riga);
+  const int nuove = verifica->vincite_da_vedere;
+  return fmt::format("Agenda delle giocate: verificate {}, {}.", agenda::ContaGiocate(verifica->verificate),
+                     nuove == 0   ? std::string("nessuna vincita da vedere")
+                     : nuove == 1 ? std::string("1 vincita da vedere")
+                                  : fmt::format("{} vincite da vedere", nuove));
 }
 
 std::string TestoAggiornamento(const EsitoAggiornamento& esito) {

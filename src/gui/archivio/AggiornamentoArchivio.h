@@ -65,10 +65,18 @@ class AggiornamentoArchivio {
  private:
   EsitoAggiornamento ImportaLotto(const std::filesystem::path& file) const;
   EsitoImportazione ScaricaGioco(Gioco gioco) const;
-  void VerificaAgenda(EsitoAggiornamento& esito) const;
 
   app::Configurazione m_configurazione;
 };
+
+// The agenda's open bets of `giochi` checked on the configured archives, as an update checks them;
+// nothing when there is no agenda or no game to check. Blocks: the windows run it off their thread.
+std::optional<Esito<agenda::EsitoVerificaAgenda>> VerificaAgendaDopoAggiornamento(
+    const app::Configurazione& configurazione, const std::vector<agenda::GiocoGiocata>& giochi);
+
+// "Agenda delle giocate: verificate 3 giocate, 1 vincita da vedere.", or why it was not checked;
+// the bets not checked join `avvisi`.
+std::string RigaAgenda(const Esito<agenda::EsitoVerificaAgenda>& verifica, std::vector<std::string>& avvisi);
 
 // The report of an update in the user's words: a line for the Lotto, one for the 10eLotto derived
 // again, one for each other game, one for the agenda, then what the user should check, the longest

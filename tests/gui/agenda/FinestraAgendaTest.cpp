@@ -1,4 +1,7 @@
 #include <QAction>
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -17,6 +20,8 @@
 
 #include "TempDir.h"
 #include "agenda/Agenda.h"
+#include "archive/ClsEstrazioni.h"
+#include "archive/ImportaRisultati.h"
 #include "gui/agenda/DialogoNuovaGiocata.h"
 #include "gui/agenda/EsportaCsv.h"
 #include "gui/agenda/ModelloAgenda.h"
@@ -179,6 +184,52 @@ class FinestraAgendaTest : public QObject {
     QVERIFY(finestra->findChild<QLabel*>("novita")->isHidden());
     QVERIFY(!elenco->model()->index(1, 0).data(ModelloAgenda::kRuoloNuove).toBool());
     QCOMPARE(stato->text(), QStringLiteral("Nessuna vincita da vedere"));
+  }
+
+  // "Verifica aperte" checks on another thread with the archive the desktop holds and tells the
+  // outcome; "Rimuovi" asks first. The message boxes are answered as a user would.
+  void VerificaERimozioneDallaFinestra() {
+    BaseTemporanea base;
+    test::Scrivi(base / "lotto.txt", "2023/01/05\tBA\t1\t2\t3\t4\t5\n2023/01/07\tBA\t12\t34\t3\t4\t5\n");
+    ClsEstrazioni archivio(base / "BaseDati.dat");
+    QVERIFY(ImportaRisultati(archivio, base / "lotto.txt"));
+    ContestoGui contesto(app::Configurazione{base.Percorso(), {}});
+    QVERIFY(contesto.RicaricaArchivio());
+    {
+      auto agenda = agenda::Agenda::Apri(base / "AgendaGiocate.db").Valore();
+      QVERIFY(agenda.Aggiungi(Voce(0, 0, 0).giocata));
+      agenda::Giocata superenalotto;
+      superenalotto.gioco = agenda::GiocoGiocata::SuperEnalotto;
+      superenalotto.colonne = {{1, 2, 3, 4, 5, 6}};
+      superenalotto.poste = {{"giocata", 100}};
+      superenalotto.dal = GruppoData{0, 5, 1, 2023};
+      QVERIFY(agenda.Aggiungi(superenalotto));
+    }
+    std::unique_ptr<QWidget> finestra(NuovaFinestraAgenda(contesto));
+    finestra->show();
+
+    QStringList messaggi;
+    QTimer rispondi;
+    connect(&rispondi, &QTimer::timeout, [&] {
+      if (auto* scatola = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        messaggi << scatola->text();
+        scatola->button(QMessageBox::Yes) ? scatola->button(QMessageBox::Yes)->click() : scatola->accept();
+      }
+    });
+    rispondi.start(20);
+    finestra->findChild<QPushButton*>("pulsanteVerificaAperte")->click();
+    QTRY_COMPARE(messaggi.size(), 1);
+    QCOMPARE(messaggi[0], QStringLiteral("Verificate 1 giocata. Vincite da vedere: 1 (evidenziate).\n\nNon verificate:\n"
+                                         "- 1 giocata del gioco SE non verificata: manca l'archivio del SuperEnalotto"));
+    auto* elenco = finestra->findChild<QTableView*>("elencoGiocate");
+    QTRY_COMPARE(elenco->model()->index(1, ModelloAgenda::Colpi).data().toString(), QStringLiteral("2/3"));
+    QVERIFY(elenco->model()->index(1, 0).data(ModelloAgenda::kRuoloNuove).toBool());
+
+    elenco->selectRow(0);
+    finestra->findChild<QPushButton*>("pulsanteRimuovi")->click();
+    QTRY_COMPARE(messaggi.size(), 2);
+    QVERIFY(messaggi[1].startsWith(QStringLiteral("Rimuovere dall'agenda la giocata 2 (1.2.3.4.5.6)?")));
+    QCOMPARE(elenco->model()->rowCount(), 1);
   }
 };
 
