@@ -320,7 +320,8 @@ Esito<Fatto> Agenda::ScriviVerifiche(const Giocata& giocata, const std::vector<V
   if (auto fatto = elimina->Lega(1, giocata.id).Esegui(); !fatto) return fatto;
 
   auto colpo_scritto = m_connessione.Prepara("INSERT INTO verifiche VALUES (?, ?, ?, ?, ?, ?, ?, ?)");
-  auto vincita_scritta = m_connessione.Prepara("INSERT INTO vincite (giocata, colpo, ordine, ruota, sorte, numeri, combinazioni, lordo, vista, importo_noto) "
+  auto vincita_scritta = m_connessione.Prepara(
+      "INSERT INTO vincite (giocata, colpo, ordine, ruota, sorte, numeri, combinazioni, lordo, vista, importo_noto) "
       "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
   if (!colpo_scritto) return colpo_scritto.Errore();
   if (!vincita_scritta) return vincita_scritta.Errore();
@@ -445,10 +446,10 @@ Esito<std::vector<VincitaNonVista>> Agenda::VinciteNonViste() const {
       return AvvisoEsclamativo(
           fmt::format("una vincita della giocata {} nell'agenda {} non è valida: il file è stato alterato",
                       righe->Intero(0), File().string()));
-    non_viste.push_back(VincitaNonVista{righe->Intero(0), Stretto(righe->Intero(1)), Stretto(righe->Intero(2)), *data,
-                                        VincitaColpo{Stretto(righe->Intero(4)), righe->Testo(5), std::move(*numeri),
-                                                     Stretto(righe->Intero(7)), righe->Intero(8),
-                                                     righe->Intero(9) != 0}});
+    non_viste.push_back(
+        VincitaNonVista{righe->Intero(0), Stretto(righe->Intero(1)), Stretto(righe->Intero(2)), *data,
+                        VincitaColpo{Stretto(righe->Intero(4)), righe->Testo(5), std::move(*numeri),
+                                     Stretto(righe->Intero(7)), righe->Intero(8), righe->Intero(9) != 0}});
   }
 }
 

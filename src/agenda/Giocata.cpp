@@ -102,8 +102,8 @@ Esito<Fatto> ControllaPosteAltriGiochi(const Giocata& giocata) {
     case GiocoGiocata::DieciELotto: {
       for (const auto& [sorte, centesimi] : poste)
         if (sorte != "doppio-oro" && (centesimi < 100 || centesimi % 50 != 0))
-          return AvvisoEsclamativo(fmt::format(
-              "al 10eLotto la posta della sorte {} va da 1 a 200 euro, a multipli di 0,50", sorte));
+          return AvvisoEsclamativo(
+              fmt::format("al 10eLotto la posta della sorte {} va da 1 a 200 euro, a multipli di 0,50", sorte));
       if (poste.contains("oro") && poste.contains("doppio-oro"))
         return AvvisoEsclamativo("al 10eLotto si gioca il Numero Oro o il Doppio Oro, non entrambi");
       if (poste.contains("oro") && poste["oro"] != base)

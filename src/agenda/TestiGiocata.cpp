@@ -44,8 +44,7 @@ std::string TestoVincita(const VincitaColpo& vincita) {
   if (!vincita.numeri.empty()) testo += fmt::format(" {}", fmt::join(vincita.numeri, "."));
   if (vincita.ruota != 0) testo += fmt::format(" su {}", SiglaRuota(vincita.ruota));
   testo += fmt::format(" ({}), ", vincita.combinazioni);
-  return testo + (vincita.importo_noto ? "lordo " + FormattaImporto(vincita.lordo)
-                                       : std::string("importo non noto"));
+  return testo + (vincita.importo_noto ? "lordo " + FormattaImporto(vincita.lordo) : std::string("importo non noto"));
 }
 
 Esito<std::vector<std::vector<int>>> LeggiColonne(std::string_view testo) {

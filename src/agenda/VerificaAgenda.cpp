@@ -6,9 +6,9 @@
 #include <map>
 
 #include "VerificaGioco.h"
+#include "VerificaLotto.h"
 #include "archive/ArchivioGioco.h"
 #include "archive/ClsEstrazioni.h"
-#include "VerificaLotto.h"
 
 namespace lottolab::agenda {
 
@@ -112,7 +112,8 @@ ArchiviCaricati CaricaArchivi(const std::vector<GiocoGiocata>& giochi, const Fil
     std::error_code ec;
     if (!std::filesystem::exists(percorso, ec)) continue;
     auto errore = [&](const Avviso& avviso) {
-      caricati.errori.push_back(fmt::format("giocate del gioco {} non verificate: {}", SiglaGioco(gioco), avviso.testo));
+      caricati.errori.push_back(
+          fmt::format("giocate del gioco {} non verificate: {}", SiglaGioco(gioco), avviso.testo));
     };
     if (gioco == GiocoGiocata::Lotto) {
       auto tabella = ClsEstrazioni(percorso).CaricaEstrazioni();

@@ -40,8 +40,8 @@ struct EsitoVerificaAgenda {
 };
 
 struct SceltaVerifica {
-  std::optional<int64_t> id = std::nullopt;          // one bet, open or closed; otherwise every open bet
-  std::vector<GiocoGiocata> giochi = {};             // only the open bets of these games; empty: of every game
+  std::optional<int64_t> id = std::nullopt;  // one bet, open or closed; otherwise every open bet
+  std::vector<GiocoGiocata> giochi = {};     // only the open bets of these games; empty: of every game
 };
 
 // Told before each bet is checked: how many were checked so far, and how many there are.
@@ -50,8 +50,8 @@ using PassoVerifica = std::function<void(int fatte, int totali)>;
 // Checks the bets chosen and stores each one's results. Fails only when the agenda itself cannot be
 // read or written, or when the one bet named is not in it. May take a while: run it off a window's
 // thread, with an Agenda of that thread.
-Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& archivi, const SceltaVerifica& scelta = {},
-                                          const PassoVerifica& passo = {});
+Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& archivi,
+                                          const SceltaVerifica& scelta = {}, const PassoVerifica& passo = {});
 
 // The games of the bets that VerificaAgenda would check with `scelta`, so that a caller loads only
 // their archives.

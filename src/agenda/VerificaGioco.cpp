@@ -226,8 +226,8 @@ Esito<std::vector<VerificaColpo>> VerificaGiocataAltroGioco(const Giocata& gioca
                  : giocata.gioco == GiocoGiocata::WinForLife  ? colpi.WinForLife(colpo, fattore)
                                                               : colpi.DieciELotto(colpo, fattore);
     if (!fatto)
-      return AvvisoEsclamativo(fmt::format("giocata {}, estrazione del {}: {}", giocata.id,
-                                           FormattaData(colpo.data), fatto.Errore().testo));
+      return AvvisoEsclamativo(
+          fmt::format("giocata {}, estrazione del {}: {}", giocata.id, FormattaData(colpo.data), fatto.Errore().testo));
     const bool vinto = !colpo.vincite.empty();
     verifiche.push_back(std::move(colpo));
     if (vinto && giocata.ferma_alla_vincita) break;

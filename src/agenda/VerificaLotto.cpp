@@ -29,9 +29,8 @@ stats::PostaSorte PostaDelMotore(const Posta& posta, const std::vector<int>& pro
 
 Esito<std::vector<VerificaColpo>> VerificaGiocataLotto(const Giocata& giocata, const TabellaEstrazioni& tabella) {
   if (giocata.gioco != GiocoGiocata::Lotto)
-    return AvvisoEsclamativo(
-        fmt::format("la giocata {} è del gioco {} e non si verifica sull'archivio del Lotto", giocata.id,
-                    SiglaGioco(giocata.gioco)));
+    return AvvisoEsclamativo(fmt::format("la giocata {} è del gioco {} e non si verifica sull'archivio del Lotto",
+                                         giocata.id, SiglaGioco(giocata.gioco)));
   const int prima = PrimaEstrazione(giocata, tabella);
   if (prima == 0) return std::vector<VerificaColpo>();
   stats::Giocata motore;

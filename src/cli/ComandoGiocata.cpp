@@ -209,8 +209,8 @@ int Elenco(Contesto& contesto, const Agenda& agenda, const Parole& parole) {
     const Giocata& g = voce.giocata;
     righe.push_back({std::to_string(g.id), std::string(agenda::SiglaGioco(g.gioco)), TestoNumeri(g), TestoRuote(g),
                      TestoPoste(g), TestoDal(g), fmt::format("{}/{}", voce.totali.colpi_verificati, g.colpi),
-                     voce.chiusa ? "chiusa" : "aperta", agenda::FormattaImporto(voce.totali.spesa),
-                     Vinto(voce.totali), agenda::FormattaImporto(voce.totali.Saldo())});
+                     voce.chiusa ? "chiusa" : "aperta", agenda::FormattaImporto(voce.totali.spesa), Vinto(voce.totali),
+                     agenda::FormattaImporto(voce.totali.Saldo())});
   }
   righe.push_back({"totale", "", "", "", "", "", "", "", agenda::FormattaImporto(totali->spesa), Vinto(*totali),
                    agenda::FormattaImporto(totali->Saldo())});
@@ -272,7 +272,8 @@ int Verifica(Contesto& contesto, Agenda& agenda, const Parole& parole) {
   }
   auto giochi = agenda::GiochiDaVerificare(agenda, scelta);
   if (!giochi) return contesto.Fallisci(giochi.Errore());
-  const agenda::ArchiviCaricati caricati = agenda::CaricaArchivi(*giochi, FileDegliArchivi(contesto, contesto.archivio));
+  const agenda::ArchiviCaricati caricati =
+      agenda::CaricaArchivi(*giochi, FileDegliArchivi(contesto, contesto.archivio));
   auto esito = agenda::VerificaAgenda(agenda, caricati.Archivi(), scelta);
   if (!esito) return contesto.Fallisci(esito.Errore());
   std::vector<std::string> non_verificate = caricati.errori;

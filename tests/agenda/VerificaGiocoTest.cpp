@@ -10,14 +10,15 @@
 
 #include "AgendaDiProva.h"
 #include "TempDir.h"
-#include "agenda/VerificaAgenda.h"
 #include "agenda/TestiGiocata.h"
+#include "agenda/VerificaAgenda.h"
 #include "agenda/VerificaGioco.h"
 
 namespace lottolab::agenda {
 namespace {
 
-EstrazioneGioco Estrazione(GruppoData data, std::vector<int> numeri, std::vector<int> extra, std::vector<int> speciali) {
+EstrazioneGioco Estrazione(GruppoData data, std::vector<int> numeri, std::vector<int> extra,
+                           std::vector<int> speciali) {
   EstrazioneGioco estrazione;
   estrazione.data = data;
   std::copy(numeri.begin(), numeri.end(), estrazione.numeri.begin());
@@ -90,8 +91,8 @@ TEST(VerificaAltriGiochi, DieciELottoConOpzioniEGong) {
   const TabellaGioco tabella(Formato(Gioco::DieciELotto),
                              {Estrazione({0, 3, 1, 2023}, DaA(1, 20), DaA(21, 35), {1, 2, 90})});
   // 3 of 5 pay 4 euro net; 2 of 5 on the Extra is a cell no source confirms; the Gong pays 65 net.
-  Giocata giocata = Altra(GiocoGiocata::DieciELotto, {{1, 2, 3, 21, 22}},
-                          {{"giocata", 100}, {"extra", 100}, {"gong", 100}}, 90);
+  Giocata giocata =
+      Altra(GiocoGiocata::DieciELotto, {{1, 2, 3, 21, 22}}, {{"giocata", 100}, {"extra", 100}, {"gong", 100}}, 90);
   auto verifiche = VerificaGiocataAltroGioco(giocata, tabella);
   ASSERT_TRUE(verifiche) << verifiche.Errore().testo;
   ASSERT_EQ(verifiche->size(), 1u) << "the archive ends there";
@@ -153,7 +154,8 @@ TEST(VerificaAltriGiochi, PosteCheIBigliettiNonVendonoSonoRifiutate) {
        "manca la posta della giocata base (sorte giocata) del gioco SE"},
       {Altra(GiocoGiocata::SuperEnalotto, {DaA(1, 6)}, {{"giocata", 200}}),
        "al SuperEnalotto una colonna costa 0,50 euro (fino al 01/02/2016) o 1 euro"},
-      {Altra(GiocoGiocata::WinForLife, {DaA(1, 10)}, {{"giocata", 150}}, 3), "a Win for Life una colonna costa 1 o 2 euro"},
+      {Altra(GiocoGiocata::WinForLife, {DaA(1, 10)}, {{"giocata", 150}}, 3),
+       "a Win for Life una colonna costa 1 o 2 euro"},
       {Altra(GiocoGiocata::DieciELotto, {{1}}, {{"giocata", 120}}),
        "al 10eLotto la posta della sorte giocata va da 1 a 200 euro, a multipli di 0,50"},
       {Altra(GiocoGiocata::DieciELotto, {{1}}, {{"giocata", 100}, {"oro", 100}, {"doppio-oro", 200}}),
@@ -176,7 +178,8 @@ TEST(VerificaAltriGiochi, PosteCheIBigliettiNonVendonoSonoRifiutate) {
 TEST(VerificaAltriGiochi, LAgendaMandaOgniGiocataAlSuoArchivio) {
   lottolab::test::CartellaTemporanea cartella;
   auto agenda = Agenda::Apri(cartella / "AgendaGiocate.db").Valore();
-  const int64_t se = agenda.Aggiungi(Altra(GiocoGiocata::SuperEnalotto, {{1, 2, 3, 41, 51, 61}}, {{"giocata", 100}})).Valore();
+  const int64_t se =
+      agenda.Aggiungi(Altra(GiocoGiocata::SuperEnalotto, {{1, 2, 3, 41, 51, 61}}, {{"giocata", 100}})).Valore();
   Giocata lontana = Altra(GiocoGiocata::SuperEnalotto, {DaA(1, 6)}, {{"giocata", 100}});
   lontana.id_estr_dal = 1;
   lontana.dal.reset();

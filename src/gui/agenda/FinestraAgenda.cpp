@@ -108,9 +108,9 @@ class FinestraAgenda : public QWidget {
     };
     auto* nuova = pulsante(QStringLiteral("Nuova giocata..."), "pulsanteNuova",
                            QStringLiteral("Registra una giocata fatta"), [this] { NuovaGiocata(); });
-    auto* verifica_aperte = pulsante(QStringLiteral("Verifica aperte"), "pulsanteVerificaAperte",
-                                     QStringLiteral("Verifica tutte le giocate aperte sugli archivi"),
-                                     [this] { Verifica(std::nullopt); });
+    auto* verifica_aperte =
+        pulsante(QStringLiteral("Verifica aperte"), "pulsanteVerificaAperte",
+                 QStringLiteral("Verifica tutte le giocate aperte sugli archivi"), [this] { Verifica(std::nullopt); });
     m_verifica_scelta = pulsante(QStringLiteral("Verifica selezionata"), "pulsanteVerificaScelta",
                                  QStringLiteral("Verifica di nuovo la giocata selezionata, anche se chiusa"),
                                  [this] { Verifica(IdScelto()); });
@@ -124,14 +124,14 @@ class FinestraAgenda : public QWidget {
     m_filtro->setObjectName(QStringLiteral("filtroStato"));
     m_filtro->addItems({QStringLiteral("Tutte"), QStringLiteral("Aperte"), QStringLiteral("Chiuse")});
     connect(m_filtro, &QComboBox::currentIndexChanged, this, [this](int scelta) {
-      m_ordinato->setFilterFixedString(scelta == 1 ? QStringLiteral("aperta")
+      m_ordinato->setFilterFixedString(scelta == 1   ? QStringLiteral("aperta")
                                        : scelta == 2 ? QStringLiteral("chiusa")
                                                      : QString());
     });
 
     auto* barra = new QHBoxLayout;
-    for (QWidget* w : std::initializer_list<QWidget*>{nuova, verifica_aperte, m_verifica_scelta, m_rimuovi, m_viste,
-                                                      esporta})
+    for (QWidget* w :
+         std::initializer_list<QWidget*>{nuova, verifica_aperte, m_verifica_scelta, m_rimuovi, m_viste, esporta})
       barra->addWidget(w);
     barra->addStretch();
     barra->addWidget(new QLabel(QStringLiteral("Mostra:")));
@@ -197,7 +197,9 @@ class FinestraAgenda : public QWidget {
       auto nuove = aperta ? aperta->VinciteNonViste() : Esito<std::vector<agenda::VincitaNonVista>>(aperta.Errore());
       auto somme = aperta ? aperta->TotaliComplessivi() : Esito<agenda::Totali>(aperta.Errore());
       if (!elenco || !nuove || !somme) {
-        m_totali->setText(DaStd(!elenco ? elenco.Errore().testo : !nuove ? nuove.Errore().testo : somme.Errore().testo));
+        m_totali->setText(DaStd(!elenco  ? elenco.Errore().testo
+                                : !nuove ? nuove.Errore().testo
+                                         : somme.Errore().testo));
       } else {
         voci = std::move(elenco).Valore();
         m_nuove = std::move(nuove).Valore();
@@ -222,14 +224,16 @@ class FinestraAgenda : public QWidget {
       return;
     }
     const auto aperte = std::count_if(voci.begin(), voci.end(), [](const agenda::VoceAgenda& v) { return !v.chiusa; });
-    QString testo = QStringLiteral("<b>Totale</b>: %1 (%2) &nbsp;·&nbsp; spesa %3 &nbsp;·&nbsp; "
-                                   "vinto netto %4 &nbsp;·&nbsp; saldo <b>%5</b>")
+    QString testo = QStringLiteral(
+                        "<b>Totale</b>: %1 (%2) &nbsp;·&nbsp; spesa %3 &nbsp;·&nbsp; "
+                        "vinto netto %4 &nbsp;·&nbsp; saldo <b>%5</b>")
                         .arg(DaStd(agenda::ContaGiocate(static_cast<int>(voci.size()))))
                         .arg(aperte == 1 ? QStringLiteral("1 aperta") : QStringLiteral("%1 aperte").arg(aperte))
                         .arg(TestoImporto(totali.spesa), TestoVinto(totali), TestoImporto(totali.Saldo()));
     if (totali.vincite_senza_importo > 0)
-      testo += QStringLiteral("<br>* più %1 vincite di cui la quota non è nota (SuperEnalotto, Win for Life, premi "
-                              "del 10eLotto non confermati): vinto e saldo non le contano.")
+      testo += QStringLiteral(
+                   "<br>* più %1 vincite di cui la quota non è nota (SuperEnalotto, Win for Life, premi "
+                   "del 10eLotto non confermati): vinto e saldo non le contano.")
                    .arg(totali.vincite_senza_importo);
     m_totali->setText(testo);
   }
@@ -263,8 +267,9 @@ class FinestraAgenda : public QWidget {
     for (const agenda::VincitaNonVista& v : m_nuove)
       if (v.giocata == *id) colpi_nuovi.insert(v.colpo);
     m_titolo_dettaglio->setText(
-        verifiche->empty() ? QStringLiteral("Giocata %1: non ancora verificata (nessuna estrazione in gioco finora).").arg(*id)
-                           : QStringLiteral("Giocata %1: verifica colpo per colpo").arg(*id));
+        verifiche->empty()
+            ? QStringLiteral("Giocata %1: non ancora verificata (nessuna estrazione in gioco finora).").arg(*id)
+            : QStringLiteral("Giocata %1: verifica colpo per colpo").arg(*id));
     m_verifiche->Imposta(std::move(verifiche).Valore(), colpi_nuovi);
   }
 
@@ -293,11 +298,9 @@ class FinestraAgenda : public QWidget {
         [archivi, file, id](Avanzamento& avanzamento) -> Esito<agenda::EsitoVerificaAgenda> {
           auto aperta = agenda::Agenda::Apri(file);
           if (!aperta) return aperta.Errore();
-          return agenda::VerificaAgenda(aperta.Valore(), archivi.Archivi(), {.id = id},
-                                        [&](int fatte, int totali) {
-                                          avanzamento.Passo(fmt::format("Verifica della giocata {} di {}...",
-                                                                        fatte + 1, totali));
-                                        });
+          return agenda::VerificaAgenda(aperta.Valore(), archivi.Archivi(), {.id = id}, [&](int fatte, int totali) {
+            avanzamento.Passo(fmt::format("Verifica della giocata {} di {}...", fatte + 1, totali));
+          });
         },
         [this](const Esito<agenda::EsitoVerificaAgenda>& esito) {
           Ricarica();
@@ -309,8 +312,9 @@ class FinestraAgenda : public QWidget {
 
   void MostraEsito(const agenda::EsitoVerificaAgenda& esito) {
     std::string testo = fmt::format("Verificate {}.", agenda::ContaGiocate(esito.verificate));
-    testo += esito.vincite_da_vedere == 0 ? std::string(" Nessuna vincita da vedere.")
-                                          : fmt::format(" Vincite da vedere: {} (evidenziate).", esito.vincite_da_vedere);
+    testo += esito.vincite_da_vedere == 0
+                 ? std::string(" Nessuna vincita da vedere.")
+                 : fmt::format(" Vincite da vedere: {} (evidenziate).", esito.vincite_da_vedere);
     if (!esito.non_verificate.empty()) {
       testo += "\n\nNon verificate:";
       for (const std::string& riga : esito.non_verificate) testo += "\n- " + riga;

@@ -43,8 +43,8 @@ QVariant ModelloVerifiche::data(const QModelIndex& indice, int ruolo) const {
     return colpo.vincite.empty() ? QVariant() : QVariant(QBrush(kColoreVinto));
   }
   if (ruolo == Qt::TextAlignmentRole)
-    return QVariant::fromValue((indice.column() == Vincite || indice.column() == Data ? Qt::AlignLeft : Qt::AlignRight) |
-                               Qt::AlignVCenter);
+    return QVariant::fromValue(
+        (indice.column() == Vincite || indice.column() == Data ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
   if (ruolo != Qt::DisplayRole && ruolo != Qt::ToolTipRole) return {};
   switch (indice.column()) {
     case Colpo: return numero;

@@ -156,13 +156,13 @@ std::optional<Esito<agenda::EsitoVerificaAgenda>> VerificaAgendaDopoAggiornament
   std::error_code ec;
   if (giochi.empty() || !fs::exists(configurazione.FileAgenda(), ec)) return std::nullopt;
   return SenzaEccezioni<agenda::EsitoVerificaAgenda>("AggiornamentoArchivio.VerificaAgenda", [&] {
-    return agenda::VerificaAgendaSuiFile(
-        configurazione.FileAgenda(),
-        [&](agenda::GiocoGiocata gioco) {
-          return gioco == agenda::GiocoGiocata::Lotto ? configurazione.ArchivioLotto()
+    return agenda::VerificaAgendaSuiFile(configurazione.FileAgenda(),
+                                         [&](agenda::GiocoGiocata gioco) {
+                                           return gioco == agenda::GiocoGiocata::Lotto
+                                                      ? configurazione.ArchivioLotto()
                                                       : configurazione.ArchivioGioco(agenda::GiocoDellArchivio(gioco));
-        },
-        {.giochi = giochi});
+                                         },
+                                         {.giochi = giochi});
   });
 }
 

@@ -225,8 +225,9 @@ void FinestraPrincipale::MostraVinciteDaVedere() {
     m_stato_agenda->setText(QStringLiteral("Nessuna vincita da vedere"));
     m_stato_agenda->setToolTip(QStringLiteral("Le vincite delle giocate dell'agenda sono già state viste"));
   } else {
-    m_stato_agenda->setText(QStringLiteral("<a href='agenda'><b>%1 da vedere</b></a>")
-                                .arg(*nuove == 1 ? QStringLiteral("1 vincita") : QStringLiteral("%1 vincite").arg(*nuove)));
+    m_stato_agenda->setText(
+        QStringLiteral("<a href='agenda'><b>%1 da vedere</b></a>")
+            .arg(*nuove == 1 ? QStringLiteral("1 vincita") : QStringLiteral("%1 vincite").arg(*nuove)));
     m_stato_agenda->setToolTip(QStringLiteral("Apre l'agenda delle giocate"));
   }
 }

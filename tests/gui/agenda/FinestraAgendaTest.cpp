@@ -1,12 +1,11 @@
 #include <QAction>
 #include <QApplication>
-#include <QMessageBox>
-#include <QTimer>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
@@ -15,6 +14,7 @@
 #include <QTableView>
 #include <QTableWidget>
 #include <QTest>
+#include <QTimer>
 
 #include <memory>
 
@@ -219,8 +219,9 @@ class FinestraAgendaTest : public QObject {
     rispondi.start(20);
     finestra->findChild<QPushButton*>("pulsanteVerificaAperte")->click();
     QTRY_COMPARE(messaggi.size(), 1);
-    QCOMPARE(messaggi[0], QStringLiteral("Verificate 1 giocata. Vincite da vedere: 1 (evidenziate).\n\nNon verificate:\n"
-                                         "- 1 giocata del gioco SE non verificata: manca l'archivio del SuperEnalotto"));
+    QCOMPARE(messaggi[0],
+             QStringLiteral("Verificate 1 giocata. Vincite da vedere: 1 (evidenziate).\n\nNon verificate:\n"
+                            "- 1 giocata del gioco SE non verificata: manca l'archivio del SuperEnalotto"));
     auto* elenco = finestra->findChild<QTableView*>("elencoGiocate");
     QTRY_COMPARE(elenco->model()->index(1, ModelloAgenda::Colpi).data().toString(), QStringLiteral("2/3"));
     QVERIFY(elenco->model()->index(1, 0).data(ModelloAgenda::kRuoloNuove).toBool());

@@ -196,8 +196,9 @@ class AggiornamentoArchivioTest : public QObject {
         Scrivi("lotto2.txt", EstrazioneDelLotto("2010/01/05", 0) + EstrazioneDelLotto("2010/01/07", 0)));
     QVERIFY(esito.agenda && *esito.agenda);
     QCOMPARE((*esito.agenda)->verificate, 1);
-    QCOMPARE(TestoAggiornamento(esito), std::string("Lotto: aggiunta 1 estrazione.\n"
-                                                    "Agenda delle giocate: verificate 1 giocata, 1 vincita da vedere."));
+    QCOMPARE(TestoAggiornamento(esito),
+             std::string("Lotto: aggiunta 1 estrazione.\n"
+                         "Agenda delle giocate: verificate 1 giocata, 1 vincita da vedere."));
     QCOMPARE(aperta->VinciteNonViste()->front().vincita.lordo, int64_t{25000});
   }
 
