@@ -453,6 +453,40 @@ Esito<std::vector<VincitaNonVista>> Agenda::VinciteNonViste() const {
   }
 }
 
+Esito<Fatto> Agenda::SalvaQuota(const QuotaPubblicata& quota) {
+  if (quota.gioco != GiocoGiocata::SuperEnalotto && quota.gioco != GiocoGiocata::WinForLife)
+    return AvvisoEsclamativo(
+        fmt::format("il gioco {} non paga quote: i suoi premi sono fissi", SiglaGioco(quota.gioco)));
+  if (quota.sorte.empty() || quota.id_estr < 1 || !DataValida(quota.data))
+    return AvvisoEsclamativo("quota non valida: servono l'estrazione, la sua data e la categoria");
+  if (quota.centesimi <= 0) return AvvisoEsclamativo("la quota deve essere maggiore di zero");
+  return m_connessione.InTransazione([&]() -> Esito<Fatto> {
+    auto riga = m_connessione.Prepara("INSERT OR REPLACE INTO quote VALUES (?, ?, ?, ?, ?)");
+    if (!riga) return riga.Errore();
+    riga->Lega(1, SiglaGioco(quota.gioco)).Lega(2, quota.id_estr).Lega(3, TestoData(quota.data));
+    riga->Lega(4, quota.sorte).Lega(5, quota.centesimi);
+    return riga->Esegui();
+  });
+}
+
+Esito<std::vector<QuotaPubblicata>> Agenda::Quote(GiocoGiocata gioco) const {
+  auto righe =
+      m_connessione.Prepara("SELECT id_estr, data, sorte, centesimi FROM quote WHERE gioco = ? ORDER BY id_estr");
+  if (!righe) return righe.Errore();
+  righe->Lega(1, SiglaGioco(gioco));
+  std::vector<QuotaPubblicata> quote;
+  for (;;) {
+    auto passo = righe->Passo();
+    if (!passo) return passo.Errore();
+    if (!*passo) return quote;
+    auto data = DataDaTesto(righe->Testo(1));
+    if (!data || righe->Intero(3) <= 0)
+      return AvvisoEsclamativo(
+          fmt::format("una quota dell'agenda {} non è valida: il file è stato alterato", File().string()));
+    quote.push_back({gioco, Stretto(righe->Intero(0)), *data, righe->Testo(2), righe->Intero(3)});
+  }
+}
+
 Esito<int> VerificaGiocate(Agenda& agenda, const Verificatore& verifica, std::optional<int64_t> id) {
   std::vector<int64_t> da_verificare;
   if (id) {

@@ -90,6 +90,12 @@ class Agenda {
   // The wins stored since the last look, by bet and colpo.
   Esito<std::vector<VincitaNonVista>> VinciteNonViste() const;
 
+  // Stores the quota of a category of a draw, replacing the one stored before; a game without pool
+  // prizes, an empty category or an amount not above zero is refused.
+  Esito<Fatto> SalvaQuota(const QuotaPubblicata& quota);
+  // The quotas stored for the game, by draw and category.
+  Esito<std::vector<QuotaPubblicata>> Quote(GiocoGiocata gioco) const;
+
   const std::filesystem::path& File() const { return m_connessione.File(); }
 
  private:

@@ -81,6 +81,19 @@ struct VerificaColpo {
   friend bool operator==(const VerificaColpo&, const VerificaColpo&) = default;
 };
 
+// The quota published for a category of a draw of the SuperEnalotto or Win for Life, as the user
+// read it: the money of one winning column, before tax. `sorte` names the category as the check
+// names the win ("punti 5", "5+1", "9+1 (seconda)", "punti 3 SuperStar").
+struct QuotaPubblicata {
+  GiocoGiocata gioco = GiocoGiocata::SuperEnalotto;
+  int id_estr = 0;
+  GruppoData data;
+  std::string sorte;
+  int64_t centesimi = 0;
+
+  friend bool operator==(const QuotaPubblicata&, const QuotaPubblicata&) = default;
+};
+
 // The words of the stakes each game takes, the first being its plain play: Lotto "estratto",
 // "ambo", "terno", "quaterna", "cinquina", "ambetto", "estratto1".."estratto5" (estratto
 // determinato in that position); SuperEnalotto "giocata", "superstar"; 10eLotto "giocata", "oro",

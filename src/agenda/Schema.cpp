@@ -81,9 +81,18 @@ CREATE INDEX vincite_non_viste ON vincite (vista) WHERE vista = 0;
 )";
 
 // Version 3: the wins whose money is not known (a pool prize without its quota) say so, rather
-// than passing for wins of nothing. Every win stored before was a Lotto win, always priced.
+// than passing for wins of nothing; every win stored before was a Lotto win, always priced. The
+// quotas the user read for a draw's category, by the draw's index and date in its game's archive.
 constexpr std::string_view kVersione3 = R"(
 ALTER TABLE vincite ADD COLUMN importo_noto INTEGER NOT NULL DEFAULT 1 CHECK (importo_noto IN (0, 1));
+CREATE TABLE quote (
+  gioco TEXT NOT NULL CHECK (gioco IN ('SE', 'WF')),
+  id_estr INTEGER NOT NULL,
+  data TEXT NOT NULL,
+  sorte TEXT NOT NULL,
+  centesimi INTEGER NOT NULL CHECK (centesimi > 0),
+  PRIMARY KEY (gioco, id_estr, sorte)
+) WITHOUT ROWID;
 )";
 
 std::string Nome(const Connessione& connessione) { return connessione.File().string(); }

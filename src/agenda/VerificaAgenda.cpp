@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <map>
 
-#include "VerificaGioco.h"
 #include "VerificaLotto.h"
 #include "archive/ArchivioGioco.h"
 #include "archive/ClsEstrazioni.h"
+#include "archive/DateEstrazione.h"
 
 namespace lottolab::agenda {
 
@@ -53,11 +53,12 @@ const void* ArchiviGiocate::Di(GiocoGiocata gioco) const {
   return nullptr;
 }
 
-Esito<std::vector<VerificaColpo>> VerificaGiocataAgenda(const Giocata& giocata, const ArchiviGiocate& archivi) {
+Esito<std::vector<VerificaColpo>> VerificaGiocataAgenda(const Giocata& giocata, const ArchiviGiocate& archivi,
+                                                        const QuoteNote& quote) {
   if (archivi.Di(giocata.gioco) == nullptr)
     return AvvisoEsclamativo(fmt::format("manca {}", NomeArchivio(giocata.gioco)));
   if (giocata.gioco == GiocoGiocata::Lotto) return VerificaGiocataLotto(giocata, *archivi.lotto);
-  return VerificaGiocataAltroGioco(giocata, *static_cast<const TabellaGioco*>(archivi.Di(giocata.gioco)));
+  return VerificaGiocataAltroGioco(giocata, *static_cast<const TabellaGioco*>(archivi.Di(giocata.gioco)), quote);
 }
 
 Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& archivi, const SceltaVerifica& scelta,
@@ -66,6 +67,15 @@ Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& 
   if (!giocate) return giocate.Errore();
   EsitoVerificaAgenda esito;
   std::map<GiocoGiocata, int> in_attesa;
+  // The quotas of each game, read once; one is taken only for the draw of the same index and date.
+  std::map<GiocoGiocata, std::vector<QuotaPubblicata>> quote;
+  for (const Giocata& giocata : *giocate)
+    if ((giocata.gioco == GiocoGiocata::SuperEnalotto || giocata.gioco == GiocoGiocata::WinForLife) &&
+        !quote.contains(giocata.gioco)) {
+      auto del_gioco = agenda.Quote(giocata.gioco);
+      if (!del_gioco) return del_gioco.Errore();
+      quote[giocata.gioco] = std::move(del_gioco).Valore();
+    }
   int fatte = 0;
   for (const Giocata& giocata : *giocate) {
     if (passo) passo(fatte++, static_cast<int>(giocate->size()));
@@ -73,7 +83,13 @@ Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& 
       ++in_attesa[giocata.gioco];
       continue;
     }
-    auto risultati = VerificaGiocataAgenda(giocata, archivi);
+    const std::vector<QuotaPubblicata>& del_gioco = quote[giocata.gioco];
+    auto risultati = VerificaGiocataAgenda(
+        giocata, archivi, [&](int id_estr, const GruppoData& data, const std::string& sorte) -> std::optional<int64_t> {
+          for (const QuotaPubblicata& q : del_gioco)
+            if (q.id_estr == id_estr && q.sorte == sorte && ConfrontaDate(q.data, data) == 0) return q.centesimi;
+          return std::nullopt;
+        });
     if (!risultati) {
       esito.non_verificate.push_back(fmt::format("giocata {}: {}", giocata.id, risultati.Errore().testo));
       continue;
@@ -84,6 +100,32 @@ Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& 
   for (const auto& [gioco, quante] : in_attesa)
     esito.non_verificate.push_back(fmt::format("{} del gioco {} non verificat{}: manca {}", ContaGiocate(quante),
                                                SiglaGioco(gioco), quante == 1 ? "a" : "e", NomeArchivio(gioco)));
+  auto nuove = agenda.VinciteNonViste();
+  if (!nuove) return nuove.Errore();
+  esito.vincite_da_vedere = static_cast<int>(nuove->size());
+  return esito;
+}
+
+Esito<EsitoVerificaAgenda> ApplicaQuota(Agenda& agenda, const ArchiviGiocate& archivi, const QuotaPubblicata& quota) {
+  if (auto salvata = agenda.SalvaQuota(quota); !salvata) return salvata.Errore();
+  auto voci = agenda.Elenco({StatoGiocate::Tutte, quota.gioco});
+  if (!voci) return voci.Errore();
+  EsitoVerificaAgenda esito;
+  for (const VoceAgenda& voce : *voci) {
+    auto verifiche = agenda.Verifiche(voce.giocata.id);
+    if (!verifiche) return verifiche.Errore();
+    auto vinta = [&](const VerificaColpo& colpo) {
+      return colpo.id_estr == quota.id_estr &&
+             std::any_of(colpo.vincite.begin(), colpo.vincite.end(),
+                         [&](const VincitaColpo& vincita) { return vincita.sorte == quota.sorte; });
+    };
+    if (std::none_of(verifiche->begin(), verifiche->end(), vinta)) continue;
+    auto di_nuovo = VerificaAgenda(agenda, archivi, {.id = voce.giocata.id});
+    if (!di_nuovo) return di_nuovo;
+    esito.verificate += di_nuovo->verificate;
+    esito.non_verificate.insert(esito.non_verificate.end(), di_nuovo->non_verificate.begin(),
+                                di_nuovo->non_verificate.end());
+  }
   auto nuove = agenda.VinciteNonViste();
   if (!nuove) return nuove.Errore();
   esito.vincite_da_vedere = static_cast<int>(nuove->size());

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "Agenda.h"
+#include "VerificaGioco.h"
 #include "archive/TabellaEstrazioni.h"
 #include "archive/TabellaGioco.h"
 
@@ -28,9 +29,10 @@ struct ArchiviGiocate {
   const void* Di(GiocoGiocata gioco) const;
 };
 
-// The bet's results draw by draw, by its game's engine on its game's table; refused, with a message
-// naming the archive, when that table is not given.
-Esito<std::vector<VerificaColpo>> VerificaGiocataAgenda(const Giocata& giocata, const ArchiviGiocate& archivi);
+// The bet's results draw by draw, by its game's engine on its game's table, a pool prize taking the
+// quota given for it; refused, with a message naming the archive, when that table is not given.
+Esito<std::vector<VerificaColpo>> VerificaGiocataAgenda(const Giocata& giocata, const ArchiviGiocate& archivi,
+                                                        const QuoteNote& quote = {});
 
 struct EsitoVerificaAgenda {
   int verificate = 0;
@@ -52,6 +54,10 @@ using PassoVerifica = std::function<void(int fatte, int totali)>;
 // thread, with an Agenda of that thread.
 Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& archivi,
                                           const SceltaVerifica& scelta = {}, const PassoVerifica& passo = {});
+
+// Stores the quota, then checks again every bet of its game whose stored check holds a win of that
+// category in that draw, so that those wins take its money; what the check did is told as VerificaAgenda tells it.
+Esito<EsitoVerificaAgenda> ApplicaQuota(Agenda& agenda, const ArchiviGiocate& archivi, const QuotaPubblicata& quota);
 
 // The games of the bets that VerificaAgenda would check with `scelta`, so that a caller loads only
 // their archives.

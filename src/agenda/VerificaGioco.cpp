@@ -87,8 +87,9 @@ Esito<stats::ColpoGioco> GiocaColpo(stats::GiocataGioco& motore, const TabellaGi
 // The checks of one draw for each game; `fattore` is the progression's at this colpo.
 class Colpi {
  public:
-  Colpi(const Giocata& giocata, const TabellaGioco& tabella, std::vector<std::vector<int>> colonne)
-      : m_giocata(giocata), m_tabella(tabella), m_colonne(std::move(colonne)) {
+  Colpi(const Giocata& giocata, const TabellaGioco& tabella, std::vector<std::vector<int>> colonne,
+        const QuoteNote& quote)
+      : m_giocata(giocata), m_tabella(tabella), m_colonne(std::move(colonne)), m_quote(quote) {
     m_motore.colonne = m_colonne;
     m_motore.colpi = 1;
   }
@@ -102,7 +103,8 @@ class Colpi {
     for (const stats::VincitaGioco& v : giocato->vincite) {
       std::vector<int> numeri = Presi(m_colonne[static_cast<size_t>(v.colonna)], sei);
       if (v.categoria == "5+1") numeri.push_back(estrazione.speciali[0]);
-      Aggiungi(colpo, v.categoria == "5+1" ? v.categoria : "punti " + v.categoria, numeri, v.vinto, fattore);
+      const std::string sorte = v.categoria == "5+1" ? v.categoria : "punti " + v.categoria;
+      Aggiungi(colpo, sorte, numeri, v.vinto ? v.vinto : Quota(colpo, sorte), fattore);
     }
     // The SuperStar pays every score of a column when its number comes out, by shares of its own pool.
     const int superstar = estrazione.speciali[1];
@@ -113,7 +115,8 @@ class Colpi {
       std::vector<int> numeri = Presi(colonna, sei);
       const size_t punti = numeri.size();
       numeri.push_back(superstar);
-      Aggiungi(colpo, fmt::format("punti {} SuperStar", punti), numeri, std::nullopt, fattore);
+      const std::string sorte = fmt::format("punti {} SuperStar", punti);
+      Aggiungi(colpo, sorte, numeri, Quota(colpo, sorte), fattore);
     }
     return Fatto{};
   }
@@ -173,19 +176,28 @@ class Colpi {
       auto categoria = stats::CategoriaWinForLifeDi(punti, numerone, biglietto);
       if (!categoria) continue;
       if (numerone) numeri.push_back(m_giocata.numero_speciale);
-      std::optional<Tassato> vinto;
-      if (*categoria == stats::CategoriaWinForLife::Settima)
-        vinto = stats::TassaVincitaSuperEnalotto(stats::kPremioSettimaWinForLife, estrazione.data);
-      Aggiungi(colpo, fmt::format("{}{} ({})", punti, numerone ? "+1" : "", stats::NomeCategoria(*categoria)), numeri,
-               vinto, fattore);
+      const std::string sorte = fmt::format("{}{} ({})", punti, numerone ? "+1" : "", stats::NomeCategoria(*categoria));
+      const std::optional<Tassato> vinto =
+          *categoria == stats::CategoriaWinForLife::Settima
+              ? stats::TassaVincitaSuperEnalotto(stats::kPremioSettimaWinForLife, estrazione.data)
+              : Quota(colpo, sorte);
+      Aggiungi(colpo, sorte, numeri, vinto, fattore);
     }
     return Fatto{};
   }
 
  private:
+  // A pool prize with the quota the user gave, taxed as the operator taxes it; none without one.
+  std::optional<Tassato> Quota(const VerificaColpo& colpo, const std::string& sorte) const {
+    const std::optional<int64_t> quota = m_quote ? m_quote(colpo.id_estr, colpo.data, sorte) : std::nullopt;
+    if (!quota) return std::nullopt;
+    return stats::TassaVincitaSuperEnalotto(*quota, colpo.data);
+  }
+
   const Giocata& m_giocata;
   const TabellaGioco& m_tabella;
   std::vector<std::vector<int>> m_colonne;
+  const QuoteNote& m_quote;
   stats::GiocataGioco m_motore;
 };
 
@@ -199,7 +211,8 @@ Gioco GiocoDellArchivio(GiocoGiocata gioco) {
   }
 }
 
-Esito<std::vector<VerificaColpo>> VerificaGiocataAltroGioco(const Giocata& giocata, const TabellaGioco& tabella) {
+Esito<std::vector<VerificaColpo>> VerificaGiocataAltroGioco(const Giocata& giocata, const TabellaGioco& tabella,
+                                                            const QuoteNote& quote) {
   if (giocata.gioco == GiocoGiocata::Lotto)
     return AvvisoEsclamativo("una giocata del Lotto si verifica sull'archivio del Lotto");
   const Gioco gioco = GiocoDellArchivio(giocata.gioco);
@@ -216,7 +229,7 @@ Esito<std::vector<VerificaColpo>> VerificaGiocataAltroGioco(const Giocata& gioca
   auto colonne = per_colonna ? ColonneSviluppate(giocata.colonne, per_colonna)
                              : Esito<std::vector<std::vector<int>>>(giocata.colonne);
   if (!colonne) return colonne.Errore();
-  Colpi colpi(giocata, tabella, std::move(colonne).Valore());
+  Colpi colpi(giocata, tabella, std::move(colonne).Valore(), quote);
 
   std::vector<VerificaColpo> verifiche;
   for (int k = 0; k < giocata.colpi && tabella.Contiene(prima + k); ++k) {

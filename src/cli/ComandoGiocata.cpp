@@ -37,7 +37,8 @@ constexpr std::string_view kUso =
     "[--nota TESTO] [--gioco LO|SE|DL|WF] [--speciale N]\n"
     "     lottolab giocata elenco [--aperte|--chiuse] [--gioco LO|SE|DL|WF]\n"
     "     lottolab giocata rimuovi ID\n"
-    "     lottolab giocata verifica [ID]";
+    "     lottolab giocata verifica [ID]\n"
+    "     lottolab giocata quota ID COLPO CATEGORIA IMPORTO";
 
 std::optional<int64_t> Intero(std::string_view testo, int64_t massimo) {
   int64_t valore = 0;
@@ -293,6 +294,43 @@ int Verifica(Contesto& contesto, Agenda& agenda, const Parole& parole) {
   return kUscitaRiuscita;
 }
 
+// The quota the user read for a win of a pool game: stored, and every bet that won that category in
+// that draw checked again so that the win takes its money.
+int Quota(Contesto& contesto, Agenda& agenda, const Parole& parole) {
+  if (parole.size() != 4)
+    return contesto.Fallisci(AvvisoEsclamativo("uso: lottolab giocata quota ID COLPO CATEGORIA IMPORTO"));
+  auto id = LeggiId(parole[0]);
+  if (!id) return contesto.Fallisci(id.Errore());
+  auto giocata = agenda.Carica(*id);
+  if (!giocata) return contesto.Fallisci(giocata.Errore());
+  auto verifiche = agenda.Verifiche(*id);
+  if (!verifiche) return contesto.Fallisci(verifiche.Errore());
+  const auto colpo = Intero(parole[1], static_cast<int64_t>(verifiche->size()));
+  if (!colpo || *colpo < 1)
+    return contesto.Fallisci(AvvisoEsclamativo(
+        fmt::format("colpo non valido: {} (la giocata {} ne ha verificati {})", parole[1], *id, verifiche->size())));
+  const agenda::VerificaColpo& verificato = (*verifiche)[static_cast<size_t>(*colpo - 1)];
+  std::vector<std::string> categorie;
+  for (const agenda::VincitaColpo& vincita : verificato.vincite) categorie.push_back(vincita.sorte);
+  if (std::find(categorie.begin(), categorie.end(), parole[2]) == categorie.end())
+    return contesto.Fallisci(AvvisoEsclamativo(
+        categorie.empty() ? fmt::format("il colpo {} della giocata {} non ha vincite", *colpo, *id)
+                          : fmt::format("il colpo {} della giocata {} non ha vinto \"{}\" (ha vinto: {})", *colpo, *id,
+                                        parole[2], fmt::join(categorie, ", "))));
+  auto importo = agenda::LeggiImporto(parole[3]);
+  if (!importo) return contesto.Fallisci(importo.Errore());
+  const agenda::ArchiviCaricati caricati =
+      agenda::CaricaArchivi({giocata->gioco}, FileDegliArchivi(contesto, contesto.archivio));
+  auto esito = agenda::ApplicaQuota(agenda, caricati.Archivi(),
+                                    {giocata->gioco, verificato.id_estr, verificato.data, parole[2], *importo});
+  if (!esito) return contesto.Fallisci(esito.Errore());
+  for (const std::string& riga : caricati.errori) contesto.segnalatore.Avverti(riga);
+  for (const std::string& riga : esito->non_verificate) contesto.segnalatore.Avverti(riga);
+  fmt::print(contesto.out, "quota di \"{}\" del {}: {}; giocate verificate di nuovo: {}\n", parole[2],
+             FormattaData(verificato.data), agenda::FormattaImporto(*importo), esito->verificate);
+  return kUscitaRiuscita;
+}
+
 }  // namespace
 
 void VerificaAgendaDopoImportazione(Contesto& contesto, const std::vector<GiocoGiocata>& giochi) {
@@ -315,9 +353,9 @@ int ComandoGiocata(Contesto& contesto, const Parole& parole) {
     return kUscitaInputNonValido;
   }
   const std::string& azione = parole[0];
-  if (azione != "aggiungi" && azione != "elenco" && azione != "rimuovi" && azione != "verifica")
+  if (azione != "aggiungi" && azione != "elenco" && azione != "rimuovi" && azione != "verifica" && azione != "quota")
     return contesto.Fallisci(
-        AvvisoEsclamativo(fmt::format("azione sconosciuta: {} (aggiungi, elenco, rimuovi o verifica)", azione)));
+        AvvisoEsclamativo(fmt::format("azione sconosciuta: {} (aggiungi, elenco, rimuovi, verifica o quota)", azione)));
   auto aperta = Agenda::Apri(contesto.configurazione.FileAgenda());
   if (!aperta) return contesto.Fallisci(aperta.Errore());
   Agenda& agenda = aperta.Valore();
@@ -325,6 +363,7 @@ int ComandoGiocata(Contesto& contesto, const Parole& parole) {
   if (azione == "aggiungi") return Aggiungi(contesto, agenda, resto);
   if (azione == "elenco") return Elenco(contesto, agenda, resto);
   if (azione == "rimuovi") return Rimuovi(contesto, agenda, resto);
+  if (azione == "quota") return Quota(contesto, agenda, resto);
   return Verifica(contesto, agenda, resto);
 }
 

@@ -214,6 +214,25 @@ TEST(VerificaAltriGiochi, LAgendaMandaOgniGiocataAlSuoArchivio) {
   EXPECT_EQ(agenda.Elenco({StatoGiocate::Chiuse, std::nullopt})->back().giocata.id, id_ferma)
       << "a win whose money is not known still closes a bet that stops at its first win";
   EXPECT_EQ(VerificaAgenda(agenda, archivi, {.id = 99}).Errore().testo, "la giocata 99 non è nell'agenda");
+
+  // The quotas the user reads: 25 euro for a three is below the tax's threshold; 100,000 euro for a
+  // six pays 20% on the part above 500 (2023). A quota for another draw's date is not taken.
+  auto tre = ApplicaQuota(agenda, archivi, {GiocoGiocata::SuperEnalotto, 1, {0, 3, 1, 2023}, "punti 3", 2500});
+  ASSERT_TRUE(tre) << tre.Errore().testo;
+  EXPECT_EQ(tre->verificate, 1) << "only the bet whose check holds that draw with that category's win";
+  EXPECT_EQ(agenda.TotaliGiocata(se)->netto, 2500);
+  EXPECT_EQ(agenda.TotaliGiocata(se)->vincite_senza_importo, 0);
+  ASSERT_TRUE(ApplicaQuota(agenda, archivi, {GiocoGiocata::SuperEnalotto, 1, {0, 3, 1, 2023}, "punti 6", 10'000'000}));
+  const Totali sei = agenda.TotaliGiocata(id_ferma).Valore();
+  EXPECT_EQ(sei.lordo, 10'000'000);
+  EXPECT_EQ(sei.netto, 10'000'000 - (10'000'000 - 50'000) / 5);
+  ASSERT_TRUE(ApplicaQuota(agenda, archivi, {GiocoGiocata::SuperEnalotto, 1, {0, 4, 1, 2023}, "punti 6", 100}));
+  EXPECT_EQ(agenda.TotaliGiocata(id_ferma)->vincite_senza_importo, 1) << "the archive's draw 1 is of another day";
+  EXPECT_EQ(ApplicaQuota(agenda, archivi, {GiocoGiocata::Lotto, 1, {0, 3, 1, 2023}, "ambo", 100}).Errore().testo,
+            "il gioco LO non paga quote: i suoi premi sono fissi");
+  EXPECT_EQ(
+      ApplicaQuota(agenda, archivi, {GiocoGiocata::SuperEnalotto, 1, {0, 3, 1, 2023}, "punti 6", 0}).Errore().testo,
+      "la quota deve essere maggiore di zero");
 }
 
 TEST(TestiGiocata, ColonneLetteComeLUtenteLeScrive) {

@@ -124,7 +124,7 @@ TEST_F(Giocata, OgniParolaSbagliataHaIlSuoMessaggio) {
   EXPECT_EQ(Lottolab({"giocata", "elenco"}).out, "nessuna giocata\n");
 
   const std::vector<std::pair<std::vector<std::string>, std::string>> altre = {
-      {{"giocata", "gioca"}, "azione sconosciuta: gioca (aggiungi, elenco, rimuovi o verifica)"},
+      {{"giocata", "gioca"}, "azione sconosciuta: gioca (aggiungi, elenco, rimuovi, verifica o quota)"},
       {{"giocata", "elenco", "--aperte", "--chiuse"}, "--aperte e --chiuse non vanno insieme"},
       {{"giocata", "elenco", "tutte"}, "parola inattesa: tutte (elenco prende --aperte o --chiuse e --gioco)"},
       {{"giocata", "rimuovi", "-3"}, "numero di giocata non valido: -3"},
@@ -228,6 +228,22 @@ TEST_F(Giocata, LeGiocateDegliAltriGiochiSiVerificanoPerCategoria) {
   const Uscita senza_lotto = Lottolab({"giocata", "verifica", "2"});
   EXPECT_EQ(senza_lotto.codice, 2);
   EXPECT_EQ(senza_lotto.err, "lottolab: 1 giocata del gioco LO non verificata: manca l'archivio del Lotto\n");
+
+  // The quota read on the operator's page gives the win its money.
+  const Uscita quota = Lottolab({"giocata", "quota", "1", "1", "punti 3", "28,31"});
+  ASSERT_EQ(quota.codice, 0) << quota.err;
+  EXPECT_EQ(quota.out, "quota di \"punti 3\" del 05/01/2023: 28,31; giocate verificate di nuovo: 1\n");
+  EXPECT_NE(Lottolab({"giocata", "elenco", "--gioco", "SE"}).out.find("1/2    aperta   1,00  28,31  27,31"),
+            std::string::npos);
+  const std::vector<std::pair<std::vector<std::string>, std::string>> rifiutate = {
+      {{"giocata", "quota", "1", "1", "punti 4", "1"},
+       "il colpo 1 della giocata 1 non ha vinto \"punti 4\" (ha vinto: punti 3)"},
+      {{"giocata", "quota", "1", "2", "punti 3", "1"}, "colpo non valido: 2 (la giocata 1 ne ha verificati 1)"},
+      {{"giocata", "quota", "1", "1", "punti 3", "-1"},
+       "importo non valido: -1 (euro con al più due decimali, per esempio 1 o 0,50)"},
+      {{"giocata", "quota", "1", "1"}, "uso: lottolab giocata quota ID COLPO CATEGORIA IMPORTO"},
+  };
+  for (const auto& [parole, messaggio] : rifiutate) EXPECT_EQ(Lottolab(parole).err, "lottolab: " + messaggio + "\n");
 }
 
 }  // namespace
