@@ -6,7 +6,9 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
@@ -16,8 +18,10 @@
 
 #include <fmt/format.h>
 
+#include "agenda/Importi.h"
 #include "agenda/TestiGiocata.h"
 #include "agenda/VerificaAgenda.h"
+#include "archive/DateEstrazione.h"
 #include "gui/agenda/DialogoNuovaGiocata.h"
 #include "gui/agenda/EsportaCsv.h"
 #include "gui/agenda/ModelloAgenda.h"
@@ -147,7 +151,14 @@ class FinestraAgenda : public QWidget {
     auto* sotto = new QWidget;
     auto* layout_sotto = new QVBoxLayout(sotto);
     layout_sotto->setContentsMargins(0, 0, 0, 0);
-    layout_sotto->addWidget(m_titolo_dettaglio);
+    m_quota = new QPushButton(QStringLiteral("Quota..."));
+    m_quota->setObjectName(QStringLiteral("pulsanteQuota"));
+    m_quota->setToolTip(QStringLiteral("La quota pubblicata per una vincita di cui l'importo non è noto"));
+    connect(m_quota, &QPushButton::clicked, this, [this] { ChiediQuota(); });
+    auto* testa = new QHBoxLayout;
+    testa->addWidget(m_titolo_dettaglio, 1);
+    testa->addWidget(m_quota);
+    layout_sotto->addLayout(testa);
     layout_sotto->addWidget(m_dettaglio);
     auto* divisore = new QSplitter(Qt::Vertical);
     divisore->addWidget(m_elenco);
@@ -162,6 +173,8 @@ class FinestraAgenda : public QWidget {
     layout->addWidget(m_totali);
 
     connect(m_elenco->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { MostraDettaglio(); });
+    connect(m_dettaglio->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this] { m_quota->setEnabled(!CategorieSenzaQuota().empty()); });
     // Another window (an update) or this one changed the agenda: the list follows.
     connect(&m_contesto, &ContestoGui::AgendaCambiata, this, [this] { Ricarica(); });
     connect(&m_contesto, &ContestoGui::ArchivioCambiato, this, [this] { Ricarica(); });
@@ -232,9 +245,9 @@ class FinestraAgenda : public QWidget {
                         .arg(TestoImporto(totali.spesa), TestoVinto(totali), TestoImporto(totali.Saldo()));
     if (totali.vincite_senza_importo > 0)
       testo += QStringLiteral(
-                   "<br>* più %1 vincite di cui la quota non è nota (SuperEnalotto, Win for Life, premi "
-                   "del 10eLotto non confermati): vinto e saldo non le contano.")
-                   .arg(totali.vincite_senza_importo);
+                   "<br>* più %1 di cui la quota non è nota (SuperEnalotto, Win for Life, premi del "
+                   "10eLotto non confermati): vinto e saldo non le contano.")
+                   .arg(TestoVincite(totali.vincite_senza_importo));
     m_totali->setText(testo);
   }
 
@@ -271,6 +284,61 @@ class FinestraAgenda : public QWidget {
             ? QStringLiteral("Giocata %1: non ancora verificata (nessuna estrazione in gioco finora).").arg(*id)
             : QStringLiteral("Giocata %1: verifica colpo per colpo").arg(*id));
     m_verifiche->Imposta(std::move(verifiche).Valore(), colpi_nuovi);
+    m_quota->setEnabled(false);
+  }
+
+  // The wins of the chosen draw whose amount a quota can give: the pool prizes not priced yet.
+  std::vector<std::string> CategorieSenzaQuota() const {
+    const QModelIndex riga = m_dettaglio->currentIndex();
+    const std::optional<int64_t> id = IdScelto();
+    if (!riga.isValid() || !id) return {};
+    const agenda::GiocoGiocata gioco =
+        m_modello->Voce(m_ordinato->mapToSource(m_elenco->currentIndex()).row()).giocata.gioco;
+    if (gioco != agenda::GiocoGiocata::SuperEnalotto && gioco != agenda::GiocoGiocata::WinForLife) return {};
+    std::vector<std::string> categorie;
+    for (const agenda::VincitaColpo& vincita : m_verifiche->Verificato(riga.row()).vincite)
+      if (!vincita.importo_noto) categorie.push_back(vincita.sorte);
+    return categorie;
+  }
+
+  void ChiediQuota() {
+    const std::vector<std::string> categorie = CategorieSenzaQuota();
+    const std::optional<int64_t> id = IdScelto();
+    if (categorie.empty() || !id) return;
+    const agenda::VerificaColpo colpo = m_verifiche->Verificato(m_dettaglio->currentIndex().row());
+    QStringList voci;
+    for (const std::string& categoria : categorie) voci << DaStd(categoria);
+    bool scelta = false;
+    const QString categoria = QInputDialog::getItem(
+        this, QStringLiteral("Quota"), QStringLiteral("Categoria vinta il %1:").arg(DaStd(FormattaData(colpo.data))),
+        voci, 0, false, &scelta);
+    if (!scelta) return;
+    const QString testo = QInputDialog::getText(
+        this, QStringLiteral("Quota"),
+        QStringLiteral("Quota pubblicata per \"%1\" (euro per colonna vincente, al lordo):").arg(categoria),
+        QLineEdit::Normal, QString(), &scelta);
+    if (!scelta) return;
+    auto importo = agenda::LeggiImporto(testo.trimmed().toStdString());
+    if (!importo) return Mostra(importo.Errore());
+    const agenda::QuotaPubblicata quota{
+        m_modello->Voce(m_ordinato->mapToSource(m_elenco->currentIndex()).row()).giocata.gioco, colpo.id_estr,
+        colpo.data, categoria.toStdString(), *importo};
+    const ArchiviDelContesto archivi(m_contesto);
+    const std::filesystem::path file = File();
+    AvviaLavoroConProgresso<agenda::EsitoVerificaAgenda>(
+        this, QStringLiteral("Quota"), QStringLiteral("Verifica delle giocate con la nuova quota..."),
+        "FinestraAgenda.Quota",
+        [archivi, file, quota](Avanzamento&) -> Esito<agenda::EsitoVerificaAgenda> {
+          auto aperta = agenda::Agenda::Apri(file);
+          if (!aperta) return aperta.Errore();
+          return agenda::ApplicaQuota(aperta.Valore(), archivi.Archivi(), quota);
+        },
+        [this](const Esito<agenda::EsitoVerificaAgenda>& esito) {
+          Ricarica();
+          emit m_contesto.AgendaCambiata();
+          if (!esito) return Mostra(esito.Errore());
+          if (!esito->non_verificate.empty()) MostraEsito(*esito);
+        });
   }
 
   void NuovaGiocata() {
@@ -373,6 +441,7 @@ class FinestraAgenda : public QWidget {
   QPushButton* m_verifica_scelta = nullptr;
   QPushButton* m_rimuovi = nullptr;
   QPushButton* m_viste = nullptr;
+  QPushButton* m_quota = nullptr;
   std::vector<agenda::VincitaNonVista> m_nuove;
 };
 

@@ -29,6 +29,10 @@ bool Importo(int colonna) {
 
 QString TestoImporto(int64_t centesimi) { return DaStd(agenda::FormattaImporto(centesimi)); }
 
+QString TestoVincite(int quante) {
+  return quante == 1 ? QStringLiteral("1 vincita") : QStringLiteral("%1 vincite").arg(quante);
+}
+
 QString TestoVinto(const agenda::Totali& totali) {
   return TestoImporto(totali.netto) + (totali.vincite_senza_importo > 0 ? QStringLiteral("*") : QString());
 }
@@ -100,8 +104,8 @@ QVariant ModelloAgenda::data(const QModelIndex& indice, int ruolo) const {
     }
     case Qt::ToolTipRole:
       if (indice.column() == Vinto && voce.totali.vincite_senza_importo > 0)
-        return QStringLiteral("Più %1 vincite di cui la quota non è nota: il vinto e il saldo non le contano.")
-            .arg(voce.totali.vincite_senza_importo);
+        return QStringLiteral("Più %1 di cui la quota non è nota: il vinto e il saldo non le contano.")
+            .arg(TestoVincite(voce.totali.vincite_senza_importo));
       if (nuove) return QStringLiteral("Vincite nuove dall'ultima visione");
       if (!voce.giocata.nota.empty()) return DaStd(voce.giocata.nota);
       return {};

@@ -45,5 +45,7 @@ class ModelloAgenda : public QAbstractTableModel {
 // "12,50", and a star after the net won when some win's amount is not known.
 QString TestoImporto(int64_t centesimi);
 QString TestoVinto(const agenda::Totali& totali);
+// "1 vincita", "3 vincite".
+QString TestoVincite(int quante);
 
 }  // namespace lottolab::gui

@@ -22,6 +22,7 @@ class ModelloVerifiche : public QAbstractTableModel {
 
   // The colpi of a bet; `colpi_nuovi` holds those (from 1) with wins not seen yet.
   void Imposta(std::vector<agenda::VerificaColpo> verifiche, std::set<int> colpi_nuovi);
+  const agenda::VerificaColpo& Verificato(int riga) const { return m_verifiche[static_cast<size_t>(riga)]; }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;

@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -25,6 +26,7 @@
 #include "gui/agenda/DialogoNuovaGiocata.h"
 #include "gui/agenda/EsportaCsv.h"
 #include "gui/agenda/ModelloAgenda.h"
+#include "gui/archivio/ImportazioneGioco.h"
 #include "gui/principale/FinestraPrincipale.h"
 #include "gui/principale/Finestre.h"
 
@@ -231,6 +233,50 @@ class FinestraAgendaTest : public QObject {
     QTRY_COMPARE(messaggi.size(), 2);
     QVERIFY(messaggi[1].startsWith(QStringLiteral("Rimuovere dall'agenda la giocata 2 (1.2.3.4.5.6)?")));
     QCOMPARE(elenco->model()->rowCount(), 1);
+  }
+
+  // A pool prize's quota given from the detail: the win takes its money and the totals count it.
+  void LaQuotaDaLDettaglio() {
+    BaseTemporanea base;
+    test::Scrivi(base / "se.txt", "2023/01/03\t1\t1\t2\t3\t40\t50\t60\t7\t8\n");
+    const app::Configurazione configurazione{base.Percorso(), {}};
+    QVERIFY(ImportaRisultatiGioco(configurazione, Gioco::SuperEnalotto, base / "se.txt").aggiunte.ValoreOppure(0) == 1);
+    ContestoGui contesto(configurazione);
+    contesto.RicaricaArchiviGiochi();
+    {
+      auto agenda = agenda::Agenda::Apri(base / "AgendaGiocate.db").Valore();
+      agenda::Giocata superenalotto;
+      superenalotto.gioco = agenda::GiocoGiocata::SuperEnalotto;
+      superenalotto.colonne = {{1, 2, 3, 4, 5, 6}};
+      superenalotto.poste = {{"giocata", 100}};
+      superenalotto.dal = GruppoData{0, 3, 1, 2023};
+      QVERIFY(agenda.Aggiungi(superenalotto));
+    }
+    std::unique_ptr<QWidget> finestra(NuovaFinestraAgenda(contesto));
+    finestra->show();
+    QTimer rispondi;
+    connect(&rispondi, &QTimer::timeout, [&] {
+      QWidget* modale = QApplication::activeModalWidget();
+      if (auto* scatola = qobject_cast<QMessageBox*>(modale)) scatola->accept();
+      if (auto* domanda = qobject_cast<QInputDialog*>(modale)) {
+        if (domanda->comboBoxItems().isEmpty()) domanda->setTextValue("28,31");
+        domanda->accept();
+      }
+    });
+    rispondi.start(20);
+    finestra->findChild<QPushButton*>("pulsanteVerificaAperte")->click();
+    auto* totali = finestra->findChild<QLabel*>("totali");
+    QTRY_VERIFY(totali->text().contains("più 1 vincita di cui la quota non è nota"));
+
+    finestra->findChild<QTableView*>("elencoGiocate")->selectRow(0);
+    auto* dettaglio = finestra->findChild<QTableView*>("dettaglioGiocata");
+    auto* quota = finestra->findChild<QPushButton*>("pulsanteQuota");
+    QVERIFY(!quota->isEnabled());
+    dettaglio->selectRow(0);
+    QVERIFY(quota->isEnabled());
+    quota->click();
+    QTRY_VERIFY(totali->text().contains("vinto netto 28,31 "));
+    QVERIFY(!totali->text().contains("quota non è nota"));
   }
 };
 
