@@ -43,22 +43,25 @@ Esito<std::vector<Giocata>> GiocateScelte(const Agenda& agenda, const SceltaVeri
 
 }  // namespace
 
-const void* ArchiviGiocate::Di(GiocoGiocata gioco) const {
+bool ArchiviGiocate::Ha(GiocoGiocata gioco) const {
+  return gioco == GiocoGiocata::Lotto ? lotto != nullptr : AltroGioco(gioco) != nullptr;
+}
+
+const TabellaGioco* ArchiviGiocate::AltroGioco(GiocoGiocata gioco) const {
   switch (gioco) {
-    case GiocoGiocata::Lotto: return lotto;
     case GiocoGiocata::SuperEnalotto: return superenalotto;
     case GiocoGiocata::DieciELotto: return dieci_e_lotto;
     case GiocoGiocata::WinForLife: return win_for_life;
+    case GiocoGiocata::Lotto: break;
   }
   return nullptr;
 }
 
 Esito<std::vector<VerificaColpo>> VerificaGiocataAgenda(const Giocata& giocata, const ArchiviGiocate& archivi,
                                                         const QuoteNote& quote) {
-  if (archivi.Di(giocata.gioco) == nullptr)
-    return AvvisoEsclamativo(fmt::format("manca {}", NomeArchivio(giocata.gioco)));
+  if (!archivi.Ha(giocata.gioco)) return AvvisoEsclamativo(fmt::format("manca {}", NomeArchivio(giocata.gioco)));
   if (giocata.gioco == GiocoGiocata::Lotto) return VerificaGiocataLotto(giocata, *archivi.lotto);
-  return VerificaGiocataAltroGioco(giocata, *static_cast<const TabellaGioco*>(archivi.Di(giocata.gioco)), quote);
+  return VerificaGiocataAltroGioco(giocata, *archivi.AltroGioco(giocata.gioco), quote);
 }
 
 Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& archivi, const SceltaVerifica& scelta,
@@ -79,7 +82,7 @@ Esito<EsitoVerificaAgenda> VerificaAgenda(Agenda& agenda, const ArchiviGiocate& 
   int fatte = 0;
   for (const Giocata& giocata : *giocate) {
     if (passo) passo(fatte++, static_cast<int>(giocate->size()));
-    if (archivi.Di(giocata.gioco) == nullptr) {
+    if (!archivi.Ha(giocata.gioco)) {
       ++in_attesa[giocata.gioco];
       continue;
     }

@@ -25,8 +25,10 @@ struct ArchiviGiocate {
   const TabellaGioco* dieci_e_lotto = nullptr;  // the evening 10eLotto
   const TabellaGioco* win_for_life = nullptr;
 
-  // The table of the game, or nothing.
-  const void* Di(GiocoGiocata gioco) const;
+  // Whether the game's table is given.
+  bool Ha(GiocoGiocata gioco) const;
+  // The table of a game other than the Lotto, or nothing.
+  const TabellaGioco* AltroGioco(GiocoGiocata gioco) const;
 };
 
 // The bet's results draw by draw, by its game's engine on its game's table, a pool prize taking the
