@@ -106,6 +106,8 @@ QVariant ModelloAgenda::data(const QModelIndex& indice, int ruolo) const {
       if (indice.column() == Vinto && voce.totali.vincite_senza_importo > 0)
         return QStringLiteral("Più %1 di cui la quota non è nota: il vinto e il saldo non le contano.")
             .arg(TestoVincite(voce.totali.vincite_senza_importo));
+      // A long list of numbers or stakes is cut in its cell: the tip shows it whole.
+      if (indice.column() == Numeri || indice.column() == Poste) return Testo(voce, indice.column());
       if (nuove) return QStringLiteral("Vincite nuove dall'ultima visione");
       if (!voce.giocata.nota.empty()) return DaStd(voce.giocata.nota);
       return {};
