@@ -3,8 +3,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <map>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "PrimaEstrazione.h"
