@@ -57,7 +57,7 @@ using ChiaveVincita = std::tuple<int64_t, int64_t, std::string, std::string>;
 // The clause of a bet being closed, over the bets' table named g.
 constexpr std::string_view kChiusa =
     "((SELECT COUNT(*) FROM verifiche v WHERE v.giocata = g.id) >= g.colpi OR "
-    "(g.ferma_alla_vincita = 1 AND EXISTS (SELECT 1 FROM verifiche v WHERE v.giocata = g.id AND v.lordo > 0)))";
+    "(g.ferma_alla_vincita = 1 AND EXISTS (SELECT 1 FROM vincite w WHERE w.giocata = g.id)))";
 
 std::string CondizioneFiltro(const FiltroGiocate& filtro) {
   std::string condizione = "1";
@@ -67,9 +67,13 @@ std::string CondizioneFiltro(const FiltroGiocate& filtro) {
   return condizione;
 }
 
+// A draw won when it holds a win, priced or not.
 constexpr std::string_view kSommeVerifiche =
     "COUNT(v.colpo), COALESCE(SUM(v.spesa), 0), COALESCE(SUM(v.lordo), 0), COALESCE(SUM(v.ritenuta), 0), "
-    "COALESCE(SUM(v.netto), 0), COALESCE(SUM(v.lordo > 0), 0)";
+    "COALESCE(SUM(v.netto), 0), "
+    "COALESCE(SUM(EXISTS (SELECT 1 FROM vincite w WHERE w.giocata = v.giocata AND w.colpo = v.colpo)), 0), "
+    "COALESCE(SUM((SELECT COUNT(*) FROM vincite w WHERE w.giocata = v.giocata AND w.colpo = v.colpo AND "
+    "w.importo_noto = 0)), 0)";
 
 Totali LeggiTotali(const Istruzione& riga, int prima) {
   return Totali{riga.Intero(prima + 1),
@@ -77,7 +81,8 @@ Totali LeggiTotali(const Istruzione& riga, int prima) {
                 riga.Intero(prima + 3),
                 riga.Intero(prima + 4),
                 static_cast<int>(riga.Intero(prima)),
-                static_cast<int>(riga.Intero(prima + 5))};
+                static_cast<int>(riga.Intero(prima + 5)),
+                static_cast<int>(riga.Intero(prima + 6))};
 }
 
 // A count or index read back from the file, kept within int; the checks that follow refuse it when
@@ -315,7 +320,9 @@ Esito<Fatto> Agenda::ScriviVerifiche(const Giocata& giocata, const std::vector<V
   if (auto fatto = elimina->Lega(1, giocata.id).Esegui(); !fatto) return fatto;
 
   auto colpo_scritto = m_connessione.Prepara("INSERT INTO verifiche VALUES (?, ?, ?, ?, ?, ?, ?, ?)");
-  auto vincita_scritta = m_connessione.Prepara("INSERT INTO vincite VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)");
+  auto vincita_scritta = m_connessione.Prepara(
+      "INSERT INTO vincite (giocata, colpo, ordine, ruota, sorte, numeri, combinazioni, lordo, vista, importo_noto) "
+      "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
   if (!colpo_scritto) return colpo_scritto.Errore();
   if (!vincita_scritta) return vincita_scritta.Errore();
   for (size_t k = 0; k < verifiche.size(); ++k) {
@@ -332,7 +339,7 @@ Esito<Fatto> Agenda::ScriviVerifiche(const Giocata& giocata, const std::vector<V
       vincita_scritta->Reimposta();
       vincita_scritta->Lega(1, giocata.id).Lega(2, colpo).Lega(3, static_cast<int64_t>(w) + 1).Lega(4, vincita.ruota);
       vincita_scritta->Lega(5, vincita.sorte).Lega(6, numeri).Lega(7, vincita.combinazioni).Lega(8, vincita.lordo);
-      vincita_scritta->Lega(9, vista ? 1 : 0);
+      vincita_scritta->Lega(9, vista ? 1 : 0).Lega(10, vincita.importo_noto ? 1 : 0);
       if (auto fatto = vincita_scritta->Esegui(); !fatto) return fatto;
     }
   }
@@ -363,7 +370,8 @@ Esito<std::vector<VerificaColpo>> Agenda::LeggiVerifiche(int64_t id) const {
         Stretto(colpi->Intero(1)), *data, colpi->Intero(3), colpi->Intero(4), colpi->Intero(5), colpi->Intero(6), {}});
   }
   auto vincite = m_connessione.Prepara(
-      "SELECT colpo, ruota, sorte, numeri, combinazioni, lordo FROM vincite WHERE giocata = ? ORDER BY colpo, ordine");
+      "SELECT colpo, ruota, sorte, numeri, combinazioni, lordo, importo_noto FROM vincite WHERE giocata = ? "
+      "ORDER BY colpo, ordine");
   if (!vincite) return vincite.Errore();
   vincite->Lega(1, id);
   for (;;) {
@@ -375,7 +383,7 @@ Esito<std::vector<VerificaColpo>> Agenda::LeggiVerifiche(int64_t id) const {
     if (colpo < 1 || colpo > static_cast<int64_t>(verifiche.size()) || !numeri) return guasta;
     verifiche[static_cast<size_t>(colpo) - 1].vincite.push_back(
         VincitaColpo{Stretto(vincite->Intero(1)), vincite->Testo(2), std::move(*numeri), Stretto(vincite->Intero(4)),
-                     vincite->Intero(5)});
+                     vincite->Intero(5), vincite->Intero(6) != 0});
   }
   if (auto valide = ControllaVerifiche(*esiste, verifiche); !valide) return guasta;
   return verifiche;
@@ -422,7 +430,8 @@ Esito<std::optional<int64_t>> Agenda::UltimaVisione() const {
 
 Esito<std::vector<VincitaNonVista>> Agenda::VinciteNonViste() const {
   auto righe = m_connessione.Prepara(
-      "SELECT w.giocata, w.colpo, v.id_estr, v.data, w.ruota, w.sorte, w.numeri, w.combinazioni, w.lordo "
+      "SELECT w.giocata, w.colpo, v.id_estr, v.data, w.ruota, w.sorte, w.numeri, w.combinazioni, w.lordo, "
+      "w.importo_noto "
       "FROM vincite w JOIN verifiche v ON v.giocata = w.giocata AND v.colpo = w.colpo WHERE w.vista = 0 "
       "ORDER BY w.giocata, w.colpo, w.ordine");
   if (!righe) return righe.Errore();
@@ -437,9 +446,44 @@ Esito<std::vector<VincitaNonVista>> Agenda::VinciteNonViste() const {
       return AvvisoEsclamativo(
           fmt::format("una vincita della giocata {} nell'agenda {} non è valida: il file è stato alterato",
                       righe->Intero(0), File().string()));
-    non_viste.push_back(VincitaNonVista{righe->Intero(0), Stretto(righe->Intero(1)), Stretto(righe->Intero(2)), *data,
-                                        VincitaColpo{Stretto(righe->Intero(4)), righe->Testo(5), std::move(*numeri),
-                                                     Stretto(righe->Intero(7)), righe->Intero(8)}});
+    non_viste.push_back(
+        VincitaNonVista{righe->Intero(0), Stretto(righe->Intero(1)), Stretto(righe->Intero(2)), *data,
+                        VincitaColpo{Stretto(righe->Intero(4)), righe->Testo(5), std::move(*numeri),
+                                     Stretto(righe->Intero(7)), righe->Intero(8), righe->Intero(9) != 0}});
+  }
+}
+
+Esito<Fatto> Agenda::SalvaQuota(const QuotaPubblicata& quota) {
+  if (quota.gioco != GiocoGiocata::SuperEnalotto && quota.gioco != GiocoGiocata::WinForLife)
+    return AvvisoEsclamativo(
+        fmt::format("il gioco {} non paga quote: i suoi premi sono fissi", SiglaGioco(quota.gioco)));
+  if (quota.sorte.empty() || quota.id_estr < 1 || !DataValida(quota.data))
+    return AvvisoEsclamativo("quota non valida: servono l'estrazione, la sua data e la categoria");
+  if (quota.centesimi <= 0) return AvvisoEsclamativo("la quota deve essere maggiore di zero");
+  return m_connessione.InTransazione([&]() -> Esito<Fatto> {
+    auto riga = m_connessione.Prepara("INSERT OR REPLACE INTO quote VALUES (?, ?, ?, ?, ?)");
+    if (!riga) return riga.Errore();
+    riga->Lega(1, SiglaGioco(quota.gioco)).Lega(2, quota.id_estr).Lega(3, TestoData(quota.data));
+    riga->Lega(4, quota.sorte).Lega(5, quota.centesimi);
+    return riga->Esegui();
+  });
+}
+
+Esito<std::vector<QuotaPubblicata>> Agenda::Quote(GiocoGiocata gioco) const {
+  auto righe =
+      m_connessione.Prepara("SELECT id_estr, data, sorte, centesimi FROM quote WHERE gioco = ? ORDER BY id_estr");
+  if (!righe) return righe.Errore();
+  righe->Lega(1, SiglaGioco(gioco));
+  std::vector<QuotaPubblicata> quote;
+  for (;;) {
+    auto passo = righe->Passo();
+    if (!passo) return passo.Errore();
+    if (!*passo) return quote;
+    auto data = DataDaTesto(righe->Testo(1));
+    if (!data || righe->Intero(3) <= 0)
+      return AvvisoEsclamativo(
+          fmt::format("una quota dell'agenda {} non è valida: il file è stato alterato", File().string()));
+    quote.push_back({gioco, Stretto(righe->Intero(0)), *data, righe->Testo(2), righe->Intero(3)});
   }
 }
 

@@ -36,6 +36,8 @@ struct Totali {
   int64_t netto = 0;
   int colpi_verificati = 0;
   int colpi_vincenti = 0;
+  // Wins whose money is not known (a pool prize without its quota): counted in none of the sums.
+  int vincite_senza_importo = 0;
 
   int64_t Saldo() const { return netto - spesa; }
 };
@@ -87,6 +89,12 @@ class Agenda {
   Esito<std::optional<int64_t>> UltimaVisione() const;
   // The wins stored since the last look, by bet and colpo.
   Esito<std::vector<VincitaNonVista>> VinciteNonViste() const;
+
+  // Stores the quota of a category of a draw, replacing the one stored before; a game without pool
+  // prizes, an empty category or an amount not above zero is refused.
+  Esito<Fatto> SalvaQuota(const QuotaPubblicata& quota);
+  // The quotas stored for the game, by draw and category.
+  Esito<std::vector<QuotaPubblicata>> Quote(GiocoGiocata gioco) const;
 
   const std::filesystem::path& File() const { return m_connessione.File(); }
 

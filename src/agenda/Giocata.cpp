@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <set>
 
 #include "archive/DateEstrazione.h"
@@ -80,6 +81,46 @@ Esito<Fatto> ControllaRuote(const Giocata& giocata) {
   return Fatto{};
 }
 
+// The other games sell their plays at set prices per column.
+Esito<Fatto> ControllaPosteAltriGiochi(const Giocata& giocata) {
+  std::map<std::string, int64_t> poste;
+  for (const Posta& posta : giocata.poste) poste[posta.sorte] = posta.centesimi;
+  const std::string nome(SiglaGioco(giocata.gioco));
+  if (!poste.contains("giocata"))
+    return AvvisoEsclamativo(fmt::format("manca la posta della giocata base (sorte giocata) del gioco {}", nome));
+  const int64_t base = poste["giocata"];
+  switch (giocata.gioco) {
+    case GiocoGiocata::SuperEnalotto:
+      if (base != 50 && base != 100)
+        return AvvisoEsclamativo("al SuperEnalotto una colonna costa 0,50 euro (fino al 01/02/2016) o 1 euro");
+      if (poste.contains("superstar") && poste["superstar"] != 50)
+        return AvvisoEsclamativo("la SuperStar costa 0,50 euro per colonna");
+      return Fatto{};
+    case GiocoGiocata::WinForLife:
+      if (base != 100 && base != 200) return AvvisoEsclamativo("a Win for Life una colonna costa 1 o 2 euro");
+      return Fatto{};
+    case GiocoGiocata::DieciELotto: {
+      for (const auto& [sorte, centesimi] : poste)
+        if (sorte != "doppio-oro" && (centesimi < 100 || centesimi % 50 != 0))
+          return AvvisoEsclamativo(
+              fmt::format("al 10eLotto la posta della sorte {} va da 1 a 200 euro, a multipli di 0,50", sorte));
+      if (poste.contains("oro") && poste.contains("doppio-oro"))
+        return AvvisoEsclamativo("al 10eLotto si gioca il Numero Oro o il Doppio Oro, non entrambi");
+      if (poste.contains("oro") && poste["oro"] != base)
+        return AvvisoEsclamativo("al 10eLotto il Numero Oro costa quanto la giocata base");
+      if (poste.contains("doppio-oro") && poste["doppio-oro"] != 2 * base)
+        return AvvisoEsclamativo("al 10eLotto il Doppio Oro costa il doppio della giocata base");
+      if (poste.contains("gong") && poste["gong"] != base)
+        return AvvisoEsclamativo("al 10eLotto il Gong costa quanto la giocata base");
+      if (poste.contains("extra") && poste["extra"] > base)
+        return AvvisoEsclamativo("al 10eLotto la posta dell'Extra non supera quella della giocata base");
+      return Fatto{};
+    }
+    case GiocoGiocata::Lotto: break;
+  }
+  return Fatto{};
+}
+
 Esito<Fatto> ControllaPoste(const Giocata& giocata) {
   if (giocata.poste.empty()) return AvvisoEsclamativo("manca la posta della giocata");
   std::set<std::string> viste;
@@ -103,6 +144,7 @@ Esito<Fatto> ControllaPoste(const Giocata& giocata) {
     if (vuole_speciale && giocata.numero_speciale == 0)
       return AvvisoEsclamativo(fmt::format("la sorte {} vuole il numero speciale", posta.sorte));
   }
+  if (giocata.gioco != GiocoGiocata::Lotto) return ControllaPosteAltriGiochi(giocata);
   return Fatto{};
 }
 
@@ -193,8 +235,10 @@ Esito<Fatto> ControllaVerifiche(const Giocata& giocata, const std::vector<Verifi
     if (colpo.spesa < 0 || colpo.lordo < 0 || colpo.ritenuta < 0 || colpo.ritenuta > colpo.lordo ||
         colpo.netto != colpo.lordo - colpo.ritenuta)
       return AvvisoEsclamativo(fmt::format("{}: importi non coerenti", quale));
+    // A win of the other games may match none of the numbers (Win for Life's 0, the SuperStar alone).
     for (const VincitaColpo& vincita : colpo.vincite)
-      if (vincita.sorte.empty() || vincita.numeri.empty() || vincita.combinazioni < 1 || vincita.lordo < 0 ||
+      if (vincita.sorte.empty() || (vincita.numeri.empty() && giocata.gioco == GiocoGiocata::Lotto) ||
+          vincita.combinazioni < 1 || vincita.lordo < 0 || (!vincita.importo_noto && vincita.lordo != 0) ||
           vincita.ruota < 0 || vincita.ruota > kNumeroRuote)
         return AvvisoEsclamativo(fmt::format("{}: vincita non valida", quale));
   }

@@ -21,7 +21,8 @@ enum class GiocoGiocata { Lotto, SuperEnalotto, DieciELotto, WinForLife };
 std::string_view SiglaGioco(GiocoGiocata gioco);
 std::optional<GiocoGiocata> GiocoDaSigla(std::string_view sigla);
 
-// The stake on one sorte, for the whole bet (the engine splits it over the wheels).
+// The stake on one sorte: for the Lotto, of the whole bet (the engine splits it over the wheels);
+// for the other games, of one column, as their tickets price it.
 struct Posta {
   std::string sorte;  // a word of SortiDelGioco()
   int64_t centesimi = 0;
@@ -58,8 +59,11 @@ struct VincitaColpo {
   int ruota = 0;            // wheel index; 0 for the games without wheels
   std::string sorte;        // as the engine names it: "ambo", "punti 5", "10+1", ...
   std::vector<int> numeri;  // the numbers played that came out
-  int combinazioni = 1;     // how many winning combinations
-  int64_t lordo = 0;        // cents
+  int combinazioni = 1;     // how many winning combinations (or columns, for the other games)
+  int64_t lordo = 0;        // cents; 0 when the amount is not known
+  // False for a pool prize whose quota the program does not know (SuperEnalotto, Win for Life,
+  // the 10eLotto cells no source confirms): the win is real, its money is not counted anywhere.
+  bool importo_noto = true;
 
   friend bool operator==(const VincitaColpo&, const VincitaColpo&) = default;
 };
@@ -77,6 +81,19 @@ struct VerificaColpo {
   friend bool operator==(const VerificaColpo&, const VerificaColpo&) = default;
 };
 
+// The quota published for a category of a draw of the SuperEnalotto or Win for Life, as the user
+// read it: the money of one winning column, before tax. `sorte` names the category as the check
+// names the win ("punti 5", "5+1", "9+1 (seconda)", "punti 3 SuperStar").
+struct QuotaPubblicata {
+  GiocoGiocata gioco = GiocoGiocata::SuperEnalotto;
+  int id_estr = 0;
+  GruppoData data;
+  std::string sorte;
+  int64_t centesimi = 0;
+
+  friend bool operator==(const QuotaPubblicata&, const QuotaPubblicata&) = default;
+};
+
 // The words of the stakes each game takes, the first being its plain play: Lotto "estratto",
 // "ambo", "terno", "quaterna", "cinquina", "ambetto", "estratto1".."estratto5" (estratto
 // determinato in that position); SuperEnalotto "giocata", "superstar"; 10eLotto "giocata", "oro",
@@ -89,7 +106,8 @@ Esito<std::string> LeggiSorte(GiocoGiocata gioco, std::string_view testo);
 
 // Whether the bet can be played as written: numbers in the game's range and count, no repeats in
 // a column, wheels only for the Lotto, a stake on each sorte at most once and enough numbers for
-// it, colpi and progression in agreement, a first draw. The message says the first fault in Italian.
+// it, the other games' stakes as their tickets sell them, colpi and progression in agreement, a
+// first draw. The message says the first fault in Italian.
 Esito<Fatto> ControllaGiocata(const Giocata& giocata);
 
 // Whether a bet's results can be stored: no more draws than colpi, amounts not negative, net

@@ -80,6 +80,25 @@ CREATE TABLE stato (chiave TEXT PRIMARY KEY, valore INTEGER NOT NULL);
 CREATE INDEX vincite_non_viste ON vincite (vista) WHERE vista = 0;
 )";
 
+// Version 3: the wins whose money is not known (a pool prize without its quota) say so, rather
+// than passing for wins of nothing. Every win stored before was a Lotto win, always priced.
+constexpr std::string_view kVersione3 = R"(
+ALTER TABLE vincite ADD COLUMN importo_noto INTEGER NOT NULL DEFAULT 1 CHECK (importo_noto IN (0, 1));
+)";
+
+// Version 4: the quotas the user read for a category of a pool game's draw, by the draw's index and
+// date in its game's archive.
+constexpr std::string_view kVersione4 = R"(
+CREATE TABLE quote (
+  gioco TEXT NOT NULL CHECK (gioco IN ('SE', 'WF')),
+  id_estr INTEGER NOT NULL,
+  data TEXT NOT NULL,
+  sorte TEXT NOT NULL,
+  centesimi INTEGER NOT NULL CHECK (centesimi > 0),
+  PRIMARY KEY (gioco, id_estr, sorte)
+) WITHOUT ROWID;
+)";
+
 std::string Nome(const Connessione& connessione) { return connessione.File().string(); }
 
 Avviso NonUnAgenda(const Connessione& connessione, std::string_view perche) {
@@ -102,7 +121,7 @@ Esito<Fatto> Migra(const Connessione& connessione) {
 }  // namespace
 
 const std::vector<std::string_view>& Migrazioni() {
-  static const std::vector<std::string_view> kMigrazioni = {kVersione1, kVersione2};
+  static const std::vector<std::string_view> kMigrazioni = {kVersione1, kVersione2, kVersione3, kVersione4};
   return kMigrazioni;
 }
 

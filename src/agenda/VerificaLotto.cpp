@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "archive/DateEstrazione.h"
+#include "PrimaEstrazione.h"
 #include "stats/Giocata.h"
 
 namespace lottolab::agenda {
@@ -25,22 +25,12 @@ stats::PostaSorte PostaDelMotore(const Posta& posta, const std::vector<int>& pro
   return sorte;
 }
 
-// The bet's first draw in the table: its IdEstr, or the first draw on or after its date; 0 when
-// the archive ends before it.
-int PrimaEstrazione(const Giocata& giocata, const TabellaEstrazioni& tabella) {
-  if (giocata.id_estr_dal) return tabella.Contiene(*giocata.id_estr_dal) ? *giocata.id_estr_dal : 0;
-  if (!giocata.dal) return 0;
-  int id = tabella.UltimaEstrazioneEntro(*giocata.dal);
-  if (id == 0 || ConfrontaDate(tabella[id].data, *giocata.dal) != 0) ++id;
-  return tabella.Contiene(id) ? id : 0;
-}
-
 }  // namespace
 
 Esito<std::vector<VerificaColpo>> VerificaGiocataLotto(const Giocata& giocata, const TabellaEstrazioni& tabella) {
   if (giocata.gioco != GiocoGiocata::Lotto)
-    return AvvisoEsclamativo(
-        fmt::format("la verifica delle giocate del gioco {} non è ancora disponibile", SiglaGioco(giocata.gioco)));
+    return AvvisoEsclamativo(fmt::format("la giocata {} è del gioco {} e non si verifica sull'archivio del Lotto",
+                                         giocata.id, SiglaGioco(giocata.gioco)));
   const int prima = PrimaEstrazione(giocata, tabella);
   if (prima == 0) return std::vector<VerificaColpo>();
   stats::Giocata motore;

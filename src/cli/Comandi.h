@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Contesto.h"
+#include "agenda/Giocata.h"
 
 namespace lottolab::cli {
 
@@ -64,6 +65,9 @@ int ComandoPremio(Contesto& contesto, const Parole& parole);
 int ComandoVerificaGiocata(Contesto& contesto, const Parole& parole);
 // The agenda of the bets played: aggiungi, elenco, rimuovi, verifica.
 int ComandoGiocata(Contesto& contesto, const Parole& parole);
+// After an import that added draws to configured archives: the agenda's open bets of those games
+// checked, and one line saying how many wins wait to be seen; failures are warnings.
+void VerificaAgendaDopoImportazione(Contesto& contesto, const std::vector<agenda::GiocoGiocata>& giochi);
 
 // The whole command line: global options, then a command and its words. An exception that escapes
 // a command ends it with one line on `err` opening with app::kErroreInatteso, and status 1.

@@ -7,6 +7,7 @@
 
 #include "Argomenti.h"
 #include "Comandi.h"
+#include "agenda/VerificaGioco.h"
 #include "app/ErroreInatteso.h"
 #include "archive/ArchivioGioco.h"
 #include "archive/ClsEstrazioni.h"
@@ -66,6 +67,19 @@ std::string DelGioco(const FormatoGioco& formato) {
   return formato.gioco == Gioco::Generico ? "dell'archivio generico" : fmt::format("del {}", formato.nome);
 }
 
+// The game of the agenda's bets that the archive of the command holds, when it is the configured
+// archive of a game the agenda knows; nothing otherwise.
+std::optional<agenda::GiocoGiocata> GiocoDellAgenda(const Contesto& contesto) {
+  const Gioco gioco = *contesto.gioco;
+  const auto dell_agenda = agenda::GiocoDaSigla(Formato(gioco).sigla);
+  if (!dell_agenda || agenda::GiocoDellArchivio(*dell_agenda) != gioco) return std::nullopt;
+  std::error_code ec, ec_configurato;
+  const bool configurato = fs::weakly_canonical(contesto.archivio, ec) ==
+                               fs::weakly_canonical(contesto.configurazione.ArchivioGioco(gioco), ec_configurato) &&
+                           !ec && !ec_configurato;
+  return configurato ? dell_agenda : std::nullopt;
+}
+
 }  // namespace
 
 Esito<int> ImportaGioco(Contesto& contesto, const fs::path& file) {
@@ -76,6 +90,8 @@ Esito<int> ImportaGioco(Contesto& contesto, const fs::path& file) {
   auto aggiunte = ImportaEstrazioniGioco(nuove->formato(), contesto.archivio, nuove->Tutte());
   if (!aggiunte) return aggiunte.Errore();
   fmt::print(contesto.out, "importate {} estrazioni {}\n", *aggiunte, DelGioco(nuove->formato()));
+  if (*aggiunte > 0)
+    if (auto gioco = GiocoDellAgenda(contesto)) VerificaAgendaDopoImportazione(contesto, {*gioco});
   return aggiunte;
 }
 

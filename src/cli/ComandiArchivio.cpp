@@ -3,8 +3,6 @@
 
 #include "Argomenti.h"
 #include "Comandi.h"
-#include "agenda/Agenda.h"
-#include "agenda/VerificaLotto.h"
 #include "app/ErroreInatteso.h"
 #include "archive/AllineaDieciELotto.h"
 #include "archive/ClsEstrazioni.h"
@@ -29,53 +27,32 @@ bool ArchivioConfigurato(const Contesto& contesto) {
          !ec && !ec_configurato;
 }
 
-// The agenda's open bets checked on the archive that has just grown; the wins are left for
-// `giocata verifica` to show.
-void VerificaLAgenda(Contesto& contesto) {
-  std::error_code ec;
-  if (!ArchivioConfigurato(contesto) || !fs::exists(contesto.configurazione.FileAgenda(), ec)) return;
-  auto lotto = ClsEstrazioni(contesto.archivio).CaricaEstrazioni();
-  auto aperta = agenda::Agenda::Apri(contesto.configurazione.FileAgenda());
-  if (!lotto || !aperta) {
-    contesto.segnalatore.Avverti("giocate dell'agenda non verificate: " +
-                                 (lotto ? aperta.Errore().testo : lotto.Errore().testo));
-    return;
-  }
-  auto verificate = agenda::VerificaGiocate(
-      aperta.Valore(), [&](const agenda::Giocata& giocata) { return agenda::VerificaGiocataLotto(giocata, *lotto); });
-  auto nuove =
-      verificate ? aperta.Valore().VinciteNonViste() : Esito<std::vector<agenda::VincitaNonVista>>(verificate.Errore());
-  if (!verificate || !nuove) {
-    contesto.segnalatore.Avverti("giocate dell'agenda non verificate: " + nuove.Errore().testo);
-    return;
-  }
-  fmt::print(contesto.out, "agenda: verificate {} giocate, vincite da vedere {} (lottolab giocata verifica)\n",
-             *verificate, nuove->size());
-}
-
 // The evening 10eLotto derived again from the Lotto archive that has just grown, when it is the
-// configured one that the 10eLotto is derived from; what was done told in one line.
-void AllineaIlDieciELotto(Contesto& contesto) {
+// configured one that the 10eLotto is derived from; what was done told in one line. Gives whether
+// evenings were added or completed.
+bool AllineaIlDieciELotto(Contesto& contesto) {
   std::error_code ec;
-  if (!ArchivioConfigurato(contesto)) return;
+  if (!ArchivioConfigurato(contesto)) return false;
   const fs::path file = contesto.configurazione.ArchivioGioco(Gioco::DieciELotto);
-  if (!fs::exists(file, ec)) return;
+  if (!fs::exists(file, ec)) return false;
   auto lotto = ClsEstrazioni(contesto.archivio).CaricaEstrazioni();
   auto allineato =
       lotto ? AllineaDieciELotto(*lotto, file) : Esito<std::optional<DieciELottoAllineato>>(lotto.Errore());
   if (!allineato) {
     contesto.segnalatore.Avverti("10eLotto serale non ricavato di nuovo dall'archivio del Lotto: " +
                                  allineato.Errore().testo);
-    return;
+    return false;
   }
-  if (!allineato->has_value()) return;
+  if (!allineato->has_value()) return false;
   const DieciELottoAllineato& fatto = **allineato;
   for (const std::string& differenza : fatto.differenze) contesto.segnalatore.Avverti(differenza);
-  if (fatto.aggiunte == 0 && fatto.completate == 0)
+  if (fatto.aggiunte == 0 && fatto.completate == 0) {
     fmt::print(contesto.out, "10eLotto serale: nessuna serata da aggiungere dall'archivio del Lotto\n");
-  else
-    fmt::print(contesto.out, "10eLotto serale: aggiunte {} serate dall'archivio del Lotto{}\n", fatto.aggiunte,
-               fatto.completate ? fmt::format(", completate {}", fatto.completate) : "");
+    return false;
+  }
+  fmt::print(contesto.out, "10eLotto serale: aggiunte {} serate dall'archivio del Lotto{}\n", fatto.aggiunte,
+             fatto.completate ? fmt::format(", completate {}", fatto.completate) : "");
+  return true;
 }
 
 }  // namespace
@@ -91,9 +68,11 @@ int ImportaLotto(Contesto& contesto, const fs::path& file) {
   auto importate = ImportaRisultati(archivio, file);
   if (!importate) return contesto.Fallisci(importate.Errore());
   fmt::print(contesto.out, "importate {} estrazioni\n", *importate);
-  if (*importate > 0) {
-    AllineaIlDieciELotto(contesto);
-    VerificaLAgenda(contesto);
+  // The agenda follows the configured archives only: another archive's draws are not its bets'.
+  if (*importate > 0 && ArchivioConfigurato(contesto)) {
+    std::vector<agenda::GiocoGiocata> giochi = {agenda::GiocoGiocata::Lotto};
+    if (AllineaIlDieciELotto(contesto)) giochi.push_back(agenda::GiocoGiocata::DieciELotto);
+    VerificaAgendaDopoImportazione(contesto, giochi);
   }
   return kUscitaRiuscita;
 }

@@ -13,7 +13,9 @@
 #include "Comandi.h"
 #include "agenda/Agenda.h"
 #include "agenda/Importi.h"
-#include "agenda/VerificaLotto.h"
+#include "agenda/TestiGiocata.h"
+#include "agenda/VerificaAgenda.h"
+#include "agenda/VerificaGioco.h"
 #include "archive/DateEstrazione.h"
 #include "archive/Ruote.h"
 
@@ -24,6 +26,10 @@ namespace {
 using agenda::Agenda;
 using agenda::Giocata;
 using agenda::GiocoGiocata;
+using agenda::TestoDal;
+using agenda::TestoNumeri;
+using agenda::TestoPoste;
+using agenda::TestoRuote;
 
 constexpr std::string_view kUso =
     "uso: lottolab giocata aggiungi --numeri 12,34,56 [--numeri ...] --ruote BA,VE --sorte ambo --posta 1 "
@@ -31,7 +37,8 @@ constexpr std::string_view kUso =
     "[--nota TESTO] [--gioco LO|SE|DL|WF] [--speciale N]\n"
     "     lottolab giocata elenco [--aperte|--chiuse] [--gioco LO|SE|DL|WF]\n"
     "     lottolab giocata rimuovi ID\n"
-    "     lottolab giocata verifica [ID]";
+    "     lottolab giocata verifica [ID]\n"
+    "     lottolab giocata quota ID COLPO CATEGORIA IMPORTO";
 
 std::optional<int64_t> Intero(std::string_view testo, int64_t massimo) {
   int64_t valore = 0;
@@ -157,32 +164,9 @@ Esito<Giocata> LeggiGiocata(const Contesto& contesto, const Parole& parole) {
   return giocata;
 }
 
-std::string TestoNumeri(const Giocata& giocata) {
-  std::string testo;
-  for (const auto& colonna : giocata.colonne)
-    testo += fmt::format("{}{}", testo.empty() ? "" : " / ", fmt::join(colonna, "."));
-  if (giocata.numero_speciale) testo += fmt::format(" +{}", giocata.numero_speciale);
-  return testo;
-}
-
-std::string TestoRuote(const Giocata& giocata) {
-  if (giocata.ruote.empty()) return "-";
-  std::string testo;
-  for (int ruota : giocata.ruote) testo += fmt::format("{}{}", testo.empty() ? "" : ",", SiglaRuota(ruota));
-  return testo;
-}
-
-std::string TestoPoste(const Giocata& giocata) {
-  std::string testo;
-  for (const agenda::Posta& posta : giocata.poste)
-    testo += fmt::format("{}{} {}", testo.empty() ? "" : " ", posta.sorte, agenda::FormattaImporto(posta.centesimi));
-  if (!giocata.progressione.empty()) testo += fmt::format(" x{}", fmt::join(giocata.progressione, ","));
-  return testo;
-}
-
-std::string TestoDal(const Giocata& giocata) {
-  if (giocata.dal) return FormattaData(*giocata.dal);
-  return fmt::format("estr. {}", *giocata.id_estr_dal);
+// The net won, marked when some win's money is not known and so not in it.
+std::string Vinto(const agenda::Totali& totali) {
+  return agenda::FormattaImporto(totali.netto) + (totali.vincite_senza_importo > 0 ? "*" : "");
 }
 
 int Aggiungi(Contesto& contesto, Agenda& agenda, const Parole& parole) {
@@ -226,11 +210,11 @@ int Elenco(Contesto& contesto, const Agenda& agenda, const Parole& parole) {
     const Giocata& g = voce.giocata;
     righe.push_back({std::to_string(g.id), std::string(agenda::SiglaGioco(g.gioco)), TestoNumeri(g), TestoRuote(g),
                      TestoPoste(g), TestoDal(g), fmt::format("{}/{}", voce.totali.colpi_verificati, g.colpi),
-                     voce.chiusa ? "chiusa" : "aperta", agenda::FormattaImporto(voce.totali.spesa),
-                     agenda::FormattaImporto(voce.totali.netto), agenda::FormattaImporto(voce.totali.Saldo())});
+                     voce.chiusa ? "chiusa" : "aperta", agenda::FormattaImporto(voce.totali.spesa), Vinto(voce.totali),
+                     agenda::FormattaImporto(voce.totali.Saldo())});
   }
-  righe.push_back({"totale", "", "", "", "", "", "", "", agenda::FormattaImporto(totali->spesa),
-                   agenda::FormattaImporto(totali->netto), agenda::FormattaImporto(totali->Saldo())});
+  righe.push_back({"totale", "", "", "", "", "", "", "", agenda::FormattaImporto(totali->spesa), Vinto(*totali),
+                   agenda::FormattaImporto(totali->Saldo())});
   std::array<size_t, 11> larghezze{};
   for (const Riga& riga : righe)
     for (size_t c = 0; c < riga.size(); ++c) larghezze[c] = std::max(larghezze[c], riga[c].size());
@@ -245,6 +229,11 @@ int Elenco(Contesto& contesto, const Agenda& agenda, const Parole& parole) {
     while (!testo.empty() && testo.back() == ' ') testo.pop_back();
     fmt::print(contesto.out, "{}\n", testo);
   }
+  if (totali->vincite_senza_importo > 0)
+    fmt::print(contesto.out,
+               "* più {} vincit{} di cui la quota non è nota (SuperEnalotto, Win for Life o premio del 10eLotto non "
+               "confermato): vinto e saldo non le contano\n",
+               totali->vincite_senza_importo, totali->vincite_senza_importo == 1 ? "a" : "e");
   return kUscitaRiuscita;
 }
 
@@ -263,35 +252,100 @@ int Rimuovi(Contesto& contesto, Agenda& agenda, const Parole& parole) {
   return kUscitaRiuscita;
 }
 
-// The open bets (or the one named) checked against the archive, then every win not seen yet.
+// Where the draws of each game's bets are: the Lotto's archive of the command, the others'
+// configured ones.
+agenda::FileArchivio FileDegliArchivi(const Contesto& contesto, std::filesystem::path lotto) {
+  return [&contesto, lotto = std::move(lotto)](GiocoGiocata gioco) {
+    return gioco == GiocoGiocata::Lotto ? lotto
+                                        : contesto.configurazione.ArchivioGioco(agenda::GiocoDellArchivio(gioco));
+  };
+}
+
+// The open bets (or the one named) checked against the archives, then every win not seen yet.
 int Verifica(Contesto& contesto, Agenda& agenda, const Parole& parole) {
   if (parole.size() > 1) return contesto.Fallisci(AvvisoEsclamativo("uso: lottolab giocata verifica [ID]"));
-  std::optional<int64_t> scelta;
+  agenda::SceltaVerifica scelta;
   if (parole.size() == 1) {
     auto id = LeggiId(parole[0]);
     if (!id) return contesto.Fallisci(id.Errore());
     if (auto giocata = agenda.Carica(*id); !giocata) return contesto.Fallisci(giocata.Errore());
-    scelta = *id;
+    scelta.id = *id;
   }
-  auto tabella = contesto.CaricaTabella();
-  if (!tabella) return contesto.Fallisci(tabella.Errore());
-  auto verificate = agenda::VerificaGiocate(
-      agenda, [&](const agenda::Giocata& giocata) { return agenda::VerificaGiocataLotto(giocata, *tabella); }, scelta);
-  if (!verificate) return contesto.Fallisci(verificate.Errore());
-  fmt::print(contesto.out, "giocate verificate: {}\n", *verificate);
+  auto giochi = agenda::GiochiDaVerificare(agenda, scelta);
+  if (!giochi) return contesto.Fallisci(giochi.Errore());
+  const agenda::ArchiviCaricati caricati =
+      agenda::CaricaArchivi(*giochi, FileDegliArchivi(contesto, contesto.archivio));
+  auto esito = agenda::VerificaAgenda(agenda, caricati.Archivi(), scelta);
+  if (!esito) return contesto.Fallisci(esito.Errore());
+  std::vector<std::string> non_verificate = caricati.errori;
+  non_verificate.insert(non_verificate.end(), esito->non_verificate.begin(), esito->non_verificate.end());
+  // The one bet asked for, when it could not be checked, is the command's failure.
+  if (scelta.id && esito->verificate == 0 && !non_verificate.empty())
+    return contesto.Fallisci(AvvisoEsclamativo(non_verificate.back()));
+  for (const std::string& riga : non_verificate) contesto.segnalatore.Avverti(riga);
+  fmt::print(contesto.out, "giocate verificate: {}\n", esito->verificate);
   auto nuove = agenda.VinciteNonViste();
   if (!nuove) return contesto.Fallisci(nuove.Errore());
   for (const agenda::VincitaNonVista& v : *nuove)
-    fmt::print(contesto.out, "giocata {} colpo {} del {}: {} {} su {} ({}), lordo {}\n", v.giocata, v.colpo,
-               FormattaData(v.data), v.vincita.sorte, fmt::join(v.vincita.numeri, "."),
-               v.vincita.ruota ? std::string(SiglaRuota(v.vincita.ruota)) : std::string("-"), v.vincita.combinazioni,
-               agenda::FormattaImporto(v.vincita.lordo));
+    fmt::print(contesto.out, "giocata {} colpo {} del {}: {}\n", v.giocata, v.colpo, FormattaData(v.data),
+               agenda::TestoVincita(v.vincita));
   // What was printed has been seen: the next check shows only what it adds.
   if (auto vista = agenda.SegnaVisione(); !vista) return contesto.Fallisci(vista.Errore());
   return kUscitaRiuscita;
 }
 
+// The quota the user read for a win of a pool game: stored, and every bet that won that category in
+// that draw checked again so that the win takes its money.
+int Quota(Contesto& contesto, Agenda& agenda, const Parole& parole) {
+  if (parole.size() != 4)
+    return contesto.Fallisci(AvvisoEsclamativo("uso: lottolab giocata quota ID COLPO CATEGORIA IMPORTO"));
+  auto id = LeggiId(parole[0]);
+  if (!id) return contesto.Fallisci(id.Errore());
+  auto giocata = agenda.Carica(*id);
+  if (!giocata) return contesto.Fallisci(giocata.Errore());
+  auto verifiche = agenda.Verifiche(*id);
+  if (!verifiche) return contesto.Fallisci(verifiche.Errore());
+  const auto colpo = Intero(parole[1], static_cast<int64_t>(verifiche->size()));
+  if (!colpo || *colpo < 1)
+    return contesto.Fallisci(AvvisoEsclamativo(
+        fmt::format("colpo non valido: {} (la giocata {} ne ha verificati {})", parole[1], *id, verifiche->size())));
+  const agenda::VerificaColpo& verificato = (*verifiche)[static_cast<size_t>(*colpo - 1)];
+  std::vector<std::string> categorie;
+  for (const agenda::VincitaColpo& vincita : verificato.vincite) categorie.push_back(vincita.sorte);
+  if (std::find(categorie.begin(), categorie.end(), parole[2]) == categorie.end())
+    return contesto.Fallisci(AvvisoEsclamativo(
+        categorie.empty() ? fmt::format("il colpo {} della giocata {} non ha vincite", *colpo, *id)
+                          : fmt::format("il colpo {} della giocata {} non ha vinto \"{}\" (ha vinto: {})", *colpo, *id,
+                                        parole[2], fmt::join(categorie, ", "))));
+  auto importo = agenda::LeggiImporto(parole[3]);
+  if (!importo) return contesto.Fallisci(importo.Errore());
+  const agenda::ArchiviCaricati caricati =
+      agenda::CaricaArchivi({giocata->gioco}, FileDegliArchivi(contesto, contesto.archivio));
+  auto esito = agenda::ApplicaQuota(agenda, caricati.Archivi(),
+                                    {giocata->gioco, verificato.id_estr, verificato.data, parole[2], *importo});
+  if (!esito) return contesto.Fallisci(esito.Errore());
+  for (const std::string& riga : caricati.errori) contesto.segnalatore.Avverti(riga);
+  for (const std::string& riga : esito->non_verificate) contesto.segnalatore.Avverti(riga);
+  fmt::print(contesto.out, "quota di \"{}\" del {}: {}; giocate verificate di nuovo: {}\n", parole[2],
+             FormattaData(verificato.data), agenda::FormattaImporto(*importo), esito->verificate);
+  return kUscitaRiuscita;
+}
+
 }  // namespace
+
+void VerificaAgendaDopoImportazione(Contesto& contesto, const std::vector<GiocoGiocata>& giochi) {
+  auto esito = agenda::VerificaAgendaSuiFile(contesto.configurazione.FileAgenda(),
+                                             FileDegliArchivi(contesto, contesto.configurazione.ArchivioLotto()),
+                                             {.giochi = giochi});
+  if (!esito) {
+    contesto.segnalatore.Avverti("giocate dell'agenda non verificate: " + esito.Errore().testo);
+    return;
+  }
+  for (const std::string& riga : esito->non_verificate) contesto.segnalatore.Avverti("agenda: " + riga);
+  if (esito->verificate > 0 || esito->vincite_da_vedere > 0)
+    fmt::print(contesto.out, "agenda: verificate {} giocate, vincite da vedere {} (lottolab giocata verifica)\n",
+               esito->verificate, esito->vincite_da_vedere);
+}
 
 int ComandoGiocata(Contesto& contesto, const Parole& parole) {
   if (parole.empty()) {
@@ -299,9 +353,9 @@ int ComandoGiocata(Contesto& contesto, const Parole& parole) {
     return kUscitaInputNonValido;
   }
   const std::string& azione = parole[0];
-  if (azione != "aggiungi" && azione != "elenco" && azione != "rimuovi" && azione != "verifica")
+  if (azione != "aggiungi" && azione != "elenco" && azione != "rimuovi" && azione != "verifica" && azione != "quota")
     return contesto.Fallisci(
-        AvvisoEsclamativo(fmt::format("azione sconosciuta: {} (aggiungi, elenco, rimuovi o verifica)", azione)));
+        AvvisoEsclamativo(fmt::format("azione sconosciuta: {} (aggiungi, elenco, rimuovi, verifica o quota)", azione)));
   auto aperta = Agenda::Apri(contesto.configurazione.FileAgenda());
   if (!aperta) return contesto.Fallisci(aperta.Errore());
   Agenda& agenda = aperta.Valore();
@@ -309,6 +363,7 @@ int ComandoGiocata(Contesto& contesto, const Parole& parole) {
   if (azione == "aggiungi") return Aggiungi(contesto, agenda, resto);
   if (azione == "elenco") return Elenco(contesto, agenda, resto);
   if (azione == "rimuovi") return Rimuovi(contesto, agenda, resto);
+  if (azione == "quota") return Quota(contesto, agenda, resto);
   return Verifica(contesto, agenda, resto);
 }
 

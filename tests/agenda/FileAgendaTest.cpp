@@ -43,7 +43,7 @@ class FileAgenda : public testing::Test {
 };
 
 TEST_F(FileAgenda, UnFileDellaVersione1EAggiornatoETenuto) {
-  ASSERT_EQ(Migrazioni().size(), 2u) << "a new version needs a test that migrates from the one before";
+  ASSERT_EQ(Migrazioni().size(), 4u) << "a new version needs a test that migrates from the one before";
   // A version-1 file as that release wrote it: one bet checked over two draws, the second a win.
   EseguiSql(m_file, std::string(Migrazioni()[0]) + R"(
     INSERT INTO giocate VALUES (7, 'LO', 0, '2023-01-05', NULL, 10, 0, 'vecchia', 1700000000);
@@ -65,11 +65,18 @@ TEST_F(FileAgenda, UnFileDellaVersione1EAggiornatoETenuto) {
   EXPECT_EQ(giocata->nota, "vecchia");
   EXPECT_EQ(agenda->TotaliGiocata(7)->Saldo(), 23000 - 200);
   EXPECT_EQ(agenda->Verifiche(7)->at(1).vincite.at(0).numeri, (std::vector<int>{12, 34}));
+  EXPECT_TRUE(agenda->Verifiche(7)->at(1).vincite.at(0).importo_noto) << "a win of before version 3 was priced";
   EXPECT_TRUE(agenda->VinciteNonViste()->empty()) << "wins from before the marker count as seen";
 
-  // What version 2 brought works on the migrated file.
-  ASSERT_TRUE(agenda->SalvaVerifiche(7, test::Verifica(3, 100, {3}, 25000)));
-  EXPECT_EQ(agenda->VinciteNonViste()->size(), 1u);
+  // What versions 2 to 4 brought works on the migrated file.
+  auto verifiche = test::Verifica(3, 100, {3}, 25000);
+  verifiche[0].vincite.push_back(VincitaColpo{0, "punti 3", {12}, 1, 0, false});
+  ASSERT_TRUE(agenda->SalvaVerifiche(7, verifiche));
+  EXPECT_EQ(agenda->VinciteNonViste()->size(), 2u);
+  EXPECT_FALSE(agenda->VinciteNonViste()->front().vincita.importo_noto);
+  EXPECT_EQ(agenda->TotaliGiocata(7)->vincite_senza_importo, 1);
+  ASSERT_TRUE(agenda->SalvaQuota({GiocoGiocata::SuperEnalotto, 100, {0, 5, 1, 2023}, "5+1", 123456}));
+  EXPECT_EQ(agenda->Quote(GiocoGiocata::SuperEnalotto)->at(0).centesimi, 123456);
   const int64_t nuova = agenda->Aggiungi(test::GiocataLotto()).Valore();
   EXPECT_GT(nuova, 7);
 
@@ -81,10 +88,10 @@ TEST_F(FileAgenda, UnFileDellaVersione1EAggiornatoETenuto) {
 
 TEST_F(FileAgenda, UnFileDiUnaVersionePiuRecenteERifiutato) {
   ASSERT_TRUE(Agenda::Apri(m_file));
-  EseguiSql(m_file, "PRAGMA user_version = 3");
+  EseguiSql(m_file, "PRAGMA user_version = 5");
   Rifiutato(
-      fmt::format("l'agenda delle giocate {} è di una versione più recente del programma (schema 3, questa "
-                  "versione legge fino allo schema 2): aggiornare il programma; il file non viene modificato",
+      fmt::format("l'agenda delle giocate {} è di una versione più recente del programma (schema 5, questa "
+                  "versione legge fino allo schema 4): aggiornare il programma; il file non viene modificato",
                   m_file.string()));
 }
 

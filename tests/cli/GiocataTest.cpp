@@ -124,7 +124,7 @@ TEST_F(Giocata, OgniParolaSbagliataHaIlSuoMessaggio) {
   EXPECT_EQ(Lottolab({"giocata", "elenco"}).out, "nessuna giocata\n");
 
   const std::vector<std::pair<std::vector<std::string>, std::string>> altre = {
-      {{"giocata", "gioca"}, "azione sconosciuta: gioca (aggiungi, elenco, rimuovi o verifica)"},
+      {{"giocata", "gioca"}, "azione sconosciuta: gioca (aggiungi, elenco, rimuovi, verifica o quota)"},
       {{"giocata", "elenco", "--aperte", "--chiuse"}, "--aperte e --chiuse non vanno insieme"},
       {{"giocata", "elenco", "tutte"}, "parola inattesa: tutte (elenco prende --aperte o --chiuse e --gioco)"},
       {{"giocata", "rimuovi", "-3"}, "numero di giocata non valido: -3"},
@@ -193,6 +193,57 @@ TEST_F(Giocata, LImportazioneVerificaLeGiocateAperte) {
   EXPECT_EQ(Lottolab({"importa", (m_base / "b.txt").string()}).out,
             "importate 1 estrazioni\nagenda: verificate 1 giocate, vincite da vedere 1 (lottolab giocata verifica)\n");
   EXPECT_NE(Lottolab({"giocata", "verifica"}).out.find("ambo 12.34 su BA (1), lordo 83,33"), std::string::npos);
+}
+
+// A SuperEnalotto bet: the import that adds its draws checks it, its win is its category, and a
+// quota the archive does not hold is said to be unknown rather than counted as nothing.
+TEST_F(Giocata, LeGiocateDegliAltriGiochiSiVerificanoPerCategoria) {
+  test::Scrivi(m_base / "se1.txt", "2023/01/03\t1\t1\t2\t3\t4\t5\t6\t7\t8\n");
+  test::Scrivi(m_base / "se2.txt", "2023/01/05\t2\t1\t2\t3\t40\t50\t60\t70\t80\n");
+  ASSERT_EQ(Lottolab({"--gioco", "SE", "importa", (m_base / "se1.txt").string()}).codice, 0);
+  ASSERT_EQ(Aggiungi({"--gioco", "SE", "--numeri", "1,2,3,4,5,9", "--sorte", "giocata", "--posta", "1", "--dal",
+                      "04/01/2023", "--colpi", "2"})
+                .codice,
+            0);
+  ASSERT_EQ(Aggiungi({"--numeri", "12,34", "--ruote", "BA", "--sorte", "ambo", "--posta", "1", "--dal", "04/01/2023",
+                      "--colpi", "1"})
+                .codice,
+            0);
+  const Uscita importa = Lottolab({"--gioco", "SE", "importa", (m_base / "se2.txt").string()});
+  ASSERT_EQ(importa.codice, 0) << importa.err;
+  EXPECT_EQ(importa.out,
+            "importate 1 estrazioni del SuperEnalotto\n"
+            "agenda: verificate 1 giocate, vincite da vedere 1 (lottolab giocata verifica)\n")
+      << "the Lotto bet waits for the Lotto's draws";
+
+  const Uscita verifica = Lottolab({"giocata", "verifica"});
+  EXPECT_EQ(verifica.codice, 0);
+  EXPECT_EQ(verifica.err, "lottolab: attenzione: 1 giocata del gioco LO non verificata: manca l'archivio del Lotto\n");
+  EXPECT_EQ(verifica.out,
+            "giocate verificate: 1\n"
+            "giocata 1 colpo 1 del 05/01/2023: punti 3 1.2.3 (1), importo non noto\n");
+  const std::string elenco = Lottolab({"giocata", "elenco", "--gioco", "SE"}).out;
+  EXPECT_NE(elenco.find("1/2    aperta   1,00  0,00*  -1,00"), std::string::npos) << elenco;
+  EXPECT_NE(elenco.find("* più 1 vincita di cui la quota non è nota"), std::string::npos) << elenco;
+  const Uscita senza_lotto = Lottolab({"giocata", "verifica", "2"});
+  EXPECT_EQ(senza_lotto.codice, 2);
+  EXPECT_EQ(senza_lotto.err, "lottolab: 1 giocata del gioco LO non verificata: manca l'archivio del Lotto\n");
+
+  // The quota read on the operator's page gives the win its money.
+  const Uscita quota = Lottolab({"giocata", "quota", "1", "1", "punti 3", "28,31"});
+  ASSERT_EQ(quota.codice, 0) << quota.err;
+  EXPECT_EQ(quota.out, "quota di \"punti 3\" del 05/01/2023: 28,31; giocate verificate di nuovo: 1\n");
+  EXPECT_NE(Lottolab({"giocata", "elenco", "--gioco", "SE"}).out.find("1/2    aperta   1,00  28,31  27,31"),
+            std::string::npos);
+  const std::vector<std::pair<std::vector<std::string>, std::string>> rifiutate = {
+      {{"giocata", "quota", "1", "1", "punti 4", "1"},
+       "il colpo 1 della giocata 1 non ha vinto \"punti 4\" (ha vinto: punti 3)"},
+      {{"giocata", "quota", "1", "2", "punti 3", "1"}, "colpo non valido: 2 (la giocata 1 ne ha verificati 1)"},
+      {{"giocata", "quota", "1", "1", "punti 3", "-1"},
+       "importo non valido: -1 (euro con al più due decimali, per esempio 1 o 0,50)"},
+      {{"giocata", "quota", "1", "1"}, "uso: lottolab giocata quota ID COLPO CATEGORIA IMPORTO"},
+  };
+  for (const auto& [parole, messaggio] : rifiutate) EXPECT_EQ(Lottolab(parole).err, "lottolab: " + messaggio + "\n");
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "agenda/VerificaGioco.h"
 #include "archive/AllineaDieciELotto.h"
 #include "archive/ArchivioGioco.h"
 #include "archive/ClsEstrazioni.h"
@@ -65,6 +66,21 @@ bool EsitoAggiornamento::Riuscito() const {
          std::all_of(giochi.begin(), giochi.end(), [](const DelGioco& del) { return del.esito.aggiunte.Riuscito(); });
 }
 
+std::vector<agenda::GiocoGiocata> EsitoAggiornamento::GiochiCresciuti() const {
+  std::vector<agenda::GiocoGiocata> cresciuti;
+  auto aggiungi = [&](agenda::GiocoGiocata gioco) {
+    if (std::find(cresciuti.begin(), cresciuti.end(), gioco) == cresciuti.end()) cresciuti.push_back(gioco);
+  };
+  if (lotto.aggiunte.ValoreOppure(0) > 0) aggiungi(agenda::GiocoGiocata::Lotto);
+  if (dieci_e_lotto && dieci_e_lotto->cambiato) aggiungi(agenda::GiocoGiocata::DieciELotto);
+  // The five-minute 10eLotto and the generic archive hold no bet of the agenda.
+  for (const DelGioco& del : giochi)
+    if (auto gioco = agenda::GiocoDaSigla(Formato(del.gioco).sigla);
+        gioco && agenda::GiocoDellArchivio(*gioco) == del.gioco && del.esito.aggiunte.ValoreOppure(0) > 0)
+      aggiungi(*gioco);
+  return cresciuti;
+}
+
 bool EsitoAggiornamento::GiochiCambiati() const {
   return (dieci_e_lotto && dieci_e_lotto->cambiato) ||
          std::any_of(giochi.begin(), giochi.end(),
@@ -75,6 +91,12 @@ AggiornamentoArchivio::AggiornamentoArchivio(app::Configurazione configurazione)
     : m_configurazione(std::move(configurazione)) {}
 
 EsitoAggiornamento AggiornamentoArchivio::ImportaDaFile(const fs::path& file) const {
+  EsitoAggiornamento esito = ImportaLotto(file);
+  esito.agenda = VerificaAgendaDopoAggiornamento(m_configurazione, esito.GiochiCresciuti());
+  return esito;
+}
+
+EsitoAggiornamento AggiornamentoArchivio::ImportaLotto(const fs::path& file) const {
   EsitoAggiornamento esito;
   esito.lotto = SenzaEccezioniImportazione("AggiornamentoArchivio.ImportaDaFile", [&] {
     const fs::path archivio = m_configurazione.ArchivioLotto();
@@ -114,7 +136,7 @@ EsitoAggiornamento AggiornamentoArchivio::Scarica(const std::function<void(std::
   auto scaricato =
       ScaricaRisultati(m_configurazione.IndirizzoRisultati(), m_configurazione.base / "risultati-scaricati.zip");
   if (scaricato) {
-    esito = ImportaDaFile(*scaricato);
+    esito = ImportaLotto(*scaricato);
     fs::remove(*scaricato, ec);
   } else {
     esito.lotto.aggiunte = scaricato.Errore();
@@ -125,7 +147,33 @@ EsitoAggiornamento AggiornamentoArchivio::Scarica(const std::function<void(std::
     esito.giochi.push_back(
         {gioco, SenzaEccezioniImportazione("AggiornamentoArchivio.ScaricaGioco", [&] { return ScaricaGioco(gioco); })});
   }
+  esito.agenda = VerificaAgendaDopoAggiornamento(m_configurazione, esito.GiochiCresciuti());
   return esito;
+}
+
+std::optional<Esito<agenda::EsitoVerificaAgenda>> VerificaAgendaDopoAggiornamento(
+    const app::Configurazione& configurazione, const std::vector<agenda::GiocoGiocata>& giochi) {
+  std::error_code ec;
+  if (giochi.empty() || !fs::exists(configurazione.FileAgenda(), ec)) return std::nullopt;
+  return SenzaEccezioni<agenda::EsitoVerificaAgenda>("AggiornamentoArchivio.VerificaAgenda", [&] {
+    return agenda::VerificaAgendaSuiFile(configurazione.FileAgenda(),
+                                         [&](agenda::GiocoGiocata gioco) {
+                                           return gioco == agenda::GiocoGiocata::Lotto
+                                                      ? configurazione.ArchivioLotto()
+                                                      : configurazione.ArchivioGioco(agenda::GiocoDellArchivio(gioco));
+                                         },
+                                         {.giochi = giochi});
+  });
+}
+
+std::string RigaAgenda(const Esito<agenda::EsitoVerificaAgenda>& verifica, std::vector<std::string>& avvisi) {
+  if (!verifica) return "Agenda delle giocate: non verificata. " + verifica.Errore().testo;
+  for (const std::string& riga : verifica->non_verificate) avvisi.push_back("Agenda: " + riga);
+  const int nuove = verifica->vincite_da_vedere;
+  return fmt::format("Agenda delle giocate: verificate {}, {}.", agenda::ContaGiocate(verifica->verificate),
+                     nuove == 0   ? std::string("nessuna vincita da vedere")
+                     : nuove == 1 ? std::string("1 vincita da vedere")
+                                  : fmt::format("{} vincite da vedere", nuove));
 }
 
 std::string TestoAggiornamento(const EsitoAggiornamento& esito) {
@@ -137,6 +185,7 @@ std::string TestoAggiornamento(const EsitoAggiornamento& esito) {
     testo += "\n" + RigaImportazione(nome, del.esito.aggiunte);
     for (const std::string& avviso : del.esito.avvisi) avvisi.push_back(nome + ": " + avviso);
   }
+  if (esito.agenda) testo += "\n" + RigaAgenda(*esito.agenda, avvisi);
   return ConAvvisi(std::move(testo), avvisi);
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 
+#include "agenda/VerificaGioco.h"
 #include "archive/ArchivioGioco.h"
 #include "archive/Estrazione.h"
 #include "gui/archivio/AggiornamentoArchivio.h"
@@ -98,23 +99,36 @@ void AvviaImportazioneGioco(ContestoGui& contesto, Gioco gioco, QWidget* finestr
   auto file = dialoghi->ScegliFile("File dei risultati del " + nome, contesto.Configurazione().base, kFiltroRisultati);
   if (!file) return;
   const std::string titolo = "Importa nell'" + NomeArchivioGioco(Formato(gioco));
-  AvviaLavoroConProgresso<EsitoImportazione>(
+  // The game's open bets of the agenda are checked on the draws the import added, as an update does.
+  struct Importazione {
+    EsitoImportazione esito;
+    std::optional<Esito<agenda::EsitoVerificaAgenda>> agenda;
+  };
+  AvviaLavoroConProgresso<Importazione>(
       finestra, QString::fromStdString(titolo), QStringLiteral("Importazione dei risultati..."),
       "ImportazioneGioco.Avvia",
       [configurazione = contesto.Configurazione(), gioco, percorso = *file](Avanzamento&) {
-        return ImportaRisultatiGioco(configurazione, gioco, percorso);
+        Importazione fatta{ImportaRisultatiGioco(configurazione, gioco, percorso), std::nullopt};
+        const auto dell_agenda = agenda::GiocoDaSigla(Formato(gioco).sigla);
+        if (fatta.esito.aggiunte.ValoreOppure(0) > 0 && dell_agenda && agenda::GiocoDellArchivio(*dell_agenda) == gioco)
+          fatta.agenda = VerificaAgendaDopoAggiornamento(configurazione, {*dell_agenda});
+        return fatta;
       },
-      [&contesto, dialoghi, nome, titolo](const Esito<EsitoImportazione>& esito) {
-        if (!esito) {
-          dialoghi->Mostra(esito.Errore());
+      [&contesto, dialoghi, nome, titolo](const Esito<Importazione>& fatta) {
+        if (!fatta) {
+          dialoghi->Mostra(fatta.Errore());
           return;
         }
-        if (esito->aggiunte.ValoreOppure(0) > 0) contesto.RicaricaArchiviGiochi();
-        const std::string testo = ConAvvisi(RigaImportazione(nome, esito->aggiunte), esito->avvisi);
-        if (esito->aggiunte)
+        const EsitoImportazione& esito = fatta->esito;
+        if (esito.aggiunte.ValoreOppure(0) > 0) contesto.RicaricaArchiviGiochi();
+        std::vector<std::string> avvisi = esito.avvisi;
+        std::string riga = RigaImportazione(nome, esito.aggiunte);
+        if (fatta->agenda) riga += "\n" + RigaAgenda(*fatta->agenda, avvisi);
+        const std::string testo = ConAvvisi(riga, avvisi);
+        if (esito.aggiunte)
           dialoghi->Informa(titolo, testo);
         else
-          dialoghi->Mostra(Avviso{esito->aggiunte.Errore().tipo, titolo, testo});
+          dialoghi->Mostra(Avviso{esito.aggiunte.Errore().tipo, titolo, testo});
       });
 }
 

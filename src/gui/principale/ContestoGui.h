@@ -56,6 +56,9 @@ class ContestoGui : public QObject {
  signals:
   void ArchivioCambiato();
   void ArchiviGiochiCambiati();
+  // A window changed the agenda of the bets (added, checked, removed, seen), so that the others and
+  // the main window's count of wins to see follow.
+  void AgendaCambiata();
 
  private:
   app::Configurazione m_configurazione;

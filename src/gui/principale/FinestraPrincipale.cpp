@@ -39,6 +39,7 @@ constexpr QStyle::StandardPixmap kIconaArchivio = QStyle::SP_FileDialogDetailedV
 constexpr QStyle::StandardPixmap kIconaTabellone = QStyle::SP_FileDialogListView;
 constexpr QStyle::StandardPixmap kIconaScript = QStyle::SP_FileIcon;
 constexpr QStyle::StandardPixmap kIconaStrutture = QStyle::SP_FileDialogContentsView;
+constexpr QStyle::StandardPixmap kIconaAgenda = QStyle::SP_FileDialogInfoView;
 
 }  // namespace
 
@@ -48,6 +49,7 @@ FinestraPrincipale::FinestraPrincipale(ContestoGui& contesto, QWidget* parent)
       m_area(new QMdiArea),
       m_stato_archivio(new QLabel),
       m_stato_gioco(new QLabel),
+      m_stato_agenda(new QLabel),
       m_interlocutore(std::make_unique<InterlocutoreGui>(this)) {
   // Qt's default hides the scroll bars, which makes the area as large as its largest window and
   // pushes the main window past the screen; scrolling keeps the main window's size the user's.
@@ -61,10 +63,18 @@ FinestraPrincipale::FinestraPrincipale(ContestoGui& contesto, QWidget* parent)
   statusBar()->addPermanentWidget(separatore);
   m_stato_gioco->setObjectName(QStringLiteral("statoGioco"));
   statusBar()->addPermanentWidget(m_stato_gioco);
+  m_stato_agenda->setObjectName(QStringLiteral("statoAgenda"));
+  m_stato_agenda->setTextFormat(Qt::RichText);
+  connect(m_stato_agenda, &QLabel::linkActivated, this, [this] { ApriAgenda(); });
+  statusBar()->addPermanentWidget(m_stato_agenda);
   connect(m_area, &QMdiArea::subWindowActivated, this, &FinestraPrincipale::MostraGiocoAttivo);
   CreaMenu();
   connect(&m_contesto, &ContestoGui::ArchivioCambiato, this, &FinestraPrincipale::ArchivioRicaricato);
+  // An update checks the agenda before it reloads the archives; a window that changes the agenda says so.
+  connect(&m_contesto, &ContestoGui::ArchiviGiochiCambiati, this, &FinestraPrincipale::MostraVinciteDaVedere);
+  connect(&m_contesto, &ContestoGui::AgendaCambiata, this, &FinestraPrincipale::MostraVinciteDaVedere);
   MostraArchivio();
+  MostraVinciteDaVedere();
   // The archive loaded before the window existed is told about once the window is on screen.
   QTimer::singleShot(0, this, [this] { AvvisaArchivioCaricato(m_contesto, *m_interlocutore); });
 }
@@ -104,6 +114,11 @@ void FinestraPrincipale::CreaMenu() {
                               [this] { AggiungiFinestra(NuovoTabellone(m_contesto), Icona(kIconaTabellone)); });
   tabellone->setIcon(Icona(kIconaTabellone));
 
+  QMenu* giocate = menuBar()->addMenu(QStringLiteral("&Giocate"));
+  QAction* agenda = azione(giocate, QStringLiteral("&Agenda delle giocate"), "azioneAgenda", [this] { ApriAgenda(); });
+  agenda->setIcon(Icona(kIconaAgenda));
+  agenda->setIconText(QStringLiteral("Agenda"));
+
   QMenu* script = menuBar()->addMenu(QStringLiteral("S&cript"));
   QAction* nuovo_script = azione(script, QStringLiteral("&Nuovo script"), "azioneNuovoScript",
                                  [this] { AggiungiFinestra(NuovaFinestraScript(m_contesto), Icona(kIconaScript)); });
@@ -136,6 +151,8 @@ void FinestraPrincipale::CreaMenu() {
   barra->addActions({estrazioni, aggiorna});
   barra->addSeparator();
   barra->addAction(tabellone);
+  barra->addSeparator();
+  barra->addAction(agenda);
   barra->addSeparator();
   barra->addActions({nuovo_script, apri_script});
   barra->addSeparator();
@@ -189,6 +206,32 @@ void FinestraPrincipale::ApriStruttura(const QString& file) {
   AggiungiFinestra(NuovoEditorStrutture(m_contesto, file), Icona(kIconaStrutture));
 }
 
+void FinestraPrincipale::ApriAgenda() {
+  // One agenda window is enough: a second click brings the open one forward.
+  for (QMdiSubWindow* aperta : m_area->subWindowList())
+    if (aperta->widget() && aperta->widget()->objectName() == QStringLiteral("finestraAgenda")) {
+      m_area->setActiveSubWindow(aperta);
+      return;
+    }
+  AggiungiFinestra(NuovaFinestraAgenda(m_contesto), Icona(kIconaAgenda));
+}
+
+void FinestraPrincipale::MostraVinciteDaVedere() {
+  const Esito<int> nuove = VinciteDaVedere(m_contesto.Configurazione());
+  if (!nuove) {
+    m_stato_agenda->setText(QStringLiteral("Agenda non leggibile"));
+    m_stato_agenda->setToolTip(QString::fromStdString(nuove.Errore().testo));
+  } else if (*nuove == 0) {
+    m_stato_agenda->setText(QStringLiteral("Nessuna vincita da vedere"));
+    m_stato_agenda->setToolTip(QStringLiteral("Le vincite delle giocate dell'agenda sono già state viste"));
+  } else {
+    m_stato_agenda->setText(
+        QStringLiteral("<a href='agenda'><b>%1 da vedere</b></a>")
+            .arg(*nuove == 1 ? QStringLiteral("1 vincita") : QStringLiteral("%1 vincite").arg(*nuove)));
+    m_stato_agenda->setToolTip(QStringLiteral("Apre l'agenda delle giocate"));
+  }
+}
+
 void FinestraPrincipale::ApriImpostazioni() {
   DialogoImpostazioni dialogo(m_contesto, this);
   // The archive file may have changed even when it could not be loaded: the title says which it is.
@@ -210,6 +253,7 @@ void FinestraPrincipale::MostraArchivio() {
 
 void FinestraPrincipale::ArchivioRicaricato() {
   MostraArchivio();
+  MostraVinciteDaVedere();
   AvvisaArchivioCaricato(m_contesto, *m_interlocutore);
 }
 

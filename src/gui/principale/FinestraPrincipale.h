@@ -1,8 +1,8 @@
 #pragma once
 
 // The desktop's main window: menus and toolbar that open every other window in one multi-document
-// area, and a status bar that says which archive is loaded, how far it goes, and which game the
-// active window shows.
+// area, and a status bar that says which archive is loaded, how far it goes, which game the active
+// window shows, and how many wins of the agenda wait to be seen.
 
 #include <QMainWindow>
 #include <QStyle>
@@ -43,6 +43,8 @@ class FinestraPrincipale : public QMainWindow {
   void AggiungiFinestra(QWidget* finestra, const QIcon& icona);
   void ApriScriptScelto();
   void ApriStrutturaScelta();
+  void ApriAgenda();
+  void MostraVinciteDaVedere();
   void ApriImpostazioni();
   void MostraInformazioni();
   void MostraArchivio();
@@ -56,6 +58,7 @@ class FinestraPrincipale : public QMainWindow {
   QMdiArea* m_area;
   QLabel* m_stato_archivio;
   QLabel* m_stato_gioco;
+  QLabel* m_stato_agenda;
   QMenu* m_script_recenti = nullptr;
   QMenu* m_finestre = nullptr;
   std::unique_ptr<Interlocutore> m_interlocutore;

@@ -19,6 +19,12 @@ QWidget* NuovaFinestraArchivioGioco(ContestoGui& contesto, Gioco gioco, QWidget*
 QWidget* NuovaFinestraScript(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);
 // The delay table of the 90 numbers on the chosen wheels, or of every number of another game.
 QWidget* NuovoTabellone(ContestoGui& contesto, QWidget* parent = nullptr);
+// The agenda of the bets played: the list with the wins not seen yet, a new bet, the check, the
+// removal, a bet's check draw by draw, the totals, the export to CSV.
+QWidget* NuovaFinestraAgenda(ContestoGui& contesto, QWidget* parent = nullptr);
+// How many wins of the agenda the user has not seen yet; 0 when there is no agenda. Reads the file on
+// the caller's thread: a quick query.
+Esito<int> VinciteDaVedere(const app::Configurazione& configurazione);
 // The editor of user figures; with a file, the structure read from it.
 QWidget* NuovoEditorStrutture(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);
 

@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "TempDir.h"
+#include "agenda/Agenda.h"
 #include "gui/archivio/AggiornamentoArchivio.h"
 #include "gui/archivio/AvvioAggiornamento.h"
 #include "gui/principale/Finestre.h"
@@ -165,6 +166,40 @@ class AggiornamentoArchivioTest : public QObject {
                                                    "nuovo dall'archivio del Lotto. L'archivio del 10eLotto "),
              TestoAggiornamento(senza).c_str());
     QCOMPARE(test::Leggi(*m_base / "10eLotto.dat"), con_la_14);
+  }
+
+  // The draws an update adds check the agenda's open bets of their game, the others left waiting, and
+  // the report says how many wins wait to be seen.
+  void LAgendaSiVerificaDopoLAggiornamento() {
+    const AggiornamentoArchivio aggiornamento(Configurazione());
+    const fs::path lotto = Scrivi("lotto1.txt", EstrazioneDelLotto("2010/01/05", 0));
+    QVERIFY2(!aggiornamento.ImportaDaFile(lotto).agenda, "no agenda, nothing checked and none created");
+    QVERIFY(!fs::exists(*m_base / "AgendaGiocate.db"));
+
+    auto aperta = agenda::Agenda::Apri(*m_base / "AgendaGiocate.db");
+    QVERIFY(aperta);
+    agenda::Giocata ambo;
+    ambo.colonne = {{1, 2}};  // the first two numbers of Bari in the draw of 2010/01/07
+    ambo.ruote = {BA};
+    ambo.poste = {{"ambo", 100}};
+    ambo.dal = GruppoData{0, 6, 1, 2010};
+    ambo.colpi = 2;
+    QVERIFY(aperta->Aggiungi(ambo));
+    agenda::Giocata superenalotto;
+    superenalotto.gioco = agenda::GiocoGiocata::SuperEnalotto;
+    superenalotto.colonne = {{1, 2, 3, 4, 5, 6}};
+    superenalotto.poste = {{"giocata", 100}};
+    superenalotto.dal = GruppoData{0, 6, 1, 2010};
+    QVERIFY(aperta->Aggiungi(superenalotto));
+
+    const EsitoAggiornamento esito = aggiornamento.ImportaDaFile(
+        Scrivi("lotto2.txt", EstrazioneDelLotto("2010/01/05", 0) + EstrazioneDelLotto("2010/01/07", 0)));
+    QVERIFY(esito.agenda && *esito.agenda);
+    QCOMPARE((*esito.agenda)->verificate, 1);
+    QCOMPARE(TestoAggiornamento(esito),
+             std::string("Lotto: aggiunta 1 estrazione.\n"
+                         "Agenda delle giocate: verificate 1 giocata, 1 vincita da vedere."));
+    QCOMPARE(aperta->VinciteNonViste()->front().vincita.lordo, int64_t{25000});
   }
 
   // A game window's "Importa da file...": the file the user picks is imported, what it leaves in
