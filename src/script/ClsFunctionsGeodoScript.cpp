@@ -46,7 +46,10 @@ const Tabella& TabellaCompleta() {
                           FunzioniGiochiElenchi(),
                           FunzioniGiochiEstrazioniAttive(),
                           FunzioniGiochiFile(),
-                          FunzioniSistemi()})
+                          FunzioniSistemi(),
+                          FunzioniEsiti(),
+                          FunzioniEsitiGiochi(),
+                          FunzioniPremi()})
       t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =

@@ -192,5 +192,8 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiElenchi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiEstrazioniAttive();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiFile();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniSistemi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEsiti();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEsitiGiochi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPremi();
 
 }  // namespace lottolab::script
