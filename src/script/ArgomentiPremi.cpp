@@ -79,6 +79,11 @@ Result<std::vector<int>> RuoteDellaGiocata(const CallArgs& args, size_t i) {
   return stats::RuoteGiocate(ruote);
 }
 
+Result<int> InteroFacoltativo(const CallArgs& args, size_t i, int da, int a, std::string_view nome, int se_omesso) {
+  if (!args.Has(i)) return se_omesso;
+  return InteroTra(args, i, da, a, nome);
+}
+
 Result<int> ColpiArgomento(const CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto colpi, args.Long(i));
   if (colpi < 1) return ArgomentoNonValido(fmt::format("Colpi non validi: {} (almeno 1)", colpi));

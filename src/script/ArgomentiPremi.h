@@ -32,6 +32,10 @@ vbs::Result<std::vector<int>> NumeriDiversi(const vbs::CallArgs& args, size_t i,
 // city wheels without Nazionale, as the operator plays it.
 vbs::Result<std::vector<int>> RuoteDellaGiocata(const vbs::CallArgs& args, size_t i);
 
+// Argument i as a whole number in da..a, `se_omesso` when it was omitted; `nome` names it in messages.
+vbs::Result<int> InteroFacoltativo(const vbs::CallArgs& args, size_t i, int da, int a, std::string_view nome,
+                                   int se_omesso);
+
 // Argument i as a number of colpi, at least 1.
 vbs::Result<int> ColpiArgomento(const vbs::CallArgs& args, size_t i);
 

@@ -93,7 +93,7 @@ enum class Scrittura { Facoltativa, Mai };
 template <Scrittura kScrittura>
 Result<Variant> VerificaEsito(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto p, PrevisioneArgomenti(lib, args));
-  VBS_TRY_ASSIGN(auto sorte_minima, InteroTra(args, 4, 1, kNumeriPerRuota, "SorteMinima"));
+  VBS_TRY_ASSIGN(auto sorte_minima, InteroFacoltativo(args, 4, 1, kNumeriPerRuota, "SorteMinima", 1));
   if (static_cast<size_t>(sorte_minima) > p.numeri.size())
     return ArgomentoNonValido(
         fmt::format("SorteMinima {} maggiore dei numeri giocati ({})", sorte_minima, p.numeri.size()));
@@ -184,8 +184,9 @@ Result<Variant> VerificaAmbetto(Libreria& lib, CallArgs& args) {
   const EsitoPrevisione esito = stats::VerificaPrevisioneAmbetto(*p.tab, numeri, p.ruote, p.id_estr, p.colpi);
   if (scrivi) {
     const std::string riga =
-        esito.colpo > 0 ? fmt::format("ambetto ({} combinazioni) su {} al colpo {}, {}", esito.sorte,
-                                      ElencoRuote(esito.ruote), esito.colpo, Estrazione(*p.tab, esito.id_estr))
+        esito.colpo > 0 ? fmt::format("ambetto su {} al colpo {} ({} {}), {}", ElencoRuote(esito.ruote), esito.colpo,
+                                      esito.sorte, esito.sorte == 1 ? "combinazione" : "combinazioni",
+                                      Estrazione(*p.tab, esito.id_estr))
                         : SenzaVincita(esito.colpi_giocati, p.colpi);
     lib.Scrivi(riga + '\n', lib.colore_testo(), false);
   }

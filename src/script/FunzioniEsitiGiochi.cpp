@@ -33,7 +33,7 @@ Result<Variant> VerificaEsito(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto numeri, NumeriDiversi(args, 0, tab->formato().massimo));
   VBS_TRY_ASSIGN(auto id_estr, EstrazioneArgomento(tab->EstrazioniArchivio(), args, 1, 0, "IdEstr"));
   VBS_TRY_ASSIGN(auto colpi, ColpiArgomento(args, 2));
-  VBS_TRY_ASSIGN(auto sorte_minima, InteroTra(args, 3, 1, tab->formato().numeri, "SorteMinima"));
+  VBS_TRY_ASSIGN(auto sorte_minima, InteroFacoltativo(args, 3, 1, tab->formato().numeri, "SorteMinima", 1));
   if (static_cast<size_t>(sorte_minima) > numeri.size())
     return ArgomentoNonValido(
         fmt::format("SorteMinima {} maggiore dei numeri giocati ({})", sorte_minima, numeri.size()));

@@ -45,7 +45,7 @@ Result<stats::PuntataLotto> PuntataArgomenti(const CallArgs& args, size_t i_sort
   VBS_TRY_ASSIGN(auto quanti, InteroTra(args, i_numeri, 1, stats::LimitiPosteLotto().massimo_numeri,
                                         "QuantitaNumeri"));
   VBS_TRY_ASSIGN(auto posta, EuroArgomento(args, i_posta, "Posta", stats::kCentesimiPerEuro));
-  VBS_TRY_ASSIGN(auto ruote, InteroTra(args, i_ruote, 1, kNumeroRuote, "QuantitaRuote"));
+  VBS_TRY_ASSIGN(auto ruote, InteroFacoltativo(args, i_ruote, 1, kNumeroRuote, "QuantitaRuote", 1));
   stats::PuntataLotto puntata{static_cast<SorteLotto>(sorte), std::vector<int>(static_cast<size_t>(quanti)),
                               std::vector<int>(static_cast<size_t>(ruote)), posta,
                               sorte == static_cast<int>(SorteLotto::EstrattoDeterminato) ? 1 : 0};
