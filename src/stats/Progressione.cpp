@@ -37,8 +37,7 @@ Esito<std::vector<Centesimi>> VettoreProgressione(const ParametriProgressione& p
   if (p.ruote < 1 || p.ruote > kNumeroRuote)
     return AvvisoEsclamativo(fmt::format("ruote non valide: {} (da 1 a {})", p.ruote, kNumeroRuote));
   const Centesimi prima = MultiploDa(std::max(p.posta_minima, limiti.minima_sorte), p.passo);
-  if (auto controllo = ControllaPuntata(Puntata(p, std::min(prima, limiti.massima_biglietto)), p.data); !controllo)
-    return controllo.Errore();
+  if (auto controllo = ControllaPuntata(Puntata(p, prima), p.data); !controllo) return controllo.Errore();
 
   std::vector<Centesimi> poste;
   Centesimi spesa = 0;

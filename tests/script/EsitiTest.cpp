@@ -7,6 +7,8 @@
 #include <fmt/format.h>
 
 #include "LibreriaDiProva.h"
+#include "TempDir.h"
+#include "archive/ArchivioGioco.h"
 #include "stats/ArchiviDiProva.h"
 #include "stats/RegolePremi.h"
 
@@ -109,6 +111,35 @@ TEST_F(Libreria, VerificaEsitoConGuadagnoPagaComeLOperatore) {
   AvvisoErrore5("VerificaEsitoConGuadagno", "centesimi", "a stake below the cent");
   EXPECT_TRUE(Vuoto("VerificaEsitoConGuadagno(Array(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11), BA_, 1, 5, p)"));
   AvvisoErrore5("VerificaEsitoConGuadagno", "numeri", "more numbers than a ticket holds");
+}
+
+// The SuperEnalotto's twin has no wheels and counts the six main numbers only: the Jolly never
+// makes a point.
+TEST_F(Libreria, VerificaEsitoSEContaINumeriPrincipali) {
+  std::vector<EstrazioneGioco> estrazioni(4);
+  const std::array<std::array<int, 6>, 4> numeri{{{1, 2, 3, 4, 5, 6}, {7, 8, 9, 10, 11, 12}, {20, 30, 13, 14, 15, 16},
+                                                  {20, 30, 40, 17, 18, 19}}};
+  for (size_t i = 0; i < estrazioni.size(); ++i) {
+    estrazioni[i].id_estr = static_cast<int32_t>(i + 1);
+    estrazioni[i].data = stats::Data(static_cast<int>(i) + 1, 2, 2020);
+    estrazioni[i].concorso = static_cast<int16_t>(i + 10);
+    for (size_t p = 0; p < 6; ++p) estrazioni[i].numeri[p] = static_cast<uint8_t>(numeri[i][p]);
+    estrazioni[i].speciali[0] = 40;  // the Jolly
+  }
+  test::CartellaTemporanea cartella;
+  ImpostazioniLibreria impostazioni;
+  impostazioni.archivi_giochi[static_cast<size_t>(Gioco::SuperEnalotto)] = cartella / "SE.dat";
+  ASSERT_TRUE(SalvaArchivioGioco(TabellaGioco(Formato(Gioco::SuperEnalotto), estrazioni), cartella / "SE.dat"));
+  Avvia(test::Archivio().Estrazione().Tabella(), impostazioni);
+  Esegui("Dim c, id, g");
+  EXPECT_EQ(Testo("VerificaEsitoSE(Array(20, 30, 40), 1, 3, 2, True, c, id, g)"), "2");
+  EXPECT_EQ(Testo("c & \" \" & id & \" \" & g"), "2 3 2");
+  EXPECT_EQ(m_ospite.testo, "2 punti al colpo 2, concorso 12 del 03/02/2020\n");
+  m_ospite.testo.clear();
+  EXPECT_EQ(Testo("VerificaEsitoSE(Array(40, 41), 1, 2)"), "0") << "the Jolly is no point";
+  EXPECT_EQ(Testo("VerificaEsitoSE(Array(20, 30, 40), 3, 5, 3, False, c, id, g) & \" \" & g"), "3 1");
+  EXPECT_EQ(Testo("VerificaEsitoSE(Array(50), 3, 5)"), "0");
+  EXPECT_EQ(m_ospite.testo, "negativo dopo 2 colpi\nin corso: 1 colpi giocati su 5, nessuna vincita\n");
 }
 
 // The worked example of the ambetto, the wrap of the circle at 90, the neighbour that is itself
