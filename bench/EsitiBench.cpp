@@ -26,9 +26,9 @@ void VerificaEsitoTurboDaScript(benchmark::State& state) {
       u"End Sub\n";
   state.SetLabel("vinte " + EseguiOgniIterazione(state, *tab, script));
   state.counters["previsioni"] = tab->EstrazioniArchivio();
-  state.counters["per_previsione"] = benchmark::Counter(
-      static_cast<double>(tab->EstrazioniArchivio()), benchmark::Counter::kIsIterationInvariantRate |
-                                                          benchmark::Counter::kInvert);
+  state.counters["per_previsione"] =
+      benchmark::Counter(static_cast<double>(tab->EstrazioniArchivio()),
+                         benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 BENCHMARK(VerificaEsitoTurboDaScript)->Unit(benchmark::kMillisecond);
 
@@ -46,9 +46,9 @@ void VerificaPrevisioneInCpp(benchmark::State& state) {
     benchmark::DoNotOptimize(vinte);
   }
   state.SetLabel("vinte " + std::to_string(vinte));
-  state.counters["per_previsione"] = benchmark::Counter(
-      static_cast<double>(tab->EstrazioniArchivio()), benchmark::Counter::kIsIterationInvariantRate |
-                                                          benchmark::Counter::kInvert);
+  state.counters["per_previsione"] =
+      benchmark::Counter(static_cast<double>(tab->EstrazioniArchivio()),
+                         benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 BENCHMARK(VerificaPrevisioneInCpp)->Unit(benchmark::kMillisecond);
 

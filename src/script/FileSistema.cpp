@@ -61,8 +61,6 @@ Esito<std::vector<ColonnaSistema>> LeggiTestoSistema(std::string_view testo, con
   return colonne;
 }
 
-std::string RigaSistema(std::span<const int> colonna) {
-  return fmt::format("{}\n", fmt::join(colonna, " "));
-}
+std::string RigaSistema(std::span<const int> colonna) { return fmt::format("{}\n", fmt::join(colonna, " ")); }
 
 }  // namespace lottolab::script

@@ -42,7 +42,7 @@ std::string ElencoRuote(uint16_t ruote) {
   return elenco;
 }
 
-std::string Estrazione(const TabellaEstrazioni& tab, int id_estr) {
+std::string DescriviEstrazione(const TabellaEstrazioni& tab, int id_estr) {
   const GruppoData& data = tab[id_estr].data;
   return fmt::format("estr. {} del {}", data.indice_annuale, FormattaData(data));
 }
@@ -98,13 +98,12 @@ Result<Variant> VerificaEsito(Libreria& lib, CallArgs& args) {
     return ArgomentoNonValido(
         fmt::format("SorteMinima {} maggiore dei numeri giocati ({})", sorte_minima, p.numeri.size()));
   VBS_TRY_ASSIGN(auto scrivi, args.Boolean(5, true));
-  const EsitoPrevisione esito =
-      stats::VerificaPrevisione(*p.tab, p.numeri, p.ruote, p.id_estr, p.colpi, sorte_minima);
+  const EsitoPrevisione esito = stats::VerificaPrevisione(*p.tab, p.numeri, p.ruote, p.id_estr, p.colpi, sorte_minima);
   if (kScrittura == Scrittura::Facoltativa && scrivi) {
     const std::string riga =
         esito.colpo > 0
             ? fmt::format("{} su {} al colpo {}, {}", stats::NomeSorte(static_cast<stats::SorteLotto>(esito.sorte)),
-                          ElencoRuote(esito.ruote), esito.colpo, Estrazione(*p.tab, esito.id_estr))
+                          ElencoRuote(esito.ruote), esito.colpo, DescriviEstrazione(*p.tab, esito.id_estr))
             : SenzaVincita(esito.colpi_giocati, p.colpi);
     lib.Scrivi(riga + '\n', lib.colore_testo(), false);
   }
@@ -120,8 +119,8 @@ std::string VinciteDelColpo(const stats::ColpoGiocata& colpo) {
     for (const stats::VincitaGiocata& v : colpo.vincite)
       if (static_cast<int>(v.sorte) == s) ruote = static_cast<uint16_t>(ruote | (1U << (v.ruota - 1)));
     if (ruote == 0) continue;
-    testo += fmt::format("{}{} su {}", testo.empty() ? "" : ", ",
-                         stats::NomeSorte(static_cast<stats::SorteLotto>(s)), ElencoRuote(ruote));
+    testo += fmt::format("{}{} su {}", testo.empty() ? "" : ", ", stats::NomeSorte(static_cast<stats::SorteLotto>(s)),
+                         ElencoRuote(ruote));
   }
   return testo;
 }
@@ -133,8 +132,8 @@ Result<Variant> VerificaEsitoConGuadagno(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto poste, PosteArgomento(args, 4));
   VBS_TRY_ASSIGN(auto scrivi, args.Boolean(5, true));
   VBS_TRY_ASSIGN(auto ferma, args.Boolean(6, true));
-  stats::Giocata giocata{{p.numeri}, p.ruote, std::move(poste), p.id_estr + 1, p.colpi,
-                         ferma ? stats::Arresto::AllaPrimaVincita : stats::Arresto::AllaFine};
+  stats::Giocata giocata{{p.numeri},    p.ruote, std::move(poste),
+                         p.id_estr + 1, p.colpi, ferma ? stats::Arresto::AllaPrimaVincita : stats::Arresto::AllaFine};
   // A forecast on the last draw is checked against the rules of that draw's date: nothing follows it yet.
   stats::Giocata da_controllare = giocata;
   da_controllare.prima_estrazione = std::min(giocata.prima_estrazione, p.tab->EstrazioniArchivio());
@@ -154,7 +153,7 @@ Result<Variant> VerificaEsitoConGuadagno(Libreria& lib, CallArgs& args) {
   if (scrivi) {
     const int giocati = static_cast<int>(esito.colpi.size());
     std::string riga = primo ? fmt::format("{} al colpo {}, {}", VinciteDelColpo(*primo), primo->colpo,
-                                           Estrazione(*p.tab, primo->id_estr))
+                                           DescriviEstrazione(*p.tab, primo->id_estr))
                              : SenzaVincita(giocati, p.colpi);
     if (primo && esito.colpi_mancanti > 0 && !ferma)
       riga += fmt::format(" (in corso: {} colpi giocati su {})", giocati, p.colpi);
@@ -184,10 +183,10 @@ Result<Variant> VerificaAmbetto(Libreria& lib, CallArgs& args) {
   const EsitoPrevisione esito = stats::VerificaPrevisioneAmbetto(*p.tab, numeri, p.ruote, p.id_estr, p.colpi);
   if (scrivi) {
     const std::string riga =
-        esito.colpo > 0 ? fmt::format("ambetto su {} al colpo {} ({} {}), {}", ElencoRuote(esito.ruote), esito.colpo,
-                                      esito.sorte, esito.sorte == 1 ? "combinazione" : "combinazioni",
-                                      Estrazione(*p.tab, esito.id_estr))
-                        : SenzaVincita(esito.colpi_giocati, p.colpi);
+        esito.colpo > 0
+            ? fmt::format("ambetto su {} al colpo {} ({} {}), {}", ElencoRuote(esito.ruote), esito.colpo, esito.sorte,
+                          esito.sorte == 1 ? "combinazione" : "combinazioni", DescriviEstrazione(*p.tab, esito.id_estr))
+            : SenzaVincita(esito.colpi_giocati, p.colpi);
     lib.Scrivi(riga + '\n', lib.colore_testo(), false);
   }
   RestituisciEsito(args, 5, esito);

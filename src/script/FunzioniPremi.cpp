@@ -42,8 +42,7 @@ Result<GruppoData> DataArgomento(const Libreria& lib, const CallArgs& args, size
 Result<stats::PuntataLotto> PuntataArgomenti(const CallArgs& args, size_t i_sorte, size_t i_numeri, size_t i_posta,
                                              size_t i_ruote, int ultima_sorte) {
   VBS_TRY_ASSIGN(auto sorte, InteroTra(args, i_sorte, 1, ultima_sorte, "Sorte"));
-  VBS_TRY_ASSIGN(auto quanti, InteroTra(args, i_numeri, 1, stats::LimitiPosteLotto().massimo_numeri,
-                                        "QuantitaNumeri"));
+  VBS_TRY_ASSIGN(auto quanti, InteroTra(args, i_numeri, 1, stats::LimitiPosteLotto().massimo_numeri, "QuantitaNumeri"));
   VBS_TRY_ASSIGN(auto posta, EuroArgomento(args, i_posta, "Posta", stats::kCentesimiPerEuro));
   VBS_TRY_ASSIGN(auto ruote, InteroFacoltativo(args, i_ruote, 1, kNumeroRuote, "QuantitaRuote", 1));
   stats::PuntataLotto puntata{static_cast<SorteLotto>(sorte), std::vector<int>(static_cast<size_t>(quanti)),
@@ -63,8 +62,7 @@ Result<Centesimi> PremioInVigore(const stats::PuntataLotto& puntata, const Grupp
 
 // Sorte, QuantitaNumeri, [Posta = 1], [QuantitaRuote = 1], [IdEstr].
 Result<Variant> GetPremioLotto(Libreria& lib, CallArgs& args) {
-  VBS_TRY_ASSIGN(auto puntata,
-                 PuntataArgomenti(args, 0, 1, 2, 3, static_cast<int>(SorteLotto::EstrattoDeterminato)));
+  VBS_TRY_ASSIGN(auto puntata, PuntataArgomenti(args, 0, 1, 2, 3, static_cast<int>(SorteLotto::EstrattoDeterminato)));
   VBS_TRY_ASSIGN(auto data, DataArgomento(lib, args, 4));
   VBS_TRY_ASSIGN(auto premio, PremioInVigore(puntata, data));
   return Euro(premio);
@@ -90,7 +88,7 @@ Result<Variant> Vincita(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto ruote, RuoteDellaGiocata(args, 1));
   VBS_TRY_ASSIGN(auto id_estr, EstrazioneArgomento(*tab, args, 2, 0, "IdEstr"));
   VBS_TRY_ASSIGN(auto poste, PosteArgomento(args, 3));
-  const stats::Giocata giocata{{std::move(numeri)}, std::move(ruote), std::move(poste), id_estr, 1,
+  const stats::Giocata giocata{{std::move(numeri)},     std::move(ruote), std::move(poste), id_estr, 1,
                                stats::Arresto::AllaFine};
   if (auto controllo = stats::ControllaGiocata(giocata, *tab); !controllo) return Rifiuto(controllo.Errore());
   const stats::EsitoGiocata esito = stats::VerificaGiocata(giocata, *tab);

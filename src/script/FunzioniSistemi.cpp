@@ -201,8 +201,8 @@ Result<Variant> SalvaColonnaSistema(Libreria& lib, CallArgs& args) {
   }
   for (const ColonnaSistema& colonna : nuove) testo += RigaSistema(colonna);
   if (testo.size() > kLimiteFileSistema)
-    return ArgomentoNonValido(fmt::format("Il file {} supererebbe i 16 MB: le colonne non vengono salvate",
-                                          file.string()));
+    return ArgomentoNonValido(
+        fmt::format("Il file {} supererebbe i 16 MB: le colonne non vengono salvate", file.string()));
   lib.Stato<StatoFileSistema>().file.clear();
   if (auto scritto = SostituisciFile(file, testo); !scritto) return ArgomentoNonValido(scritto.Errore().testo);
   return Variant::Long(static_cast<int32_t>(quante + nuove.size()));

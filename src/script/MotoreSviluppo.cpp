@@ -21,8 +21,8 @@ Variant ConteggioSviluppo(double conteggio) {
 Result<int> LivelloArgomento(const CallArgs& args, size_t i, int classe) {
   VBS_TRY_ASSIGN(auto livello, args.Long(i));
   if (livello < 1 || livello > classe)
-    return ArgomentoNonValido(
-        fmt::format("Livello {} non valido: deve essere compreso tra 1 e {}, la classe dello sviluppo", livello, classe));
+    return ArgomentoNonValido(fmt::format(
+        "Livello {} non valido: deve essere compreso tra 1 e {}, la classe dello sviluppo", livello, classe));
   return livello;
 }
 

@@ -17,10 +17,10 @@ struct ParametriProgressione {
   int numeri = 2;                       // played on the sorte, up to a ticket's 10
   int ruote = 1;                        // 1..11: the stake is split over them
   int colpi = 1;
-  Centesimi utile = 0;                  // the profit every colpo's win must leave
-  Centesimi posta_minima = 100;         // the stake of the first colpo, at least
-  Centesimi passo = 50;                 // every stake a multiple of it
-  GruppoData data;                      // the prize table and the tax of that date
+  Centesimi utile = 0;           // the profit every colpo's win must leave
+  Centesimi posta_minima = 100;  // the stake of the first colpo, at least
+  Centesimi passo = 50;          // every stake a multiple of it
+  GruppoData data;               // the prize table and the tax of that date
 };
 
 // The stakes of the colpi that can be covered, from the first; fewer than `colpi` when the

@@ -50,7 +50,8 @@ TEST_F(Libreria, VerificaEsitoSiChiudeAllaPrimaVincitaEDiceSeLaPrevisioneEInCors
   };
   const Caso casi[] = {
       {"Array(30, 31), BA_, 1, 5, 1", "1", "2 3 1 2", "estratto su BA al colpo 2, estr. 3 del 03/01/2020\n"},
-      {"Array(30, 31), Array(BA_, VE_), 1, 5, 2", "2", "3 4 1 3", "ambo su BA, VE al colpo 3, estr. 4 del 04/01/2020\n"},
+      {"Array(30, 31), Array(BA_, VE_), 1, 5, 2", "2", "3 4 1 3",
+       "ambo su BA, VE al colpo 3, estr. 4 del 04/01/2020\n"},
       {"Array(30, 31), TT_, 1, 5, 2", "2", "3 4 1 3", "ambo su BA, VE al colpo 3, estr. 4 del 04/01/2020\n"},
       // Tutte are the ten city wheels: the ambo on Nazionale alone is not a win of theirs.
       {"Array(30, 31), TT_, 4, 2, 2", "0", "0 0 0 2", "negativo dopo 2 colpi\n"},
@@ -91,8 +92,9 @@ TEST_F(Libreria, VerificaEsitoConGuadagnoPagaComeLOperatore) {
   // Ambo at colpo 3 on Bari: 250 gross less 8% is 230, after 3 euro spent.
   EXPECT_EQ(Testo("VerificaEsitoConGuadagno(Array(30, 31), BA_, 1, 5, p, True, True, s, v, c)"), "227");
   EXPECT_EQ(Testo("s & \" \" & v & \" \" & c"), "3 230 3");
-  EXPECT_EQ(m_ospite.testo, "ambo su BA al colpo 3, estr. 4 del 04/01/2020: spesa 3,00, vinti 230,00 netti "
-                            "(250,00 lordi), guadagno 227,00 euro\n");
+  EXPECT_EQ(m_ospite.testo,
+            "ambo su BA al colpo 3, estr. 4 del 04/01/2020: spesa 3,00, vinti 230,00 netti "
+            "(250,00 lordi), guadagno 227,00 euro\n");
   // The euro on the ambo is split over two wheels, and each where it comes out pays; the estratto
   // (1 euro over two numbers and two wheels, 2.81 a number) pays on Bari at colpo 2 and on both at
   // colpo 3, with the ambo.
@@ -117,8 +119,8 @@ TEST_F(Libreria, VerificaEsitoConGuadagnoPagaComeLOperatore) {
 // makes a point.
 TEST_F(Libreria, VerificaEsitoSEContaINumeriPrincipali) {
   std::vector<EstrazioneGioco> estrazioni(4);
-  const std::array<std::array<int, 6>, 4> numeri{{{1, 2, 3, 4, 5, 6}, {7, 8, 9, 10, 11, 12}, {20, 30, 13, 14, 15, 16},
-                                                  {20, 30, 40, 17, 18, 19}}};
+  const std::array<std::array<int, 6>, 4> numeri{
+      {{1, 2, 3, 4, 5, 6}, {7, 8, 9, 10, 11, 12}, {20, 30, 13, 14, 15, 16}, {20, 30, 40, 17, 18, 19}}};
   for (size_t i = 0; i < estrazioni.size(); ++i) {
     estrazioni[i].id_estr = static_cast<int32_t>(i + 1);
     estrazioni[i].data = stats::Data(static_cast<int>(i) + 1, 2, 2020);
@@ -214,8 +216,8 @@ TEST_F(Libreria, VerificaEsitoSulLArchivioRealeEQuelloDiUnCicloSemplice) {
           }
         }
       }
-      const std::string chiamata = fmt::format("VerificaEsitoTurbo(Array({}, {}), {}, {}, {}, {}, False, c, id, r, g)", a,
-                                               b, nomi_ruote[g], dopo, quanti_colpi, sorte_minima);
+      const std::string chiamata = fmt::format("VerificaEsitoTurbo(Array({}, {}), {}, {}, {}, {}, False, c, id, r, g)",
+                                               a, b, nomi_ruote[g], dopo, quanti_colpi, sorte_minima);
       ASSERT_EQ(Testo(chiamata), std::to_string(sorte)) << chiamata;
       ASSERT_EQ(Testo("c & \" \" & id & \" \" & r & \" \" & g"),
                 fmt::format("{} {} {} {}", colpo, id_vinta, ruota, giocati))

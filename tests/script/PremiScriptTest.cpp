@@ -13,8 +13,7 @@ namespace {
 // Three draws across the changes of the rules: 2004 (tax 3%, no estratto determinato, no largest
 // win), 2006 (6%) and 2020 (8%). Bari holds 10, 20 and 30 in the last one.
 TabellaEstrazioni TreEpoche() {
-  TabellaEstrazioni tab =
-      test::Archivio().Estrazione().Estrazione().Estrazione({{BA, {10, 20, 30, 40, 50}}}).Tabella();
+  TabellaEstrazioni tab = test::Archivio().Estrazione().Estrazione().Estrazione({{BA, {10, 20, 30, 40, 50}}}).Tabella();
   tab[1].data = stats::Data(6, 3, 2004);
   tab[2].data = stats::Data(4, 3, 2006);
   tab[3].data = stats::Data(7, 3, 2020);
@@ -55,12 +54,9 @@ TEST_F(Libreria, IPremiDelLottoSonoQuelliDellaTabellaInVigoreAllaData) {
   EXPECT_EQ(Testo("GetPremioPerSorte(5, 5, 5, 2, 1, 3)"), "6000000");
 
   const std::pair<std::string, std::string> errori[] = {
-      {"GetPremioLotto(2, 11)", "QuantitaNumeri"},
-      {"GetPremioLotto(3, 2)", "numeri"},
-      {"GetPremioLotto(8, 2)", "Sorte"},
-      {"GetPremioLotto(2, 2, 0.001)", "centesimi"},
-      {"GetPremioLotto(2, 2, 0.01)", "posta"},
-      {"GetPremioLotto(2, 2, 1, 12)", "QuantitaRuote"},
+      {"GetPremioLotto(2, 11)", "QuantitaNumeri"}, {"GetPremioLotto(3, 2)", "numeri"},
+      {"GetPremioLotto(8, 2)", "Sorte"},           {"GetPremioLotto(2, 2, 0.001)", "centesimi"},
+      {"GetPremioLotto(2, 2, 0.01)", "posta"},     {"GetPremioLotto(2, 2, 1, 12)", "QuantitaRuote"},
       {"GetPremioPerSorte(2, 3, 4)", "Punti"},
   };
   for (const auto& [chiamata, parola] : errori) {

@@ -44,7 +44,6 @@ TEST_F(Libreria, UnSistemaRidottoHaINumeriDelloScriptEMantieneLaGaranzia) {
   AvvisoErrore5("GetMatriceSistemaRidotto", "diversi", "a number given twice");
 }
 
-
 // The columns GetCombSviluppoRid gives one at a time are the matrix's, for the system it built
 // from its own arguments and for the one GetMatriceSistemaRidotto built.
 TEST_F(Libreria, GetCombSviluppoRidDaLeColonneDelSistemaUnaAllaVolta) {

@@ -40,11 +40,10 @@ TEST(Progressione, OgniColpoVincenteRipagaLaSpesaEDaLUtile) {
         for (Centesimi utile : {0, 500})
           for (auto [minima, passo] : {std::pair<Centesimi, Centesimi>{100, 50}, {5, 5}, {300, 100}})
             for (GruppoData data : {Data(4, 3, 2004), Data(7, 3, 2020)}) {
-              const ParametriProgressione p{static_cast<SorteLotto>(sorte), numeri, ruote, 60, utile, minima, passo,
-                                            data};
-              const std::string dove =
-                  fmt::format("sorte {} numeri {} ruote {} utile {} minima {} passo {} anno {}", sorte, numeri, ruote,
-                              utile, minima, passo, data.anno);
+              const ParametriProgressione p{
+                  static_cast<SorteLotto>(sorte), numeri, ruote, 60, utile, minima, passo, data};
+              const std::string dove = fmt::format("sorte {} numeri {} ruote {} utile {} minima {} passo {} anno {}",
+                                                   sorte, numeri, ruote, utile, minima, passo, data.anno);
               auto poste = VettoreProgressione(p);
               ASSERT_TRUE(poste) << dove;
               Centesimi spesa = 0;
@@ -73,14 +72,10 @@ TEST(Progressione, OgniColpoVincenteRipagaLaSpesaEDaLUtile) {
 TEST(Progressione, ParametriRifiutati) {
   const GruppoData oggi = Data(7, 3, 2020);
   const ParametriProgressione casi[] = {
-      {SorteLotto::Ambetto, 2, 1, 10, 0, 100, 50, oggi},
-      {SorteLotto::Ambo, 1, 1, 10, 0, 100, 50, oggi},
-      {SorteLotto::Ambo, 11, 1, 10, 0, 100, 50, oggi},
-      {SorteLotto::Ambo, 2, 0, 10, 0, 100, 50, oggi},
-      {SorteLotto::Ambo, 2, 1, 0, 0, 100, 50, oggi},
-      {SorteLotto::Ambo, 2, 1, 10, -1, 100, 50, oggi},
-      {SorteLotto::Ambo, 2, 1, 10, 0, 100, 0, oggi},
-      {SorteLotto::Ambo, 2, 1, 10, 0, 30000, 50, oggi},
+      {SorteLotto::Ambetto, 2, 1, 10, 0, 100, 50, oggi}, {SorteLotto::Ambo, 1, 1, 10, 0, 100, 50, oggi},
+      {SorteLotto::Ambo, 11, 1, 10, 0, 100, 50, oggi},   {SorteLotto::Ambo, 2, 0, 10, 0, 100, 50, oggi},
+      {SorteLotto::Ambo, 2, 1, 0, 0, 100, 50, oggi},     {SorteLotto::Ambo, 2, 1, 10, -1, 100, 50, oggi},
+      {SorteLotto::Ambo, 2, 1, 10, 0, 100, 0, oggi},     {SorteLotto::Ambo, 2, 1, 10, 0, 30000, 50, oggi},
   };
   for (const ParametriProgressione& p : casi) {
     auto poste = VettoreProgressione(p);
