@@ -31,10 +31,20 @@ namespace {
 namespace fs = std::filesystem;
 using namespace famiglia;
 
+// What a reduced system is built from.
+struct RichiestaSistema {
+  std::vector<int> numeri;
+  int32_t classe = 0;
+  int32_t garanzia = 0;
+  int32_t condizione = 0;
+  friend bool operator==(const RichiestaSistema&, const RichiestaSistema&) = default;
+};
+
 // The last system built by GetMatriceSistemaRidotto or GetCombSviluppoRid, in the script's numbers,
-// and the next column GetCombSviluppoRid gives.
+// what it was built from, and the next column GetCombSviluppoRid gives.
 struct StatoSistemaRidotto {
   std::optional<std::vector<ColonnaSistema>> colonne;
+  RichiestaSistema richiesta;
   size_t prossima = 0;
 };
 
@@ -47,37 +57,50 @@ struct StatoFileSistema {
 };
 
 // aNumeri, Classe, Garanzia at i, i + 1, i + 2, and [Condizione = Garanzia] at `i_condizione`.
-Result<std::vector<ColonnaSistema>> CostruisciSistema(Libreria& lib, const CallArgs& args, size_t i,
-                                                      size_t i_condizione) {
+Result<RichiestaSistema> RichiestaArgomenti(const CallArgs& args, size_t i, size_t i_condizione) {
+  RichiestaSistema richiesta;
   VBS_TRY_ASSIGN(auto numeri, NumeriArgomento(args, i));
   if (std::set<int>(numeri.begin(), numeri.end()).size() != numeri.size())
     return ArgomentoNonValido("I numeri del sistema devono essere tutti diversi");
-  const int quanti = static_cast<int>(numeri.size());
+  richiesta.numeri = std::move(numeri);
   VBS_TRY_ASSIGN(auto classe, args.Long(i + 1));
+  richiesta.classe = classe;
   VBS_TRY_ASSIGN(auto garanzia, args.Long(i + 2));
+  richiesta.garanzia = garanzia;
   VBS_TRY_ASSIGN(auto condizione, args.Long(i_condizione, garanzia));
+  richiesta.condizione = condizione;
+  return richiesta;
+}
+
+// The system asked for, which becomes the one GetCombSviluppoRid walks, from its first column.
+Result<const std::vector<ColonnaSistema>*> CostruisciSistema(Libreria& lib, RichiestaSistema richiesta) {
   stats::ControlloSistema controllo;
   controllo.interrompi = [&lib] { return !lib.ControllaInterruzione(); };
-  auto sistema = stats::CostruisciSistemaRidotto(
-      {.numeri = quanti, .classe = classe, .garanzia = garanzia, .condizione = condizione, .seme = 1}, controllo);
+  auto sistema = stats::CostruisciSistemaRidotto({.numeri = static_cast<int>(richiesta.numeri.size()),
+                                                  .classe = richiesta.classe,
+                                                  .garanzia = richiesta.garanzia,
+                                                  .condizione = richiesta.condizione,
+                                                  .seme = 1},
+                                                 controllo);
   VBS_TRY(lib.ControllaInterruzione());
   if (!sistema) return ArgomentoNonValido(sistema.Errore().testo);
   std::vector<ColonnaSistema> colonne;
   for (const auto& posizioni : sistema->colonne) {
     ColonnaSistema colonna;
-    for (int posizione : posizioni) colonna.push_back(numeri[static_cast<size_t>(posizione - 1)]);
+    for (int posizione : posizioni) colonna.push_back(richiesta.numeri[static_cast<size_t>(posizione - 1)]);
     colonne.push_back(std::move(colonna));
   }
   auto& stato = lib.Stato<StatoSistemaRidotto>();
-  stato.colonne = colonne;
-  stato.prossima = 0;
-  return colonne;
+  stato = {std::move(colonne), std::move(richiesta), 0};
+  return &*stato.colonne;
 }
 
 // aNumeri, Classe, Garanzia, aRet, [Condizione = Garanzia]: aRet(colonna, 1..Classe) the columns
 // with the script's numbers; the number of columns.
 Result<Variant> GetMatriceSistemaRidotto(Libreria& lib, CallArgs& args) {
-  VBS_TRY_ASSIGN(auto colonne, CostruisciSistema(lib, args, 0, 4));
+  VBS_TRY_ASSIGN(auto richiesta, RichiestaArgomenti(args, 0, 4));
+  VBS_TRY_ASSIGN(auto costruite, CostruisciSistema(lib, std::move(richiesta)));
+  const std::vector<ColonnaSistema>& colonne = *costruite;
   const auto quante = static_cast<int32_t>(colonne.size());
   const auto classe = static_cast<int32_t>(colonne.empty() ? 0 : colonne.front().size());
   const vbs::ArrayBound limiti[] = {{1, quante}, {1, classe}};
@@ -90,14 +113,16 @@ Result<Variant> GetMatriceSistemaRidotto(Libreria& lib, CallArgs& args) {
   return Variant::Long(quante);
 }
 
-// aRet, [aNumeri, Classe, Garanzia, [Condizione = Garanzia]]: the next column of the system.
+// aRet, [aNumeri, Classe, Garanzia, [Condizione = Garanzia]]: the next column of the system. The
+// same arguments call after call walk one system, so that they can sit in the loop's condition.
 Result<Variant> GetCombSviluppoRid(Libreria& lib, CallArgs& args) {
+  auto& stato = lib.Stato<StatoSistemaRidotto>();
   if (args.Has(1)) {
     if (!args.Has(2) || !args.Has(3))
-      return ArgomentoNonValido("Per un nuovo sistema servono aNumeri, Classe e Garanzia");
-    VBS_TRY(CostruisciSistema(lib, args, 1, 4));
+      return ArgomentoNonValido("Per un sistema ridotto servono aNumeri, Classe e Garanzia");
+    VBS_TRY_ASSIGN(auto richiesta, RichiestaArgomenti(args, 1, 4));
+    if (!stato.colonne || !(richiesta == stato.richiesta)) VBS_TRY(CostruisciSistema(lib, std::move(richiesta)));
   }
-  auto& stato = lib.Stato<StatoSistemaRidotto>();
   if (!stato.colonne)
     return ArgomentoNonValido(
         "Nessun sistema ridotto da sviluppare: darlo a GetCombSviluppoRid con aNumeri, Classe e Garanzia, o "
@@ -217,8 +242,10 @@ const Libreria::Funzione kSistemi[] = {
     {"GetCombSviluppoRid", 1, 5, &GetCombSviluppoRid,
      "aRet, [aNumeri, Classe, Garanzia, [Condizione = Garanzia]]: mette in aRet la colonna successiva del sistema "
      "ridotto come array con indice da 1 e restituisce True; False, lasciando aRet invariato, dopo l'ultima. Con "
-     "aNumeri, Classe e Garanzia costruisce prima un nuovo sistema come GetMatriceSistemaRidotto e ne dà la prima "
-     "colonna; senza, continua l'ultimo sistema costruito (da GetMatriceSistemaRidotto, che lo fa ripartire)"},
+     "aNumeri, Classe e Garanzia diversi da quelli del sistema in corso ne costruisce uno nuovo come "
+     "GetMatriceSistemaRidotto e ne dà la prima colonna; uguali, o senza, continua il sistema in corso, l'ultimo "
+     "costruito (anche da GetMatriceSistemaRidotto, che lo fa ripartire): Do While GetCombSviluppoRid(c, a, 3, 2) "
+     "dà tutte le colonne una volta"},
     {"LeggiColonnaSistema", 3, 3, &LeggiColonnaSistema,
      "NomeFile, NumeroColonna, aRet: mette in aRet la colonna NumeroColonna (da 1) del file di colonne NomeFile, come "
      "array con indice da 1, e restituisce True; False dopo l'ultima colonna. Il file ha una colonna per riga, i "

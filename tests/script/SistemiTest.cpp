@@ -60,6 +60,11 @@ TEST_F(Libreria, GetCombSviluppoRidDaLeColonneDelSistemaUnaAllaVolta) {
   EXPECT_EQ(Testo("righe = n And uguali"), "Vero");
   EXPECT_EQ(Testo("GetCombSviluppoRid(c)"), "Falso") << "the walk stays at its end";
   EXPECT_EQ(Testo("GetCombSviluppoRid(c, Array(1, 2, 3, 4, 5), 2, 2) & \" \" & c(1) & \" \" & c(2)"), "Vero 1 2");
+  // The same arguments in the loop's condition walk on through that system: the nine other ambi.
+  Esegui("Dim v : v = 0 : Do While GetCombSviluppoRid(c, Array(1, 2, 3, 4, 5), 2, 2) : v = v + 1 : Loop");
+  EXPECT_EQ(Testo("v"), "9");
+  EXPECT_EQ(Testo("GetCombSviluppoRid(c, Array(1, 2, 3, 4, 6), 2, 2) & \" \" & c(2)"), "Vero 2")
+      << "other numbers, another system from its first column";
   EXPECT_TRUE(Vuoto("GetCombSviluppoRid(c, Array(1, 2, 3, 4, 5))"));
   AvvisoErrore5("GetCombSviluppoRid", "Classe", "a system without its class");
 }
