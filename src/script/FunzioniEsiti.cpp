@@ -168,19 +168,18 @@ Result<Variant> VerificaEsitoConGuadagno(Libreria& lib, CallArgs& args) {
   return Euro(esito.saldo);
 }
 
-Result<std::vector<int>> NumeriAmbetto(const CallArgs& args, size_t i) {
-  VBS_TRY_ASSIGN(auto numeri, NumeriDiversi(args, i));
-  if (stats::CombinazioniAmbetto(numeri) == 0 || numeri.size() < 2)
+vbs::Status ControllaAmbetto(std::span<const int> numeri) {
+  if (numeri.size() < 2 || stats::CombinazioniAmbetto(numeri) == 0)
     return ArgomentoNonValido("Questi numeri non formano nessun ambetto: ne servono almeno due");
-  return numeri;
+  return vbs::Ok();
 }
 
 // aNumeri, aRuote, IdEstr, Colpi, [Scrivi = True], [RetColpo], [RetIdEstr], [RetRuota], [RetColpiGiocati].
 Result<Variant> VerificaAmbetto(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto p, PrevisioneArgomenti(lib, args));
-  VBS_TRY_ASSIGN(auto numeri, NumeriAmbetto(args, 0));
+  VBS_TRY(ControllaAmbetto(p.numeri));
   VBS_TRY_ASSIGN(auto scrivi, args.Boolean(4, true));
-  const EsitoPrevisione esito = stats::VerificaPrevisioneAmbetto(*p.tab, numeri, p.ruote, p.id_estr, p.colpi);
+  const EsitoPrevisione esito = stats::VerificaPrevisioneAmbetto(*p.tab, p.numeri, p.ruote, p.id_estr, p.colpi);
   if (scrivi) {
     const std::string riga =
         esito.colpo > 0
@@ -195,7 +194,8 @@ Result<Variant> VerificaAmbetto(Libreria& lib, CallArgs& args) {
 
 // aNumeri, aEstratti.
 Result<Variant> TestAmbetto(Libreria&, CallArgs& args) {
-  VBS_TRY_ASSIGN(auto numeri, NumeriAmbetto(args, 0));
+  VBS_TRY_ASSIGN(auto numeri, NumeriDiversi(args, 0));
+  VBS_TRY(ControllaAmbetto(numeri));
   VBS_TRY_ASSIGN(auto estratti, NumeriDiversi(args, 1));
   if (estratti.size() > kNumeriPerRuota)
     return ArgomentoNonValido(fmt::format("aEstratti ha {} numeri: una ruota ne estrae 5", estratti.size()));
