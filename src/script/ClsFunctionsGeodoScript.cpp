@@ -49,7 +49,10 @@ const Tabella& TabellaCompleta() {
                           FunzioniSistemi(),
                           FunzioniGiocate(),
                           FunzioniGiocateGiochi(),
-                          FunzioniGiocateAgenda()})
+                          FunzioniGiocateAgenda(),
+                          FunzioniEsiti(),
+                          FunzioniEsitiGiochi(),
+                          FunzioniPremi()})
       t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =

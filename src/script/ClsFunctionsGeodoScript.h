@@ -196,5 +196,8 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniSistemi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocate();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocateGiochi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocateAgenda();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEsiti();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEsitiGiochi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPremi();
 
 }  // namespace lottolab::script

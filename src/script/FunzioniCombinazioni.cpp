@@ -4,7 +4,9 @@
 //
 // A development can be walked one group at a time (Init..., then Get... in a loop), which needs no
 // memory whatever its size, or produced whole as a matrix, which is refused beyond a size that
-// would exhaust memory.
+// would exhaust memory. The integral development of the run can skip a whole branch
+// (ForzaIncrementoPuntatoreSvilSisInt); GetMotoreSviluppoIntegrale gives one as an object of its
+// own, for scripts that walk several at once.
 
 #include <fmt/format.h>
 
@@ -12,7 +14,6 @@
 #include <cmath>
 #include <cstddef>
 #include <iterator>
-#include <limits>
 #include <numeric>
 #include <optional>
 #include <random>
@@ -20,8 +21,10 @@
 #include "ArgomentiLotto.h"
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
+#include "MotoreSviluppo.h"
 #include "stats/Combinazioni.h"
 #include "stats/Numeri.h"
+#include "stats/SviluppoIntegrale.h"
 #include "text/Utf.h"
 #include "vbscript/runtime/Interpreter.h"
 #include "vbscript/value/SafeArray.h"
@@ -40,11 +43,7 @@ constexpr size_t kGruppiTraControlli = 4096;
 // The widest range the random functions walk or shuffle.
 constexpr int32_t kMassimoIntervalloCasuale = 10'000'000;
 
-// A count as a Long while it fits, a Double beyond.
-Variant Conteggio(double conteggio) {
-  if (conteggio <= std::numeric_limits<int32_t>::max()) return Variant::Long(static_cast<int32_t>(conteggio));
-  return Variant::Double(conteggio);
-}
+Variant Conteggio(double conteggio) { return ConteggioSviluppo(conteggio); }
 
 // The elements of an array argument as given, Empty ones (the unused element 0 of scripts' arrays)
 // left out; a single value is a group of one.
@@ -98,7 +97,7 @@ struct Sviluppo {
 };
 
 struct StatoSviluppi {
-  Sviluppo<stats::SviluppoCombinazioni> integrale;
+  Sviluppo<stats::SviluppoIntegrale> integrale;
   Sviluppo<stats::SviluppoDisposizioni> permutazioni;
 };
 
@@ -144,21 +143,38 @@ Result<Variant> ProssimoGruppo(Libreria& lib, CallArgs& args) {
   return Variant::Boolean(true);
 }
 
+using stats::SviluppoIntegrale;
+
 Result<Variant> GetCombSviluppate(Libreria& lib, CallArgs&) {
-  VBS_TRY_ASSIGN(auto sviluppo, SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib));
+  VBS_TRY_ASSIGN(auto sviluppo, SviluppoAvviato<SviluppoIntegrale, &StatoSviluppi::integrale>(lib));
   return Conteggio((sviluppo)->motore->Sviluppati());
 }
 
 Result<Variant> GetNumPerSviluppo(Libreria& lib, CallArgs& args) {
-  VBS_TRY_ASSIGN(auto sviluppo, SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib));
+  VBS_TRY_ASSIGN(auto sviluppo, SviluppoAvviato<SviluppoIntegrale, &StatoSviluppi::integrale>(lib));
   args.Out(0) = ArrayDaUno((sviluppo)->elementi);
   return Variant::Long(static_cast<int32_t>((sviluppo)->elementi.size()));
 }
 
 Result<Variant> GetPercCombSviluppate(Libreria& lib, CallArgs&) {
-  VBS_TRY_ASSIGN(auto sviluppo, SviluppoAvviato<stats::SviluppoCombinazioni, &StatoSviluppi::integrale>(lib));
+  VBS_TRY_ASSIGN(auto sviluppo, SviluppoAvviato<SviluppoIntegrale, &StatoSviluppi::integrale>(lib));
   const auto& motore = *(sviluppo)->motore;
   return Variant::Double(100 * motore.Sviluppati() / motore.Totale());
+}
+
+// Livello: past every combination sharing the current one's first Livello elements.
+Result<Variant> ForzaIncrementoPuntatoreSvilSisInt(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto sviluppo, SviluppoAvviato<SviluppoIntegrale, &StatoSviluppi::integrale>(lib));
+  auto& motore = *(sviluppo)->motore;
+  VBS_TRY_ASSIGN(auto livello, LivelloArgomento(args, 0, static_cast<int>(motore.Gruppo().size())));
+  return Conteggio(motore.Salta(livello));
+}
+
+// aNumeri, Classe: a development object of its own.
+Result<Variant> GetMotoreSviluppoIntegrale(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto elementi, ElementiArgomento(args, 0));
+  VBS_TRY_ASSIGN(auto classe, ClasseArgomento(args, 1, elementi.size()));
+  return Variant::Object(vbs::MakeRef<MotoreSviluppoIntegrale>(lib.locale(), std::move(elementi), classe));
 }
 
 // The matrix (group, element), 1-based in both dimensions; stored column-major, so element j of
@@ -449,18 +465,31 @@ const Libreria::Funzione kCombinazioni[] = {
      "N, [K = N]: le disposizioni di N elementi di classe K, N! / (N - K)! (Long, Double se più grande)"},
     {"FattN", 1, 1, &Fattoriale, "N: N! come Double, con N da 0 a 170"},
     {"FattorialeNum", 1, 1, &Fattoriale, "N: N! come Double, con N da 0 a 170, come FattN"},
-    {"InitSviluppoIntegrale", 2, 2, &InitSviluppo<SviluppoCombinazioni, &StatoSviluppi::integrale>,
+    {"InitSviluppoIntegrale", 2, 2, &InitSviluppo<SviluppoIntegrale, &StatoSviluppi::integrale>,
      "aNumeri, Classe: prepara lo sviluppo di tutte le combinazioni di classe Classe dei numeri, in ordine "
      "lessicografico delle loro posizioni; restituisce quante sono"},
-    {"GetCombSviluppo", 1, 1, &ProssimoGruppo<SviluppoCombinazioni, &StatoSviluppi::integrale>,
+    {"GetCombSviluppo", 1, 1, &ProssimoGruppo<SviluppoIntegrale, &StatoSviluppi::integrale>,
      "aRet: mette in aRet la combinazione successiva dello sviluppo come array con indice da 1 e restituisce True; "
      "False, lasciando aRet invariato, quando tutte le combinazioni sono già state date"},
-    {"GetCombSviluppate", 0, 0, &GetCombSviluppate, "il numero di combinazioni dello sviluppo date finora"},
+    {"GetCombSviluppate", 0, 0, &GetCombSviluppate,
+     "il numero di combinazioni dello sviluppo date finora, comprese quelle saltate da "
+     "ForzaIncrementoPuntatoreSvilSisInt"},
     {"GetNumPerSviluppo", 1, 1, &GetNumPerSviluppo,
      "aRet: riempie aRet con i numeri dello sviluppo di InitSviluppoIntegrale, nell'ordine in cui furono dati, "
      "come array con indice da 1, e restituisce quanti sono"},
     {"GetPercCombSviluppate", 0, 0, &GetPercCombSviluppate,
-     "la percentuale, 0..100, delle combinazioni dello sviluppo date finora (Double)"},
+     "la percentuale, 0..100, delle combinazioni dello sviluppo date (o saltate) finora (Double)"},
+    {"ForzaIncrementoPuntatoreSvilSisInt", 1, 1, &ForzaIncrementoPuntatoreSvilSisInt,
+     "Livello: nello sviluppo di InitSviluppoIntegrale, salta tutte le combinazioni che hanno i primi Livello "
+     "(1..Classe) elementi uguali a quelli della combinazione corrente, così che GetCombSviluppo dia la prima che ne "
+     "differisce: per scartare in un passo un ramo di una ricerca. Restituisce quante combinazioni ha saltato (0 "
+     "prima della prima combinazione, dopo l'ultima o con Livello = Classe)"},
+    {"GetMotoreSviluppoIntegrale", 2, 2, &GetMotoreSviluppoIntegrale,
+     "aNumeri, Classe: un oggetto con uno sviluppo integrale tutto suo delle combinazioni di classe Classe di "
+     "aNumeri, nell'ordine di InitSviluppoIntegrale, per tenere più sviluppi in corso insieme; i suoi metodi "
+     "GetCombSviluppo(aRet), GetCombSviluppate, GetPercCombSviluppate, GetNumPerSviluppo(aRet), "
+     "ForzaIncrementoPuntatoreSvilSisInt(Livello) fanno ciò che fanno le funzioni dello stesso nome, "
+     "QuantitaCombinazioni dice quante sono, Riavvia ricomincia dalla prima"},
     {"SviluppoIntegrale", 3, 3, &SviluppoCompleto<SviluppoCombinazioni>,
      "aNumeri, Classe, aRet: riempie aRet con tutte le combinazioni di classe Classe dei numeri come matrice "
      "aRet(combinazione, elemento), con indici da 1, in ordine lessicografico; restituisce quante sono; uno sviluppo "

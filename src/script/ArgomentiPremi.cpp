@@ -1,0 +1,99 @@
+#include "ArgomentiPremi.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+
+#include "ArgomentiLotto.h"
+#include "ArgomentiRitardi.h"
+#include "stats/Numeri.h"
+#include "vbscript/value/SafeArray.h"
+
+namespace lottolab::script {
+
+namespace {
+
+using vbs::CallArgs;
+using vbs::Result;
+
+constexpr double kMassimoEuro = 1e9;
+
+Result<stats::Centesimi> Centesimi(double euro, std::string_view nome) {
+  const double centesimi = euro * stats::kCentesimiPerEuro;
+  if (!(euro >= 0 && euro <= kMassimoEuro))
+    return ArgomentoNonValido(fmt::format("{} non valida: {} (da 0 a un miliardo di euro)", nome, euro));
+  const double intero = std::nearbyint(centesimi);
+  if (std::abs(centesimi - intero) > 1e-6)
+    return ArgomentoNonValido(fmt::format("{} non valida: {} euro non è un numero intero di centesimi", nome, euro));
+  return static_cast<stats::Centesimi>(intero);
+}
+
+}  // namespace
+
+Result<stats::Centesimi> EuroArgomento(const CallArgs& args, size_t i, std::string_view nome) {
+  VBS_TRY_ASSIGN(auto euro, args.Double(i));
+  return Centesimi(euro, nome);
+}
+
+Result<stats::Centesimi> EuroArgomento(const CallArgs& args, size_t i, std::string_view nome,
+                                       stats::Centesimi se_omesso) {
+  if (!args.Has(i)) return se_omesso;
+  return EuroArgomento(args, i, nome);
+}
+
+Result<std::vector<stats::PostaSorte>> PosteArgomento(const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto valore, args.Value(i));
+  constexpr std::string_view kForma =
+      "Le poste vanno date in un array aPoste con gli indici da 1 (estratto) a 5 (cinquina), in euro";
+  if (!valore.is_array()) return ArgomentoNonValido(kForma);
+  std::vector<stats::PostaSorte> poste;
+  for (int32_t sorte = 1; sorte <= 5; ++sorte) {
+    auto elemento = vbs::ReadElement(valore, std::span<const int32_t>(&sorte, 1));
+    if (!elemento) return ArgomentoNonValido(kForma);
+    if (elemento->is_empty()) continue;
+    VBS_TRY_ASSIGN(auto euro, elemento->to_double(args.locale()));
+    VBS_TRY_ASSIGN(auto centesimi, Centesimi(euro, fmt::format("La posta aPoste({})", sorte)));
+    if (centesimi > 0) poste.push_back({static_cast<stats::SorteLotto>(sorte), centesimi, {}, 0});
+  }
+  if (poste.empty()) return ArgomentoNonValido("Nessuna posta in aPoste: almeno una sorte da 1 a 5 va giocata");
+  return poste;
+}
+
+Result<std::vector<int>> NumeriDiversi(const CallArgs& args, size_t i, int massimo) {
+  VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, i));
+  if (valori.empty()) return ArgomentoNonValido("Nessun numero indicato");
+  std::vector<int> numeri;
+  for (double valore : valori) {
+    const int numero = stats::FuoriX(valore, static_cast<int16_t>(massimo));
+    if (std::ranges::find(numeri, numero) != numeri.end())
+      return ArgomentoNonValido(fmt::format("Il numero {} è indicato due volte", numero));
+    numeri.push_back(numero);
+  }
+  return numeri;
+}
+
+Result<std::vector<int>> RuoteDellaGiocata(const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto ruote, RuoteGiocate(args, i));
+  return stats::RuoteGiocate(ruote);
+}
+
+Result<int> InteroFacoltativo(const CallArgs& args, size_t i, int da, int a, std::string_view nome, int se_omesso) {
+  if (!args.Has(i)) return se_omesso;
+  return InteroTra(args, i, da, a, nome);
+}
+
+Result<int> ColpiArgomento(const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto colpi, args.Long(i));
+  if (colpi < 1) return ArgomentoNonValido(fmt::format("Colpi non validi: {} (almeno 1)", colpi));
+  return colpi;
+}
+
+vbs::ScriptError Rifiuto(const Avviso& avviso) {
+  std::string testo = avviso.testo;
+  if (!testo.empty()) testo[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(testo[0])));
+  return ArgomentoNonValido(testo);
+}
+
+}  // namespace lottolab::script

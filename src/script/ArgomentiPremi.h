@@ -1,0 +1,50 @@
+#pragma once
+
+// The arguments of the library's outcome and prize names: sums of money in euro, the stakes of a
+// play per sorte, a forecast's numbers and wheels. Money reaches the prize engine as whole cents
+// (stats/Denaro.h), so an amount that is not a whole number of cents is refused here, not rounded
+// silently into another bet.
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "ClsFunctionsGeodoScript.h"
+#include "Famiglia.h"
+#include "stats/Giocata.h"
+
+namespace lottolab::script {
+
+// Argument i as euro, a whole number of cents from 0 up to a billion; `nome` names it in messages.
+vbs::Result<stats::Centesimi> EuroArgomento(const vbs::CallArgs& args, size_t i, std::string_view nome);
+// The same when the argument may be omitted.
+vbs::Result<stats::Centesimi> EuroArgomento(const vbs::CallArgs& args, size_t i, std::string_view nome,
+                                            stats::Centesimi se_omesso);
+
+// Argument i as the stakes per sorte, aPoste(1..5) in euro (estratto .. cinquina) whatever the
+// array's lower bound; the sorti staked 0 or left Empty are not played, and at least one must be.
+vbs::Result<std::vector<stats::PostaSorte>> PosteArgomento(const vbs::CallArgs& args, size_t i);
+
+// Argument i as numbers brought into 1..massimo, at least one and all different.
+vbs::Result<std::vector<int>> NumeriDiversi(const vbs::CallArgs& args, size_t i, int massimo = 90);
+
+// Argument i as the wheels played, in the table's numbering, each once, Tutte (TT_) being the ten
+// city wheels without Nazionale, as the operator plays it.
+vbs::Result<std::vector<int>> RuoteDellaGiocata(const vbs::CallArgs& args, size_t i);
+
+// Argument i as a whole number in da..a, `se_omesso` when it was omitted; `nome` names it in messages.
+vbs::Result<int> InteroFacoltativo(const vbs::CallArgs& args, size_t i, int da, int a, std::string_view nome,
+                                   int se_omesso);
+
+// Argument i as a number of colpi, at least 1.
+vbs::Result<int> ColpiArgomento(const vbs::CallArgs& args, size_t i);
+
+// An amount in euro as a script's Double.
+inline vbs::Variant Euro(stats::Centesimi importo) {
+  return vbs::Variant::Double(static_cast<double>(importo) / stats::kCentesimiPerEuro);
+}
+
+// A refusal of the prize engine as error 5, its message begun with a capital as the library's are.
+vbs::ScriptError Rifiuto(const Avviso& avviso);
+
+}  // namespace lottolab::script
