@@ -74,6 +74,9 @@ constexpr std::array kComandi = {
             "lordo, ritenuta e netto per punti", ComandoPremio, ComandoPremio},
     Comando{"verifica-giocata", "--sorte S --numeri N1,N2 --ruote BA,VE --posta 1 --dal GG/MM/AAAA --colpi N",
             "conto per estrazione", ComandoVerificaGiocata},
+    Comando{"retroverifica",
+            "--sorte S (--numeri N1,N2 [--classe K] | --sistema FILE) --ruote BA,VE --posta 1 [--inizio X] [--fine X]",
+            "la giocata in ogni estrazione dell'intervallo: spesa, vincite, saldo", ComandoRetroverifica},
     Comando{"giocata", "aggiungi|elenco|rimuovi|verifica ...", "l'agenda delle giocate (lottolab giocata per l'uso)",
             ComandoGiocata, ComandoGiocata},
 };

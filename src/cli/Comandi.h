@@ -63,6 +63,7 @@ int ComandoCercaFigura(Contesto& contesto, const Parole& parole);
 int ComandoPremio(Contesto& contesto, const Parole& parole);
 // A Lotto bet checked against the archive draw by draw, with its totals.
 int ComandoVerificaGiocata(Contesto& contesto, const Parole& parole);
+int ComandoRetroverifica(Contesto& contesto, const Parole& parole);
 // The agenda of the bets played: aggiungi, elenco, rimuovi, verifica.
 int ComandoGiocata(Contesto& contesto, const Parole& parole);
 // After an import that added draws to configured archives: the agenda's open bets of those games

@@ -9,6 +9,7 @@
 #include <fmt/ostream.h>
 
 #include "Argomenti.h"
+#include "ArgomentiPuntata.h"
 #include "Comandi.h"
 #include "archive/DateEstrazione.h"
 #include "stats/Giocata.h"
@@ -23,70 +24,12 @@ std::string Percento(int centesimi_di_punto) {
                                        : fmt::format("{},{:02}%", centesimi_di_punto / 100, centesimi_di_punto % 100);
 }
 
-std::string Opzione(const Argomenti& argomenti, const std::string& nome, const std::string& predefinito = "") {
-  auto it = argomenti.opzioni.find(nome);
-  return it == argomenti.opzioni.end() ? predefinito : it->second;
-}
-
-Esito<std::vector<int>> LeggiNumeri(const std::string& testo) {
-  std::vector<int> numeri;
-  size_t inizio = 0;
-  while (inizio <= testo.size()) {
-    size_t virgola = testo.find(',', inizio);
-    auto numero = LeggiNumero(testo.substr(inizio, virgola == std::string::npos ? virgola : virgola - inizio));
-    if (!numero) return numero.Errore();
-    numeri.push_back(*numero);
-    if (virgola == std::string::npos) break;
-    inizio = virgola + 1;
-  }
-  return numeri;
-}
-
-Esito<stats::SorteLotto> LeggiSorteLotto(const std::string& testo) {
-  if (auto sorte = stats::SorteDaNome(testo)) return *sorte;
-  return AvvisoEsclamativo(
-      fmt::format("sorte non valida: {} (estratto, ambo, terno, quaterna, cinquina, determinato, ambetto)", testo));
-}
-
-Esito<GruppoData> LeggiDataPremio(const std::string& testo) {
-  if (testo.empty()) return DataOdierna();
-  auto data = LeggiData(testo);
-  if (!data || !DataValida(*data)) return AvvisoEsclamativo(fmt::format("data non valida: {} (GG/MM/AAAA)", testo));
-  return *data;
-}
-
 constexpr std::string_view kIntestazione = "{:>5} {:>12} {:>14} {:>12} {:>14}\n";
 
 // A row of the table; no combinations column where the game has none (0).
 void StampaRiga(Contesto& contesto, int punti, int64_t combinazioni, const stats::Tassato& vinto) {
   fmt::print(contesto.out, fmt::runtime(kIntestazione), punti, combinazioni == 0 ? "" : std::to_string(combinazioni),
              stats::FormattaEuro(vinto.lordo), stats::FormattaEuro(vinto.ritenuta), stats::FormattaEuro(vinto.netto));
-}
-
-// The line of a Lotto ticket named by the options; the wheels expanded.
-Esito<stats::PuntataLotto> LeggiPuntata(const Argomenti& argomenti, const GruppoData& data) {
-  for (const char* richiesta : {"sorte", "numeri", "ruote", "posta"})
-    if (!argomenti.opzioni.contains(richiesta))
-      return AvvisoEsclamativo(fmt::format("manca l'opzione --{}", richiesta));
-  stats::PuntataLotto puntata;
-  auto sorte = LeggiSorteLotto(Opzione(argomenti, "sorte"));
-  if (!sorte) return sorte.Errore();
-  auto numeri = LeggiNumeri(Opzione(argomenti, "numeri"));
-  if (!numeri) return numeri.Errore();
-  auto ruote = LeggiRuote(Opzione(argomenti, "ruote"));
-  if (!ruote) return ruote.Errore();
-  auto posta = stats::LeggiEuro(Opzione(argomenti, "posta"));
-  if (!posta) return posta.Errore();
-  puntata = {*sorte, *numeri, stats::RuoteGiocate(*ruote), *posta, 0};
-  if (const std::string posizione = Opzione(argomenti, "posizione"); !posizione.empty()) {
-    auto letta = LeggiPosizioni(posizione);
-    if (!letta || std::ranges::count(*letta, true) != 1)
-      return AvvisoEsclamativo(fmt::format("posizione non valida: {} (una sola, da 1 a 5)", posizione));
-    puntata.posizione = static_cast<int>(std::ranges::find(*letta, true) - letta->begin()) + 1;
-  }
-  auto controllo = stats::ControllaPuntata(puntata, data);
-  if (!controllo) return controllo.Errore();
-  return puntata;
 }
 
 int PremioLotto(Contesto& contesto, const Argomenti& argomenti, const GruppoData& data) {

@@ -43,24 +43,6 @@ Result<stats::Centesimi> EuroArgomento(const CallArgs& args, size_t i, std::stri
   return EuroArgomento(args, i, nome);
 }
 
-Result<std::vector<stats::PostaSorte>> PosteArgomento(const CallArgs& args, size_t i) {
-  VBS_TRY_ASSIGN(auto valore, args.Value(i));
-  constexpr std::string_view kForma =
-      "Le poste vanno date in un array aPoste con gli indici da 1 (estratto) a 5 (cinquina), in euro";
-  if (!valore.is_array()) return ArgomentoNonValido(kForma);
-  std::vector<stats::PostaSorte> poste;
-  for (int32_t sorte = 1; sorte <= 5; ++sorte) {
-    auto elemento = vbs::ReadElement(valore, std::span<const int32_t>(&sorte, 1));
-    if (!elemento) return ArgomentoNonValido(kForma);
-    if (elemento->is_empty()) continue;
-    VBS_TRY_ASSIGN(auto euro, elemento->to_double(args.locale()));
-    VBS_TRY_ASSIGN(auto centesimi, Centesimi(euro, fmt::format("La posta aPoste({})", sorte)));
-    if (centesimi > 0) poste.push_back({static_cast<stats::SorteLotto>(sorte), centesimi, {}, 0});
-  }
-  if (poste.empty()) return ArgomentoNonValido("Nessuna posta in aPoste: almeno una sorte da 1 a 5 va giocata");
-  return poste;
-}
-
 Result<std::vector<int>> NumeriDiversi(const CallArgs& args, size_t i, int massimo) {
   VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, i));
   if (valori.empty()) return ArgomentoNonValido("Nessun numero indicato");

@@ -21,10 +21,6 @@ vbs::Result<stats::Centesimi> EuroArgomento(const vbs::CallArgs& args, size_t i,
 vbs::Result<stats::Centesimi> EuroArgomento(const vbs::CallArgs& args, size_t i, std::string_view nome,
                                             stats::Centesimi se_omesso);
 
-// Argument i as the stakes per sorte, aPoste(1..5) in euro (estratto .. cinquina) whatever the
-// array's lower bound; the sorti staked 0 or left Empty are not played, and at least one must be.
-vbs::Result<std::vector<stats::PostaSorte>> PosteArgomento(const vbs::CallArgs& args, size_t i);
-
 // Argument i as numbers brought into 1..massimo, at least one and all different.
 vbs::Result<std::vector<int>> NumeriDiversi(const vbs::CallArgs& args, size_t i, int massimo = 90);
 

@@ -15,6 +15,7 @@
 #include "ArgomentiPremi.h"
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
+#include "GiocateScript.h"
 #include "archive/DateEstrazione.h"
 #include "stats/EsitoPrevisione.h"
 

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "ArgomentiLotto.h"
+#include "ArgomentiPremi.h"
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
 #include "GiocateScript.h"
@@ -158,7 +159,7 @@ Result<Variant> Totale(Libreria& lib, CallArgs& args) {
     VBS_TRY_ASSIGN(auto scelto, IndiceArgomento(args, 0));
     indice = scelto;
   }
-  return Variant::Double(Euro(Valore(Somma(Registro<kReale>(lib).effettuate, indice))));
+  return Euro(Valore(Somma(Registro<kReale>(lib).effettuate, indice)));
 }
 
 stats::Centesimi Spesa(const Totali& t) { return t.spesa; }
@@ -189,8 +190,8 @@ Result<Variant> GetSituazioneGiocate(Libreria& lib, CallArgs& args) {
         Variant::Long(static_cast<int32_t>(g.conto.size())),
         Variant::Long(static_cast<int32_t>(g.Stato())),
         Variant::Long(g.PrimoColpoVincente()),
-        Variant::Double(Euro(g.spesa)),
-        Variant::Double(Euro(g.vinto.netto)),
+        Euro(g.spesa),
+        Euro(g.vinto.netto),
     };
     for (size_t c = 0; c < std::size(campi); ++c) celle[r + c * effettuate.size()] = campi[c];
   }

@@ -12,6 +12,7 @@
 #include "ArgomentiPremi.h"
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
+#include "GiocateScript.h"
 #include "archive/DateEstrazione.h"
 #include "stats/Combinazioni.h"
 #include "stats/Progressione.h"

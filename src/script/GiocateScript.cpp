@@ -524,6 +524,4 @@ void ScriviTabella(ClsFunctionsGeodoScript& lib, const TabellaOutput& tabella) {
   for (const TrattoTesto& tratto : tabella.Testo()) lib.ospite().Scrivi(tratto);
 }
 
-double Euro(stats::Centesimi centesimi) { return static_cast<double>(centesimi) / stats::kCentesimiPerEuro; }
-
 }  // namespace lottolab::script

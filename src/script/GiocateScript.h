@@ -168,7 +168,4 @@ std::string RigaGiocata(const GiocataEffettuata& giocata);
 // Writes a table into the run's page, when open, and as columns into the text output.
 void ScriviTabella(ClsFunctionsGeodoScript& lib, const TabellaOutput& tabella);
 
-// Euro with two decimals as a Double, as the script reads money.
-double Euro(stats::Centesimi centesimi);
-
 }  // namespace lottolab::script

@@ -113,7 +113,10 @@ Riepilogo Riassumi(const EsitoGiocata& esito) {
 
 Riepilogo RetroVerifica(Giocata giocata, const TabellaEstrazioni& tabella, int inizio, int fine) {
   giocata.prima_estrazione = inizio;
-  giocata.colpi = std::max(0, fine - inizio + 1);
+  // A colpo is a draw held: records without one inside the range must not push the bet past `fine`.
+  giocata.colpi = 0;
+  for (int id = inizio; id <= fine && tabella.Contiene(id); ++id)
+    if (tabella[id].Presente()) ++giocata.colpi;
   giocata.arresto = Arresto::AllaFine;
   Riepilogo riepilogo = Riassumi(VerificaGiocata(giocata, tabella));
   return riepilogo;

@@ -103,6 +103,8 @@ TEST_F(LottolabDiProva, UsoElencaIComandi) {
       "punti\n"
       "  verifica-giocata --sorte S --numeri N1,N2 --ruote BA,VE --posta 1 --dal GG/MM/AAAA --colpi N   conto per "
       "estrazione\n"
+      "  retroverifica --sorte S (--numeri N1,N2 [--classe K] | --sistema FILE) --ruote BA,VE --posta 1 [--inizio X] "
+      "[--fine X]   la giocata in ogni estrazione dell'intervallo: spesa, vincite, saldo\n"
       "  giocata aggiungi|elenco|rimuovi|verifica ...   l'agenda delle giocate (lottolab giocata per l'uso)\n"
       "giochi (--gioco): LO Lotto (predefinito), SE SuperEnalotto, DL 10eLotto serale, DL5 10eLotto ogni 5 minuti,\n"
       "  WF Win for Life, FT archivio generico; per gli altri giochi valgono per ora importa, aggiorna, info,\n"

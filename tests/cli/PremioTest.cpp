@@ -59,6 +59,11 @@ TEST_F(Premio, RichiesteSbagliate) {
       {"verifica-giocata", "--sorte", "ambo", "--numeri", "7,8", "--ruote", "VE", "--posta", "1", "--colpi", "3"},
       {"verifica-giocata", "--sorte", "ambo", "--numeri", "7,8", "--ruote", "VE", "--posta", "1", "--colpi", "0",
        "--dal", "01/05/2005"},
+      {"retroverifica", "--sorte", "ambo", "--numeri", "7,8,9", "--classe", "4", "--ruote", "VE", "--posta", "1"},
+      {"retroverifica", "--sorte", "ambo", "--numeri", "7,8", "--sistema", "x.txt", "--ruote", "VE", "--posta", "1"},
+      {"retroverifica", "--sorte", "ambo", "--sistema", "non-esiste.txt", "--ruote", "VE", "--posta", "1"},
+      {"retroverifica", "--sorte", "ambo", "--numeri", "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20", "--classe",
+       "5", "--ruote", "VE", "--posta", "1"},
   };
   for (const auto& parole : casi) {
     auto uscita = Esegui(parole);
@@ -87,6 +92,38 @@ TEST_F(Premio, VerificaGiocataSullArchivio) {
                          "--dal", "01/05/2005", "--colpi", "3", "--arresto", "vincita"});
   EXPECT_EQ(fermata.out.find("\n    2 "), std::string::npos) << fermata.out;
   EXPECT_EQ(fermata.out.find("giocata in corso"), std::string::npos) << fermata.out;
+}
+
+TEST_F(Premio, RetroverificaDiUnSistema) {
+  const auto file = m_base / "risultati.txt";
+  std::ofstream(file) << test::kRisultati;
+  ASSERT_EQ(Esegui({"importa", file.string()}).codice, 0);
+  // The three ambi of 7, 8, 9 all come out on Venezia in the second draw.
+  const std::string atteso =
+      "ambo su 3 colonne, posta 1,00 euro a colonna, dal 30/04/2005 al 04/05/2005: 3 colpi, 3,00 euro a colpo\n"
+      "spesa 9,00, lordo 750,00, ritenuta 45,00, netto 705,00, saldo 696,00\n"
+      "ambo: vinto in 1 colpi, 750,00 lordi\n"
+      "al più 1 colpi di fila senza vincite; calo massimo del saldo 3,00\n";
+  auto integrale = Esegui(
+      {"retroverifica", "--sorte", "ambo", "--numeri", "7,8,9", "--classe", "2", "--ruote", "VE", "--posta", "1"});
+  EXPECT_EQ(integrale.codice, 0) << integrale.err;
+  EXPECT_EQ(integrale.out, atteso);
+
+  const auto sistema = m_base / "sistema.txt";
+  std::ofstream(sistema) << "# ambi di 7 8 9\n7 8\n7,9\r\n8;9\n";
+  auto dal_file =
+      Esegui({"retroverifica", "--sorte", "ambo", "--sistema", sistema.string(), "--ruote", "VE", "--posta", "1"});
+  EXPECT_EQ(dal_file.out, atteso) << dal_file.err;
+
+  auto sulla_nazionale = [&](const std::string& ruote) {
+    return Esegui({"retroverifica", "--sorte", "estratto", "--numeri", "7", "--ruote", ruote, "--posta", "10",
+                   "--inizio", "3", "--fine", "3"})
+        .out;
+  };
+  EXPECT_NE(sulla_nazionale("NZ").find(": 1 colpi, 10,00 euro a colpo\nspesa 10,00, lordo 112,30,"), std::string::npos)
+      << sulla_nazionale("NZ");
+  EXPECT_NE(sulla_nazionale("TT").find("spesa 10,00, lordo 0,00,"), std::string::npos)
+      << "Tutte leaves the Nazionale out: " << sulla_nazionale("TT");
 }
 
 }  // namespace

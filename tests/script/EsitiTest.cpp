@@ -110,7 +110,7 @@ TEST_F(Libreria, VerificaEsitoConGuadagnoPagaComeLOperatore) {
 
   Esegui("Dim q(5) : q(2) = 0.123");
   EXPECT_TRUE(Vuoto("VerificaEsitoConGuadagno(Array(30, 31), BA_, 1, 5, q)"));
-  AvvisoErrore5("VerificaEsitoConGuadagno", "centesimi", "a stake below the cent");
+  AvvisoErrore5("VerificaEsitoConGuadagno", "due decimali", "a stake below the cent");
   EXPECT_TRUE(Vuoto("VerificaEsitoConGuadagno(Array(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11), BA_, 1, 5, p)"));
   AvvisoErrore5("VerificaEsitoConGuadagno", "numeri", "more numbers than a ticket holds");
 }

@@ -64,6 +64,9 @@ TEST(Giocata, ContoColpoPerColpo) {
   Giocata senza_vincite = Ambo({60, 61}, {BA});
   EXPECT_EQ(RetroVerifica(senza_vincite, tabella, 1, 5).massimo_calo, 400);
   EXPECT_EQ(RetroVerifica(senza_vincite, tabella, 1, 5).massima_serie_senza_vincite, 4);
+  const Riepilogo fino_alla_terza = RetroVerifica(Ambo({1, 2}, {BA}), tabella, 1, 4);
+  EXPECT_EQ(fino_alla_terza.colpi, 3) << "the empty record inside the range carries no colpo past its end";
+  EXPECT_EQ(fino_alla_terza.colpi_vincenti_per_sorte[static_cast<size_t>(SorteLotto::Ambo)], 2);
 }
 
 TEST(Giocata, GiocateRifiutate) {
