@@ -37,8 +37,8 @@ Esito<std::vector<std::vector<int>>> SviluppoDi(const std::vector<int>& numeri, 
   if (!classe || *classe < 1 || *classe > quanti)
     return AvvisoEsclamativo(fmt::format("classe non valida: {} (da 1 a {})", testo_classe, quanti));
   if (stats::Combinazioni(quanti, *classe) > static_cast<double>(kMassimoColonne))
-    return AvvisoEsclamativo(fmt::format("lo sviluppo di {} numeri in classe {} ha {:.0f} colonne (al più {})",
-                                         quanti, *classe, stats::Combinazioni(quanti, *classe), kMassimoColonne));
+    return AvvisoEsclamativo(fmt::format("lo sviluppo di {} numeri in classe {} ha {:.0f} colonne (al più {})", quanti,
+                                         *classe, stats::Combinazioni(quanti, *classe), kMassimoColonne));
   std::vector<std::vector<int>> colonne;
   stats::SviluppoIntegrale sviluppo(quanti, *classe);
   while (sviluppo.Avanza()) {
@@ -69,8 +69,9 @@ void StampaRiepilogo(Contesto& contesto, const stats::Riepilogo& riepilogo) {
              stats::FormattaEuro(riepilogo.saldo));
   for (size_t sorte = 1; sorte < riepilogo.colpi_vincenti_per_sorte.size(); ++sorte)
     if (riepilogo.colpi_vincenti_per_sorte[sorte] > 0)
-      fmt::print(contesto.out, "{}: vinto in {} colpi, {} lordi\n", stats::NomeSorte(static_cast<stats::SorteLotto>(sorte)),
-                 riepilogo.colpi_vincenti_per_sorte[sorte], stats::FormattaEuro(riepilogo.lordo_per_sorte[sorte]));
+      fmt::print(contesto.out, "{}: vinto in {} colpi, {} lordi\n",
+                 stats::NomeSorte(static_cast<stats::SorteLotto>(sorte)), riepilogo.colpi_vincenti_per_sorte[sorte],
+                 stats::FormattaEuro(riepilogo.lordo_per_sorte[sorte]));
   fmt::print(contesto.out, "al più {} colpi di fila senza vincite; calo massimo del saldo {}\n",
              riepilogo.massima_serie_senza_vincite, stats::FormattaEuro(riepilogo.massimo_calo));
 }

@@ -154,11 +154,7 @@ Result<Variant> Gioca(Libreria& lib, CallArgs& args) {
 // The real ledger's totals, over every bet or those of slot Indice.
 template <auto Valore>
 Result<Variant> Totale(Libreria& lib, CallArgs& args) {
-  std::optional<int> indice;
-  if (args.Has(0)) {
-    VBS_TRY_ASSIGN(auto scelto, IndiceArgomento(args, 0));
-    indice = scelto;
-  }
+  VBS_TRY_ASSIGN(auto indice, IndiceFacoltativo(args, 0));
   return Euro(Valore(Somma(Registro<kReale>(lib).effettuate, indice)));
 }
 
@@ -228,11 +224,7 @@ Result<Variant> Output(Libreria& lib, CallArgs& args) {
 
 // ScriviResoconto [Indice]
 Result<Variant> ScriviResoconto(Libreria& lib, CallArgs& args) {
-  std::optional<int> indice;
-  if (args.Has(0)) {
-    VBS_TRY_ASSIGN(auto scelto, IndiceArgomento(args, 0));
-    indice = scelto;
-  }
+  VBS_TRY_ASSIGN(auto indice, IndiceFacoltativo(args, 0));
   lib.Scrivi(indice ? fmt::format("Resoconto della giocata {}\n", *indice) : "Resoconto delle giocate\n", kNero, true);
   ScriviTabella(lib, TabellaResoconto(Registro<kReale>(lib).effettuate, GiocoGiocata::Lotto, indice));
   return Variant();

@@ -132,11 +132,7 @@ Result<Variant> Gioca(Libreria& lib, CallArgs& args) {
 // ScriviResocontoXX [Indice]
 template <Suffisso S>
 Result<Variant> ScriviResoconto(Libreria& lib, CallArgs& args) {
-  std::optional<int> indice;
-  if (args.Has(0)) {
-    VBS_TRY_ASSIGN(auto scelto, IndiceArgomento(args, 0));
-    indice = scelto;
-  }
+  VBS_TRY_ASSIGN(auto indice, IndiceFacoltativo(args, 0));
   lib.Scrivi(indice ? fmt::format("Resoconto della giocata {} ({})\n", *indice, Sigla(S))
                     : fmt::format("Resoconto delle giocate ({})\n", Sigla(S)),
              kNero, true);

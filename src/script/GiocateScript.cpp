@@ -163,6 +163,12 @@ vbs::Result<int> IndiceArgomento(const vbs::CallArgs& args, size_t i) {
   return int{indice};
 }
 
+vbs::Result<std::optional<int>> IndiceFacoltativo(const vbs::CallArgs& args, size_t i) {
+  if (!args.Has(i)) return std::optional<int>();
+  VBS_TRY_ASSIGN(auto indice, IndiceArgomento(args, i));
+  return std::optional<int>(indice);
+}
+
 vbs::Result<std::vector<int>> NumeriGiocati(const vbs::CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, i));
   if (valori.empty()) return ArgomentoNonValido("aNumeri non contiene nessun numero");

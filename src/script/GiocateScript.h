@@ -107,6 +107,8 @@ inline constexpr size_t kMassimaProgressione = 10000;
 
 // Argument i as a slot, 1..kMassimoIndice.
 vbs::Result<int> IndiceArgomento(const vbs::CallArgs& args, size_t i);
+// The same when it may be omitted: none then, meaning every slot.
+vbs::Result<std::optional<int>> IndiceFacoltativo(const vbs::CallArgs& args, size_t i);
 // Argument i as the numbers of a column, as given: one value or an array of any bounds (the Empty
 // elements passed over). Whole numbers only; the range is the game's to check.
 vbs::Result<std::vector<int>> NumeriGiocati(const vbs::CallArgs& args, size_t i);
