@@ -41,6 +41,7 @@ const Tabella& TabellaCompleta() {
                           FunzioniDialoghi(),
                           FunzioniEstrazioniAttive(),
                           FunzioniCollezioni(),
+                          FunzioniCiclometria(),
                           FunzioniGiochiArchivio(),
                           FunzioniGiochiStatistiche(),
                           FunzioniGiochiElenchi(),

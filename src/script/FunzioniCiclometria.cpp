@@ -1,0 +1,184 @@
+// The figures of the circle of 90 (stats/Ciclometria.h) for scripts: every figure of a kind among
+// the numbers of a draw's wheels or of a set the script gives, as a collection of FiguraCiclo
+// objects that For Each walks.
+//
+// The first argument says where the numbers come from: a number is a draw (IdEstr) whose wheels
+// aRuote gives, TT_ by default (the ten city wheels; NZ_ when named); an array is a set of numbers,
+// which has no wheels, so aRuote is then refused rather than ignored.
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "ArgomentiLotto.h"
+#include "ArgomentiRitardi.h"
+#include "Collezione.h"
+#include "Famiglia.h"
+#include "FiguraCiclo.h"
+#include "stats/Ciclometria.h"
+
+namespace lottolab::script {
+
+namespace {
+
+using namespace famiglia;
+using stats::TipoFigura;
+
+// The table wheels of argument i (TT_ by default), TT_ opened into the ten city wheels, each once.
+Result<std::vector<int>> RuoteDellaFigura(const CallArgs& args, size_t i) {
+  std::vector<int> date{kTutteLeRuote};
+  if (args.Has(i)) {
+    VBS_TRY_ASSIGN(auto lette, RuoteGiocate(args, i));
+    date = std::move(lette);
+  }
+  std::vector<int> ruote;
+  for (int ruota : date)
+    for (int r = ruota == kTutteLeRuote ? BA : ruota; r <= (ruota == kTutteLeRuote ? VE : ruota); ++r)
+      if (std::find(ruote.begin(), ruote.end(), r) == ruote.end()) ruote.push_back(r);
+  return ruote;
+}
+
+// Argument i as a set of numbers 1..90, given as one value or an array.
+Result<stats::InsiemeCiclometrico> InsiemeDiNumeri(const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, i));
+  stats::InsiemeCiclometrico insieme;
+  for (double valore : valori) {
+    if (valore != std::floor(valore) || valore < 1 || valore > 90)
+      return ArgomentoNonValido(fmt::format("Numero non valido: {} (i numeri vanno da 1 a 90)", valore));
+    insieme.Aggiungi(static_cast<int>(valore));
+  }
+  return insieme;
+}
+
+// The numbers where the figures are sought: argument 0 (IdEstr or an array of numbers) and the
+// wheels of argument 1.
+Result<stats::InsiemeCiclometrico> InsiemeArgomenti(Libreria& lib, const CallArgs& args) {
+  VBS_TRY_ASSIGN(auto origine, args.Value(0));
+  if (origine.is_array()) {
+    if (args.Has(1))
+      return ArgomentoNonValido("aRuote vale solo con IdEstr: i numeri dati in un array non hanno ruota");
+    return InsiemeDiNumeri(args, 0);
+  }
+  VBS_TRY_ASSIGN(auto tab, lib.Archivio());
+  VBS_TRY_ASSIGN(auto id_estr, EstrazioneArgomento(*tab, args, 0, 0, "IdEstr"));
+  VBS_TRY_ASSIGN(auto ruote, RuoteDellaFigura(args, 1));
+  return stats::InsiemeDaEstrazione((*tab)[id_estr], ruote);
+}
+
+Result<Variant> Collezione(Libreria& lib, const std::vector<stats::FiguraCiclometrica>& figure) {
+  auto collezione = vbs::MakeRef<script::Collezione>(lib.locale());
+  for (const auto& figura : figure) {
+    VBS_TRY(collezione->Aggiungi(Variant::Object(vbs::MakeRef<FiguraCiclo>(lib.locale(), figura)), u""));
+  }
+  return Variant::Object(std::move(collezione));
+}
+
+Result<Variant> FigureDiTipi(Libreria& lib, const CallArgs& args, stats::TipiFigura tipi) {
+  VBS_TRY_ASSIGN(auto insieme, InsiemeArgomenti(lib, args));
+  return Collezione(lib, stats::TrovaFigure(insieme, tipi));
+}
+
+template <TipoFigura kTipo>
+Result<Variant> FigureDiUnTipo(Libreria& lib, CallArgs& args) {
+  return FigureDiTipi(lib, args, stats::Tipo(kTipo));
+}
+
+Result<Variant> GetCollFigureCiclometriche(Libreria& lib, CallArgs& args) {
+  stats::TipiFigura tipi = stats::kFigureDiUnInsieme;
+  if (args.Has(2)) {
+    VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, 2));
+    tipi = 0;
+    for (double valore : valori) {
+      if (valore != std::floor(valore) || valore < 1 || valore >= stats::kTipiFigura)
+        return ArgomentoNonValido(fmt::format(
+            "Tipo di figura non valido: {} (da 1 a 7; i parallelepipedi con GetCollParallelepipedi)", valore));
+      tipi |= stats::Tipo(static_cast<TipoFigura>(valore));
+    }
+  }
+  return FigureDiTipi(lib, args, tipi);
+}
+
+Result<Variant> GetCollParallelepipedi(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto tab, lib.Archivio());
+  VBS_TRY_ASSIGN(auto id_estr, EstrazioneArgomento(*tab, args, 0, 0, "IdEstr"));
+  VBS_TRY_ASSIGN(auto ruote, RuoteDellaFigura(args, 1));
+  if (ruote.size() < 2)
+    return ArgomentoNonValido("Servono almeno due ruote: un parallelepipedo unisce una corda di una ruota alla "
+                              "corda diametrale di un'altra");
+  const Estrazione& estrazione = (*tab)[id_estr];
+  std::vector<stats::InsiemeCiclometrico> facce;
+  for (int ruota : ruote) facce.push_back(stats::InsiemeDaEstrazione(estrazione, std::span<const int>(&ruota, 1)));
+  std::vector<stats::FiguraCiclometrica> figure;
+  for (size_t i = 0; i < facce.size(); ++i)
+    for (size_t j = i + 1; j < facce.size(); ++j) stats::TrovaParallelepipedi(facce[i], facce[j], figure);
+  return Collezione(lib, figure);
+}
+
+Result<Variant> GetCollParallelepipediQN(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto faccia1, InsiemeDiNumeri(args, 0));
+  VBS_TRY_ASSIGN(auto faccia2, InsiemeDiNumeri(args, 1));
+  std::vector<stats::FiguraCiclometrica> figure;
+  stats::TrovaParallelepipedi(faccia1, faccia2, figure);
+  return Collezione(lib, figure);
+}
+
+Result<Variant> GetArrayNumeriFromFiguraCiclo(Libreria&, CallArgs& args) {
+  const Variant& valore = args[0];
+  auto* figura = valore.is_object() ? dynamic_cast<FiguraCiclo*>(valore.as_object()) : nullptr;
+  if (!figura)
+    return ArgomentoNonValido("Il primo argomento deve essere una figura di una collezione GetColl... ciclometrica");
+  const auto vertici = figura->figura().Vertici();
+  args.Out(1) = ArrayDaUno(std::vector<int>(vertici.begin(), vertici.end()));
+  return Variant::Integer(static_cast<int16_t>(vertici.size()));
+}
+
+#define LOTTOLAB_ORIGINE                                                                                       \
+  "IdEstr o aNumeri, [aRuote = TT_]: i numeri dell'estrazione IdEstr sulle ruote aRuote (TT_ le dieci ruote " \
+  "cittadine, NZ_ se indicata), o i numeri 1..90 dell'array aNumeri (allora senza aRuote); "
+
+const Libreria::Funzione kCiclometria[] = {
+    {"GetCollFigureCiclometriche", 1, 3, &GetCollFigureCiclometriche,
+     LOTTOLAB_ORIGINE
+     "[aTipi]: una collezione con tutte le figure ciclometriche tra quei numeri, dei tipi aTipi (un numero o un "
+     "array: 1 diametro, 2 triangolo equilatero, 3 triangolo isoscele, 4 quadrato ciclometrico, 5 rettangolo, 6 "
+     "trapezio isoscele, 7 aquilone; tutti se omesso), raggruppate per tipo; ogni elemento ha Tipo, IdTipo, "
+     "Numeri, Vertice(i), Ruote, RuoteVertice(i), Descrizione"},
+    {"GetCollTriangoliEquilateri", 1, 2, &FigureDiUnTipo<TipoFigura::TriangoloEquilatero>,
+     LOTTOLAB_ORIGINE "una collezione dei triangoli equilateri: tre numeri a distanza 30 l'uno dall'altro"},
+    {"GetCollTriangoliIsosceli", 1, 2, &FigureDiUnTipo<TipoFigura::TriangoloIsoscele>,
+     LOTTOLAB_ORIGINE
+     "una collezione dei triangoli isosceli: un vertice (il primo) alla stessa distanza, da 1 a 44 ma non 30, "
+     "dagli altri due; gli equilateri sono a parte"},
+    {"GetCollQuadratoCiclometrico", 1, 2, &FigureDiUnTipo<TipoFigura::QuadratoCiclometrico>,
+     LOTTOLAB_ORIGINE
+     "una collezione dei quadrati ciclometrici: 90 non si divide per 4, così il quadrato è quello di lati 22 e 23, "
+     "con due diametri per diagonali (1-23-46-68)"},
+    {"GetCollRettangoli", 1, 2, &FigureDiUnTipo<TipoFigura::Rettangolo>,
+     LOTTOLAB_ORIGINE "una collezione dei rettangoli: due diametri qualsiasi, tranne quelli del quadrato ciclometrico"},
+    {"GetCollTrapezioIsoscele", 1, 2, &FigureDiUnTipo<TipoFigura::TrapezioIsoscele>,
+     LOTTOLAB_ORIGINE
+     "una collezione dei trapezi isosceli: due corde parallele (somme uguali modulo 90) di distanza diversa"},
+    {"GetCollAquiloneCiclometrico", 1, 2, &FigureDiUnTipo<TipoFigura::Aquilone>,
+     LOTTOLAB_ORIGINE
+     "una collezione degli aquiloni: un diametro (l'asse) e due numeri alla stessa distanza da un suo estremo; "
+     "il primo vertice è l'estremo tra i lati più corti"},
+    {"GetCollParallelepipedi", 1, 2, &GetCollParallelepipedi,
+     "IdEstr, [aRuote = TT_]: una collezione dei parallelepipedi dell'estrazione: una corda di una ruota e la "
+     "corda dei suoi diametrali su un'altra delle ruote aRuote (almeno due), per ogni coppia di ruote; Ruote dice "
+     "la ruota di ogni vertice"},
+    {"GetCollParallelepipediQN", 2, 2, &GetCollParallelepipediQN,
+     "aNumeri1, aNumeri2: i parallelepipedi tra due gruppi di numeri 1..90 dati dallo script al posto di due "
+     "ruote: una corda di aNumeri1 e la corda dei suoi diametrali in aNumeri2"},
+    {"GetArrayNumeriFromFiguraCiclo", 2, 2, &GetArrayNumeriFromFiguraCiclo,
+     "Figura, aRet: mette in aRet, con indice da 1, i vertici di una figura delle collezioni ciclometriche "
+     "nell'ordine del disegno e restituisce quanti sono"},
+};
+
+#undef LOTTOLAB_ORIGINE
+
+}  // namespace
+
+std::span<const Libreria::Funzione> FunzioniCiclometria() { return kCiclometria; }
+
+}  // namespace lottolab::script
