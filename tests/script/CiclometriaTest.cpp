@@ -80,24 +80,20 @@ TEST_F(Ciclometria, BadArgumentsAreRefusedWithTheirReason) {
   }
 }
 
+class CiclometriaCasuale : public Libreria {};
+
 // The collections hold what stats finds, wheel by wheel, on draws of every wheel.
-TEST(CiclometriaCasuale, TheCollectionsCountWhatTheSearchFinds) {
-  class Prova : public Libreria {
-   public:
-    void TestBody() override {}
-    using Libreria::Avvia;
-    using Libreria::Testo;
-  } prova;
+TEST_F(CiclometriaCasuale, TheCollectionsCountWhatTheSearchFinds) {
   const TabellaEstrazioni tab = test::ArchivioCasuale(12, 90, 18);
-  prova.Avvia(tab);
+  Avvia(tab);
   const int dieci[] = {BA, CA, FI, GE, MI, NA, PA, RO, TO, VE};
   const int tutte[] = {BA, CA, FI, GE, MI, NA, PA, RO, TO, VE, NZ};
   for (int id : {7, 9, 12}) {
     const auto nelle_dieci = stats::TrovaFigure(stats::InsiemeDaEstrazione(tab[id], dieci), stats::kFigureDiUnInsieme);
     const auto in_tutte = stats::TrovaFigure(stats::InsiemeDaEstrazione(tab[id], tutte), stats::kFigureDiUnInsieme);
-    EXPECT_EQ(prova.Testo("GetCollFigureCiclometriche(" + std::to_string(id) + ").Count"),
+    EXPECT_EQ(Testo("GetCollFigureCiclometriche(" + std::to_string(id) + ").Count"),
               std::to_string(nelle_dieci.size()));
-    EXPECT_EQ(prova.Testo("GetCollFigureCiclometriche(" + std::to_string(id) + ", Array(TT_, NZ_)).Count"),
+    EXPECT_EQ(Testo("GetCollFigureCiclometriche(" + std::to_string(id) + ", Array(TT_, NZ_)).Count"),
               std::to_string(in_tutte.size()));
     EXPECT_GT(in_tutte.size(), nelle_dieci.size()) << "Nazionale adds numbers";
   }
