@@ -28,23 +28,29 @@ class Raccolta {
   Raccolta(const InsiemeCiclometrico& insieme, std::vector<FiguraCiclometrica>& figure)
       : m_insieme(insieme), m_figure(figure) {}
 
-  // The figure of the vertices given in drawing order.
+  // The figure of the vertices given in drawing order, each already in 1..90.
   void InOrdine(TipoFigura tipo, std::initializer_list<int> vertici) {
     FiguraCiclometrica& figura = m_figure.emplace_back();
     figura.tipo = tipo;
-    for (int v : vertici) {
-      const int n = Su90(v);
+    for (int n : vertici) {
       figura.vertici[figura.quanti] = static_cast<uint8_t>(n);
       figura.ruote[figura.quanti] = m_insieme.Ruote(n);
       ++figura.quanti;
     }
   }
 
-  // The figure of four vertices, put in order from the smallest.
-  void Ordinati(TipoFigura tipo, std::array<int, 4> vertici) {
-    for (int& v : vertici) v = Su90(v);
-    std::sort(vertici.begin(), vertici.end());
-    InOrdine(tipo, {vertici[0], vertici[1], vertici[2], vertici[3]});
+  // The figure of four vertices in 1..90, put in order from the smallest. A sorting network: the
+  // trapezia, thousands in a draw, make this the search's innermost step.
+  void Ordinati(TipoFigura tipo, int a, int b, int c, int d) {
+    auto ordina = [](int& x, int& y) {
+      if (y < x) std::swap(x, y);
+    };
+    ordina(a, b);
+    ordina(c, d);
+    ordina(a, c);
+    ordina(b, d);
+    ordina(b, c);
+    InOrdine(tipo, {a, b, c, d});
   }
 
  private:
@@ -70,14 +76,14 @@ void TriangoliIsosceli(const InsiemeCiclometrico& s, Raccolta& r) {
   for (int apice : s.Numeri())
     for (int d = 1; d <= 44; ++d)
       if (d != 30 && s.Contiene(apice + d) && s.Contiene(apice - d))
-        r.InOrdine(TipoFigura::TriangoloIsoscele, {apice, apice + d, apice - d});
+        r.InOrdine(TipoFigura::TriangoloIsoscele, {apice, Su90(apice + d), Su90(apice - d)});
 }
 
 void QuadratiCiclometrici(const InsiemeCiclometrico& s, Raccolta& r) {
   for (int a : s.Numeri()) {
     if (a > 45) break;
     if (s.Contiene(a + 22) && s.Contiene(a + 45) && s.Contiene(a + 67))
-      r.Ordinati(TipoFigura::QuadratoCiclometrico, {a, a + 22, a + 45, a + 67});
+      r.Ordinati(TipoFigura::QuadratoCiclometrico, a, a + 22, a + 45, Su90(a + 67));
   }
 }
 
@@ -91,7 +97,7 @@ void Rettangoli(const InsiemeCiclometrico& s, Raccolta& r) {
   for (size_t i = 0; i < quanti; ++i)
     for (size_t j = i + 1; j < quanti; ++j)
       if (!DiametriDiUnQuadrato(diametri[i], diametri[j]))
-        r.Ordinati(TipoFigura::Rettangolo, {diametri[i], diametri[j], diametri[i] + 45, diametri[j] + 45});
+        r.Ordinati(TipoFigura::Rettangolo, diametri[i], diametri[j], diametri[i] + 45, diametri[j] + 45);
 }
 
 // Chords are parallel when their sums agree modulo 90; every class holds at most 45 chords, which
@@ -114,7 +120,7 @@ void TrapeziIsosceli(const InsiemeCiclometrico& s, Raccolta& r) {
       for (size_t j = i + 1; j < quante[classe]; ++j) {
         const Corda& p = classi[classe][i];
         const Corda& q = classi[classe][j];
-        if (p.distanza != q.distanza) r.Ordinati(TipoFigura::TrapezioIsoscele, {p.a, p.b, q.a, q.b});
+        if (p.distanza != q.distanza) r.Ordinati(TipoFigura::TrapezioIsoscele, p.a, p.b, q.a, q.b);
       }
 }
 
@@ -125,9 +131,9 @@ void Aquiloni(const InsiemeCiclometrico& s, Raccolta& r) {
     for (int d = 1; d <= 44; ++d) {
       if (!s.Contiene(a + d) || !s.Contiene(a - d)) continue;
       if (d <= 22)
-        r.InOrdine(TipoFigura::Aquilone, {a, a + d, a + 45, a - d});
+        r.InOrdine(TipoFigura::Aquilone, {a, a + d, a + 45, Su90(a - d)});
       else
-        r.InOrdine(TipoFigura::Aquilone, {a + 45, a - d, a, a + d});
+        r.InOrdine(TipoFigura::Aquilone, {a + 45, Su90(a - d), a, Su90(a + d)});
     }
   }
 }
