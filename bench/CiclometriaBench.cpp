@@ -19,7 +19,8 @@ void TutteLeFigure(const Estrazione& estrazione, std::vector<FiguraCiclometrica>
   figure.clear();
   TrovaFigure(InsiemeDaEstrazione(estrazione, kTutte), kFigureDiUnInsieme, figure);
   InsiemeCiclometrico facce[kNumeroRuote];
-  for (int r = 0; r < kNumeroRuote; ++r) facce[r] = InsiemeDaEstrazione(estrazione, std::span<const int>(&kTutte[r], 1));
+  for (int r = 0; r < kNumeroRuote; ++r)
+    facce[r] = InsiemeDaEstrazione(estrazione, std::span<const int>(&kTutte[r], 1));
   for (int i = 0; i < kNumeroRuote; ++i)
     for (int j = i + 1; j < kNumeroRuote; ++j) TrovaParallelepipedi(facce[i], facce[j], figure);
 }

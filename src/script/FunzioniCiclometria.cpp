@@ -66,17 +66,18 @@ Result<stats::InsiemeCiclometrico> InsiemeArgomenti(Libreria& lib, const CallArg
   return stats::InsiemeDaEstrazione((*tab)[id_estr], ruote);
 }
 
-Result<Variant> Collezione(Libreria& lib, const std::vector<stats::FiguraCiclometrica>& figure) {
-  auto collezione = vbs::MakeRef<script::Collezione>(lib.locale());
+// The figures as a collection of FiguraCiclo objects, in their order.
+Result<Variant> CollezioneDi(Libreria& lib, const std::vector<stats::FiguraCiclometrica>& figure) {
+  auto collezione = vbs::MakeRef<Collezione>(lib.locale());
   for (const auto& figura : figure) {
     VBS_TRY(collezione->Aggiungi(Variant::Object(vbs::MakeRef<FiguraCiclo>(lib.locale(), figura)), u""));
   }
-  return Variant::Object(std::move(collezione));
+  return Variant::Object(collezione);
 }
 
 Result<Variant> FigureDiTipi(Libreria& lib, const CallArgs& args, stats::TipiFigura tipi) {
   VBS_TRY_ASSIGN(auto insieme, InsiemeArgomenti(lib, args));
-  return Collezione(lib, stats::TrovaFigure(insieme, tipi));
+  return CollezioneDi(lib, stats::TrovaFigure(insieme, tipi));
 }
 
 template <TipoFigura kTipo>
@@ -104,15 +105,16 @@ Result<Variant> GetCollParallelepipedi(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto id_estr, EstrazioneArgomento(*tab, args, 0, 0, "IdEstr"));
   VBS_TRY_ASSIGN(auto ruote, RuoteDellaFigura(args, 1));
   if (ruote.size() < 2)
-    return ArgomentoNonValido("Servono almeno due ruote: un parallelepipedo unisce una corda di una ruota alla "
-                              "corda diametrale di un'altra");
+    return ArgomentoNonValido(
+        "Servono almeno due ruote: un parallelepipedo unisce una corda di una ruota alla "
+        "corda diametrale di un'altra");
   const Estrazione& estrazione = (*tab)[id_estr];
   std::vector<stats::InsiemeCiclometrico> facce;
   for (int ruota : ruote) facce.push_back(stats::InsiemeDaEstrazione(estrazione, std::span<const int>(&ruota, 1)));
   std::vector<stats::FiguraCiclometrica> figure;
   for (size_t i = 0; i < facce.size(); ++i)
     for (size_t j = i + 1; j < facce.size(); ++j) stats::TrovaParallelepipedi(facce[i], facce[j], figure);
-  return Collezione(lib, figure);
+  return CollezioneDi(lib, figure);
 }
 
 Result<Variant> GetCollParallelepipediQN(Libreria& lib, CallArgs& args) {
@@ -120,7 +122,7 @@ Result<Variant> GetCollParallelepipediQN(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto faccia2, InsiemeDiNumeri(args, 1));
   std::vector<stats::FiguraCiclometrica> figure;
   stats::TrovaParallelepipedi(faccia1, faccia2, figure);
-  return Collezione(lib, figure);
+  return CollezioneDi(lib, figure);
 }
 
 Result<Variant> GetArrayNumeriFromFiguraCiclo(Libreria&, CallArgs& args) {
@@ -133,7 +135,7 @@ Result<Variant> GetArrayNumeriFromFiguraCiclo(Libreria&, CallArgs& args) {
   return Variant::Integer(static_cast<int16_t>(vertici.size()));
 }
 
-#define LOTTOLAB_ORIGINE                                                                                       \
+#define LOTTOLAB_ORIGINE                                                                                      \
   "IdEstr o aNumeri, [aRuote = TT_]: i numeri dell'estrazione IdEstr sulle ruote aRuote (TT_ le dieci ruote " \
   "cittadine, NZ_ se indicata), o i numeri 1..90 dell'array aNumeri (allora senza aRuote); "
 

@@ -58,8 +58,8 @@ inline constexpr int kTipiFigura = 8;
 using TipiFigura = uint16_t;
 constexpr TipiFigura Tipo(TipoFigura tipo) { return static_cast<TipiFigura>(1u << (static_cast<int>(tipo) - 1)); }
 // Every kind that a single set holds: all but the parallelepiped, which takes two faces.
-inline constexpr TipiFigura kFigureDiUnInsieme = static_cast<TipiFigura>((1u << kTipiFigura) - 1) &
-                                                 static_cast<TipiFigura>(~Tipo(TipoFigura::Parallelepipedo));
+inline constexpr TipiFigura kFigureDiUnInsieme =
+    static_cast<TipiFigura>((1u << kTipiFigura) - 1) & static_cast<TipiFigura>(~Tipo(TipoFigura::Parallelepipedo));
 
 // The Italian name of the kind ("Triangolo isoscele"); empty for a value outside the enumeration.
 std::string_view NomeTipoFigura(TipoFigura tipo);

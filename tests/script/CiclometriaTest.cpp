@@ -24,7 +24,8 @@ class Ciclometria : public Libreria {
 };
 
 TEST_F(Ciclometria, AFigureOfADrawGivesItsVerticesInOrderWithTheirWheels) {
-  EXPECT_EQ(Testo("Elenco(GetCollAquiloneCiclometrico(1, Array(BA_, VE_)))"), "Aquilone 10-18-55-2 (BA/VE, BA, VE, VE);");
+  EXPECT_EQ(Testo("Elenco(GetCollAquiloneCiclometrico(1, Array(BA_, VE_)))"),
+            "Aquilone 10-18-55-2 (BA/VE, BA, VE, VE);");
   Esegui("Set c = GetCollFigureCiclometriche(1, Array(BA_, VE_), 7)\nSet f = c(1)\n");
   EXPECT_EQ(Testo("c.Count & \" \" & f.Tipo & \" \" & f.IdTipo & \" \" & f.QuantitaVertici"), "1 Aquilone 7 4");
   EXPECT_EQ(Testo("Join(f.Numeri, \" \") & \"|\" & Join(f.Ruote, \" \") & \"|\" & Join(f.RuoteVertice(1), \" \")"),
@@ -41,7 +42,8 @@ TEST_F(Ciclometria, ASetOfNumbersHasNoWheels) {
   EXPECT_EQ(Testo("Elenco(GetCollFigureCiclometriche(Array(1, 23, 46, 68)))"),
             "Diametro 1-46;Diametro 23-68;Quadrato ciclometrico 1-23-46-68;");
   EXPECT_EQ(Testo("Elenco(GetCollFigureCiclometriche(Array(1, 23, 46, 68), , Array(1, 5)))"),
-            "Diametro 1-46;Diametro 23-68;") << "the near-square is no rectangle";
+            "Diametro 1-46;Diametro 23-68;")
+      << "the near-square is no rectangle";
   EXPECT_EQ(Testo("Elenco(GetCollRettangoli(Array(3, 20, 48, 65)))"), "Rettangolo 3-20-48-65;");
   EXPECT_EQ(Testo("Elenco(GetCollTrapezioIsoscele(Array(2, 12, 24, 80)))"), "Trapezio isoscele 2-12-24-80;");
   EXPECT_EQ(Testo("Elenco(GetCollTriangoliIsosceli(Array(10, 3, 17)))"), "Triangolo isoscele 10-17-3;");

@@ -59,8 +59,7 @@ TEST(Ciclometria, EachDefinitionOnASetCountedByHand) {
       {{10, 18, 55, 2},
        {"Diametro: 10-55", "Triangolo isoscele: 10-18-2", "Triangolo isoscele: 55-2-18", "Aquilone: 10-18-55-2"}},
       {{10, 40, 55, 70},
-       {"Diametro: 10-55", "Triangolo equilatero: 10-40-70", "Triangolo isoscele: 55-70-40",
-        "Aquilone: 55-70-10-40"}},
+       {"Diametro: 10-55", "Triangolo equilatero: 10-40-70", "Triangolo isoscele: 55-70-40", "Aquilone: 55-70-10-40"}},
   };
   for (const Caso& caso : casi) {
     auto trovate = Scritte(TrovaFigure(Insieme(caso.numeri), kFigureDiUnInsieme));
@@ -159,7 +158,8 @@ std::vector<FiguraCiclometrica> ForzaBruta(const InsiemeCiclometrico& insieme) {
 }
 
 // The parallelepipeds by trying every pair of the first face with every pair of the second.
-std::vector<FiguraCiclometrica> ParallelepipediForzaBruta(const InsiemeCiclometrico& f1, const InsiemeCiclometrico& f2) {
+std::vector<FiguraCiclometrica> ParallelepipediForzaBruta(const InsiemeCiclometrico& f1,
+                                                          const InsiemeCiclometrico& f2) {
   std::vector<FiguraCiclometrica> figure;
   const auto n1 = f1.Numeri();
   const auto n2 = f2.Numeri();
