@@ -28,9 +28,9 @@
 // smallest number otherwise.
 //
 // The search takes a set of numbers, each with the wheels it came from (none for a set a script
-// gives), and finds every figure of the kinds asked in time linear in the figures found: a number's
+// gives), and finds every figure of the kinds asked without trying every group of four: a number's
 // presence is a table lookup, and the four-vertex kinds are built from diameters and from classes
-// of parallel chords rather than from all the groups of four.
+// of parallel chords, so the work grows with the pairs of numbers and the figures found.
 
 #include <array>
 #include <cstdint>
