@@ -1,6 +1,6 @@
 #include "CerchioCiclometrico.h"
 
-#include <QPainterPath>
+#include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -21,7 +21,6 @@ QPen PennaFigura(const script::FiguraCerchio& figura, bool evidenziata, const sc
   QColor colore = ColoreQt(evidenziata ? imp.evidenziata : figura.colore.value_or(imp.figure));
   double spessore = evidenziata ? imp.spessore_evidenziata : figura.spessore.value_or(imp.spessore_figure);
   QPen penna(colore, std::max(0.0, spessore));
-  penna.setJoinStyle(Qt::RoundJoin);
   return penna;
 }
 
@@ -88,11 +87,14 @@ ConteggioCerchio DisegnaCerchio(QPainter& pittore, const QRectF& area, const scr
     carattere.setPixelSize(std::max(6, static_cast<int>(lato / 50)));
     pittore.setFont(carattere);
     pittore.setPen(ColoreQt(imp.numeri));
-    const double cella = lato / 20;
+    // Centred by the font's metrics: laying out each label in a rectangle costs several times more.
+    const QFontMetricsF metriche(carattere);
+    const double mezza_altezza = (metriche.ascent() - metriche.descent()) / 2;
     for (int numero = 1; numero <= 90; ++numero) {
       const QPointF centro = PuntoDelNumero(numero, quadrato, 0.93);
-      pittore.drawText(QRectF(centro.x() - cella, centro.y() - cella / 2, 2 * cella, cella), Qt::AlignCenter,
-                       QString::number(numero));
+      const QString etichetta = QString::number(numero);
+      pittore.drawText(QPointF(centro.x() - metriche.horizontalAdvance(etichetta) / 2, centro.y() + mezza_altezza),
+                       etichetta);
       ++conteggio.numeri;
     }
   }

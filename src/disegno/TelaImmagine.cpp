@@ -24,8 +24,12 @@ QFont Carattere(int dimensione) {
   return carattere;
 }
 
+// Qt's PNG writer turns quality into zlib's level: 80 compresses a little less than the default
+// and writes a picture of the circle several times faster, for files a few percent larger.
+constexpr int kQualitaPng = 80;
+
 QImage ImmagineVuota(int larghezza, int altezza, script::Rgb sfondo) {
-  QImage immagine(larghezza, altezza, QImage::Format_ARGB32_Premultiplied);
+  QImage immagine(larghezza, altezza, QImage::Format_RGB32);
   immagine.fill(ColoreQt(sfondo));
   return immagine;
 }
@@ -151,7 +155,7 @@ QImage ImmagineCerchio(const script::DisegnoCerchio& disegno, int lato, Conteggi
 
 Esito<Fatto> SalvaPng(const QImage& immagine, const std::filesystem::path& file) {
   QSaveFile uscita(QString::fromStdString(file.string()));
-  if (!uscita.open(QIODevice::WriteOnly) || !immagine.save(&uscita, "PNG") || !uscita.commit())
+  if (!uscita.open(QIODevice::WriteOnly) || !immagine.save(&uscita, "PNG", kQualitaPng) || !uscita.commit())
     return AvvisoEsclamativo(
         fmt::format("Impossibile scrivere l'immagine {}: {}", file.string(), uscita.errorString().toStdString()));
   return Fatto{};
