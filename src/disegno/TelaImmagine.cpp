@@ -38,6 +38,12 @@ QImage ImmagineVuota(int larghezza, int altezza, script::Rgb sfondo) {
 
 TelaImmagine::TelaImmagine() : m_immagine(ImmagineVuota(kLarghezzaIniziale, kAltezzaIniziale, 0xFFFFFF)) {}
 
+void TelaImmagine::Ricomincia() {
+  m_sfondo = 0xFFFFFF;
+  m_disegnata = false;
+  SetDimensioni(kLarghezzaIniziale, kAltezzaIniziale);
+}
+
 void TelaImmagine::SetDimensioni(int larghezza, int altezza) {
   m_immagine = ImmagineVuota(std::clamp(larghezza, 1, kLatoMassimo), std::clamp(altezza, 1, kLatoMassimo), m_sfondo);
   m_conteggio = {};

@@ -50,6 +50,9 @@ class TelaImmagine : public script::AreaDisegno {
                std::optional<script::Rgb> riempimento) override;
   void DisegnaCerchio(const script::DisegnoCerchio& disegno, double x, double y, double lato) override;
 
+  // Back to a new run's blank picture: the initial size, white, nothing drawn.
+  void Ricomincia();
+
   const QImage& Immagine() const { return m_immagine; }
   const ConteggioTela& Conteggio() const { return m_conteggio; }
   // Whether anything was drawn since the picture was made: a run that drew nothing writes no file.
