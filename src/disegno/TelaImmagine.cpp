@@ -210,7 +210,9 @@ Esito<std::optional<std::filesystem::path>> TelaPng::MostraCerchio(const script:
 }
 
 Esito<std::optional<std::filesystem::path>> TelaPng::Salva() {
-  if (!Disegnata() || m_file.empty()) return std::optional<std::filesystem::path>();
+  // Once the page links the picture it must exist, even blank; a run that never reached the
+  // picture area writes nothing.
+  if (m_file.empty()) return std::optional<std::filesystem::path>();
   auto scritto = SalvaPng(Immagine(), m_file);
   if (!scritto) return scritto.Errore();
   return std::optional<std::filesystem::path>(m_file);

@@ -90,7 +90,8 @@ class TelaPng final : public TelaImmagine {
                                                             const std::string& titolo,
                                                             const std::filesystem::path& pagina) override;
   std::optional<std::filesystem::path> FileImmagine(const std::filesystem::path& pagina) override;
-  // Writes the picture when something was drawn; the file written, nothing when none was.
+  // Writes the picture once the page links it (FileImmagine was asked); the file written, nothing
+  // when the run never used the picture area.
   Esito<std::optional<std::filesystem::path>> Salva();
   // The file of the picture; empty until the library asked for it.
   const std::filesystem::path& File() const { return m_file; }

@@ -82,7 +82,9 @@ template <bool Larghezza>
 Result<Variant> PicMisuraTesto(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto testo, Testo(args, 0));
   VBS_TRY_ASSIGN(auto dimensione, DimensioneTesto(args, 1));
-  VBS_TRY_ASSIGN(auto area, AreaDelloScript(lib, Larghezza ? "PicTextWidth" : "PicTextHeight"));
+  // Measuring draws nothing, so it does not link a picture from the page.
+  AreaDisegno* area = lib.ospite().Disegno();
+  if (!area) return ArgomentoNonValido("Nessuna area di disegno: chi esegue lo script non disegna");
   return Variant::Long(Larghezza ? area->TextWidth(testo, dimensione) : area->TextHeight(testo, dimensione));
 }
 

@@ -78,11 +78,12 @@ TEST_F(Tela, DimensioniTenuteNeiLimiti) {
 TEST_F(Tela, PngScrittoTuttoOppureNiente) {
   test::CartellaTemporanea cartella;
   TelaPng tela;
-  // Nothing drawn: no file.
-  ASSERT_EQ(tela.FileImmagine(cartella / "pagina.htm"), cartella / "pagina.png");
+  // The page never linked the picture: no file.
+  tela.Riempi(0x00FF00);
   auto niente = tela.Salva();
   ASSERT_TRUE(niente);
   EXPECT_FALSE(*niente);
+  ASSERT_EQ(tela.FileImmagine(cartella / "pagina.htm"), cartella / "pagina.png");
   tela.SetDimensioni(30, 20);
   tela.Riempi(0xFF0000);
   ASSERT_TRUE(tela.Esegui());

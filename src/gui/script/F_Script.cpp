@@ -22,7 +22,7 @@
 #include <cmath>
 #include <filesystem>
 
-#include "gui/ciclometria/QvCerchio.h"
+#include "gui/comuni/QvCerchio.h"
 #include "gui/principale/Impostazioni.h"
 #include "gui/script/DialoghiQt.h"
 #include "gui/script/EditorScript.h"

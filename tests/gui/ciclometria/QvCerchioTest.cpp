@@ -1,6 +1,12 @@
 #include <QTest>
 
-#include "gui/ciclometria/QvCerchio.h"
+#include <QLabel>
+#include <QListWidget>
+#include <QSpinBox>
+
+#include "TempDir.h"
+#include "gui/ciclometria/FinestraCiclometria.h"
+#include "gui/comuni/QvCerchio.h"
 
 namespace lottolab::gui {
 
@@ -29,6 +35,18 @@ class QvCerchioTest : public QObject {
     vista.Evidenzia(0);
     immagine = vista.grab().toImage();
     QCOMPARE(immagine.pixel(150, 100) & 0xFFFFFF, 0x00FF00u);
+  }
+
+  // Without an archive the window opens all the same, with nothing marked.
+  void LaFinestraSenzaArchivioSiApre() {
+    test::CartellaTemporanea base;
+    ContestoGui contesto(app::Configurazione{base.Percorso(), app::FileIni::DaTesto("")});
+    FinestraCiclometria finestra(contesto);
+    finestra.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&finestra));
+    QCOMPARE(finestra.Ruote()->count(), kNumeroRuote);
+    QCOMPARE(finestra.Figure()->count(), 0);
+    QVERIFY(finestra.Cerchio()->Disegno().marcati.empty());
   }
 };
 

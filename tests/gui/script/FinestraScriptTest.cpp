@@ -12,7 +12,7 @@
 #include <fstream>
 
 #include "TempDir.h"
-#include "gui/ciclometria/QvCerchio.h"
+#include "gui/comuni/QvCerchio.h"
 #include "gui/script/EditorScript.h"
 #include "gui/script/EsecuzioneInThread.h"
 #include "gui/script/F_Script.h"
