@@ -12,6 +12,7 @@
 #include "app/ErroreInatteso.h"
 #include "app/Percorsi.h"
 #include "archive/ClsEstrazioni.h"
+#include "disegno/TelaImmagine.h"
 #include "script/EsecutoreScript.h"
 #include "script/LetturaFile.h"
 #include "text/Utf.h"
@@ -75,6 +76,23 @@ class OspiteTerminale final : public script::InterfacciaScript {
   void Mostra(const Avviso& avviso) override { m_segnalatore.Mostra(avviso); }
   void Messaggio(const std::string& testo) override { m_err << testo << '\n'; }
   void Avanzamento(double) override {}
+  // The picture is made at the first drawing of the run: a run that draws nothing needs no Qt.
+  script::AreaDisegno* Disegno() override {
+    if (!m_tela) {
+      disegno::AssicuraApplicazioneGrafica();
+      m_tela = std::make_unique<disegno::TelaPng>();
+    }
+    return m_tela.get();
+  }
+  // Writes the picture of the run, if it drew one, and says where on stderr.
+  void SalvaDisegno() {
+    if (!m_tela) return;
+    auto file = m_tela->Salva();
+    if (!file)
+      m_segnalatore.Mostra(file.Errore());
+    else if (*file)
+      m_err << fmt::format("immagine del disegno: {}\n", (*file)->string());
+  }
 
   std::optional<std::vector<int>> ScegliVoci(const std::string& titolo, const std::vector<std::string>& voci,
                                              bool multipla) override {
@@ -126,6 +144,7 @@ class OspiteTerminale final : public script::InterfacciaScript {
   SegnalatoreTerminale& m_segnalatore;
   std::ostream& m_err;
   std::deque<std::string> m_risposte;
+  std::unique_ptr<disegno::TelaPng> m_tela;
 };
 
 Esito<std::deque<std::string>> RigheDelFile(const fs::path& file) {
@@ -248,6 +267,7 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole) {
   UiSenzaRisposte ui(contesto.err);
   script::EsecutoreScript esecutore(ospite, &ui);
   const auto esito = esecutore.Esegui(text::DecodeScriptFile(*contenuto), opzioni);
+  ospite.SalvaDisegno();
   contesto.out.flush();
   switch (esito.stato) {
     case script::EsitoEsecuzione::Stato::Completato:

@@ -53,7 +53,9 @@ const Tabella& TabellaCompleta() {
                           FunzioniGiocateAgenda(),
                           FunzioniEsiti(),
                           FunzioniEsitiGiochi(),
-                          FunzioniPremi()})
+                          FunzioniPremi(),
+                          FunzioniPic(),
+                          FunzioniPicCerchio()})
       t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =

@@ -199,6 +199,8 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocateGiochi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocateAgenda();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEsiti();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEsitiGiochi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPic();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPicCerchio();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPremi();
 
 }  // namespace lottolab::script

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 
+#include "AreaDisegno.h"
 #include "DialoghiLibreria.h"
 #include "archive/Avviso.h"
 
@@ -41,6 +42,9 @@ class InterfacciaScript : public DialoghiLibreria {
   virtual void Messaggio(const std::string& testo) = 0;
   // Progress of a long elaboration, 0 to 100.
   virtual void Avanzamento(double percentuale) = 0;
+  // The picture area of the Pic... functions and of the circle; none for a host that draws
+  // nothing, and the library then refuses those functions with a clear message.
+  virtual AreaDisegno* Disegno() { return nullptr; }
 };
 
 }  // namespace lottolab::script

@@ -113,6 +113,8 @@ void FinestraPrincipale::CreaMenu() {
   QAction* tabellone = azione(statistiche, QStringLiteral("&Tabellone"), "azioneTabellone",
                               [this] { AggiungiFinestra(NuovoTabellone(m_contesto), Icona(kIconaTabellone)); });
   tabellone->setIcon(Icona(kIconaTabellone));
+  azione(statistiche, QStringLiteral("&Ciclometria"), "azioneCiclometria",
+         [this] { AggiungiFinestra(NuovaFinestraCiclometria(m_contesto), Icona(kIconaTabellone)); });
 
   QMenu* giocate = menuBar()->addMenu(QStringLiteral("&Giocate"));
   QAction* agenda = azione(giocate, QStringLiteral("&Agenda delle giocate"), "azioneAgenda", [this] { ApriAgenda(); });

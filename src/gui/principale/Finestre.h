@@ -19,6 +19,8 @@ QWidget* NuovaFinestraArchivioGioco(ContestoGui& contesto, Gioco gioco, QWidget*
 QWidget* NuovaFinestraScript(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);
 // The delay table of the 90 numbers on the chosen wheels, or of every number of another game.
 QWidget* NuovoTabellone(ContestoGui& contesto, QWidget* parent = nullptr);
+// A draw on the circle of the 90 numbers, its wheels chosen, with its figures.
+QWidget* NuovaFinestraCiclometria(ContestoGui& contesto, QWidget* parent = nullptr);
 // The agenda of the bets played: the list with the wins not seen yet, a new bet, the check, the
 // removal, a bet's check draw by draw, the totals, the export to CSV.
 QWidget* NuovaFinestraAgenda(ContestoGui& contesto, QWidget* parent = nullptr);

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QToolBar>
@@ -21,6 +22,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "gui/comuni/QvCerchio.h"
 #include "gui/principale/Impostazioni.h"
 #include "gui/script/DialoghiQt.h"
 #include "gui/script/EditorScript.h"
@@ -74,6 +76,12 @@ F_Script::F_Script(ContestoGui& contesto, std::unique_ptr<DialoghiScript> dialog
   m_schede->addTab(m_editor, QStringLiteral("codice"));
   m_schede->addTab(m_output, QStringLiteral("output"));
   m_schede->addTab(m_html, QStringLiteral("html"));
+  m_disegno = new QLabel(m_schede);
+  m_disegno->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  auto* scorrimento = new QScrollArea(m_schede);
+  scorrimento->setWidget(m_disegno);
+  scorrimento->setWidgetResizable(true);
+  m_schede->addTab(scorrimento, QStringLiteral("disegno"));
   layout->addWidget(m_schede, 1);
 
   auto* riga_stato = new QHBoxLayout;
@@ -93,6 +101,17 @@ F_Script::F_Script(ContestoGui& contesto, std::unique_ptr<DialoghiScript> dialog
   connect(m_editor, &QsciScintilla::modificationChanged, this, &QWidget::setWindowModified);
   OspiteGui& ospite = m_esecuzione->Ospite();
   connect(&ospite, &OspiteGui::TestoScritto, this, &F_Script::AggiungiOutput);
+  connect(&ospite.Area(), &AreaDisegnoGui::ImmagineAggiornata, this,
+          [this](const QImage& immagine) { m_disegno->setPixmap(QPixmap::fromImage(immagine)); });
+  connect(&ospite.Area(), &AreaDisegnoGui::CerchioDaMostrare, this,
+          [this](const script::DisegnoCerchio& disegno, const QString& titolo) {
+            auto* vista = new QvCerchio(this);
+            vista->setWindowFlag(Qt::Window);
+            vista->setAttribute(Qt::WA_DeleteOnClose);
+            vista->setWindowTitle(titolo);
+            vista->ImpostaDisegno(disegno);
+            vista->show();
+          });
   connect(&ospite, &OspiteGui::MessaggioRicevuto, m_stato, &QLabel::setText);
   connect(&ospite, &OspiteGui::AvanzamentoCambiato, this,
           [this](double percentuale) { m_avanzamento->setValue(static_cast<int>(std::lround(percentuale))); });

@@ -24,6 +24,7 @@ class QProgressBar;
 class QTabWidget;
 class QTextBrowser;
 class QPlainTextEdit;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace lottolab::gui {
@@ -47,6 +48,8 @@ class F_Script : public QWidget {
   EditorScript* Editor() const { return m_editor; }
   QPlainTextEdit* Output() const { return m_output; }
   QTextBrowser* PaginaHtml() const { return m_html; }
+  // The picture of the Pic... functions, as the script last showed it.
+  QLabel* Disegno() const { return m_disegno; }
   QLabel* Attesa() const { return m_attesa; }
   QProgressBar* Avanzamento() const { return m_avanzamento; }
   QComboBox* Timeout() const { return m_timeout; }
@@ -97,6 +100,7 @@ class F_Script : public QWidget {
   EditorScript* m_editor = nullptr;
   QPlainTextEdit* m_output = nullptr;
   QTextBrowser* m_html = nullptr;
+  QLabel* m_disegno = nullptr;
   QTabWidget* m_schede = nullptr;
   QComboBox* m_timeout = nullptr;
   QProgressBar* m_avanzamento = nullptr;

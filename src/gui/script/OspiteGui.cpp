@@ -118,9 +118,13 @@ void OspiteGui::Consegna(int64_t righe) {
   if (!tratti.empty()) emit TestoScritto(tratti);
 }
 
-void OspiteGui::ConsegnaInSospeso() { Consegna(kMassimoRighe + 1); }
+void OspiteGui::ConsegnaInSospeso() {
+  Consegna(kMassimoRighe + 1);
+  if (m_area.Disegnata()) (void)m_area.Esegui();
+}
 
 void OspiteGui::Azzera() {
+  m_area.Ricomincia();
   std::lock_guard blocco(m_mutex);
   m_tratti.clear();
   m_mostrati.clear();

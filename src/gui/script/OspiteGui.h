@@ -19,6 +19,7 @@
 #include <string>
 #include <vector>
 
+#include "gui/script/AreaDisegnoGui.h"
 #include "gui/script/DialoghiScript.h"
 #include "script/InterfacciaScript.h"
 #include "vbscript/runtime/UiHandler.h"
@@ -43,6 +44,8 @@ class OspiteGui final : public QObject, public script::InterfacciaScript, public
   void Mostra(const Avviso& avviso) override;
   void Messaggio(const std::string& testo) override;
   void Avanzamento(double percentuale) override;
+  script::AreaDisegno* Disegno() override { return &m_area; }
+  AreaDisegnoGui& Area() { return m_area; }
   std::optional<std::vector<int>> ScegliVoci(const std::string& titolo, const std::vector<std::string>& voci,
                                              bool multipla) override;
   std::optional<std::vector<int>> ScegliNumeri(const std::string& titolo, int quanti, int massimo,
@@ -98,6 +101,7 @@ class OspiteGui final : public QObject, public script::InterfacciaScript, public
   std::set<std::string> m_mostrati;  // the messages of this run shown in a dialog; worker's thread
   std::atomic<double> m_percentuale{0};
   std::atomic<bool> m_avanzamento_in_attesa{false};
+  AreaDisegnoGui m_area;
 };
 
 }  // namespace lottolab::gui

@@ -12,6 +12,7 @@
 #include <fstream>
 
 #include "TempDir.h"
+#include "gui/comuni/QvCerchio.h"
 #include "gui/script/EditorScript.h"
 #include "gui/script/EsecuzioneInThread.h"
 #include "gui/script/F_Script.h"
@@ -415,6 +416,25 @@ class FinestraScriptTest : public QObject {
     QCOMPARE(m_finestra->Editor()->text(), QString("Sub Main\nScrivi \"è\"\nEnd Sub"));
     QCOMPARE(m_finestra->File(), salvato);
     QVERIFY(!m_finestra->Editor()->isModified());
+  }
+
+  // The worker paints the picture; the window shows it at the run's end, and a circle of
+  // QvCerchio_InitDisegno in a view of its own.
+  void IlDisegnoDelloScriptArrivaNellaSuaSchedaEIlCerchioInUnaVista() {
+    Apri();
+    Esegui("Sub Main\nPicSetDimensioni 120, 80\nPicRiempi Rosso_\nPicCerchio 60, 40, 10, Blu_, 1, Blu_\n"
+           "d = GetNewDisegnoCiclometrico()\n"
+           "DisegnaCerchioCiclometrico d, Array(1), Array(Array(1, 46)), , , 0, 0, 0, 40\nQvCerchio_InitDisegno d, \"Vista\"\nEnd Sub");
+    QVERIFY(m_dialoghi->avvisi.empty());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_finestra->Disegno()->pixmap().isNull(), kAttesaMs);
+    const QImage immagine = m_finestra->Disegno()->pixmap().toImage();
+    QCOMPARE(immagine.size(), QSize(120, 80));
+    QCOMPARE(immagine.pixel(60, 40) & 0xFFFFFF, 0x0000FFu);
+    QCOMPARE(immagine.pixel(115, 2) & 0xFFFFFF, 0xFF0000u);
+    QTRY_COMPARE_WITH_TIMEOUT(m_finestra->findChildren<QvCerchio*>().size(), qsizetype{1}, kAttesaMs);
+    QvCerchio* vista = m_finestra->findChildren<QvCerchio*>().front();
+    QCOMPARE(vista->windowTitle(), QString("Vista"));
+    QCOMPARE(vista->Disegno().figure.size(), size_t{1});
   }
 };
 

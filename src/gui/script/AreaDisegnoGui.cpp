@@ -1,0 +1,21 @@
+#include "AreaDisegnoGui.h"
+
+namespace lottolab::gui {
+
+Esito<Fatto> AreaDisegnoGui::Esegui() {
+  QImage copia = Immagine();
+  QMetaObject::invokeMethod(
+      this, [this, copia] { emit ImmagineAggiornata(copia); }, Qt::QueuedConnection);
+  return Fatto{};
+}
+
+Esito<std::optional<std::filesystem::path>> AreaDisegnoGui::MostraCerchio(const script::DisegnoCerchio& disegno,
+                                                                          const std::string& titolo,
+                                                                          const std::filesystem::path&) {
+  QMetaObject::invokeMethod(
+      this, [this, disegno, testo = QString::fromStdString(titolo)] { emit CerchioDaMostrare(disegno, testo); },
+      Qt::QueuedConnection);
+  return std::optional<std::filesystem::path>();
+}
+
+}  // namespace lottolab::gui

@@ -1,0 +1,35 @@
+#pragma once
+
+// The picture area of a script run from the window. The script paints on its worker thread into
+// the QImage of TelaImmagine, the same picture a headless run writes; the window gets a copy of it
+// when the script calls PicEsegui and when the run ends (QImage is shared until written, so the
+// copy costs nothing), and a circle of QvCerchio_InitDisegno by a queued call.
+
+#include <QImage>
+#include <QObject>
+
+#include "disegno/TelaImmagine.h"
+
+namespace lottolab::gui {
+
+class AreaDisegnoGui final : public QObject, public disegno::TelaImmagine {
+  Q_OBJECT
+
+ public:
+  // Lives on the window's thread.
+  explicit AreaDisegnoGui(QObject* parent = nullptr) : QObject(parent) {}
+
+  Esito<Fatto> Esegui() override;
+  Esito<std::optional<std::filesystem::path>> MostraCerchio(const script::DisegnoCerchio& disegno,
+                                                            const std::string& titolo,
+                                                            const std::filesystem::path& pagina) override;
+  // The window shows the picture in its own tab, so the page links none.
+  std::optional<std::filesystem::path> FileImmagine(const std::filesystem::path&) override { return std::nullopt; }
+
+ signals:
+  // On the window's thread.
+  void ImmagineAggiornata(const QImage& immagine);
+  void CerchioDaMostrare(const lottolab::script::DisegnoCerchio& disegno, const QString& titolo);
+};
+
+}  // namespace lottolab::gui

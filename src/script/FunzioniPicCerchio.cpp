@@ -1,0 +1,198 @@
+// The circle of the 90 numbers from scripts: a drawing is made with GetNewDisegnoCiclometrico, its
+// colours, widths and kinds set with the ImpostaProp... names, then painted on the picture area
+// (DisegnaCerchioCiclometrico) or in a view of its own (QvCerchio_InitDisegno). Figures come as
+// arrays of numbers, one array a figure.
+
+#include <fmt/format.h>
+
+#include "ArgomentiLotto.h"
+#include "AreaDisegnoScript.h"
+#include "Famiglia.h"
+#include "vbscript/value/SafeArray.h"
+
+namespace lottolab::script {
+
+namespace {
+
+using namespace famiglia;
+
+// A run may hold this many drawings: a script making one per draw in a loop is told, not let fill
+// the memory.
+constexpr size_t kDisegniMassimi = 1000;
+constexpr size_t kFigureMassime = 100000;
+
+struct StatoCerchi {
+  std::vector<DisegnoCerchio> disegni;
+};
+
+Result<DisegnoCerchio*> DisegnoArgomento(Libreria& lib, const CallArgs& args) {
+  VBS_TRY_ASSIGN(auto id, args.Long(0));
+  auto& disegni = lib.Stato<StatoCerchi>().disegni;
+  if (id < 1 || static_cast<size_t>(id) > disegni.size())
+    return ArgomentoNonValido(fmt::format(
+        "Disegno ciclometrico non valido: {} (GetNewDisegnoCiclometrico ne ha dati {})", id, disegni.size()));
+  return &disegni[static_cast<size_t>(id - 1)];
+}
+
+// The numbers 1..90 of an array (or one number); Empty elements are passed over.
+Result<std::vector<int>> NumeriDelCerchio(const CallArgs& args, size_t i, std::string_view cosa) {
+  if (!args.Has(i)) return std::vector<int>();
+  VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, i));
+  std::vector<int> numeri;
+  numeri.reserve(valori.size());
+  for (double valore : valori) {
+    if (!(valore >= 1 && valore <= 90 && valore == static_cast<int>(valore)))
+      return ArgomentoNonValido(fmt::format("{}: numero non valido {} (da 1 a 90)", cosa, valore));
+    numeri.push_back(static_cast<int>(valore));
+  }
+  return numeri;
+}
+
+// aFigure: an array whose elements are arrays of numbers, one figure each.
+Result<std::vector<FiguraCerchio>> FigureArgomento(const CallArgs& args, size_t i) {
+  std::vector<FiguraCerchio> figure;
+  if (!args.Has(i)) return figure;
+  VBS_TRY_ASSIGN(auto valore, args.Value(i));
+  if (!valore.is_array()) return ArgomentoNonValido("aFigure deve essere un array di array di numeri");
+  for (const Variant& elemento : valore.as_array()->elements()) {
+    if (elemento.is_empty()) continue;
+    if (figure.size() == kFigureMassime)
+      return ArgomentoNonValido(fmt::format("Troppe figure: al massimo {}", kFigureMassime));
+    Variant copia = elemento;
+    CallArgs uno(std::span<Variant>(&copia, 1), args.locale());
+    VBS_TRY_ASSIGN(auto numeri, NumeriDelCerchio(uno, 0, fmt::format("figura {}", figure.size() + 1)));
+    figure.push_back(FiguraCerchio{std::move(numeri), std::nullopt, std::nullopt});
+  }
+  return figure;
+}
+
+Result<Variant> GetNewDisegnoCiclometrico(Libreria& lib, CallArgs&) {
+  auto& disegni = lib.Stato<StatoCerchi>().disegni;
+  if (disegni.size() == kDisegniMassimi)
+    return ArgomentoNonValido(fmt::format("Troppi disegni ciclometrici: al massimo {} per esecuzione", kDisegniMassimi));
+  disegni.emplace_back();
+  return Variant::Long(static_cast<int32_t>(disegni.size()));
+}
+
+Result<Variant> DisegnaCerchioCiclometrico(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto disegno, DisegnoArgomento(lib, args));
+  VBS_TRY_ASSIGN(auto marcati, NumeriDelCerchio(args, 1, "aNumeri"));
+  VBS_TRY_ASSIGN(auto figure, FigureArgomento(args, 2));
+  if (args.Has(3)) {
+    VBS_TRY_ASSIGN(auto colori, ValoriArgomento(args, 3));
+    for (size_t k = 0; k < colori.size() && k < figure.size(); ++k) {
+      auto rgb = RgbDiColoreScript(static_cast<int32_t>(colori[k]));
+      if (!rgb || colori[k] != static_cast<int32_t>(colori[k]))
+        return ArgomentoNonValido(fmt::format("aColori: colore non valido {} per la figura {}", colori[k], k + 1));
+      figure[k].colore = *rgb;
+    }
+  }
+  if (args.Has(4)) {
+    VBS_TRY_ASSIGN(auto spessori, ValoriArgomento(args, 4));
+    for (size_t k = 0; k < spessori.size() && k < figure.size(); ++k) {
+      if (!(spessori[k] >= 0 && spessori[k] <= kSpessoreMassimo))
+        return ArgomentoNonValido(fmt::format("aSpessori: spessore non valido {} per la figura {}", spessori[k], k + 1));
+      figure[k].spessore = spessori[k];
+    }
+  }
+  VBS_TRY_ASSIGN(auto evidenziata, args.Long(5, 0));
+  if (evidenziata < 0 || static_cast<size_t>(evidenziata) > figure.size())
+    return ArgomentoNonValido(
+        fmt::format("Evidenziata non valida: {} (0 nessuna, da 1 a {})", evidenziata, figure.size()));
+  VBS_TRY_ASSIGN(auto x, args.Double(6, 0));
+  VBS_TRY_ASSIGN(auto y, args.Double(7, 0));
+  VBS_TRY_ASSIGN(auto lato, args.Double(8, 0));
+  if (!(std::abs(x) <= 1e6 && std::abs(y) <= 1e6 && lato >= 0 && lato <= 8000))
+    return ArgomentoNonValido(fmt::format("Posizione o lato non validi: ({}, {}), lato {}", x, y, lato));
+  VBS_TRY_ASSIGN(auto area, AreaDelloScript(lib, "DisegnaCerchioCiclometrico"));
+  disegno->marcati = std::move(marcati);
+  disegno->figure = std::move(figure);
+  disegno->evidenziata = static_cast<int>(evidenziata) - 1;
+  area->DisegnaCerchio(*disegno, x, y, lato);
+  return Variant();
+}
+
+Result<Variant> ImpostaPropColoriCerchioCiclo(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto disegno, DisegnoArgomento(lib, args));
+  ImpostazioniCerchio& imp = disegno->impostazioni;
+  Rgb* campi[] = {&imp.sfondo, &imp.cerchio, &imp.numeri, &imp.marcati, &imp.figure, &imp.evidenziata};
+  Rgb nuovi[6];
+  for (size_t i = 0; i < 6; ++i) {
+    VBS_TRY_ASSIGN(nuovi[i], ColoreDisegno(args, i + 1, *campi[i]));
+  }
+  for (size_t i = 0; i < 6; ++i) *campi[i] = nuovi[i];
+  return Variant();
+}
+
+Result<Variant> ImpostaPropDrawWidthCerchioCiclo(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto disegno, DisegnoArgomento(lib, args));
+  ImpostazioniCerchio& imp = disegno->impostazioni;
+  VBS_TRY_ASSIGN(auto cerchio, SpessoreDisegno(args, 1, imp.spessore_cerchio));
+  VBS_TRY_ASSIGN(auto figure, SpessoreDisegno(args, 2, imp.spessore_figure));
+  VBS_TRY_ASSIGN(auto evidenziata, SpessoreDisegno(args, 3, imp.spessore_evidenziata));
+  imp.spessore_cerchio = cerchio;
+  imp.spessore_figure = figure;
+  imp.spessore_evidenziata = evidenziata;
+  return Variant();
+}
+
+Result<Variant> ImpostaPropFlagFigureCerchioCiclo(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto disegno, DisegnoArgomento(lib, args));
+  uint32_t flag = disegno->impostazioni.flag;
+  // Arguments 1..6 are the bits 0..5: diameters, triangles, quadrilaterals, polygons, numbers, marks.
+  for (size_t i = 1; i <= 6; ++i) {
+    const uint32_t bit = 1u << (i - 1);
+    VBS_TRY_ASSIGN(auto acceso, args.Boolean(i, (flag & bit) != 0));
+    flag = acceso ? flag | bit : flag & ~bit;
+  }
+  disegno->impostazioni.flag = flag;
+  return Variant();
+}
+
+Result<Variant> QvCerchio_InitDisegno(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto disegno, DisegnoArgomento(lib, args));
+  VBS_TRY_ASSIGN(auto titolo, args.String(1, u"Cerchio ciclometrico"));
+  AreaDisegno* area = lib.ospite().Disegno();
+  if (!area) return ArgomentoNonValido("Nessuna area di disegno: chi esegue lo script non disegna");
+  const auto pagina = PaginaDellEsecuzione(lib);
+  // A headless host writes beside the page; the rules judge a file by where it lies.
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Write, pagina.parent_path() / (pagina.stem().string() + "_cerchio.png"),
+                       "QvCerchio_InitDisegno"));
+  auto file = area->MostraCerchio(*disegno, text::Utf16ToUtf8(titolo), pagina);
+  if (!file) return ArgomentoNonValido(file.Errore().testo);
+  if (*file)
+    lib.html().ScriviMarkup(fmt::format("<p><img src=\"{}\" alt=\"{}\"></p>\n", TestoHtml((*file)->filename().string()),
+                                        TestoHtml(text::Utf16ToUtf8(titolo))));
+  return Variant();
+}
+
+const Libreria::Funzione kCerchio[] = {
+    {"GetNewDisegnoCiclometrico", 0, 0, &GetNewDisegnoCiclometrico,
+     "un nuovo disegno del cerchio dei 90 numeri, coi colori, gli spessori e le figure predefiniti: il numero che "
+     "gli altri nomi del cerchio vogliono come IdDisegno"},
+    {"DisegnaCerchioCiclometrico", 1, 9, &DisegnaCerchioCiclometrico,
+     "IdDisegno, [aNumeri], [aFigure], [aColori], [aSpessori], [Evidenziata = 0], [X = 0], [Y = 0], [Lato]: "
+     "disegna nell'area di disegno il cerchio dei 90 numeri (1 in alto, in senso orario) nel quadrato di lato Lato "
+     "(omesso, il lato minore dell'immagine) con l'angolo in alto a sinistra in (X, Y); aNumeri sono segnati, "
+     "aFigure è un array di array di numeri, ciascuno una figura (i vertici uniti nell'ordine dato, due numeri una "
+     "linea), aColori e aSpessori il colore e lo spessore di ciascuna, Evidenziata la figura evidenziata da 1"},
+    {"ImpostaPropColoriCerchioCiclo", 2, 7, &ImpostaPropColoriCerchioCiclo,
+     "IdDisegno, [ColoreSfondo], [ColoreCerchio], [ColoreNumeri], [ColoreNumeriSegnati], [ColoreFigure], "
+     "[ColoreEvidenziata]: i colori del disegno (da Nero_ a Magenta_ o un colore di RGB); quelli omessi restano"},
+    {"ImpostaPropDrawWidthCerchioCiclo", 2, 4, &ImpostaPropDrawWidthCerchioCiclo,
+     "IdDisegno, [SpessoreCerchio = 1], [SpessoreFigure = 2], [SpessoreEvidenziata = 4]: gli spessori in pixel "
+     "(da 0 a 100) delle linee del disegno; quelli omessi restano"},
+    {"ImpostaPropFlagFigureCerchioCiclo", 2, 7, &ImpostaPropFlagFigureCerchioCiclo,
+     "IdDisegno, [Diametri], [Triangoli], [Quadrilateri], [Poligoni], [Numeri], [NumeriSegnati]: True o False, "
+     "quali tipi di figura (per numero di vertici: 2, 3, 4, 5 o più), se i 90 numeri e se i numeri segnati sono "
+     "disegnati; all'inizio tutti, quelli omessi restano"},
+    {"QvCerchio_InitDisegno", 1, 2, &QvCerchio_InitDisegno,
+     "IdDisegno, [Titolo]: mostra il disegno, coi numeri e le figure dell'ultimo DisegnaCerchioCiclometrico, in "
+     "una vista a sé: nel programma una finestra, a riga di comando un'immagine PNG accanto alla pagina HTML"},
+};
+
+}  // namespace
+
+std::span<const Libreria::Funzione> FunzioniPicCerchio() { return kCerchio; }
+
+}  // namespace lottolab::script
