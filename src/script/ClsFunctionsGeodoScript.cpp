@@ -42,6 +42,7 @@ const Tabella& TabellaCompleta() {
                           FunzioniEstrazioniAttive(),
                           FunzioniCollezioni(),
                           FunzioniCiclometria(),
+                          FunzioniFigureUtente(),
                           FunzioniGiochiArchivio(),
                           FunzioniGiochiStatistiche(),
                           FunzioniGiochiElenchi(),

@@ -188,6 +188,7 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniDialoghi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEstrazioniAttive();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniCollezioni();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniCiclometria();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniFigureUtente();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiArchivio();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiStatistiche();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiElenchi();
