@@ -52,8 +52,7 @@ ConteggioCerchio DisegnaCerchio(QPainter& pittore, const QRectF& area, const scr
   // The highlighted figure goes last, over the others.
   for (size_t k = 0; k <= disegno.figure.size(); ++k) {
     const bool ultimo = k == disegno.figure.size();
-    if (ultimo && (disegno.evidenziata < 0 || static_cast<size_t>(disegno.evidenziata) >= disegno.figure.size()))
-      break;
+    if (ultimo && (disegno.evidenziata < 0 || static_cast<size_t>(disegno.evidenziata) >= disegno.figure.size())) break;
     const size_t i = ultimo ? static_cast<size_t>(disegno.evidenziata) : k;
     if (!ultimo && static_cast<int>(i) == disegno.evidenziata) continue;
     const script::FiguraCerchio& figura = disegno.figure[i];

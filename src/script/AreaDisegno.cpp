@@ -4,8 +4,7 @@ namespace lottolab::script {
 
 std::optional<Rgb> RgbDiColoreScript(int32_t colore) {
   // The palette of the text output (OutputHtml's ColoreHtml), so a colour reads the same everywhere.
-  static constexpr Rgb kTavolozza[] = {0x000000, 0x0000FF, 0xFF0000, 0x008000,
-                                       0xFFFF00, 0xFFFFFF, 0x00FFFF, 0xFF00FF};
+  static constexpr Rgb kTavolozza[] = {0x000000, 0x0000FF, 0xFF0000, 0x008000, 0xFFFF00, 0xFFFFFF, 0x00FFFF, 0xFF00FF};
   if (colore < 0 || colore > 0xFFFFFF) return std::nullopt;
   if (colore < 8) return kTavolozza[colore];
   const auto valore = static_cast<uint32_t>(colore);

@@ -35,8 +35,8 @@ struct Tratto {
 // ImpostazioniCerchio::flag, which says the kinds that are drawn.
 enum class TipoFiguraCerchio : uint8_t { Diametro = 0, Triangolo = 1, Quadrilatero = 2, Poligono = 3 };
 TipoFiguraCerchio TipoDiFigura(size_t vertici);
-inline constexpr uint32_t kFlagNumeri = 1u << 4;    // the 90 numbers written around the circle
-inline constexpr uint32_t kFlagMarcati = 1u << 5;   // the marked numbers ringed
+inline constexpr uint32_t kFlagNumeri = 1u << 4;   // the 90 numbers written around the circle
+inline constexpr uint32_t kFlagMarcati = 1u << 5;  // the marked numbers ringed
 inline constexpr uint32_t kFlagTutti = 0x3F;
 
 // What ImpostaPropColoriCerchioCiclo, ImpostaPropDrawWidthCerchioCiclo and
@@ -85,8 +85,7 @@ class AreaDisegno {
   virtual int TextWidth(const std::string& testo, int dimensione) = 0;
   virtual int TextHeight(const std::string& testo, int dimensione) = 0;
   // Text whose top left corner is at (x, y), turned by angolo degrees clockwise around it.
-  virtual void StampaTesto(double x, double y, const std::string& testo, Rgb colore, int dimensione,
-                           double angolo) = 0;
+  virtual void StampaTesto(double x, double y, const std::string& testo, Rgb colore, int dimensione, double angolo) = 0;
   virtual void Punto(double x, double y, const Tratto& tratto) = 0;
   virtual void Linea(double x1, double y1, double x2, double y2, const Tratto& tratto) = 0;
   virtual void Poligono(const std::vector<std::pair<double, double>>& punti, const Tratto& tratto,
@@ -100,8 +99,8 @@ class AreaDisegno {
   // Shows a circle in a view of its own (QvCerchio_InitDisegno), titled. A headless host writes it
   // as a picture beside the run's page `pagina` and returns that file, for the page to link.
   virtual Esito<std::optional<std::filesystem::path>> MostraCerchio(const DisegnoCerchio& disegno,
-                                                                     const std::string& titolo,
-                                                                     const std::filesystem::path& pagina) = 0;
+                                                                    const std::string& titolo,
+                                                                    const std::filesystem::path& pagina) = 0;
   // The file the picture will be written to for the run's page `pagina` (empty when no page is
   // open), to be linked from it; nothing when this host writes no file.
   virtual std::optional<std::filesystem::path> FileImmagine(const std::filesystem::path& pagina) = 0;

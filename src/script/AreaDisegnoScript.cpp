@@ -28,8 +28,8 @@ vbs::Result<AreaDisegno*> AreaDelloScript(ClsFunctionsGeodoScript& lib, std::str
   collegamento.fatto = true;
   if (auto file = area->FileImmagine(PaginaDellEsecuzione(lib))) {
     VBS_TRY(lib.Consenti(vbs::FileAccess::Write, *file, funzione));
-    lib.html().ScriviMarkup(fmt::format("<p><img src=\"{}\" alt=\"Disegno dello script\"></p>\n",
-                                        TestoHtml(file->filename().string())));
+    lib.html().ScriviMarkup(
+        fmt::format("<p><img src=\"{}\" alt=\"Disegno dello script\"></p>\n", TestoHtml(file->filename().string())));
   }
   return area;
 }

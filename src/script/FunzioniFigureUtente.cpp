@@ -75,7 +75,8 @@ Result<Variant> GetCollFiguraUtente(Libreria& lib, CallArgs& args) {
 
 // The draws a figure completing at `id_estr` may reach, with that draw's numbers replaced by the
 // 55 of `numeri` (0 for a cell with no number): a table of at most kMassimeRigheFigura + 1 draws.
-Result<TabellaEstrazioni> FinestraConNumeri(const TabellaEstrazioni& tab, int id_estr, const std::vector<double>& numeri) {
+Result<TabellaEstrazioni> FinestraConNumeri(const TabellaEstrazioni& tab, int id_estr,
+                                            const std::vector<double>& numeri) {
   if (numeri.size() != static_cast<size_t>(figures::kColonneTabella))
     return ArgomentoNonValido(fmt::format(
         "aNumeri deve avere {} elementi, uno per posizione di ogni ruota (BA 1..5, CA 6..10, ..., NZ 51..55); ne ha {}",

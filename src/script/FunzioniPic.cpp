@@ -5,8 +5,8 @@
 #include <cmath>
 #include <fmt/format.h>
 
-#include "ArgomentiLotto.h"
 #include "AreaDisegnoScript.h"
+#include "ArgomentiLotto.h"
 #include "Famiglia.h"
 
 namespace lottolab::script {
@@ -24,8 +24,8 @@ constexpr int kDimensioneTesto = 12;
 Result<double> Coordinata(const CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto valore, args.Double(i));
   if (!(std::abs(valore) <= kCoordinataMassima))
-    return ArgomentoNonValido(fmt::format("Coordinata non valida: {} (al massimo {} in valore assoluto)", valore,
-                                          kCoordinataMassima));
+    return ArgomentoNonValido(
+        fmt::format("Coordinata non valida: {} (al massimo {} in valore assoluto)", valore, kCoordinataMassima));
   return valore;
 }
 
@@ -88,8 +88,7 @@ Result<Variant> PicMisuraTesto(Libreria& lib, CallArgs& args) {
   return Variant::Long(Larghezza ? area->TextWidth(testo, dimensione) : area->TextHeight(testo, dimensione));
 }
 
-Result<Variant> StampaTesto(Libreria& lib, CallArgs& args, std::string_view funzione, double angolo,
-                            size_t i_colore) {
+Result<Variant> StampaTesto(Libreria& lib, CallArgs& args, std::string_view funzione, double angolo, size_t i_colore) {
   VBS_TRY_ASSIGN(auto x, Coordinata(args, 0));
   VBS_TRY_ASSIGN(auto y, Coordinata(args, 1));
   VBS_TRY_ASSIGN(auto testo, Testo(args, 2));

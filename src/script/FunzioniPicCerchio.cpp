@@ -5,8 +5,8 @@
 
 #include <fmt/format.h>
 
-#include "ArgomentiLotto.h"
 #include "AreaDisegnoScript.h"
+#include "ArgomentiLotto.h"
 #include "Famiglia.h"
 #include "vbscript/value/SafeArray.h"
 
@@ -69,7 +69,8 @@ Result<std::vector<FiguraCerchio>> FigureArgomento(const CallArgs& args, size_t 
 Result<Variant> GetNewDisegnoCiclometrico(Libreria& lib, CallArgs&) {
   auto& disegni = lib.Stato<StatoCerchi>().disegni;
   if (disegni.size() == kDisegniMassimi)
-    return ArgomentoNonValido(fmt::format("Troppi disegni ciclometrici: al massimo {} per esecuzione", kDisegniMassimi));
+    return ArgomentoNonValido(
+        fmt::format("Troppi disegni ciclometrici: al massimo {} per esecuzione", kDisegniMassimi));
   disegni.emplace_back();
   return Variant::Long(static_cast<int32_t>(disegni.size()));
 }
@@ -91,7 +92,8 @@ Result<Variant> DisegnaCerchioCiclometrico(Libreria& lib, CallArgs& args) {
     VBS_TRY_ASSIGN(auto spessori, ValoriArgomento(args, 4));
     for (size_t k = 0; k < spessori.size() && k < figure.size(); ++k) {
       if (!(spessori[k] >= 0 && spessori[k] <= kSpessoreMassimo))
-        return ArgomentoNonValido(fmt::format("aSpessori: spessore non valido {} per la figura {}", spessori[k], k + 1));
+        return ArgomentoNonValido(
+            fmt::format("aSpessori: spessore non valido {} per la figura {}", spessori[k], k + 1));
       figure[k].spessore = spessori[k];
     }
   }

@@ -39,12 +39,8 @@ TEST_F(Cerchio, NumeriInSensoOrarioDallAlto) {
 TEST_F(Cerchio, FigureDisegnateSecondoITipiAccesi) {
   script::DisegnoCerchio disegno;
   disegno.marcati = {1, 46, 91, 0};
-  disegno.figure = {{{1, 46}, {}, {}},
-                    {{1, 31, 61}, {}, {}},
-                    {{1, 24, 46, 69}, {}, {}},
-                    {{1, 19, 37, 55, 73}, {}, {}},
-                    {{7}, {}, {}},
-                    {{}, {}, {}}};
+  disegno.figure = {{{1, 46}, {}, {}}, {{1, 31, 61}, {}, {}}, {{1, 24, 46, 69}, {}, {}}, {{1, 19, 37, 55, 73}, {}, {}},
+                    {{7}, {}, {}},     {{}, {}, {}}};
   struct Caso {
     uint32_t flag;
     int poligoni;

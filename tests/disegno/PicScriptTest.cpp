@@ -36,8 +36,8 @@ class PicScript : public ::testing::Test {
     m_ospite = std::make_unique<OspiteCheDisegna>(disegna);
     script::ImpostazioniLibreria impostazioni;
     impostazioni.cartella_output = m_cartella.Percorso();
-    auto libreria = vbs::MakeRef<script::ClsFunctionsGeodoScript>(*m_ospite, m_engine.interpreter().locale(),
-                                                                   impostazioni);
+    auto libreria =
+        vbs::MakeRef<script::ClsFunctionsGeodoScript>(*m_ospite, m_engine.interpreter().locale(), impostazioni);
     libreria->SetNomeFileHtmlOut("pagina.htm");
     m_libreria = libreria.get();
     ASSERT_TRUE(m_engine.SetLanguage("VBScript"));

@@ -73,8 +73,9 @@ TEST_F(FigureUtente, AFigureGivesItsVerticesAndItsPlay) {
   EXPECT_EQ(Testo("f"), "2: BA1 10, BA1 11");
   EXPECT_EQ(Testo("c(46)"), "2: VE1 1, VE1 6");
   EXPECT_EQ(Testo("f.IdEstrazione & \" \" & f.QuantitaVertici & \" \" & GetNumeroVerticiFiguraGeodomica(f)"), "2 2 2");
-  EXPECT_EQ(Testo("f.EstrazioneVertice(1) & f.RuotaVertice(1) & f.PosizioneVertice(1) & \"|\" & f.EstrazioneVertice(2)"),
-            "111|2");
+  EXPECT_EQ(
+      Testo("f.EstrazioneVertice(1) & f.RuotaVertice(1) & f.PosizioneVertice(1) & \"|\" & f.EstrazioneVertice(2)"),
+      "111|2");
   EXPECT_EQ(Testo("Join(f.Numeri, \" \") & \"|\" & Join(f.NumeriGioco, \" \") & \"|\" & Join(c(46).Ruote, \" \")"),
             "10 11|11|10");
   EXPECT_EQ(Testo("GetArrayNumeriFromFiguraGeodomica(f, a) & \" \" & LBound(a) & \" \" & a(1)"), "1 1 11");

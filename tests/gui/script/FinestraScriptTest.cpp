@@ -422,9 +422,11 @@ class FinestraScriptTest : public QObject {
   // QvCerchio_InitDisegno in a view of its own.
   void IlDisegnoDelloScriptArrivaNellaSuaSchedaEIlCerchioInUnaVista() {
     Apri();
-    Esegui("Sub Main\nPicSetDimensioni 120, 80\nPicRiempi Rosso_\nPicCerchio 60, 40, 10, Blu_, 1, Blu_\n"
-           "d = GetNewDisegnoCiclometrico()\n"
-           "DisegnaCerchioCiclometrico d, Array(1), Array(Array(1, 46)), , , 0, 0, 0, 40\nQvCerchio_InitDisegno d, \"Vista\"\nEnd Sub");
+    Esegui(
+        "Sub Main\nPicSetDimensioni 120, 80\nPicRiempi Rosso_\nPicCerchio 60, 40, 10, Blu_, 1, Blu_\n"
+        "d = GetNewDisegnoCiclometrico()\n"
+        "DisegnaCerchioCiclometrico d, Array(1), Array(Array(1, 46)), , , 0, 0, 0, 40\nQvCerchio_InitDisegno d, "
+        "\"Vista\"\nEnd Sub");
     QVERIFY(m_dialoghi->avvisi.empty());
     QTRY_VERIFY_WITH_TIMEOUT(!m_finestra->Disegno()->pixmap().isNull(), kAttesaMs);
     const QImage immagine = m_finestra->Disegno()->pixmap().toImage();
