@@ -5,28 +5,30 @@
 #include <QListWidget>
 #include <QSpinBox>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <fmt/format.h>
 
 #include "archive/Ruote.h"
 #include "gui/comuni/QvCerchio.h"
 #include "gui/principale/Finestre.h"
-#include "stats/Numeri.h"
+#include "stats/Ciclometria.h"
 
 namespace lottolab::gui {
 
 namespace {
 
-// The diameters among the numbers: the pairs 45 apart on the circle. The other kinds of figure come
-// from the figure search of the statistics when it is there.
-std::vector<script::FiguraCerchio> Diametri(const std::vector<int>& numeri) {
-  std::vector<script::FiguraCerchio> figure;
-  for (int numero : numeri) {
-    const int opposto = stats::Diametrale(numero);
-    if (numero < opposto && std::find(numeri.begin(), numeri.end(), opposto) != numeri.end())
-      figure.push_back({{numero, opposto}, {}, {}});
+// A figure as the list shows it: "Rettangolo 3-20-48-65 (BA, VE, BA, NA)", each vertex's wheels.
+QString Descrizione(const stats::FiguraCiclometrica& figura) {
+  std::string vertici;
+  std::string ruote;
+  for (size_t v = 0; v < figura.quanti; ++v) {
+    vertici += fmt::format("{}{}", v == 0 ? "" : "-", figura.vertici[v]);
+    std::string sigle;
+    for (int ruota = 1; ruota <= kNumeroRuote; ++ruota)
+      if (figura.ruote[v] & (1u << (ruota - 1)))
+        sigle += fmt::format("{}{}", sigle.empty() ? "" : "/", SiglaRuota(ruota));
+    ruote += fmt::format("{}{}", v == 0 ? "" : ", ", sigle);
   }
-  return figure;
+  return QString::fromStdString(fmt::format("{} {} ({})", stats::NomeTipoFigura(figura.tipo), vertici, ruote));
 }
 
 }  // namespace
@@ -62,35 +64,46 @@ FinestraCiclometria::FinestraCiclometria(ContestoGui& contesto, QWidget* parent)
 
   connect(m_estrazione, &QSpinBox::valueChanged, this, &FinestraCiclometria::Aggiorna);
   connect(m_ruote, &QListWidget::itemChanged, this, &FinestraCiclometria::Aggiorna);
-  connect(m_figure, &QListWidget::currentRowChanged, m_cerchio, &QvCerchio::Evidenzia);
+  connect(m_figure, &QListWidget::currentRowChanged, this, &FinestraCiclometria::MostraFigura);
   Aggiorna();
 }
 
 void FinestraCiclometria::Aggiorna() {
-  script::DisegnoCerchio disegno;
+  std::vector<stats::FiguraCiclometrica> figure;
+  m_marcati.clear();
   const auto archivio = m_contesto.Archivio();
   const int id = m_estrazione->value();
   if (archivio && archivio->Contiene(id)) {
     auto data = archivio->DataEstrazione(id);
     m_data->setText(data ? QString::fromStdString(*data) : QString());
-    for (int riga = 0; riga < m_ruote->count(); ++riga) {
-      const QListWidgetItem* voce = m_ruote->item(riga);
-      if (voce->checkState() != Qt::Checked) continue;
-      const int ruota = voce->data(Qt::UserRole).toInt();
-      for (int posizione = 1; posizione <= kNumeriPerRuota; ++posizione) {
-        const int numero = (*archivio)[id].Numero(ruota, posizione);
-        if (numero != 0 && std::find(disegno.marcati.begin(), disegno.marcati.end(), numero) == disegno.marcati.end())
-          disegno.marcati.push_back(numero);
-      }
-    }
+    std::vector<int> ruote;
+    for (int riga = 0; riga < m_ruote->count(); ++riga)
+      if (m_ruote->item(riga)->checkState() == Qt::Checked)
+        ruote.push_back(m_ruote->item(riga)->data(Qt::UserRole).toInt());
+    const stats::InsiemeCiclometrico insieme = stats::InsiemeDaEstrazione((*archivio)[id], ruote);
+    m_marcati.assign(insieme.Numeri().begin(), insieme.Numeri().end());
+    figure = stats::TrovaFigure(insieme, stats::kFigureDiUnInsieme);
   } else {
     m_data->setText(QStringLiteral("Archivio vuoto: importa le estrazioni da Archivio > Aggiorna archivio"));
   }
-  disegno.figure = Diametri(disegno.marcati);
   const QSignalBlocker blocco(m_figure);
   m_figure->clear();
-  for (const script::FiguraCerchio& figura : disegno.figure)
-    m_figure->addItem(QString::fromStdString(fmt::format("diametro {} - {}", figura.numeri[0], figura.numeri[1])));
+  m_trovate.clear();
+  for (const stats::FiguraCiclometrica& figura : figure) {
+    m_trovate.emplace_back(figura.Vertici().begin(), figura.Vertici().end());
+    auto* voce = new QListWidgetItem(Descrizione(figura), m_figure);
+    voce->setToolTip(voce->text());
+  }
+  MostraFigura(-1);
+}
+
+void FinestraCiclometria::MostraFigura(int riga) {
+  script::DisegnoCerchio disegno;
+  disegno.marcati = m_marcati;
+  if (riga >= 0 && static_cast<size_t>(riga) < m_trovate.size()) {
+    disegno.figure.push_back({m_trovate[static_cast<size_t>(riga)], {}, {}});
+    disegno.evidenziata = 0;
+  }
   m_cerchio->ImpostaDisegno(std::move(disegno));
 }
 

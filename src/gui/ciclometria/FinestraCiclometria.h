@@ -1,10 +1,11 @@
 #pragma once
 
 // The "Ciclometria" window: any draw of the archive on the circle of the 90 numbers, the numbers of
-// the chosen wheels marked, and beside it the list of the figures among them; the figure chosen in
-// the list is highlighted on the circle.
+// the chosen wheels marked, and beside it the list of the figures among them. Only the figure chosen
+// in the list is drawn: six wheels hold hundreds of figures, and all of them at once hide the circle.
 
 #include <QWidget>
+#include <vector>
 
 #include "gui/principale/ContestoGui.h"
 
@@ -29,6 +30,7 @@ class FinestraCiclometria : public QWidget {
 
  private:
   void Aggiorna();
+  void MostraFigura(int riga);
 
   ContestoGui& m_contesto;
   QSpinBox* m_estrazione = nullptr;
@@ -36,6 +38,8 @@ class FinestraCiclometria : public QWidget {
   QListWidget* m_ruote = nullptr;
   QListWidget* m_figure = nullptr;
   QvCerchio* m_cerchio = nullptr;
+  std::vector<int> m_marcati;
+  std::vector<std::vector<int>> m_trovate;  // the vertices of each figure of the list
 };
 
 }  // namespace lottolab::gui
