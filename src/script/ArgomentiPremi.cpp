@@ -13,28 +13,23 @@
 
 namespace lottolab::script {
 
-namespace {
-
 using vbs::CallArgs;
 using vbs::Result;
 
-constexpr double kMassimoEuro = 1e9;
-
-Result<stats::Centesimi> Centesimi(double euro, std::string_view nome) {
+Result<stats::Centesimi> CentesimiDaEuro(double euro, std::string_view nome) {
   const double centesimi = euro * stats::kCentesimiPerEuro;
-  if (!(euro >= 0 && euro <= kMassimoEuro))
-    return ArgomentoNonValido(fmt::format("{} non valida: {} (da 0 a un miliardo di euro)", nome, euro));
   const double intero = std::nearbyint(centesimi);
-  if (std::abs(centesimi - intero) > 1e-6)
-    return ArgomentoNonValido(fmt::format("{} non valida: {} euro non è un numero intero di centesimi", nome, euro));
+  if (!(euro >= 0 && euro <= 1e9) || std::abs(centesimi - intero) > 1e-6)
+    return ArgomentoNonValido(fmt::format(
+        "{} non valida: {} (in euro, non negativa, al più un miliardo, con al più due decimali: un numero intero di "
+        "centesimi)",
+        nome, euro));
   return static_cast<stats::Centesimi>(intero);
 }
 
-}  // namespace
-
 Result<stats::Centesimi> EuroArgomento(const CallArgs& args, size_t i, std::string_view nome) {
   VBS_TRY_ASSIGN(auto euro, args.Double(i));
-  return Centesimi(euro, nome);
+  return CentesimiDaEuro(euro, nome);
 }
 
 Result<stats::Centesimi> EuroArgomento(const CallArgs& args, size_t i, std::string_view nome,

@@ -15,6 +15,10 @@
 
 namespace lottolab::script {
 
+// Euro as cents: a whole number of cents from 0 up to a billion euro; `nome` names the amount in the
+// refusal. Every amount a script gives in euro passes here.
+vbs::Result<stats::Centesimi> CentesimiDaEuro(double euro, std::string_view nome);
+
 // Argument i as euro, a whole number of cents from 0 up to a billion; `nome` names it in messages.
 vbs::Result<stats::Centesimi> EuroArgomento(const vbs::CallArgs& args, size_t i, std::string_view nome);
 // The same when the argument may be omitted.

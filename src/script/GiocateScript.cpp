@@ -1,5 +1,7 @@
 #include "GiocateScript.h"
 
+#include "ArgomentiPremi.h"
+
 #include <algorithm>
 #include <cmath>
 #include <fmt/format.h>
@@ -185,11 +187,7 @@ vbs::Result<std::vector<int>> NumeriGiocati(const vbs::CallArgs& args, size_t i)
 vbs::Result<stats::Centesimi> CentesimiDi(const vbs::Variant& valore, const vbs::Locale& locale,
                                           std::string_view cosa) {
   VBS_TRY_ASSIGN(auto euro, valore.to_double(locale));
-  const double centesimi = euro * stats::kCentesimiPerEuro;
-  if (!(centesimi >= 0 && centesimi <= 1e11) || std::abs(centesimi - std::round(centesimi)) > 1e-6)
-    return ArgomentoNonValido(
-        fmt::format("{} non valida: {} (in euro, non negativa, con al più due decimali)", cosa, euro));
-  return static_cast<stats::Centesimi>(std::llround(centesimi));
+  return CentesimiDaEuro(euro, cosa);
 }
 
 vbs::Result<std::vector<stats::Centesimi>> ProgressioneArgomento(const vbs::CallArgs& args, size_t i) {
