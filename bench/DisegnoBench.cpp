@@ -16,10 +16,10 @@ script::DisegnoCerchio DisegnoPieno() {
   script::DisegnoCerchio disegno;
   for (int n = 1; n <= 55; ++n) disegno.marcati.push_back((n * 37) % 90 + 1);
   for (int k = 0; k < 15; ++k) {
-    disegno.figure.push_back({{k + 1, k + 46}, {}, {}});
-    disegno.figure.push_back({{k + 1, k + 31, k + 61}, {}, {}});
-    disegno.figure.push_back({{k + 1, k + 24, k + 46, k + 69}, 0xFF0000, 3.0});
-    disegno.figure.push_back({{k + 2, k + 20, k + 47, k + 65}, 0x008000, 1.0});
+    disegno.figure.push_back({{k + 1, k + 46}, {}, {}, {}});
+    disegno.figure.push_back({{k + 1, k + 31, k + 61}, {}, {}, {}});
+    disegno.figure.push_back({{k + 1, k + 24, k + 46, k + 69}, 0xFF0000, 3.0, {}});
+    disegno.figure.push_back({{k + 2, k + 20, k + 47, k + 65}, 0x008000, 1.0, {}});
   }
   disegno.evidenziata = 7;
   return disegno;

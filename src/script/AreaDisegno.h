@@ -55,11 +55,13 @@ struct ImpostazioniCerchio {
 };
 
 // A figure on the circle: its vertices (numbers 1..90, in the order they are joined) and, when it
-// has its own, its colour and width.
+// has its own, its colour and width; a figure found by a search also has the words that name it in
+// the list beside a view.
 struct FiguraCerchio {
   std::vector<int> numeri;
   std::optional<Rgb> colore;
   std::optional<double> spessore;
+  std::string descrizione;
 };
 
 // A whole circle: the settings, the numbers marked, the figures and the one highlighted (an index of

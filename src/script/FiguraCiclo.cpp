@@ -16,14 +16,6 @@ namespace {
 
 constexpr int kNazionaleScript = 12;  // NZ_ in the script's numbering
 
-// "BA", or "BA/VE" for a vertex drawn on several wheels.
-std::string SigleVertice(uint16_t ruote) {
-  std::string sigle;
-  for (int ruota = 1; ruota <= kNumeroRuote; ++ruota)
-    if (ruote & (1u << (ruota - 1))) sigle += (sigle.empty() ? "" : "/") + std::string(SiglaRuota(ruota));
-  return sigle;
-}
-
 }  // namespace
 
 std::vector<int> RuoteScript(uint16_t ruote) {
@@ -66,16 +58,7 @@ Result<size_t> FiguraCiclo::PostoVertice(const CallArgs& args, size_t i) const {
 }
 
 Result<Variant> FiguraCiclo::Descrizione(CallArgs&) {
-  std::string testo(stats::NomeTipoFigura(m_figura.tipo));
-  std::string sigle;
-  bool con_ruote = false;
-  for (size_t k = 0; k < m_figura.quanti; ++k) {
-    testo += fmt::format("{}{}", k ? "-" : " ", int{m_figura.vertici[k]});
-    sigle += (k ? ", " : "") + SigleVertice(m_figura.ruote[k]);
-    con_ruote = con_ruote || m_figura.ruote[k] != 0;
-  }
-  if (con_ruote) testo += " (" + sigle + ")";
-  return Variant::String(text::Utf8ToUtf16(testo));
+  return Variant::String(text::Utf8ToUtf16(stats::DescrizioneFigura(m_figura)));
 }
 
 Result<Variant> FiguraCiclo::Tipo(CallArgs&) {

@@ -2,15 +2,15 @@
 // the numbers of a draw's wheels or of a set the script gives, as a collection of FiguraCiclo
 // objects that For Each walks.
 //
-// The first argument says where the numbers come from: a number is a draw (IdEstr) whose wheels
-// aRuote gives, TT_ by default (the ten city wheels; NZ_ when named); an array is a set of numbers,
-// which has no wheels, so aRuote is then refused rather than ignored.
+// The first argument says where the numbers come from (ArgomentiCiclometria.h).
 
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <cmath>
 
+#include "ArgomentiCiclometria.h"
+#include "ArgomentiGioco.h"
 #include "ArgomentiLotto.h"
 #include "ArgomentiRitardi.h"
 #include "Collezione.h"
@@ -25,47 +25,6 @@ namespace {
 using namespace famiglia;
 using stats::TipoFigura;
 
-// The table wheels of argument i (TT_ by default), TT_ opened into the ten city wheels, each once.
-Result<std::vector<int>> RuoteDellaFigura(const CallArgs& args, size_t i) {
-  std::vector<int> date{kTutteLeRuote};
-  if (args.Has(i)) {
-    VBS_TRY_ASSIGN(auto lette, RuoteGiocate(args, i));
-    date = std::move(lette);
-  }
-  std::vector<int> ruote;
-  for (int ruota : date)
-    for (int r = ruota == kTutteLeRuote ? BA : ruota; r <= (ruota == kTutteLeRuote ? VE : ruota); ++r)
-      if (std::find(ruote.begin(), ruote.end(), r) == ruote.end()) ruote.push_back(r);
-  return ruote;
-}
-
-// Argument i as a set of numbers 1..90, given as one value or an array.
-Result<stats::InsiemeCiclometrico> InsiemeDiNumeri(const CallArgs& args, size_t i) {
-  VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, i));
-  stats::InsiemeCiclometrico insieme;
-  for (double valore : valori) {
-    if (valore != std::floor(valore) || valore < 1 || valore > 90)
-      return ArgomentoNonValido(fmt::format("Numero non valido: {} (i numeri vanno da 1 a 90)", valore));
-    insieme.Aggiungi(static_cast<int>(valore));
-  }
-  return insieme;
-}
-
-// The numbers where the figures are sought: argument 0 (IdEstr or an array of numbers) and the
-// wheels of argument 1.
-Result<stats::InsiemeCiclometrico> InsiemeArgomenti(Libreria& lib, const CallArgs& args) {
-  VBS_TRY_ASSIGN(auto origine, args.Value(0));
-  if (origine.is_array()) {
-    if (args.Has(1))
-      return ArgomentoNonValido("aRuote vale solo con IdEstr: i numeri dati in un array non hanno ruota");
-    return InsiemeDiNumeri(args, 0);
-  }
-  VBS_TRY_ASSIGN(auto tab, lib.Archivio());
-  VBS_TRY_ASSIGN(auto id_estr, EstrazioneArgomento(*tab, args, 0, 0, "IdEstr"));
-  VBS_TRY_ASSIGN(auto ruote, RuoteDellaFigura(args, 1));
-  return stats::InsiemeDaEstrazione((*tab)[id_estr], ruote);
-}
-
 // The figures as a collection of FiguraCiclo objects, in their order.
 Result<Variant> CollezioneDi(Libreria& lib, const std::vector<stats::FiguraCiclometrica>& figure) {
   auto collezione = vbs::MakeRef<Collezione>(lib.locale());
@@ -76,7 +35,7 @@ Result<Variant> CollezioneDi(Libreria& lib, const std::vector<stats::FiguraCiclo
 }
 
 Result<Variant> FigureDiTipi(Libreria& lib, const CallArgs& args, stats::TipiFigura tipi) {
-  VBS_TRY_ASSIGN(auto insieme, InsiemeArgomenti(lib, args));
+  VBS_TRY_ASSIGN(auto insieme, InsiemeArgomenti(lib, args, 0));
   return CollezioneDi(lib, stats::TrovaFigure(insieme, tipi));
 }
 
@@ -120,6 +79,37 @@ Result<Variant> GetCollParallelepipedi(Libreria& lib, CallArgs& args) {
 Result<Variant> GetCollParallelepipediQN(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto faccia1, InsiemeDiNumeri(args, 0));
   VBS_TRY_ASSIGN(auto faccia2, InsiemeDiNumeri(args, 1));
+  std::vector<stats::FiguraCiclometrica> figure;
+  stats::TrovaParallelepipedi(faccia1, faccia2, figure);
+  return CollezioneDi(lib, figure);
+}
+
+// The numbers of a draw of the generic archive as a face, when they lie on the circle of 90.
+Result<stats::InsiemeCiclometrico> FacciaGenerica(const TabellaGioco& tab, const EstrazioneGioco& estrazione) {
+  if (tab.formato().massimo != 90)
+    return ArgomentoNonValido(fmt::format(
+        "L'archivio generico ha numeri da 1 a {}: le figure ciclometriche vogliono il cerchio dei 90 numeri",
+        tab.formato().massimo));
+  stats::InsiemeCiclometrico faccia;
+  for (int k = 0; k < tab.formato().numeri; ++k)
+    if (estrazione.numeri[k] >= 1 && estrazione.numeri[k] <= 90) faccia.Aggiungi(estrazione.numeri[k]);
+  return faccia;
+}
+
+Result<Variant> GetCollParallelepipediFT(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto tab, TabellaDelGioco(lib, Suffisso::FT));
+  VBS_TRY_ASSIGN(auto estrazione, EstrazioneDelGioco(*tab, args, 0));
+  const EstrazioneGioco* altra = nullptr;
+  if (args.Has(1)) {
+    VBS_TRY_ASSIGN(altra, EstrazioneDelGioco(*tab, args, 1));
+  } else {
+    VBS_TRY_ASSIGN(auto id_estr, args.Long(0));
+    if (id_estr == 1)
+      return ArgomentoNonValido("La prima estrazione dell'archivio generico non ha una precedente: indica IdEstr2");
+    altra = &(*tab)[id_estr - 1];
+  }
+  VBS_TRY_ASSIGN(auto faccia1, FacciaGenerica(*tab, *estrazione));
+  VBS_TRY_ASSIGN(auto faccia2, FacciaGenerica(*tab, *altra));
   std::vector<stats::FiguraCiclometrica> figure;
   stats::TrovaParallelepipedi(faccia1, faccia2, figure);
   return CollezioneDi(lib, figure);
@@ -172,6 +162,10 @@ const Libreria::Funzione kCiclometria[] = {
     {"GetCollParallelepipediQN", 2, 2, &GetCollParallelepipediQN,
      "aNumeri1, aNumeri2: i parallelepipedi tra due gruppi di numeri 1..90 dati dallo script al posto di due "
      "ruote: una corda di aNumeri1 e la corda dei suoi diametrali in aNumeri2"},
+    {"GetCollParallelepipediFT", 1, 2, &GetCollParallelepipediFT,
+     "IdEstr, [IdEstr2 = IdEstr - 1]: i parallelepipedi tra due estrazioni dell'archivio generico (ApriBaseDatiFT), "
+     "che ha una sola ruota: una corda dell'estrazione IdEstr e la corda dei suoi diametrali nell'estrazione "
+     "IdEstr2, la precedente se omessa; l'archivio deve avere i numeri da 1 a 90"},
     {"GetArrayNumeriFromFiguraCiclo", 2, 2, &GetArrayNumeriFromFiguraCiclo,
      "Figura, aRet: mette in aRet, con indice da 1, i vertici di una figura delle collezioni ciclometriche "
      "nell'ordine del disegno e restituisce quanti sono"},

@@ -1,13 +1,18 @@
 // The circle of the 90 numbers from scripts: a drawing is made with GetNewDisegnoCiclometrico, its
 // colours, widths and kinds set with the ImpostaProp... names, then painted on the picture area
-// (DisegnaCerchioCiclometrico) or in a view of its own (QvCerchio_InitDisegno). Figures come as
-// arrays of numbers, one array a figure.
+// (DisegnaCerchioCiclometrico, DisegnaEstrazioneFromFiguraCiclometrica) or in a view of its own
+// (QvCerchio_InitDisegno). Figures come as arrays of numbers, one array a figure, or as the figures
+// of the cyclometry's collections, which keep their description for the view's list.
 
 #include <fmt/format.h>
 
 #include "AreaDisegnoScript.h"
+#include "ArgomentiCiclometria.h"
 #include "ArgomentiLotto.h"
+#include "Collezione.h"
 #include "Famiglia.h"
+#include "FiguraCiclo.h"
+#include "OutputHtml.h"
 #include "vbscript/value/SafeArray.h"
 
 namespace lottolab::script {
@@ -61,9 +66,83 @@ Result<std::vector<FiguraCerchio>> FigureArgomento(const CallArgs& args, size_t 
     Variant copia = elemento;
     CallArgs uno(std::span<Variant>(&copia, 1), args.locale());
     VBS_TRY_ASSIGN(auto numeri, NumeriDelCerchio(uno, 0, fmt::format("figura {}", figure.size() + 1)));
-    figure.push_back(FiguraCerchio{std::move(numeri), std::nullopt, std::nullopt});
+    figure.push_back(FiguraCerchio{std::move(numeri), std::nullopt, std::nullopt, {}});
   }
   return figure;
+}
+
+// A figure of the cyclometry's collections as the circle draws it.
+FiguraCerchio FiguraDelCerchio(const stats::FiguraCiclometrica& figura) {
+  return FiguraCerchio{std::vector<int>(figura.vertici.begin(), figura.vertici.begin() + figura.quanti), std::nullopt,
+                       std::nullopt, stats::DescrizioneFigura(figura)};
+}
+
+FiguraCiclo* FiguraCicloDi(const Variant& valore) {
+  return valore.is_object() ? dynamic_cast<FiguraCiclo*>(valore.as_object()) : nullptr;
+}
+
+// Argument i of DisegnaEstrazioneFromFiguraCiclometrica: the figures to draw among `insieme`. Omitted,
+// every kind a set holds; a figure or a collection of figures, those; numbers, those kinds.
+Result<std::vector<FiguraCerchio>> FigureDaDisegnare(const CallArgs& args, size_t i,
+                                                     const stats::InsiemeCiclometrico& insieme) {
+  std::vector<FiguraCerchio> figure;
+  stats::TipiFigura tipi = stats::kFigureDiUnInsieme;
+  if (args.Has(i)) {
+    // An object is looked at as it is: its value would be its default member's.
+    const Variant& valore = args[i];
+    if (auto* figura = FiguraCicloDi(valore)) {
+      figure.push_back(FiguraDelCerchio(figura->figura()));
+      return figure;
+    }
+    if (auto* collezione = valore.is_object() ? dynamic_cast<Collezione*>(valore.as_object()) : nullptr) {
+      for (size_t k = 0; k < collezione->size(); ++k) {
+        auto* voce = FiguraCicloDi((*collezione)[k]);
+        if (!voce)
+          return ArgomentoNonValido(
+              fmt::format("Figure: l'elemento {} della collezione non è una figura ciclometrica", k + 1));
+        if (figure.size() == kFigureMassime)
+          return ArgomentoNonValido(fmt::format("Troppe figure: al massimo {}", kFigureMassime));
+        figure.push_back(FiguraDelCerchio(voce->figura()));
+      }
+      return figure;
+    }
+    VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, i));
+    tipi = 0;
+    for (double tipo : valori) {
+      if (!(tipo >= 1 && tipo < stats::kTipiFigura && tipo == static_cast<int>(tipo)))
+        return ArgomentoNonValido(
+            fmt::format("Figure non valide: {} (una figura, una collezione di figure o i tipi da 1 a 7)", tipo));
+      tipi |= stats::Tipo(static_cast<stats::TipoFigura>(tipo));
+    }
+  }
+  for (const auto& figura : stats::TrovaFigure(insieme, tipi)) {
+    if (figure.size() == kFigureMassime) break;
+    figure.push_back(FiguraDelCerchio(figura));
+  }
+  return figure;
+}
+
+// Evidenziata at i (0 none, from 1), X, Y and Lato after it: where the circle goes on the picture.
+struct PostoCerchio {
+  int evidenziata = -1;
+  double x = 0;
+  double y = 0;
+  double lato = 0;
+};
+
+Result<PostoCerchio> PostoArgomenti(const CallArgs& args, size_t i, size_t figure) {
+  PostoCerchio posto;
+  VBS_TRY_ASSIGN(auto evidenziata, args.Long(i, 0));
+  if (evidenziata < 0 || static_cast<size_t>(evidenziata) > figure)
+    return ArgomentoNonValido(fmt::format("Evidenziata non valida: {} (0 nessuna, da 1 a {})", evidenziata, figure));
+  posto.evidenziata = static_cast<int>(evidenziata) - 1;
+  VBS_TRY_ASSIGN(posto.x, args.Double(i + 1, 0));
+  VBS_TRY_ASSIGN(posto.y, args.Double(i + 2, 0));
+  VBS_TRY_ASSIGN(posto.lato, args.Double(i + 3, 0));
+  if (!(std::abs(posto.x) <= 1e6 && std::abs(posto.y) <= 1e6 && posto.lato >= 0 && posto.lato <= 8000))
+    return ArgomentoNonValido(
+        fmt::format("Posizione o lato non validi: ({}, {}), lato {}", posto.x, posto.y, posto.lato));
+  return posto;
 }
 
 Result<Variant> GetNewDisegnoCiclometrico(Libreria& lib, CallArgs&) {
@@ -97,21 +176,59 @@ Result<Variant> DisegnaCerchioCiclometrico(Libreria& lib, CallArgs& args) {
       figure[k].spessore = spessori[k];
     }
   }
-  VBS_TRY_ASSIGN(auto evidenziata, args.Long(5, 0));
-  if (evidenziata < 0 || static_cast<size_t>(evidenziata) > figure.size())
-    return ArgomentoNonValido(
-        fmt::format("Evidenziata non valida: {} (0 nessuna, da 1 a {})", evidenziata, figure.size()));
-  VBS_TRY_ASSIGN(auto x, args.Double(6, 0));
-  VBS_TRY_ASSIGN(auto y, args.Double(7, 0));
-  VBS_TRY_ASSIGN(auto lato, args.Double(8, 0));
-  if (!(std::abs(x) <= 1e6 && std::abs(y) <= 1e6 && lato >= 0 && lato <= 8000))
-    return ArgomentoNonValido(fmt::format("Posizione o lato non validi: ({}, {}), lato {}", x, y, lato));
+  VBS_TRY_ASSIGN(auto posto, PostoArgomenti(args, 5, figure.size()));
   VBS_TRY_ASSIGN(auto area, AreaDelloScript(lib, "DisegnaCerchioCiclometrico"));
   disegno->marcati = std::move(marcati);
   disegno->figure = std::move(figure);
-  disegno->evidenziata = static_cast<int>(evidenziata) - 1;
-  area->DisegnaCerchio(*disegno, x, y, lato);
+  disegno->evidenziata = posto.evidenziata;
+  area->DisegnaCerchio(*disegno, posto.x, posto.y, posto.lato);
   return Variant();
+}
+
+Result<Variant> DisegnaEstrazioneFromFiguraCiclometrica(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto disegno, DisegnoArgomento(lib, args));
+  VBS_TRY_ASSIGN(auto insieme, InsiemeArgomenti(lib, args, 1));
+  VBS_TRY_ASSIGN(auto figure, FigureDaDisegnare(args, 3, insieme));
+  VBS_TRY_ASSIGN(auto posto, PostoArgomenti(args, 4, figure.size()));
+  VBS_TRY_ASSIGN(auto area, AreaDelloScript(lib, "DisegnaEstrazioneFromFiguraCiclometrica"));
+  disegno->marcati.assign(insieme.Numeri().begin(), insieme.Numeri().end());
+  // A figure given from elsewhere is marked too, so that its vertices never float unringed.
+  for (const FiguraCerchio& figura : figure)
+    for (int numero : figura.numeri)
+      if (!insieme.Contiene(numero)) disegno->marcati.push_back(numero);
+  disegno->figure = std::move(figure);
+  disegno->evidenziata = posto.evidenziata;
+  area->DisegnaCerchio(*disegno, posto.x, posto.y, posto.lato);
+  return Variant::Long(static_cast<int32_t>(disegno->figure.size()));
+}
+
+Result<Variant> QvCerchio_TovataFigura(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto disegno, DisegnoArgomento(lib, args));
+  FiguraCerchio figura;
+  if (auto* trovata = FiguraCicloDi(args[1])) {
+    figura = FiguraDelCerchio(trovata->figura());
+  } else {
+    VBS_TRY_ASSIGN(figura.numeri, NumeriDelCerchio(args, 1, "Figura"));
+    if (figura.numeri.empty())
+      return ArgomentoNonValido("Figura: serve una figura ciclometrica o un array dei suoi numeri");
+    for (int numero : figura.numeri)
+      figura.descrizione += fmt::format("{}{}", figura.descrizione.empty() ? "" : "-", numero);
+  }
+  if (args.Has(2)) {
+    VBS_TRY_ASSIGN(figura.colore, ColoreDisegno(args, 2, 0));
+  }
+  if (args.Has(3)) {
+    VBS_TRY_ASSIGN(figura.spessore, SpessoreDisegno(args, 3, 0));
+  }
+  VBS_TRY_ASSIGN(auto descrizione, args.String(4, u""));
+  if (!descrizione.empty()) figura.descrizione = text::Utf16ToUtf8(descrizione);
+  if (disegno->figure.size() == kFigureMassime)
+    return ArgomentoNonValido(fmt::format("Troppe figure: al massimo {}", kFigureMassime));
+  for (int numero : figura.numeri)
+    if (std::find(disegno->marcati.begin(), disegno->marcati.end(), numero) == disegno->marcati.end())
+      disegno->marcati.push_back(numero);
+  disegno->figure.push_back(std::move(figura));
+  return Variant::Long(static_cast<int32_t>(disegno->figure.size()));
 }
 
 Result<Variant> ImpostaPropColoriCerchioCiclo(Libreria& lib, CallArgs& args) {
@@ -162,9 +279,16 @@ Result<Variant> QvCerchio_InitDisegno(Libreria& lib, CallArgs& args) {
                        "QvCerchio_InitDisegno"));
   auto file = area->MostraCerchio(*disegno, text::Utf16ToUtf8(titolo), pagina);
   if (!file) return ArgomentoNonValido(file.Errore().testo);
-  if (*file)
-    lib.html().ScriviMarkup(fmt::format("<p><img src=\"{}\" alt=\"{}\"></p>\n", TestoHtml((*file)->filename().string()),
-                                        TestoHtml(text::Utf16ToUtf8(titolo))));
+  if (*file) {
+    std::string markup = fmt::format("<p><img src=\"{}\" alt=\"{}\"></p>\n", TestoHtml((*file)->filename().string()),
+                                     TestoHtml(text::Utf16ToUtf8(titolo)));
+    // The page has no list beside the picture to click: the figures are named under it.
+    std::string elenco;
+    for (const FiguraCerchio& figura : disegno->figure)
+      if (!figura.descrizione.empty()) elenco += fmt::format("<li>{}</li>", TestoHtml(figura.descrizione));
+    if (!elenco.empty()) markup += fmt::format("<ol>{}</ol>\n", elenco);
+    lib.html().ScriviMarkup(markup);
+  }
   return Variant();
 }
 
@@ -178,6 +302,12 @@ const Libreria::Funzione kCerchio[] = {
      "(omesso, il lato minore dell'immagine) con l'angolo in alto a sinistra in (X, Y); aNumeri sono segnati, "
      "aFigure è un array di array di numeri, ciascuno una figura (i vertici uniti nell'ordine dato, due numeri una "
      "linea), aColori e aSpessori il colore e lo spessore di ciascuna, Evidenziata la figura evidenziata da 1"},
+    {"DisegnaEstrazioneFromFiguraCiclometrica", 2, 8, &DisegnaEstrazioneFromFiguraCiclometrica,
+     "IdDisegno, IdEstr o aNumeri, [aRuote = TT_], [Figure], [Evidenziata = 0], [X = 0], [Y = 0], [Lato]: disegna "
+     "nell'area di disegno il cerchio coi numeri dell'estrazione IdEstr sulle ruote aRuote (o quelli di aNumeri) "
+     "segnati e le loro figure: tutte se Figure è omesso, quelle dei tipi Figure (un numero o un array, da 1 a 7 "
+     "come in GetCollFigureCiclometriche), o la figura o la collezione di figure Figure; restituisce quante figure "
+     "ha disegnato, che QvCerchio_InitDisegno elenca accanto al cerchio"},
     {"ImpostaPropColoriCerchioCiclo", 2, 7, &ImpostaPropColoriCerchioCiclo,
      "IdDisegno, [ColoreSfondo], [ColoreCerchio], [ColoreNumeri], [ColoreNumeriSegnati], [ColoreFigure], "
      "[ColoreEvidenziata]: i colori del disegno (da Nero_ a Magenta_ o un colore di RGB); quelli omessi restano"},
@@ -191,6 +321,10 @@ const Libreria::Funzione kCerchio[] = {
     {"QvCerchio_InitDisegno", 1, 2, &QvCerchio_InitDisegno,
      "IdDisegno, [Titolo]: mostra il disegno, coi numeri e le figure dell'ultimo DisegnaCerchioCiclometrico, in "
      "una vista a sé: nel programma una finestra, a riga di comando un'immagine PNG accanto alla pagina HTML"},
+    {"QvCerchio_TovataFigura", 2, 5, &QvCerchio_TovataFigura,
+     "IdDisegno, Figura, [Colore], [Spessore], [Descrizione]: aggiunge al disegno una figura trovata (una figura "
+     "delle collezioni ciclometriche o un array dei suoi numeri), coi vertici segnati, e ne restituisce il numero "
+     "(da 1); QvCerchio_InitDisegno la mostra nell'elenco accanto al cerchio, dove sceglierla la evidenzia"},
 };
 
 }  // namespace

@@ -1,8 +1,12 @@
 #include "Ciclometria.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cassert>
 #include <initializer_list>
+
+#include "archive/Ruote.h"
 
 namespace lottolab::stats {
 
@@ -152,6 +156,23 @@ std::string_view NomeTipoFigura(TipoFigura tipo) {
     case TipoFigura::Parallelepipedo: return "Parallelepipedo";
   }
   return {};
+}
+
+std::string DescrizioneFigura(const FiguraCiclometrica& figura) {
+  std::string testo(NomeTipoFigura(figura.tipo));
+  std::string sigle;
+  bool con_ruote = false;
+  for (size_t v = 0; v < figura.quanti; ++v) {
+    testo += fmt::format("{}{}", v == 0 ? " " : "-", int{figura.vertici[v]});
+    std::string del_vertice;
+    for (int ruota = 1; ruota <= kNumeroRuote; ++ruota)
+      if (figura.ruote[v] & (1u << (ruota - 1)))
+        del_vertice += fmt::format("{}{}", del_vertice.empty() ? "" : "/", SiglaRuota(ruota));
+    sigle += fmt::format("{}{}", v == 0 ? "" : ", ", del_vertice);
+    con_ruote = con_ruote || figura.ruote[v] != 0;
+  }
+  if (con_ruote) testo += fmt::format(" ({})", sigle);
+  return testo;
 }
 
 int VerticiDelTipo(TipoFigura tipo) {

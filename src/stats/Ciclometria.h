@@ -35,6 +35,7 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -103,6 +104,10 @@ struct FiguraCiclometrica {
   std::span<const uint8_t> Vertici() const { return {vertici.data(), quanti}; }
   friend bool operator==(const FiguraCiclometrica&, const FiguraCiclometrica&) = default;
 };
+
+// The figure as lists and scripts show it: "Aquilone 10-18-55-2 (BA/VE, BA, VE, VE)", the wheels of
+// each vertex in brackets when it has some.
+std::string DescrizioneFigura(const FiguraCiclometrica& figura);
 
 // Appends to `figure` every figure of the kinds in `tipi` among the numbers of `insieme`, grouped
 // by kind in the order of TipoFigura. The parallelepiped is not searched here (TrovaParallelepipedi).

@@ -39,8 +39,9 @@ TEST_F(Cerchio, NumeriInSensoOrarioDallAlto) {
 TEST_F(Cerchio, FigureDisegnateSecondoITipiAccesi) {
   script::DisegnoCerchio disegno;
   disegno.marcati = {1, 46, 91, 0};
-  disegno.figure = {{{1, 46}, {}, {}}, {{1, 31, 61}, {}, {}}, {{1, 24, 46, 69}, {}, {}}, {{1, 19, 37, 55, 73}, {}, {}},
-                    {{7}, {}, {}},     {{}, {}, {}}};
+  for (std::vector<int> numeri :
+       std::vector<std::vector<int>>{{1, 46}, {1, 31, 61}, {1, 24, 46, 69}, {1, 19, 37, 55, 73}, {7}, {}})
+    disegno.figure.push_back({std::move(numeri), {}, {}, {}});
   struct Caso {
     uint32_t flag;
     int poligoni;
@@ -71,7 +72,7 @@ TEST_F(Cerchio, PixelDelleFigureEDellEvidenziata) {
   disegno.impostazioni.spessore_figure = 5;
   // A diameter 1-46 (vertical) in the figures' colour, 23-68 nearly horizontal in its own red, and
   // the vertical one highlighted in a second circle.
-  disegno.figure = {{{1, 46}, {}, {}}, {{23, 68}, 0xFF0000, 5.0}};
+  disegno.figure = {{{1, 46}, {}, {}, {}}, {{23, 68}, 0xFF0000, 5.0, {}}};
   const QImage immagine = ImmagineCerchio(disegno, 400);
   EXPECT_EQ(immagine.pixelColor(200, 120).rgb() & 0xFFFFFF, 0x0000FFu);
   const QRectF area(0, 0, 400, 400);

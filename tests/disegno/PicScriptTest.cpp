@@ -119,6 +119,36 @@ QvCerchio_InitDisegno d, "Figure"
   EXPECT_NE(m_libreria->html().Testo().find("pagina_cerchio1.png"), std::string::npos);
 }
 
+// The figures a search finds are drawn with the numbers they come from, and named under the
+// picture of the view; a figure found by the script itself joins them.
+TEST_F(PicScript, FigureTrovateDisegnateEdElencate) {
+  Avvia();
+  ASSERT_TRUE(m_libreria->html().Apri(m_cartella / "pagina.htm", "#FFFFFF"));
+  // 20-65 a diameter, 5-35-65 an equilateral triangle, 20 as far from 5 as from 35: an isosceles
+  // triangle, and with 65 a kite.
+  Esegui(R"(
+d = GetNewDisegnoCiclometrico()
+n = Array(5, 35, 65, 20)
+tutte = DisegnaEstrazioneFromFiguraCiclometrica(d, n)
+diametri = DisegnaEstrazioneFromFiguraCiclometrica(d, n, , 1)
+Set eq = GetCollTriangoliEquilateri(n)
+daCollezione = DisegnaEstrazioneFromFiguraCiclometrica(d, n, , eq, 1)
+numero = QvCerchio_TovataFigura(d, Array(1, 46), Rosso_, 3)
+QvCerchio_InitDisegno d, "Trovate"
+)");
+  ASSERT_TRUE(m_ospite->avvisi.empty()) << m_ospite->avvisi.front().testo;
+  EXPECT_EQ(Testo("tutte"), "4");
+  EXPECT_EQ(Testo("diametri"), "1");
+  EXPECT_EQ(Testo("daCollezione"), "1");
+  EXPECT_EQ(Testo("numero"), "2");
+  const ConteggioCerchio& cerchio = m_ospite->tela.Conteggio().cerchio;
+  EXPECT_EQ(cerchio.poligoni, 4 + 1 + 1);
+  EXPECT_EQ(cerchio.marcati, 3 * 4);
+  m_libreria->html().Chiudi();
+  const std::string pagina = m_libreria->html().Testo();
+  EXPECT_NE(pagina.find("<ol><li>Triangolo equilatero 5-35-65</li><li>1-46</li></ol>"), std::string::npos) << pagina;
+}
+
 TEST_F(PicScript, RifiutiConUnMessaggioChiaro) {
   Avvia();
   struct Caso {
@@ -142,6 +172,12 @@ TEST_F(PicScript, RifiutiConUnMessaggioChiaro) {
       {"DisegnaCerchioCiclometrico d, , Array(Array(1, 100))", "figura 1: numero non valido"},
       {"DisegnaCerchioCiclometrico d, , Array(Array(1, 2)), Array(-5)", "aColori"},
       {"ImpostaPropDrawWidthCerchioCiclo d, -1", "Spessore non valido"},
+      {"DisegnaEstrazioneFromFiguraCiclometrica d, Array(1, 46), , 9", "Figure non valide"},
+      {"DisegnaEstrazioneFromFiguraCiclometrica d, Array(1, 46), BA_", "aRuote vale solo con IdEstr"},
+      {"Set c = GetNewCollection() : c.Add 3 : DisegnaEstrazioneFromFiguraCiclometrica d, Array(1, 46), , c",
+       "non è una figura ciclometrica"},
+      {"QvCerchio_TovataFigura d, Array()", "serve una figura"},
+      {"QvCerchio_TovataFigura d, Array(1, 46), -2", "Colore non valido"},
   };
   for (const Caso& caso : casi) {
     m_ospite->avvisi.clear();

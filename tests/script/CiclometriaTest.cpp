@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "LibreriaDiProva.h"
+#include "TempDir.h"
 #include "stats/ArchiviDiProva.h"
 #include "stats/Ciclometria.h"
 
@@ -57,6 +60,33 @@ TEST_F(Ciclometria, AParallelepipedJoinsTwoWheelsOrTwoGroups) {
             "Parallelepipedo 20-25-65-70 (BA, VE, VE, BA);");
   EXPECT_EQ(Testo("GetCollParallelepipedi(2).Count"), "3") << "the ten wheels by default";
   EXPECT_EQ(Testo("Elenco(GetCollParallelepipediQN(Array(3, 20), Array(48, 65, 25)))"), "Parallelepipedo 3-20-48-65;");
+}
+
+class CiclometriaGenerica : public Libreria {
+ protected:
+  void SetUp() override {
+    ImpostazioniLibreria impostazioni;
+    impostazioni.cartella_base = m_cartella.Percorso();
+    Avvia(test::Archivio().Estrazione({{BA, {1, 2, 3, 4, 5}}}).Tabella(), impostazioni);
+    Esegui("Function Elenco(c)\n Elenco = \"\"\n For Each f In c : Elenco = Elenco & f & \";\" : Next\nEnd Function\n");
+  }
+  test::CartellaTemporanea m_cartella;
+};
+
+// The generic archive has one wheel: its parallelepipeds join a draw to the one before it, or to
+// the one named, on the circle of 90 only.
+TEST_F(CiclometriaGenerica, TheGenericArchiveJoinsTwoOfItsDraws) {
+  std::ofstream(m_cartella / "ft.txt", std::ios::binary)
+      << "# numeri 5 massimo 90\n02/01/2020 3 20 1 2 4\n04/01/2020 48 65 25 11 12\n07/01/2020 70 3 6 7 8\n";
+  ASSERT_EQ(Testo("ApriBaseDatiFT(\"ft.txt\")"), "3");
+  EXPECT_EQ(Testo("Elenco(GetCollParallelepipediFT(2))"), "Parallelepipedo 3-20-48-65;");
+  EXPECT_EQ(Testo("Elenco(GetCollParallelepipediFT(3, 2))"), "Parallelepipedo 3-25-48-70;");
+  EXPECT_TRUE(Vuoto("GetCollParallelepipediFT(1)"));
+  AvvisoErrore5("GetCollParallelepipediFT", "non ha una precedente", "the first draw");
+  std::ofstream(m_cartella / "ft20.txt", std::ios::binary) << "# numeri 2 massimo 20\n02/01/2020 1 2\n04/01/2020 3 4\n";
+  ASSERT_EQ(Testo("ApriBaseDatiFT(\"ft20.txt\")"), "2");
+  EXPECT_TRUE(Vuoto("GetCollParallelepipediFT(2)"));
+  AvvisoErrore5("GetCollParallelepipediFT", "cerchio dei 90 numeri", "numbers up to 20");
 }
 
 TEST_F(Ciclometria, BadArgumentsAreRefusedWithTheirReason) {

@@ -5,7 +5,6 @@
 #include <QListWidget>
 #include <QSpinBox>
 #include <QVBoxLayout>
-#include <fmt/format.h>
 
 #include "archive/Ruote.h"
 #include "gui/comuni/QvCerchio.h"
@@ -13,25 +12,6 @@
 #include "stats/Ciclometria.h"
 
 namespace lottolab::gui {
-
-namespace {
-
-// A figure as the list shows it: "Rettangolo 3-20-48-65 (BA, VE, BA, NA)", each vertex's wheels.
-QString Descrizione(const stats::FiguraCiclometrica& figura) {
-  std::string vertici;
-  std::string ruote;
-  for (size_t v = 0; v < figura.quanti; ++v) {
-    vertici += fmt::format("{}{}", v == 0 ? "" : "-", figura.vertici[v]);
-    std::string sigle;
-    for (int ruota = 1; ruota <= kNumeroRuote; ++ruota)
-      if (figura.ruote[v] & (1u << (ruota - 1)))
-        sigle += fmt::format("{}{}", sigle.empty() ? "" : "/", SiglaRuota(ruota));
-    ruote += fmt::format("{}{}", v == 0 ? "" : ", ", sigle);
-  }
-  return QString::fromStdString(fmt::format("{} {} ({})", stats::NomeTipoFigura(figura.tipo), vertici, ruote));
-}
-
-}  // namespace
 
 FinestraCiclometria::FinestraCiclometria(ContestoGui& contesto, QWidget* parent)
     : QWidget(parent), m_contesto(contesto) {
@@ -91,7 +71,7 @@ void FinestraCiclometria::Aggiorna() {
   m_trovate.clear();
   for (const stats::FiguraCiclometrica& figura : figure) {
     m_trovate.emplace_back(figura.Vertici().begin(), figura.Vertici().end());
-    auto* voce = new QListWidgetItem(Descrizione(figura), m_figure);
+    auto* voce = new QListWidgetItem(QString::fromStdString(stats::DescrizioneFigura(figura)), m_figure);
     voce->setToolTip(voce->text());
   }
   MostraFigura(-1);
@@ -101,7 +81,7 @@ void FinestraCiclometria::MostraFigura(int riga) {
   script::DisegnoCerchio disegno;
   disegno.marcati = m_marcati;
   if (riga >= 0 && static_cast<size_t>(riga) < m_trovate.size()) {
-    disegno.figure.push_back({m_trovate[static_cast<size_t>(riga)], {}, {}});
+    disegno.figure.push_back({m_trovate[static_cast<size_t>(riga)], {}, {}, {}});
     disegno.evidenziata = 0;
   }
   m_cerchio->ImpostaDisegno(std::move(disegno));

@@ -22,13 +22,13 @@
 #include <cmath>
 #include <filesystem>
 
-#include "gui/comuni/QvCerchio.h"
 #include "gui/principale/Impostazioni.h"
 #include "gui/script/DialoghiQt.h"
 #include "gui/script/EditorScript.h"
 #include "gui/script/EsecuzioneInThread.h"
 #include "gui/script/ScriptConfigurazione.h"
 #include "gui/script/ScriptModalita.h"
+#include "gui/script/VistaCerchioScript.h"
 #include "script/LetturaFile.h"
 #include "script/OutputHtml.h"
 #include "text/Utf.h"
@@ -105,11 +105,7 @@ F_Script::F_Script(ContestoGui& contesto, std::unique_ptr<DialoghiScript> dialog
           [this](const QImage& immagine) { m_disegno->setPixmap(QPixmap::fromImage(immagine)); });
   connect(&ospite.Area(), &AreaDisegnoGui::CerchioDaMostrare, this,
           [this](const script::DisegnoCerchio& disegno, const QString& titolo) {
-            auto* vista = new QvCerchio(this);
-            vista->setWindowFlag(Qt::Window);
-            vista->setAttribute(Qt::WA_DeleteOnClose);
-            vista->setWindowTitle(titolo);
-            vista->ImpostaDisegno(disegno);
+            auto* vista = new VistaCerchioScript(disegno, titolo, this);
             vista->show();
           });
   connect(&ospite, &OspiteGui::MessaggioRicevuto, m_stato, &QLabel::setText);

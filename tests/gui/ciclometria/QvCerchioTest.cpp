@@ -10,6 +10,7 @@
 #include "gui/ciclometria/FinestraCiclometria.h"
 #include "gui/comuni/QvCerchio.h"
 #include "gui/principale/ContestoGui.h"
+#include "gui/script/VistaCerchioScript.h"
 #include "stats/Ciclometria.h"
 
 namespace lottolab::gui {
@@ -28,7 +29,7 @@ class QvCerchioTest : public QObject {
     disegno.impostazioni.figure = 0x0000FF;
     disegno.impostazioni.evidenziata = 0x00FF00;
     disegno.marcati = {1, 46, 31};
-    disegno.figure = {{{1, 46}, {}, {}}, {{1, 31, 61}, {}, {}}, {{5, 50}, {}, {}}};
+    disegno.figure = {{{1, 46}, {}, {}, {}}, {{1, 31, 61}, {}, {}, {}}, {{5, 50}, {}, {}, {}}};
     vista.ImpostaDisegno(disegno);
     vista.show();
     QVERIFY(QTest::qWaitForWindowExposed(&vista));
@@ -39,6 +40,32 @@ class QvCerchioTest : public QObject {
     vista.Evidenzia(0);
     immagine = vista.grab().toImage();
     QCOMPARE(immagine.pixel(150, 100) & 0xFFFFFF, 0x00FF00u);
+  }
+
+  // A script's view lists the figures found beside the circle; choosing one highlights it. Figures
+  // drawn without a description leave the view a plain circle.
+  void LaVistaDelloScriptElencaLeFigureTrovate() {
+    script::DisegnoCerchio disegno;
+    disegno.impostazioni.flag = script::kFlagTutti & ~script::kFlagNumeri;
+    disegno.impostazioni.figure = 0x0000FF;
+    disegno.impostazioni.evidenziata = 0x00FF00;
+    disegno.figure = {{{1, 46}, {}, {}, "Diametro 1-46"}, {{5, 35, 65}, {}, {}, "Triangolo equilatero 5-35-65"}};
+    VistaCerchioScript vista(disegno, QStringLiteral("Trovate"));
+    vista.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&vista));
+    QVERIFY(vista.Elenco());
+    QCOMPARE(vista.Elenco()->count(), 2);
+    QCOMPARE(vista.Elenco()->item(1)->text(), QStringLiteral("Triangolo equilatero 5-35-65"));
+    vista.Elenco()->setCurrentRow(1);
+    QCOMPARE(vista.Cerchio()->Disegno().evidenziata, 1);
+    vista.Elenco()->setCurrentRow(0);
+    QCOMPARE(vista.Cerchio()->Disegno().evidenziata, 0);
+    const QImage immagine = vista.Cerchio()->grab().toImage();
+    QCOMPARE(immagine.pixel(immagine.width() / 2, immagine.height() / 3) & 0xFFFFFF, 0x00FF00u);
+
+    for (auto& figura : disegno.figure) figura.descrizione.clear();
+    VistaCerchioScript semplice(disegno, QStringLiteral("Disegno"));
+    QVERIFY(!semplice.Elenco());
   }
 
   // The window lists and draws every figure of the wheels ticked, as the figure search finds them.

@@ -18,6 +18,7 @@
 #include "gui/script/F_Script.h"
 #include "gui/script/ParoleEditor.h"
 #include "gui/script/ScriptModalita.h"
+#include "gui/script/VistaCerchioScript.h"
 #include "script/OutputHtml.h"
 #include "text/Utf.h"
 #include "vbscript/syntax/Lexer.h"
@@ -433,10 +434,10 @@ class FinestraScriptTest : public QObject {
     QCOMPARE(immagine.size(), QSize(120, 80));
     QCOMPARE(immagine.pixel(60, 40) & 0xFFFFFF, 0x0000FFu);
     QCOMPARE(immagine.pixel(115, 2) & 0xFFFFFF, 0xFF0000u);
-    QTRY_COMPARE_WITH_TIMEOUT(m_finestra->findChildren<QvCerchio*>().size(), qsizetype{1}, kAttesaMs);
-    QvCerchio* vista = m_finestra->findChildren<QvCerchio*>().front();
+    QTRY_COMPARE_WITH_TIMEOUT(m_finestra->findChildren<VistaCerchioScript*>().size(), qsizetype{1}, kAttesaMs);
+    VistaCerchioScript* vista = m_finestra->findChildren<VistaCerchioScript*>().front();
     QCOMPARE(vista->windowTitle(), QString("Vista"));
-    QCOMPARE(vista->Disegno().figure.size(), size_t{1});
+    QCOMPARE(vista->Cerchio()->Disegno().figure.size(), size_t{1});
   }
 };
 
