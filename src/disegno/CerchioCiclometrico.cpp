@@ -1,6 +1,7 @@
 #include "CerchioCiclometrico.h"
 
 #include <QFontMetricsF>
+#include <QVarLengthArray>
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -16,12 +17,35 @@ QRectF Quadrato(const QRectF& area) {
   return QRectF(area.center().x() - lato / 2, area.center().y() - lato / 2, lato, lato);
 }
 
-// The pen of a figure: its own colour and width, else the highlighted or the common ones.
-QPen PennaFigura(const script::FiguraCerchio& figura, bool evidenziata, const script::ImpostazioniCerchio& imp) {
-  QColor colore = ColoreQt(evidenziata ? imp.evidenziata : figura.colore.value_or(imp.figure));
-  double spessore = evidenziata ? imp.spessore_evidenziata : figura.spessore.value_or(imp.spessore_figure);
-  QPen penna(colore, std::max(0.0, spessore));
-  return penna;
+// The sides of a figure (a diameter has one), each `spessore` pixels wide. Antialiased lines wider
+// than a pixel go through the stroker, about ten times slower than hairlines, and a draw's circle
+// holds hundreds of figures: a wide side is drawn as hairlines side by side, half a pixel apart so
+// that their antialiased edges overlap into a solid stroke.
+void DisegnaLati(QPainter& pittore, const QPolygonF& vertici, const QColor& colore, double spessore) {
+  const int fili = static_cast<int>(std::lround(2 * spessore)) - 1;
+  if (fili <= 1) {
+    pittore.setPen(QPen(colore, std::max(0.0, spessore)));
+    if (vertici.size() == 2)
+      pittore.drawLine(vertici[0], vertici[1]);
+    else
+      pittore.drawPolygon(vertici);
+    return;
+  }
+  pittore.setPen(QPen(colore, 1));
+  const qsizetype lati = vertici.size() == 2 ? 1 : vertici.size();
+  QVarLengthArray<QLineF, 64> linee;
+  for (qsizetype i = 0; i < lati; ++i) {
+    const QPointF da = vertici[i];
+    const QPointF a = vertici[(i + 1) % vertici.size()];
+    const double lunghezza = std::hypot(a.x() - da.x(), a.y() - da.y());
+    if (lunghezza == 0) continue;
+    const QPointF normale((da.y() - a.y()) / lunghezza, (a.x() - da.x()) / lunghezza);
+    for (int filo = 0; filo < fili; ++filo) {
+      const QPointF scarto = normale * ((filo - (fili - 1) / 2.0) / 2);
+      linee.append(QLineF(da + scarto, a + scarto));
+    }
+  }
+  pittore.drawLines(linee.constData(), static_cast<int>(linee.size()));
 }
 
 }  // namespace
@@ -62,11 +86,8 @@ ConteggioCerchio DisegnaCerchio(QPainter& pittore, const QRectF& area, const scr
     if (vertici.size() < 2) continue;
     if (!(imp.flag & (1u << static_cast<unsigned>(script::TipoDiFigura(static_cast<size_t>(vertici.size()))))))
       continue;
-    pittore.setPen(PennaFigura(figura, ultimo, imp));
-    if (vertici.size() == 2)
-      pittore.drawLine(vertici[0], vertici[1]);
-    else
-      pittore.drawPolygon(vertici);
+    DisegnaLati(pittore, vertici, ColoreQt(ultimo ? imp.evidenziata : figura.colore.value_or(imp.figure)),
+                ultimo ? imp.spessore_evidenziata : figura.spessore.value_or(imp.spessore_figure));
     ++conteggio.poligoni;
   }
 
