@@ -33,7 +33,7 @@ Result<figures::Struttura> StrutturaArgomento(Libreria& lib, const CallArgs& arg
   VBS_TRY(lib.Consenti(vbs::FileAccess::Read, file, funzione));
   auto struttura = figures::CaricaStruttura(file);
   if (!struttura) return ArgomentoNonValido(struttura.Errore().testo);
-  return std::move(*struttura);
+  return std::move(struttura).Valore();
 }
 
 // Argument i as the wheels a figure may touch: every wheel when omitted or TT_, as cerca-figura.
