@@ -4,10 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 
 #include "DatiReali.h"
 #include "TempDir.h"
+#include "archive/DateEstrazione.h"
 #include "disegno/TelaImmagine.h"
 #include "figures/FileStrutture.h"
 #include "script/ClsFunctionsGeodoScript.h"
@@ -263,6 +265,38 @@ TEST_F(TavolaScript, LeFigureDellArchivioReale) {
   EXPECT_EQ(Testo("c.Count"), "20");
   EXPECT_EQ(m_ospite.tela.Conteggio().cerchi, 40);
   EXPECT_EQ(m_ospite.tela.Conteggio().linee, 20);
+}
+
+// A generic archive of Bari's numbers alone holds the same figures as Bari's column of the table.
+TEST_F(TavolaScript, LArchivioGenericoDiBariHaLeFigureDiBari) {
+  LOTTOLAB_RICHIEDI_DATI_REALI();
+  const TabellaEstrazioni& reale = test::ArchivioReale();
+  constexpr int kEstrazioni = 300;
+  const int prima = reale.EstrazioniArchivio() - kEstrazioni + 1;
+  std::string testo = "# numeri 5 massimo 90\n";
+  for (int id = prima; id <= reale.EstrazioniArchivio(); ++id) {
+    testo += FormattaData(reale[id].data);
+    for (int p = 1; p <= kNumeriPerRuota; ++p) testo += " " + std::to_string(reale[id].Numero(BA, p));
+    testo += "\n";
+  }
+  Avvia(reale);
+  std::ofstream(m_cartella / "bari.txt") << testo;
+  ASSERT_EQ(Testo("ApriBaseDatiFT(\"bari.txt\")"), std::to_string(kEstrazioni));
+  Esegui(
+      "Function Elenco(c)\n"
+      "  Dim f, i, s\n"
+      "  For Each f In c\n"
+      "    For i = 1 To f.QuantitaVertici : s = s & f.PosizioneVertice(i) & \":\" & f.Vertice(i) & \" \" : Next\n"
+      "    s = s & \"|\"\n"
+      "  Next\n"
+      "  Elenco = s\n"
+      "End Function\n");
+  const std::string generico = Testo("Elenco(GetCollFiguraUtenteFT(\"coppia.dat\", 250, 300))");
+  const std::string lotto =
+      Testo("Elenco(GetCollFiguraUtente(\"coppia.dat\", EstrazioniArchivio - 50, EstrazioniArchivio, BA_))");
+  NessunAvviso();
+  EXPECT_EQ(std::count(generico.begin(), generico.end(), '|'), 51 * 5);
+  EXPECT_EQ(generico, lotto);
 }
 
 }  // namespace
