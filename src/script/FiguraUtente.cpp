@@ -59,6 +59,12 @@ Result<size_t> FiguraUtente::PostoVertice(int32_t indice) const {
   return static_cast<size_t>(indice - 1);
 }
 
+const Estrazione* FiguraUtente::Riga(int id_estr, const TabellaEstrazioni* archivio) const {
+  const TabellaEstrazioni* tabella = m_fonte.righe ? m_fonte.righe.get() : archivio;
+  const int riga = id_estr - m_fonte.spostamento;
+  return tabella && tabella->Contiene(riga) ? &(*tabella)[riga] : nullptr;
+}
+
 Result<const figures::VerticePiazzato*> FiguraUtente::VerticeArgomento(const CallArgs& args) const {
   VBS_TRY_ASSIGN(auto indice, args.Long(0));
   VBS_TRY_ASSIGN(auto posto, PostoVertice(indice));

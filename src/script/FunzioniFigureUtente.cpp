@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ArgomentiGioco.h"
 #include "ArgomentiLotto.h"
 #include "ArgomentiRitardi.h"
 #include "ArgomentoPercorso.h"
@@ -32,7 +33,7 @@ Result<figures::Struttura> StrutturaArgomento(Libreria& lib, const CallArgs& arg
   VBS_TRY(lib.Consenti(vbs::FileAccess::Read, file, funzione));
   auto struttura = figures::CaricaStruttura(file);
   if (!struttura) return ArgomentoNonValido(struttura.Errore().testo);
-  return std::move(*struttura);
+  return std::move(struttura).Valore();
 }
 
 // Argument i as the wheels a figure may touch: every wheel when omitted or TT_, as cerca-figura.
@@ -43,21 +44,50 @@ Result<std::vector<int>> RuoteArgomentoFigura(const CallArgs& args, size_t i) {
   return ruote;
 }
 
-// The figures found on `tab`, their draws moved by `spostamento` into the archive's numbering.
+// The figures found on `tab`, their draws moved by the source's shift into the archive's numbering.
 Result<Variant> CollezioneTrovate(Libreria& lib, const TabellaEstrazioni& tab, const figures::Struttura& struttura,
-                                  const figures::OpzioniRicerca& opzioni, int spostamento) {
+                                  const figures::OpzioniRicerca& opzioni, const FonteFigura& fonte) {
   auto trovate = figures::CercaFigura(tab, struttura, opzioni);
   if (!trovate) return ArgomentoNonValido(trovate.Errore().testo);
   auto collezione = vbs::MakeRef<Collezione>(lib.locale());
   for (const auto& trovata : trovate->elenco) {
     VBS_TRY(lib.ControllaInterruzione());
     figures::FiguraPiazzata figura = trovate->Figura(tab, trovata);
-    for (auto& vertice : figura.vertici) vertice.id_estr += spostamento;
-    VBS_TRY(collezione->Aggiungi(
-        Variant::Object(vbs::MakeRef<FiguraUtente>(lib.locale(), trovata.estrazione + spostamento, std::move(figura))),
-        u""));
+    for (auto& vertice : figura.vertici) vertice.id_estr += fonte.spostamento;
+    VBS_TRY(collezione->Aggiungi(Variant::Object(vbs::MakeRef<FiguraUtente>(
+                                     lib.locale(), trovata.estrazione + fonte.spostamento, std::move(figura), fonte)),
+                                 u""));
   }
   return Variant::Object(collezione);
+}
+
+// The draws first..last of the generic archive as rows of the table, numbered from 1: each draw's K
+// numbers in the columns in order (Bari's positions first), 0 in the others. Numbers over 90 or
+// more than a row's 55 cells would not fit the table, and are refused.
+Result<TabellaEstrazioni> RigheDelGenerico(const TabellaGioco& generico, int prima, int ultima) {
+  const FormatoGioco& formato = generico.formato();
+  if (formato.numeri > figures::kColonneTabella)
+    return ArgomentoNonValido(fmt::format(
+        "L'archivio generico ha {} numeri per estrazione: le figure ne leggono al più {}, quante le celle di una "
+        "riga della tabella (11 ruote per 5 posizioni)",
+        formato.numeri, figures::kColonneTabella));
+  if (formato.massimo > kMassimoNumero)
+    return ArgomentoNonValido(
+        fmt::format("L'archivio generico ha numeri fino a {}: le figure leggono solo numeri da 1 a {}", formato.massimo,
+                    kMassimoNumero));
+  std::vector<Estrazione> righe;
+  righe.reserve(static_cast<size_t>(ultima - prima + 1));
+  for (int id = prima; id <= ultima; ++id) {
+    const EstrazioneGioco& estrazione = generico[id];
+    Estrazione riga;
+    riga.id_estr = id - prima + 1;
+    riga.data = estrazione.data;
+    for (int colonna = 1; colonna <= formato.numeri; ++colonna)
+      riga.ImpostaNumero(figures::RuotaDellaColonna(colonna), figures::PosizioneDellaColonna(colonna),
+                         estrazione.numeri[static_cast<size_t>(colonna - 1)]);
+    righe.push_back(riga);
+  }
+  return TabellaEstrazioni(std::move(righe));
 }
 
 Result<Variant> GetCollFiguraUtente(Libreria& lib, CallArgs& args) {
@@ -70,7 +100,26 @@ Result<Variant> GetCollFiguraUtente(Libreria& lib, CallArgs& args) {
     return ArgomentoNonValido(
         fmt::format("IdEstrFin ({}) viene prima di IdEstrIniz ({})", opzioni.fine, opzioni.inizio));
   VBS_TRY_ASSIGN(opzioni.ruote, RuoteArgomentoFigura(args, 3));
-  return CollezioneTrovate(lib, *tab, struttura, opzioni, 0);
+  return CollezioneTrovate(lib, *tab, struttura, opzioni, FonteFigura{});
+}
+
+// The search runs on the rows a figure completing in IdEstrIniz..IdEstrFin can reach, laid out once.
+Result<Variant> GetCollFiguraUtenteFT(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto struttura, StrutturaArgomento(lib, args, "GetCollFiguraUtenteFT"));
+  VBS_TRY_ASSIGN(auto generico, TabellaDelGioco(lib, Suffisso::FT));
+  const int estrazioni = generico->EstrazioniArchivio();
+  VBS_TRY_ASSIGN(auto inizio, EstrazioneArgomento(estrazioni, args, 1, 0, "IdEstrIniz"));
+  VBS_TRY_ASSIGN(auto fine, EstrazioneArgomento(estrazioni, args, 2, inizio, "IdEstrFin"));
+  if (fine < inizio)
+    return ArgomentoNonValido(fmt::format("IdEstrFin ({}) viene prima di IdEstrIniz ({})", fine, inizio));
+  const int prima = std::max(1, inizio - figures::kMassimeRigheFigura);
+  VBS_TRY_ASSIGN(auto righe, RigheDelGenerico(*generico, prima, fine));
+  FonteFigura fonte{OrigineFigura::Generico, std::make_shared<const TabellaEstrazioni>(std::move(righe)), prima - 1,
+                    generico->formato().numeri};
+  figures::OpzioniRicerca opzioni;
+  opzioni.inizio = inizio - fonte.spostamento;
+  opzioni.fine = fine - fonte.spostamento;
+  return CollezioneTrovate(lib, *fonte.righe, struttura, opzioni, fonte);
 }
 
 // The draws a figure completing at `id_estr` may reach, with that draw's numbers replaced by the
@@ -105,7 +154,9 @@ Result<Variant> GetCollFiguraUtenteQN(Libreria& lib, CallArgs& args) {
   figures::OpzioniRicerca opzioni;
   opzioni.inizio = opzioni.fine = finestra.EstrazioniArchivio();
   VBS_TRY_ASSIGN(opzioni.ruote, RuoteArgomentoFigura(args, 3));
-  return CollezioneTrovate(lib, finestra, struttura, opzioni, id_estr - finestra.EstrazioniArchivio());
+  FonteFigura fonte{OrigineFigura::NumeriScript, std::make_shared<const TabellaEstrazioni>(std::move(finestra)),
+                    id_estr - opzioni.fine};
+  return CollezioneTrovate(lib, *fonte.righe, struttura, opzioni, fonte);
 }
 
 Result<FiguraUtente*> FiguraArgomento(const CallArgs& args) {
@@ -150,6 +201,10 @@ const Libreria::Funzione kFigureUtente[] = {
      "numeri dell'estrazione IdEstr sostituiti dai 55 di aNumeri, uno per colonna della tabella (BA posizioni "
      "1..5, CA 6..10, ..., NZ 51..55; 0 dove non c'è numero): le figure che quei numeri completerebbero sulle "
      "estrazioni precedenti"},
+    {"GetCollFiguraUtenteFT", 2, 3, &GetCollFiguraUtenteFT,
+     "NomeFileStruttura, IdEstrIniz, [IdEstrFin = IdEstrIniz]: come GetCollFiguraUtente sull'archivio generico "
+     "(quello aperto da ApriBaseDatiFT o configurato): i K numeri di ogni estrazione stanno nelle prime K colonne "
+     "della tabella (BA posizioni 1..5, CA 6..10, ...), le altre vuote; errore se K supera 55 o i numeri 90"},
     {"GetArrayNumeriFromFiguraGeodomica", 2, 2, &GetArrayNumeriFromFiguraGeodomica,
      "Figura, aRet: mette in aRet, con indice da 1, i numeri da giocare di una figura di GetCollFiguraUtente "
      "(quelli dei vertici segnati per la chiusura, o di tutti se nessuno è segnato) e restituisce quanti sono"},
