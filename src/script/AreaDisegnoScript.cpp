@@ -1,5 +1,7 @@
 #include "AreaDisegnoScript.h"
 
+#include <cmath>
+
 #include <fmt/format.h>
 
 #include "Famiglia.h"
@@ -55,6 +57,27 @@ vbs::Result<double> SpessoreDisegno(const vbs::CallArgs& args, size_t i, double 
   if (!(spessore >= 0 && spessore <= kSpessoreMassimo))
     return ArgomentoNonValido(fmt::format("Spessore non valido: {} (da 0 a {} pixel)", spessore, kSpessoreMassimo));
   return spessore;
+}
+
+vbs::Result<double> CoordinataDisegno(const vbs::CallArgs& args, size_t i, std::optional<double> se_omessa) {
+  double valore = 0;
+  if (se_omessa) {
+    VBS_TRY_ASSIGN(valore, args.Double(i, *se_omessa));
+  } else {
+    VBS_TRY_ASSIGN(valore, args.Double(i));
+  }
+  if (!(std::abs(valore) <= kCoordinataMassima))
+    return ArgomentoNonValido(
+        fmt::format("Coordinata non valida: {} (al massimo {} in valore assoluto)", valore, kCoordinataMassima));
+  return valore;
+}
+
+vbs::Result<int> DimensioneTestoDisegno(const vbs::CallArgs& args, size_t i, int se_omessa) {
+  VBS_TRY_ASSIGN(auto dimensione, args.Long(i, se_omessa));
+  if (dimensione < 1 || dimensione > kDimensioneTestoMassima)
+    return ArgomentoNonValido(
+        fmt::format("Dimensione del testo non valida: {} (da 1 a {} pixel)", dimensione, kDimensioneTestoMassima));
+  return static_cast<int>(dimensione);
 }
 
 }  // namespace lottolab::script

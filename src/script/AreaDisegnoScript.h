@@ -25,4 +25,15 @@ vbs::Result<std::optional<Rgb>> ColoreDisegnoFacoltativo(const vbs::CallArgs& ar
 vbs::Result<double> SpessoreDisegno(const vbs::CallArgs& args, size_t i, double se_omesso);
 inline constexpr double kSpessoreMassimo = 100;
 
+// Argument i as a coordinate in pixels, `se_omessa` when omitted (required when none). Coordinates
+// far outside any picture are a script's error, and NaN or infinity would reach the painter: both
+// are refused.
+vbs::Result<double> CoordinataDisegno(const vbs::CallArgs& args, size_t i, std::optional<double> se_omessa = {});
+inline constexpr double kCoordinataMassima = 1e6;
+
+// Argument i as the height of a text in pixels, 1..kDimensioneTestoMassima, `se_omessa` when omitted.
+inline constexpr int kDimensioneTesto = 12;
+inline constexpr int kDimensioneTestoMassima = 400;
+vbs::Result<int> DimensioneTestoDisegno(const vbs::CallArgs& args, size_t i, int se_omessa = kDimensioneTesto);
+
 }  // namespace lottolab::script

@@ -22,25 +22,7 @@ namespace {
 
 using namespace famiglia;
 
-constexpr double kCoordinataMassima = 1e6;
-constexpr int kDimensioneMassima = 400;
 constexpr Rgb kRosso = 0xFF0000;
-
-Result<double> Coordinata(const CallArgs& args, size_t i) {
-  VBS_TRY_ASSIGN(auto valore, args.Double(i, 0));
-  if (!(std::abs(valore) <= kCoordinataMassima))
-    return ArgomentoNonValido(
-        fmt::format("Coordinata non valida: {} (al massimo {} in valore assoluto)", valore, kCoordinataMassima));
-  return valore;
-}
-
-Result<int> Dimensione(const CallArgs& args, size_t i) {
-  VBS_TRY_ASSIGN(auto dimensione, args.Long(i, StileTavola{}.dimensione));
-  if (dimensione < 1 || dimensione > kDimensioneMassima)
-    return ArgomentoNonValido(
-        fmt::format("Dimensione del testo non valida: {} (da 1 a {} pixel)", dimensione, kDimensioneMassima));
-  return static_cast<int>(dimensione);
-}
 
 // Where a table goes and how big its text is: X, Y and Dimensione from argument i on.
 struct Posto {
@@ -51,9 +33,9 @@ struct Posto {
 
 Result<Posto> PostoArgomenti(const CallArgs& args, size_t i) {
   Posto posto;
-  VBS_TRY_ASSIGN(posto.x, Coordinata(args, i));
-  VBS_TRY_ASSIGN(posto.y, Coordinata(args, i + 1));
-  VBS_TRY_ASSIGN(posto.stile.dimensione, Dimensione(args, i + 2));
+  VBS_TRY_ASSIGN(posto.x, CoordinataDisegno(args, i, 0));
+  VBS_TRY_ASSIGN(posto.y, CoordinataDisegno(args, i + 1, 0));
+  VBS_TRY_ASSIGN(posto.stile.dimensione, DimensioneTestoDisegno(args, i + 2, StileTavola{}.dimensione));
   return posto;
 }
 

@@ -15,26 +15,7 @@ namespace {
 
 using namespace famiglia;
 
-// Coordinates far outside any picture are a script's error, and NaN or infinity would reach the
-// painter: both are refused.
-constexpr double kCoordinataMassima = 1e6;
 constexpr int kLatoMassimo = 8000;
-constexpr int kDimensioneTesto = 12;
-
-Result<double> Coordinata(const CallArgs& args, size_t i) {
-  VBS_TRY_ASSIGN(auto valore, args.Double(i));
-  if (!(std::abs(valore) <= kCoordinataMassima))
-    return ArgomentoNonValido(
-        fmt::format("Coordinata non valida: {} (al massimo {} in valore assoluto)", valore, kCoordinataMassima));
-  return valore;
-}
-
-Result<int> DimensioneTesto(const CallArgs& args, size_t i) {
-  VBS_TRY_ASSIGN(auto dimensione, args.Long(i, kDimensioneTesto));
-  if (dimensione < 1 || dimensione > 400)
-    return ArgomentoNonValido(fmt::format("Dimensione del testo non valida: {} (da 1 a 400 pixel)", dimensione));
-  return static_cast<int>(dimensione);
-}
 
 Result<std::string> Testo(const CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto testo, args.String(i));
@@ -81,7 +62,7 @@ Result<Variant> PicClear(Libreria& lib, CallArgs&) {
 template <bool Larghezza>
 Result<Variant> PicMisuraTesto(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto testo, Testo(args, 0));
-  VBS_TRY_ASSIGN(auto dimensione, DimensioneTesto(args, 1));
+  VBS_TRY_ASSIGN(auto dimensione, DimensioneTestoDisegno(args, 1));
   // Measuring draws nothing, so it does not link a picture from the page.
   AreaDisegno* area = lib.ospite().Disegno();
   if (!area) return ArgomentoNonValido("Nessuna area di disegno: chi esegue lo script non disegna");
@@ -89,11 +70,11 @@ Result<Variant> PicMisuraTesto(Libreria& lib, CallArgs& args) {
 }
 
 Result<Variant> StampaTesto(Libreria& lib, CallArgs& args, std::string_view funzione, double angolo, size_t i_colore) {
-  VBS_TRY_ASSIGN(auto x, Coordinata(args, 0));
-  VBS_TRY_ASSIGN(auto y, Coordinata(args, 1));
+  VBS_TRY_ASSIGN(auto x, CoordinataDisegno(args, 0));
+  VBS_TRY_ASSIGN(auto y, CoordinataDisegno(args, 1));
   VBS_TRY_ASSIGN(auto testo, Testo(args, 2));
   VBS_TRY_ASSIGN(auto colore, ColoreDisegno(args, i_colore, 0x000000));
-  VBS_TRY_ASSIGN(auto dimensione, DimensioneTesto(args, i_colore + 1));
+  VBS_TRY_ASSIGN(auto dimensione, DimensioneTestoDisegno(args, i_colore + 1));
   VBS_TRY_ASSIGN(auto area, AreaDelloScript(lib, funzione));
   area->StampaTesto(x, y, testo, colore, dimensione, angolo);
   return Variant();
@@ -108,8 +89,8 @@ Result<Variant> PicStampaTestoRT(Libreria& lib, CallArgs& args) {
 }
 
 Result<Variant> PicPunto(Libreria& lib, CallArgs& args) {
-  VBS_TRY_ASSIGN(auto x, Coordinata(args, 0));
-  VBS_TRY_ASSIGN(auto y, Coordinata(args, 1));
+  VBS_TRY_ASSIGN(auto x, CoordinataDisegno(args, 0));
+  VBS_TRY_ASSIGN(auto y, CoordinataDisegno(args, 1));
   VBS_TRY_ASSIGN(auto tratto, TrattoArgomenti(args, 2, 3, false));
   VBS_TRY_ASSIGN(auto area, AreaDelloScript(lib, "PicPunto"));
   area->Punto(x, y, tratto);
@@ -120,7 +101,7 @@ template <bool Tratteggiata>
 Result<Variant> PicLinea(Libreria& lib, CallArgs& args) {
   double c[4];
   for (size_t i = 0; i < 4; ++i) {
-    VBS_TRY_ASSIGN(c[i], Coordinata(args, i));
+    VBS_TRY_ASSIGN(c[i], CoordinataDisegno(args, i));
   }
   VBS_TRY_ASSIGN(auto tratto, TrattoArgomenti(args, 4, 5, Tratteggiata));
   VBS_TRY_ASSIGN(auto area, AreaDelloScript(lib, Tratteggiata ? "PicLineaTratteggiata" : "PicLinea"));
@@ -149,9 +130,9 @@ Result<Variant> PicPoligono(Libreria& lib, CallArgs& args) {
 }
 
 Result<Variant> PicCerchio(Libreria& lib, CallArgs& args) {
-  VBS_TRY_ASSIGN(auto x, Coordinata(args, 0));
-  VBS_TRY_ASSIGN(auto y, Coordinata(args, 1));
-  VBS_TRY_ASSIGN(auto raggio, Coordinata(args, 2));
+  VBS_TRY_ASSIGN(auto x, CoordinataDisegno(args, 0));
+  VBS_TRY_ASSIGN(auto y, CoordinataDisegno(args, 1));
+  VBS_TRY_ASSIGN(auto raggio, CoordinataDisegno(args, 2));
   if (raggio < 0) return ArgomentoNonValido(fmt::format("Raggio non valido: {}", raggio));
   VBS_TRY_ASSIGN(auto tratto, TrattoArgomenti(args, 3, 4, false));
   VBS_TRY_ASSIGN(auto riempimento, ColoreDisegnoFacoltativo(args, 5));

@@ -136,12 +136,11 @@ Result<PostoCerchio> PostoArgomenti(const CallArgs& args, size_t i, size_t figur
   if (evidenziata < 0 || static_cast<size_t>(evidenziata) > figure)
     return ArgomentoNonValido(fmt::format("Evidenziata non valida: {} (0 nessuna, da 1 a {})", evidenziata, figure));
   posto.evidenziata = static_cast<int>(evidenziata) - 1;
-  VBS_TRY_ASSIGN(posto.x, args.Double(i + 1, 0));
-  VBS_TRY_ASSIGN(posto.y, args.Double(i + 2, 0));
+  VBS_TRY_ASSIGN(posto.x, CoordinataDisegno(args, i + 1, 0));
+  VBS_TRY_ASSIGN(posto.y, CoordinataDisegno(args, i + 2, 0));
   VBS_TRY_ASSIGN(posto.lato, args.Double(i + 3, 0));
-  if (!(std::abs(posto.x) <= 1e6 && std::abs(posto.y) <= 1e6 && posto.lato >= 0 && posto.lato <= 8000))
-    return ArgomentoNonValido(
-        fmt::format("Posizione o lato non validi: ({}, {}), lato {}", posto.x, posto.y, posto.lato));
+  if (!(posto.lato >= 0 && posto.lato <= 8000))
+    return ArgomentoNonValido(fmt::format("Lato non valido: {} (da 0 a 8000 pixel)", posto.lato));
   return posto;
 }
 
