@@ -35,8 +35,8 @@ std::span<const FiguraUtente::Member> FiguraUtente::Members() {
       {"PosizioneVertice", 1, 1, &F::PosizioneVertice, nullptr, "Indice: la posizione del vertice, da 1 a 5"},
       {"Numeri", 0, 0, &F::Numeri, nullptr, "i numeri dei vertici in un array con indice da 1"},
       {"NumeriGioco", 0, 0, &F::NumeriGioco, nullptr,
-       "i numeri da giocare, in un array con indice da 1: quelli dei vertici segnati per la chiusura, o di tutti "
-       "i vertici se nessuno è segnato"},
+       "i numeri da giocare, ciascuno una volta, in un array con indice da 1: quelli dei vertici segnati per la "
+       "chiusura, o di tutti i vertici se nessuno è segnato"},
       {"Ruote", 0, 0, &F::Ruote, nullptr,
        "le ruote toccate dalla figura, ciascuna una volta nell'ordine dei vertici, in un array con indice da 1"},
   };
@@ -44,10 +44,14 @@ std::span<const FiguraUtente::Member> FiguraUtente::Members() {
 }
 
 std::vector<int> FiguraUtente::NumeriDaGiocare() const {
+  // Two vertices may hold the same number, which is played once.
+  const auto aggiungi = [](std::vector<int>& numeri, int numero) {
+    if (std::find(numeri.begin(), numeri.end(), numero) == numeri.end()) numeri.push_back(numero);
+  };
   std::vector<int> tutti, segnati;
   for (const auto& vertice : m_figura.vertici) {
-    tutti.push_back(vertice.numero);
-    if (vertice.chiusura) segnati.push_back(vertice.numero);
+    aggiungi(tutti, vertice.numero);
+    if (vertice.chiusura) aggiungi(segnati, vertice.numero);
   }
   return segnati.empty() ? tutti : segnati;
 }
