@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QSplitter>
 
 #include <algorithm>
 
@@ -15,6 +16,9 @@ VistaCerchioScript::VistaCerchioScript(script::DisegnoCerchio disegno, const QSt
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(titolo);
   auto* layout = new QHBoxLayout(this);
+  // Descriptions run long ("Trapezio isoscele 15-38-61-84 (VE, BA, BA, VE)"): the user widens the list.
+  auto* divisore = new QSplitter(this);
+  layout->addWidget(divisore);
   const bool con_elenco = std::any_of(disegno.figure.begin(), disegno.figure.end(),
                                       [](const script::FiguraCerchio& figura) { return !figura.descrizione.empty(); });
   if (con_elenco) {
@@ -23,18 +27,19 @@ VistaCerchioScript::VistaCerchioScript(script::DisegnoCerchio disegno, const QSt
       auto* voce = new QListWidgetItem(QString::fromStdString(figura.descrizione), m_elenco);
       voce->setToolTip(voce->text());
     }
-    m_elenco->setMinimumWidth(220);
-    layout->addWidget(m_elenco);
+    divisore->addWidget(m_elenco);
   }
   const int evidenziata = disegno.evidenziata;
   m_cerchio = new QvCerchio(this);
   m_cerchio->ImpostaDisegno(std::move(disegno));
-  layout->addWidget(m_cerchio, 1);
+  divisore->addWidget(m_cerchio);
+  divisore->setStretchFactor(divisore->indexOf(m_cerchio), 1);
   if (m_elenco) {
     if (evidenziata >= 0) m_elenco->setCurrentRow(evidenziata);
     connect(m_elenco, &QListWidget::currentRowChanged, m_cerchio, &QvCerchio::Evidenzia);
+    divisore->setSizes({300, 520});
   }
-  resize(con_elenco ? 760 : 520, 520);
+  resize(con_elenco ? 840 : 520, 540);
 }
 
 }  // namespace lottolab::gui
