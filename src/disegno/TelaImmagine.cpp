@@ -139,6 +139,26 @@ void TelaImmagine::Cerchio(double x, double y, double raggio, const script::Trat
   Cambiata();
 }
 
+void TelaImmagine::Spezzata(const std::vector<std::pair<double, double>>& punti, const script::Tratto& tratto) {
+  QPolygonF linea;
+  linea.reserve(static_cast<qsizetype>(punti.size()));
+  for (const auto& [x, y] : punti) linea << QPointF(x, y);
+  QPainter pittore(&m_immagine);
+  pittore.setRenderHint(QPainter::Antialiasing);
+  QPen penna = Penna(tratto);
+  penna.setJoinStyle(Qt::RoundJoin);
+  penna.setCapStyle(Qt::RoundCap);
+  pittore.setPen(penna);
+  // A single value is a dot of the line's width.
+  if (linea.size() == 1)
+    pittore.drawPoint(linea.front());
+  else
+    pittore.drawPolyline(linea);
+  ++m_conteggio.spezzate;
+  m_disegnata = true;
+  Cambiata();
+}
+
 void TelaImmagine::DisegnaCerchio(const script::DisegnoCerchio& disegno, double x, double y, double lato) {
   if (lato <= 0) lato = std::min(m_immagine.width(), m_immagine.height());
   QPainter pittore(&m_immagine);
@@ -206,6 +226,18 @@ Esito<std::optional<std::filesystem::path>> TelaPng::MostraCerchio(const script:
   file.replace_filename(fmt::format("{}_cerchio{}.png", pagina.stem().string(), ++m_cerchi));
   auto scritto = SalvaPng(ImmagineCerchio(disegno, 600), file);
   if (!scritto) return scritto.Errore();
+  return std::optional<std::filesystem::path>(file);
+}
+
+Esito<std::optional<std::filesystem::path>> TelaPng::MostraGrafico(const script::DisegnoGrafico& grafico,
+                                                                   const std::filesystem::path& pagina) {
+  if (pagina.empty()) return std::optional<std::filesystem::path>();
+  std::filesystem::path file = pagina;
+  // The number is taken once the file is written, so that it follows the library's count of charts.
+  file.replace_filename(fmt::format("{}_grafico{}.png", pagina.stem().string(), m_grafici + 1));
+  auto scritto = SalvaPng(ImmagineGrafico(grafico, &m_ultimo_grafico), file);
+  if (!scritto) return scritto.Errore();
+  ++m_grafici;
   return std::optional<std::filesystem::path>(file);
 }
 

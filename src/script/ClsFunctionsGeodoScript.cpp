@@ -56,7 +56,8 @@ const Tabella& TabellaCompleta() {
                           FunzioniEsitiGiochi(),
                           FunzioniPremi(),
                           FunzioniPic(),
-                          FunzioniPicCerchio()})
+                          FunzioniPicCerchio(),
+                          FunzioniGrafici()})
       t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =
