@@ -1,6 +1,8 @@
 #include "GraficoImmagine.h"
 
 #include <QFontMetricsF>
+#include <QLineF>
+#include <QList>
 #include <QPolygonF>
 #include <algorithm>
 #include <cmath>
@@ -18,6 +20,9 @@ constexpr double kMargine = 10;
 constexpr double kTacca = 4;
 constexpr double kQuadratino = 12;  // the colour of a series in the legend
 constexpr double kSpessoreLinea = 2;
+// Up to this width square ends join the segments of a line as well as round ones, at a quarter of
+// their cost.
+constexpr double kSpessoreAngoliQuadri = 3;
 constexpr double kRaggioPunto = 3;
 // The bars of one place fill this fraction of it, side by side.
 constexpr double kLarghezzaGruppo = 0.8;
@@ -93,14 +98,7 @@ void DisegnaSerie(QPainter& pittore, const PianoGrafico& piano, const DisegnoGra
         QPolygonF linea;
         linea.reserve(static_cast<qsizetype>(serie.y.size()));
         for (size_t i = 0; i < serie.y.size(); ++i) linea << piano.Punto(x_di(i), serie.y[i]);
-        QPen penna(colore, kSpessoreLinea);
-        penna.setJoinStyle(Qt::RoundJoin);
-        penna.setCapStyle(Qt::RoundCap);
-        pittore.setPen(penna);
-        if (linea.size() == 1)
-          pittore.drawPoint(linea.front());
-        else
-          pittore.drawPolyline(linea);
+        DisegnaSpezzata(pittore, linea, QPen(colore, kSpessoreLinea));
         conteggio.punti += static_cast<int>(linea.size());
         break;
       }
@@ -147,7 +145,49 @@ void DisegnaLegenda(QPainter& pittore, const PianoGrafico& piano, const DisegnoG
   }
 }
 
+// A line that goes left to right keeps, of the points falling in one column of pixels, the first,
+// the highest, the lowest and the last: the same pixels are painted, and a series of many more
+// points than the picture's width costs no more than one point a column. A line that turns back
+// is kept whole.
+QPolygonF RidottaPerColonna(const QPolygonF& punti) {
+  for (qsizetype i = 1; i < punti.size(); ++i)
+    if (punti[i].x() < punti[i - 1].x()) return punti;
+  QPolygonF ridotta;
+  qsizetype inizio = 0;
+  while (inizio < punti.size()) {
+    const double colonna = std::floor(punti[inizio].x());
+    qsizetype fine = inizio;
+    qsizetype alto = inizio;
+    qsizetype basso = inizio;
+    while (fine + 1 < punti.size() && std::floor(punti[fine + 1].x()) == colonna) {
+      ++fine;
+      if (punti[fine].y() < punti[alto].y()) alto = fine;
+      if (punti[fine].y() > punti[basso].y()) basso = fine;
+    }
+    // In the order they come, so that the line between them is the one drawn in full.
+    qsizetype scelti[] = {inizio, std::min(alto, basso), std::max(alto, basso), fine};
+    for (size_t k = 0; k < std::size(scelti); ++k)
+      if (k == 0 || scelti[k] != scelti[k - 1]) ridotta << punti[scelti[k]];
+    inizio = fine + 1;
+  }
+  return ridotta;
+}
+
 }  // namespace
+
+void DisegnaSpezzata(QPainter& pittore, const QPolygonF& punti, QPen penna) {
+  penna.setCapStyle(penna.widthF() <= kSpessoreAngoliQuadri ? Qt::SquareCap : Qt::RoundCap);
+  pittore.setPen(penna);
+  if (punti.size() == 1) {
+    pittore.drawPoint(punti.front());
+    return;
+  }
+  const QPolygonF linea = RidottaPerColonna(punti);
+  QList<QLineF> segmenti;
+  segmenti.reserve(linea.size());
+  for (qsizetype i = 1; i < linea.size(); ++i) segmenti.append(QLineF(linea[i - 1], linea[i]));
+  pittore.drawLines(segmenti);
+}
 
 PianoGrafico::PianoGrafico(const DisegnoGrafico& grafico, const QRectF& area)
     : m_x(script::AsseX(grafico)), m_y(script::AsseY(grafico)) {

@@ -145,15 +145,7 @@ void TelaImmagine::Spezzata(const std::vector<std::pair<double, double>>& punti,
   for (const auto& [x, y] : punti) linea << QPointF(x, y);
   QPainter pittore(&m_immagine);
   pittore.setRenderHint(QPainter::Antialiasing);
-  QPen penna = Penna(tratto);
-  penna.setJoinStyle(Qt::RoundJoin);
-  penna.setCapStyle(Qt::RoundCap);
-  pittore.setPen(penna);
-  // A single value is a dot of the line's width.
-  if (linea.size() == 1)
-    pittore.drawPoint(linea.front());
-  else
-    pittore.drawPolyline(linea);
+  DisegnaSpezzata(pittore, linea, Penna(tratto));
   ++m_conteggio.spezzate;
   m_disegnata = true;
   Cambiata();

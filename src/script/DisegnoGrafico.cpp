@@ -58,7 +58,7 @@ size_t PuntiPiuLunga(const DisegnoGrafico& grafico) {
 
 Rgb ColoreSerie(const DisegnoGrafico& grafico, size_t k) {
   // Far apart on the colour wheel and readable on white, the first ones the most distinct.
-  static constexpr Rgb kTavolozza[] = {0x1F77B4, 0xD62728, 0x2CA02C, 0xFF7F0E, 0x9467BD, 0x8C564B, 0xE377C2, 0x7F7F7F,
+  static constexpr Rgb kTavolozza[] = {0x1F77B4, 0xFF7F0E, 0x2CA02C, 0xD62728, 0x9467BD, 0x8C564B, 0xE377C2, 0x7F7F7F,
                                        0xBCBD22, 0x17BECF, 0x000080, 0x800000, 0x008080, 0x808000, 0x800080, 0x000000};
   if (k < grafico.serie.size() && grafico.serie[k].colore) return *grafico.serie[k].colore;
   return kTavolozza[k % std::size(kTavolozza)];
