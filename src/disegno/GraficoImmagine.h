@@ -47,10 +47,9 @@ class PianoGrafico {
 // titles, legend. Values beyond a fixed scale are cut at the edge of the data.
 ConteggioGrafico DisegnaGrafico(QPainter& pittore, const QRectF& area, const script::DisegnoGrafico& grafico);
 
-// An open line through the points, drawn segment by segment: Qt's stroke of a whole line of
-// many points 2 pixels wide costs about 0.1 ms a point, its segments a tenth of that. Their ends are
-// square on a thin line, round on a thick one, which also rounds its corners. A single point is a
-// dot of the pen's width.
+// An open line through the points, with round ends, drawn in pieces of a few segments (see
+// kPuntiPerTratto) after keeping four points a column of pixels of a line that goes left to right,
+// which paints the same pixels. A single point is a dot of the pen's width.
 void DisegnaSpezzata(QPainter& pittore, const QPolygonF& punti, QPen penna);
 
 // The chart alone, of the size of its layout (clamped to 1..kLatoGraficoMassimo pixels a side).

@@ -98,6 +98,24 @@ TEST_F(GraficoImmagine, UnPuntoPerValore) {
   EXPECT_EQ(conteggio.punti, 8);
 }
 
+// A line of many more points than pixels keeps in each column its highest and lowest point.
+TEST_F(GraficoImmagine, MoltiPuntiPerColonna) {
+  script::DisegnoGrafico grafico;
+  grafico.serie.push_back({"", 0xFF0000, {}, {}});
+  for (int k = 0; k < 4000; ++k) grafico.serie.front().y.push_back(k % 7 == 3 ? 10 : 0);
+  grafico.impaginazione.larghezza = 400;
+  grafico.impaginazione.altezza = 300;
+  grafico.impaginazione.griglia = false;
+  ConteggioGrafico conteggio;
+  const QImage immagine = ImmagineGrafico(grafico, &conteggio);
+  const PianoGrafico piano(grafico, QRectF(0, 0, 400, 300));
+  EXPECT_EQ(conteggio.punti, 4000);
+  for (double x : {1000.0, 2345.0, 3900.0}) {
+    EXPECT_TRUE(ColoreVicino(immagine, piano.Punto(x, 9.5), 0xFF0000)) << x;
+    EXPECT_TRUE(ColoreVicino(immagine, piano.Punto(x, 0.5), 0xFF0000)) << x;
+  }
+}
+
 // Many labels on few pixels are thinned, not written over each other; the picture keeps its
 // bounds whatever the layout asks.
 TEST_F(GraficoImmagine, EtichetteDiradateEDimensioniLimitate) {
