@@ -6,7 +6,6 @@
 #include <QCategoryAxis>
 #include <QChart>
 #include <QLineSeries>
-#include <QScatterSeries>
 #include <QValueAxis>
 
 #include "gui/script/VistaGrafico.h"
@@ -80,7 +79,10 @@ class VistaGraficoTest : public QObject {
     grafico.etichette_x = {"a", "b", "c", "d"};
     grafico.impaginazione.legenda = false;
     VistaGrafico vista(grafico);
-    QVERIFY(qobject_cast<QScatterSeries*>(vista.chart()->series().front()));
+    auto* punti = qobject_cast<QLineSeries*>(vista.chart()->series().front());
+    QVERIFY(punti && punti->pointsVisible());
+    QCOMPARE(punti->pen().style(), Qt::NoPen);
+    QCOMPARE(punti->pen().color(), QColor(0xFF0000));
     QVERIFY(!vista.chart()->legend()->isVisible());
     auto* x = AsseDi<QCategoryAxis>(vista.chart(), Qt::AlignBottom);
     QVERIFY(x);
