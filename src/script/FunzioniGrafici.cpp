@@ -208,6 +208,8 @@ Result<Variant> Grafico(Libreria& lib, CallArgs& args) {
   } else {
     if (!stato.in_preparazione || stato.in_preparazione->serie.empty())
       return ArgomentoNonValido("Nessun grafico da mostrare: InserisciGrafico ne aggiunge le serie prima di Grafico");
+    if (args.Has(1))
+      return ArgomentoNonValido("Grafico vuole [Titolo] oppure aValori, [Titolo]: aValori non è un array");
     grafico = *stato.in_preparazione;
     if (args.Has(0)) {
       VBS_TRY_ASSIGN(grafico.titolo, TestoBreve(args, 0, "Titolo", u""));

@@ -132,6 +132,7 @@ TEST_F(Grafici, RifiutiConUnMessaggioChiaro) {
       {"Grafico", "PreparaGrafico \"x\" : Grafico", "Nessun grafico da mostrare"},
       {"Grafico", "Grafico Array(1, 2)", "Nessuna area di disegno"},
       {"Grafico", "Grafico Array(Empty)", "non ha valori"},
+      {"Grafico", "PreparaGrafico \"x\" : InserisciGrafico Array(1) : Grafico 5, \"titolo\"", "aValori non è un array"},
       {"PuntiSuArray", "PuntiSuArray Array(1, 2), x, y, 0, 0, -1, 10", "Larghezza o altezza non valida"},
       {"PuntiSuArray", "PuntiSuArray Array(1, 2), x, y, 0, 0, 10, 10, 5, 1", "Minimo e Massimo non validi"},
       {"PuntiSuArray", "PuntiSuArray Array(1), x, y, 1E+7, 0, 10, 10", "Coordinata non valida"},
