@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <fmt/format.h>
+#include <limits>
 
 namespace lottolab::script {
 
@@ -16,6 +17,8 @@ constexpr double kTaccheCirca = 8;
 double PassoTonda(double ampiezza) {
   if (!(ampiezza > 0)) return 1;
   double potenza = std::pow(10.0, std::floor(std::log10(ampiezza / kTaccheCirca)));
+  // A range near the smallest double makes the power 0, which would never grow.
+  if (!(potenza > 0)) potenza = std::numeric_limits<double>::min();
   while (true) {
     for (double fattore : {1.0, 2.0, 5.0})
       if (ampiezza <= kTaccheCirca * fattore * potenza * (1 + 1e-9)) return fattore * potenza;
@@ -45,6 +48,8 @@ AsseGrafico Arrotonda(double minimo, double massimo, bool minimo_fisso, bool mas
   // A value on a tick, give or take the rounding of the division, stays on it.
   asse.minimo = minimo_fisso ? minimo : std::floor(minimo / asse.passo + 1e-9) * asse.passo;
   asse.massimo = massimo_fisso ? massimo : std::ceil(massimo / asse.passo - 1e-9) * asse.passo;
+  // A range far below the smallest step left would round to nothing.
+  if (!(asse.massimo > asse.minimo)) asse.massimo = asse.minimo + asse.passo;
   return asse;
 }
 
@@ -65,7 +70,8 @@ Rgb ColoreSerie(const DisegnoGrafico& grafico, size_t k) {
 }
 
 AsseGrafico AsseX(const DisegnoGrafico& grafico) {
-  if (grafico.tipo == TipoGrafico::Barre) return AsseGrafico{0.5, static_cast<double>(PuntiPiuLunga(grafico)) + 0.5, 1};
+  if (grafico.tipo == TipoGrafico::Barre)
+    return AsseGrafico{0.5, static_cast<double>(std::max<size_t>(PuntiPiuLunga(grafico), 1)) + 0.5, 1};
   double minimo = INFINITY;
   double massimo = -INFINITY;
   for (const SerieGrafico& serie : grafico.serie) {

@@ -41,6 +41,10 @@ TEST(DisegnoGrafico, GliAssiVannoDaTaccaATaccaConUnPassoTondo) {
       {"the places of bars", GraficoDi(TipoGrafico::Barre, {{1, 2}, {1, 2, 3}}), true, {0.5, 3.5, 1}},
       {"X given", GraficoDi(TipoGrafico::Linee, {{1, 2}}, {0.1, 0.35}), true, {0.1, 0.35, 0.05}},
   };
+  const AsseGrafico minuscolo = AsseY(GraficoDi(TipoGrafico::Linee, {{0, 5e-324}}));
+  EXPECT_LT(minuscolo.minimo, minuscolo.massimo) << "a range of the smallest double ends";
+  EXPECT_GT(minuscolo.passo, 0);
+  EXPECT_EQ(AsseX(GraficoDi(TipoGrafico::Barre, {})).massimo, 1.5) << "a bar chart with no series has a place";
   for (const Caso& caso : casi) {
     const AsseGrafico asse = caso.asse_x ? AsseX(caso.grafico) : AsseY(caso.grafico);
     EXPECT_NEAR(asse.minimo, caso.atteso.minimo, 1e-9) << caso.cosa;
