@@ -139,6 +139,18 @@ void TelaImmagine::Cerchio(double x, double y, double raggio, const script::Trat
   Cambiata();
 }
 
+void TelaImmagine::Spezzata(const std::vector<std::pair<double, double>>& punti, const script::Tratto& tratto) {
+  QPolygonF linea;
+  linea.reserve(static_cast<qsizetype>(punti.size()));
+  for (const auto& [x, y] : punti) linea << QPointF(x, y);
+  QPainter pittore(&m_immagine);
+  pittore.setRenderHint(QPainter::Antialiasing);
+  DisegnaSpezzata(pittore, linea, Penna(tratto));
+  ++m_conteggio.spezzate;
+  m_disegnata = true;
+  Cambiata();
+}
+
 void TelaImmagine::DisegnaCerchio(const script::DisegnoCerchio& disegno, double x, double y, double lato) {
   if (lato <= 0) lato = std::min(m_immagine.width(), m_immagine.height());
   QPainter pittore(&m_immagine);
@@ -206,6 +218,18 @@ Esito<std::optional<std::filesystem::path>> TelaPng::MostraCerchio(const script:
   file.replace_filename(fmt::format("{}_cerchio{}.png", pagina.stem().string(), ++m_cerchi));
   auto scritto = SalvaPng(ImmagineCerchio(disegno, 600), file);
   if (!scritto) return scritto.Errore();
+  return std::optional<std::filesystem::path>(file);
+}
+
+Esito<std::optional<std::filesystem::path>> TelaPng::MostraGrafico(const script::DisegnoGrafico& grafico,
+                                                                   const std::filesystem::path& pagina) {
+  if (pagina.empty()) return std::optional<std::filesystem::path>();
+  std::filesystem::path file = pagina;
+  // The number is taken once the file is written, so that it follows the library's count of charts.
+  file.replace_filename(fmt::format("{}_grafico{}.png", pagina.stem().string(), m_grafici + 1));
+  auto scritto = SalvaPng(ImmagineGrafico(grafico, &m_ultimo_grafico), file);
+  if (!scritto) return scritto.Errore();
+  ++m_grafici;
   return std::optional<std::filesystem::path>(file);
 }
 

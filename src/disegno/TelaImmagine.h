@@ -9,6 +9,7 @@
 #include <filesystem>
 
 #include "CerchioCiclometrico.h"
+#include "GraficoImmagine.h"
 #include "archive/Esito.h"
 #include "script/AreaDisegno.h"
 
@@ -26,6 +27,7 @@ struct ConteggioTela {
   int linee = 0;
   int poligoni = 0;
   int cerchi = 0;
+  int spezzate = 0;
   int testi = 0;
   ConteggioCerchio cerchio;  // summed over the circles of the 90 numbers drawn
 };
@@ -48,6 +50,8 @@ class TelaImmagine : public script::AreaDisegno {
                 std::optional<script::Rgb> riempimento) override;
   void Cerchio(double x, double y, double raggio, const script::Tratto& tratto,
                std::optional<script::Rgb> riempimento) override;
+  void Spezzata(const std::vector<std::pair<double, double>>& punti, const script::Tratto& tratto) override;
+  std::pair<int, int> Dimensioni() const override { return {m_immagine.width(), m_immagine.height()}; }
   void DisegnaCerchio(const script::DisegnoCerchio& disegno, double x, double y, double lato) override;
 
   // Back to a new run's blank picture: the initial size, white, nothing drawn.
@@ -82,14 +86,19 @@ void AssicuraApplicazioneGrafica();
 
 // The picture area of a headless run: the picture goes to a PNG beside the run's HTML page (the
 // page's name with ".png"), written by Esegui and by Salva at the end of the run; each circle shown
-// by MostraCerchio to its own PNG (the page's name with "_cerchioN.png").
+// by MostraCerchio to its own PNG (the page's name with "_cerchioN.png"), and each chart of
+// MostraGrafico likewise ("_graficoN.png").
 class TelaPng final : public TelaImmagine {
  public:
   Esito<Fatto> Esegui() override;
   Esito<std::optional<std::filesystem::path>> MostraCerchio(const script::DisegnoCerchio& disegno,
                                                             const std::string& titolo,
                                                             const std::filesystem::path& pagina) override;
+  Esito<std::optional<std::filesystem::path>> MostraGrafico(const script::DisegnoGrafico& grafico,
+                                                            const std::filesystem::path& pagina) override;
   std::optional<std::filesystem::path> FileImmagine(const std::filesystem::path& pagina) override;
+  // What the last chart written drew.
+  const ConteggioGrafico& UltimoGrafico() const { return m_ultimo_grafico; }
   // Writes the picture once the page links it (FileImmagine was asked); the file written, nothing
   // when the run never used the picture area.
   Esito<std::optional<std::filesystem::path>> Salva();
@@ -99,6 +108,8 @@ class TelaPng final : public TelaImmagine {
  private:
   std::filesystem::path m_file;
   int m_cerchi = 0;
+  int m_grafici = 0;
+  ConteggioGrafico m_ultimo_grafico;
 };
 
 }  // namespace lottolab::disegno

@@ -16,6 +16,8 @@
 
 namespace lottolab::script {
 
+struct DisegnoGrafico;  // DisegnoGrafico.h
+
 // A colour as 0xRRGGBB.
 using Rgb = uint32_t;
 
@@ -93,6 +95,10 @@ class AreaDisegno {
   virtual void Poligono(const std::vector<std::pair<double, double>>& punti, const Tratto& tratto,
                         std::optional<Rgb> riempimento) = 0;
   virtual void Cerchio(double x, double y, double raggio, const Tratto& tratto, std::optional<Rgb> riempimento) = 0;
+  // An open line through the points in their order (DisegnaLineaGrafico).
+  virtual void Spezzata(const std::vector<std::pair<double, double>>& punti, const Tratto& tratto) = 0;
+  // The picture's width and height in pixels.
+  virtual std::pair<int, int> Dimensioni() const = 0;
   // The circle of the 90 numbers in the square of side lato whose top left corner is (x, y).
   virtual void DisegnaCerchio(const DisegnoCerchio& disegno, double x, double y, double lato) = 0;
   // Shows what was drawn so far: the window refreshes, a headless run writes its picture now (and
@@ -102,6 +108,10 @@ class AreaDisegno {
   // as a picture beside the run's page `pagina` and returns that file, for the page to link.
   virtual Esito<std::optional<std::filesystem::path>> MostraCerchio(const DisegnoCerchio& disegno,
                                                                     const std::string& titolo,
+                                                                    const std::filesystem::path& pagina) = 0;
+  // Shows a chart (Grafico) in a view of its own; a headless host writes it as a picture beside the
+  // run's page `pagina` and returns that file, for the page to link.
+  virtual Esito<std::optional<std::filesystem::path>> MostraGrafico(const DisegnoGrafico& grafico,
                                                                     const std::filesystem::path& pagina) = 0;
   // The file the picture will be written to for the run's page `pagina` (empty when no page is
   // open), to be linked from it; nothing when this host writes no file.

@@ -203,6 +203,7 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEsitiGiochi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPic();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPicCerchio();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniDisegnoTavola();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGrafici();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPremi();
 
 }  // namespace lottolab::script

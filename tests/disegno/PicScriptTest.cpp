@@ -198,5 +198,66 @@ TEST_F(PicScript, SenzaAreaDiDisegno) {
     EXPECT_NE(avviso.testo.find("Nessuna area di disegno"), std::string::npos) << avviso.testo;
 }
 
+// Each chart goes to its own PNG beside the page, linked from it, at the layout's size; the
+// picture area is not linked by charts alone.
+TEST_F(PicScript, GraficiAccantoAllaPagina) {
+  Avvia();
+  ASSERT_TRUE(m_libreria->html().Apri(m_cartella / "pagina.htm", "#FFFFFF"));
+  Esegui(R"(
+Dim v(4), i
+For i = 1 To 4 : v(i) = i * i : Next
+LayOutGrafico 300, 200
+PreparaGrafico "Quadrati", "n", "n x n", 2
+InserisciGrafico v, "quadrati", Rosso_, Array("uno", "due", "tre", "quattro")
+InserisciGrafico Array(1, 2, 3)
+n1 = Grafico()
+n2 = Grafico(Array(5, 1, 4), "Al volo")
+)");
+  EXPECT_TRUE(m_ospite->avvisi.empty()) << m_ospite->avvisi.front().testo;
+  EXPECT_EQ(Testo("n1 & n2"), "12");
+  EXPECT_EQ(m_ospite->tela.UltimoGrafico().punti, 3);
+  const QImage primo(QString::fromStdString((m_cartella / "pagina_grafico1.png").string()));
+  EXPECT_EQ(primo.size(), QSize(300, 200));
+  EXPECT_TRUE(std::filesystem::exists(m_cartella / "pagina_grafico2.png"));
+  m_libreria->html().Chiudi();
+  const std::string pagina = m_libreria->html().Testo();
+  EXPECT_NE(pagina.find("<img src=\"pagina_grafico1.png\" alt=\"Quadrati\">"), std::string::npos) << pagina;
+  EXPECT_NE(pagina.find("<img src=\"pagina_grafico2.png\" alt=\"Al volo\">"), std::string::npos) << pagina;
+  EXPECT_EQ(pagina.find("pagina.png"), std::string::npos) << "no Pic... call, no picture";
+  Esegui("Grafico");
+  ASSERT_EQ(m_ospite->avvisi.size(), 1u);
+  EXPECT_NE(m_ospite->avvisi[0].testo.find("Nessun grafico da mostrare"), std::string::npos)
+      << "the chart shown is no longer in preparation";
+}
+
+TEST_F(PicScript, AlPiùCinquantaGraficiPerEsecuzione) {
+  Avvia();
+  Esegui("LayOutGrafico 100, 100 : For i = 1 To 51 : Grafico Array(i) : Next");
+  ASSERT_EQ(m_ospite->avvisi.size(), 1u);
+  EXPECT_NE(m_ospite->avvisi[0].testo.find("al massimo 50"), std::string::npos) << m_ospite->avvisi[0].testo;
+  EXPECT_TRUE(std::filesystem::exists(m_cartella / "pagina_grafico50.png"));
+  EXPECT_FALSE(std::filesystem::exists(m_cartella / "pagina_grafico51.png"));
+}
+
+// DisegnaLineaGrafico scales as PuntiSuArray does: over the whole picture when no rectangle is given.
+TEST_F(PicScript, LineaDeiValoriSullAreaDiDisegno) {
+  Avvia();
+  Esegui(R"(
+PicSetDimensioni 101, 51
+n = DisegnaLineaGrafico(Array(0, 10, 10), Rosso_, 3)
+m = DisegnaLineaGrafico(Array(2, 2), Blu_, 2, 0, 0, 50, 50, 0, 4)
+)");
+  EXPECT_TRUE(m_ospite->avvisi.empty()) << m_ospite->avvisi.front().testo;
+  EXPECT_EQ(Testo("n & \" \" & m"), "3 2");
+  EXPECT_EQ(m_ospite->tela.Conteggio().spezzate, 2);
+  const QImage& immagine = m_ospite->tela.Immagine();
+  EXPECT_EQ(immagine.pixel(75, 0) & 0xFFFFFF, 0xFF0000u) << "the flat top from (50, 0) to (100, 0)";
+  EXPECT_EQ(immagine.pixel(20, 30) & 0xFFFFFF, 0xFF0000u) << "from (0, 50) up to (50, 0)";
+  EXPECT_EQ(immagine.pixel(10, 25) & 0xFFFFFF, 0x0000FFu) << "2 of 0..4 at mid height of 50 pixels";
+  EXPECT_EQ(immagine.pixel(75, 25) & 0xFFFFFF, 0xFFFFFFu);
+  Esegui("DisegnaLineaGrafico Array(1, 2), Blu_, 1, 0, 0, 9000");
+  EXPECT_EQ(m_ospite->avvisi.size(), 1u);
+}
+
 }  // namespace
 }  // namespace lottolab::disegno

@@ -18,4 +18,11 @@ Esito<std::optional<std::filesystem::path>> AreaDisegnoGui::MostraCerchio(const 
   return std::optional<std::filesystem::path>();
 }
 
+Esito<std::optional<std::filesystem::path>> AreaDisegnoGui::MostraGrafico(const script::DisegnoGrafico& grafico,
+                                                                          const std::filesystem::path&) {
+  QMetaObject::invokeMethod(
+      this, [this, grafico] { emit GraficoDaMostrare(grafico); }, Qt::QueuedConnection);
+  return std::optional<std::filesystem::path>();
+}
+
 }  // namespace lottolab::gui

@@ -3,7 +3,7 @@
 // The picture area of a script run from the window. The script paints on its worker thread into
 // the QImage of TelaImmagine, the same picture a headless run writes; the window gets a copy of it
 // when the script calls PicEsegui and when the run ends (QImage is shared until written, so the
-// copy costs nothing), and a circle of QvCerchio_InitDisegno by a queued call.
+// copy costs nothing), and a circle of QvCerchio_InitDisegno or a chart of Grafico by a queued call.
 
 #include <QImage>
 #include <QObject>
@@ -23,6 +23,8 @@ class AreaDisegnoGui final : public QObject, public disegno::TelaImmagine {
   Esito<std::optional<std::filesystem::path>> MostraCerchio(const script::DisegnoCerchio& disegno,
                                                             const std::string& titolo,
                                                             const std::filesystem::path& pagina) override;
+  Esito<std::optional<std::filesystem::path>> MostraGrafico(const script::DisegnoGrafico& grafico,
+                                                            const std::filesystem::path& pagina) override;
   // The window shows the picture in its own tab, so the page links none.
   std::optional<std::filesystem::path> FileImmagine(const std::filesystem::path&) override { return std::nullopt; }
 
@@ -30,6 +32,7 @@ class AreaDisegnoGui final : public QObject, public disegno::TelaImmagine {
   // On the window's thread.
   void ImmagineAggiornata(const QImage& immagine);
   void CerchioDaMostrare(const lottolab::script::DisegnoCerchio& disegno, const QString& titolo);
+  void GraficoDaMostrare(const lottolab::script::DisegnoGrafico& grafico);
 };
 
 }  // namespace lottolab::gui

@@ -29,6 +29,7 @@
 #include "gui/script/ScriptConfigurazione.h"
 #include "gui/script/ScriptModalita.h"
 #include "gui/script/VistaCerchioScript.h"
+#include "gui/script/VistaGrafico.h"
 #include "script/LetturaFile.h"
 #include "script/OutputHtml.h"
 #include "text/Utf.h"
@@ -108,6 +109,12 @@ F_Script::F_Script(ContestoGui& contesto, std::unique_ptr<DialoghiScript> dialog
             auto* vista = new VistaCerchioScript(disegno, titolo, this);
             vista->show();
           });
+  connect(&ospite.Area(), &AreaDisegnoGui::GraficoDaMostrare, this, [this](const script::DisegnoGrafico& grafico) {
+    auto* vista = new VistaGrafico(grafico, this);
+    vista->setWindowFlag(Qt::Window);
+    vista->setAttribute(Qt::WA_DeleteOnClose);
+    vista->show();
+  });
   connect(&ospite, &OspiteGui::MessaggioRicevuto, m_stato, &QLabel::setText);
   connect(&ospite, &OspiteGui::AvanzamentoCambiato, this,
           [this](double percentuale) { m_avanzamento->setValue(static_cast<int>(std::lround(percentuale))); });

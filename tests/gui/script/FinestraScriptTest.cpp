@@ -19,6 +19,7 @@
 #include "gui/script/ParoleEditor.h"
 #include "gui/script/ScriptModalita.h"
 #include "gui/script/VistaCerchioScript.h"
+#include "gui/script/VistaGrafico.h"
 #include "script/OutputHtml.h"
 #include "text/Utf.h"
 #include "vbscript/syntax/Lexer.h"
@@ -438,6 +439,20 @@ class FinestraScriptTest : public QObject {
     VistaCerchioScript* vista = m_finestra->findChildren<VistaCerchioScript*>().front();
     QCOMPARE(vista->windowTitle(), QString("Vista"));
     QCOMPARE(vista->Cerchio()->Disegno().figure.size(), size_t{1});
+  }
+
+  // A chart of Grafico opens in a window of its own, the series as the script gave them.
+  void IlGraficoDelloScriptSiApreInUnaFinestra() {
+    Apri();
+    Esegui(
+        "Sub Main\nPreparaGrafico \"Andamento\", , , 2\nInserisciGrafico Array(3, 1, 4), \"a\"\n"
+        "InserisciGrafico Array(1, 5), \"b\"\nGrafico\nEnd Sub");
+    QTRY_COMPARE_WITH_TIMEOUT(m_finestra->findChildren<VistaGrafico*>().size(), qsizetype{1}, kAttesaMs);
+    QVERIFY(m_dialoghi->avvisi.empty());
+    VistaGrafico* vista = m_finestra->findChildren<VistaGrafico*>().front();
+    QCOMPARE(vista->windowTitle(), QString("Andamento"));
+    QCOMPARE(vista->Disegno().serie.size(), size_t{2});
+    QCOMPARE(vista->chart()->series().size(), qsizetype{1});  // the bars of both series in one set
   }
 };
 
