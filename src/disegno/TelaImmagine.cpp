@@ -202,6 +202,14 @@ Esito<Fatto> TelaPng::Esegui() {
   return Fatto{};
 }
 
+void TelaPng::Ricomincia() {
+  TelaImmagine::Ricomincia();
+  m_file.clear();
+  m_cerchi = 0;
+  m_grafici = 0;
+  m_ultimo_grafico = {};
+}
+
 std::optional<std::filesystem::path> TelaPng::FileImmagine(const std::filesystem::path& pagina) {
   if (m_file.empty()) {
     m_file = pagina;

@@ -55,7 +55,7 @@ class TelaImmagine : public script::AreaDisegno {
   void DisegnaCerchio(const script::DisegnoCerchio& disegno, double x, double y, double lato) override;
 
   // Back to a new run's blank picture: the initial size, white, nothing drawn.
-  void Ricomincia();
+  virtual void Ricomincia();
 
   const QImage& Immagine() const { return m_immagine; }
   const ConteggioTela& Conteggio() const { return m_conteggio; }
@@ -88,7 +88,7 @@ void AssicuraApplicazioneGrafica();
 // page's name with ".png"), written by Esegui and by Salva at the end of the run; each circle shown
 // by MostraCerchio to its own PNG (the page's name with "_cerchioN.png"), and each chart of
 // MostraGrafico likewise ("_graficoN.png").
-class TelaPng final : public TelaImmagine {
+class TelaPng : public TelaImmagine {
  public:
   Esito<Fatto> Esegui() override;
   Esito<std::optional<std::filesystem::path>> MostraCerchio(const script::DisegnoCerchio& disegno,
@@ -97,6 +97,8 @@ class TelaPng final : public TelaImmagine {
   Esito<std::optional<std::filesystem::path>> MostraGrafico(const script::DisegnoGrafico& grafico,
                                                             const std::filesystem::path& pagina) override;
   std::optional<std::filesystem::path> FileImmagine(const std::filesystem::path& pagina) override;
+  // A new run also names its files anew, beside its own page.
+  void Ricomincia() override;
   // What the last chart written drew.
   const ConteggioGrafico& UltimoGrafico() const { return m_ultimo_grafico; }
   // Writes the picture once the page links it (FileImmagine was asked); the file written, nothing

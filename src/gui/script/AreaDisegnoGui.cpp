@@ -6,23 +6,23 @@ Esito<Fatto> AreaDisegnoGui::Esegui() {
   QImage copia = Immagine();
   QMetaObject::invokeMethod(
       this, [this, copia] { emit ImmagineAggiornata(copia); }, Qt::QueuedConnection);
-  return Fatto{};
+  return TelaPng::Esegui();
 }
 
 Esito<std::optional<std::filesystem::path>> AreaDisegnoGui::MostraCerchio(const script::DisegnoCerchio& disegno,
                                                                           const std::string& titolo,
-                                                                          const std::filesystem::path&) {
+                                                                          const std::filesystem::path& pagina) {
   QMetaObject::invokeMethod(
       this, [this, disegno, testo = QString::fromStdString(titolo)] { emit CerchioDaMostrare(disegno, testo); },
       Qt::QueuedConnection);
-  return std::optional<std::filesystem::path>();
+  return TelaPng::MostraCerchio(disegno, titolo, pagina);
 }
 
 Esito<std::optional<std::filesystem::path>> AreaDisegnoGui::MostraGrafico(const script::DisegnoGrafico& grafico,
-                                                                          const std::filesystem::path&) {
+                                                                          const std::filesystem::path& pagina) {
   QMetaObject::invokeMethod(
       this, [this, grafico] { emit GraficoDaMostrare(grafico); }, Qt::QueuedConnection);
-  return std::optional<std::filesystem::path>();
+  return TelaPng::MostraGrafico(grafico, pagina);
 }
 
 }  // namespace lottolab::gui

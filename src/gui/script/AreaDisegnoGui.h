@@ -1,7 +1,8 @@
 #pragma once
 
 // The picture area of a script run from the window. The script paints on its worker thread into
-// the QImage of TelaImmagine, the same picture a headless run writes; the window gets a copy of it
+// the QImage of TelaImmagine, the same picture a headless run writes, and into the same files
+// beside the run's page, so that the page saved keeps its pictures; the window gets a copy of it
 // when the script calls PicEsegui and when the run ends (QImage is shared until written, so the
 // copy costs nothing), and a circle of QvCerchio_InitDisegno or a chart of Grafico by a queued call.
 
@@ -12,7 +13,7 @@
 
 namespace lottolab::gui {
 
-class AreaDisegnoGui final : public QObject, public disegno::TelaImmagine {
+class AreaDisegnoGui final : public QObject, public disegno::TelaPng {
   Q_OBJECT
 
  public:
@@ -25,8 +26,6 @@ class AreaDisegnoGui final : public QObject, public disegno::TelaImmagine {
                                                             const std::filesystem::path& pagina) override;
   Esito<std::optional<std::filesystem::path>> MostraGrafico(const script::DisegnoGrafico& grafico,
                                                             const std::filesystem::path& pagina) override;
-  // The window shows the picture in its own tab, so the page links none.
-  std::optional<std::filesystem::path> FileImmagine(const std::filesystem::path&) override { return std::nullopt; }
 
  signals:
   // On the window's thread.

@@ -439,6 +439,19 @@ class FinestraScriptTest : public QObject {
     VistaCerchioScript* vista = m_finestra->findChildren<VistaCerchioScript*>().front();
     QCOMPARE(vista->windowTitle(), QString("Vista"));
     QCOMPARE(vista->Cerchio()->Disegno().figure.size(), size_t{1});
+    // The page of the run keeps its pictures, as a headless run's does.
+    std::string pagina;
+    std::vector<std::string> immagini;
+    for (const auto& file : std::filesystem::directory_iterator(m_base->Percorso() / "scriptOutput")) {
+      if (file.path().extension() == ".png") immagini.push_back(file.path().filename().string());
+      if (file.path().extension() == ".htm" || file.path().extension() == ".html") {
+        std::ifstream leggi(file.path());
+        pagina.assign(std::istreambuf_iterator<char>(leggi), {});
+      }
+    }
+    QCOMPARE(immagini.size(), size_t{2});
+    for (const std::string& immagine : immagini)
+      QVERIFY2(pagina.find("src=\"" + immagine + "\"") != std::string::npos, immagine.c_str());
   }
 
   // A chart of Grafico opens in a window of its own, the series as the script gave them.
