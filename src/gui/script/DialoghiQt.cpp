@@ -79,6 +79,21 @@ bool DialoghiQt::Conferma(const QString& testo) {
   return QMessageBox::question(m_finestra, kTitolo, testo, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
+DialoghiScript::Modifiche DialoghiQt::ModificheNonSalvate(const QString& nome) {
+  QMessageBox domanda(QMessageBox::Warning, kTitolo, QStringLiteral("Modifiche non salvate in %1.").arg(nome),
+                      QMessageBox::NoButton, m_finestra);
+  domanda.setInformativeText(QStringLiteral("Salvare le modifiche?"));
+  QPushButton* salva = domanda.addButton(QStringLiteral("Salva"), QMessageBox::AcceptRole);
+  QPushButton* scarta = domanda.addButton(QStringLiteral("Non salvare"), QMessageBox::DestructiveRole);
+  QPushButton* annulla = domanda.addButton(QStringLiteral("Annulla"), QMessageBox::RejectRole);
+  domanda.setDefaultButton(salva);
+  domanda.setEscapeButton(annulla);
+  domanda.exec();
+  if (domanda.clickedButton() == salva) return Modifiche::Salva;
+  if (domanda.clickedButton() == scarta) return Modifiche::NonSalvare;
+  return Modifiche::Annulla;
+}
+
 void DialoghiQt::Avvisa(const Avviso& avviso) {
   const QString titolo = Titolo(avviso.titolo);
   const QString testo = QString::fromStdString(avviso.testo);

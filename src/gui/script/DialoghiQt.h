@@ -13,6 +13,7 @@ class DialoghiQt final : public DialoghiScript {
   explicit DialoghiQt(QWidget* finestra) : m_finestra(finestra) {}
 
   bool Conferma(const QString& testo) override;
+  Modifiche ModificheNonSalvate(const QString& nome) override;
   void Avvisa(const Avviso& avviso) override;
   QString FileDaAprire(const QString& cartella) override;
   QString FileDaSalvare(const QString& proposto) override;

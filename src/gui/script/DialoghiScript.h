@@ -23,6 +23,9 @@ class DialoghiScript : public script::DialoghiLibreria, public vbs::UiHandler {
 
   // A Yes/No question; true for Yes.
   virtual bool Conferma(const QString& testo) = 0;
+  // What to do with the changes to the script named `nome` before it is closed or replaced.
+  enum class Modifiche { Salva, NonSalvare, Annulla };
+  virtual Modifiche ModificheNonSalvate(const QString& nome) = 0;
   virtual void Avvisa(const Avviso& avviso) = 0;
   // The script file to open or to save to; empty when the user cancels.
   virtual QString FileDaAprire(const QString& cartella) = 0;

@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QToolBar>
@@ -67,6 +68,8 @@ F_Script::F_Script(ContestoGui& contesto, std::unique_ptr<DialoghiScript> dialog
 
   m_schede = new QTabWidget(this);
   m_editor = new EditorScript(m_schede);
+  // A new window takes the keyboard at once, so that F5 and Ctrl+S reach it before any click.
+  setFocusProxy(m_editor);
   m_output = new QPlainTextEdit(m_schede);
   m_output->setReadOnly(true);
   // Scripts line up their tables with blanks.
@@ -134,6 +137,8 @@ void F_Script::CreaComandi(QVBoxLayout* layout) {
     QAction* azione = comandi->addAction(testo, this, slot);
     azione->setShortcut(tasto);
     azione->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    azione->setToolTip(QStringLiteral("%1 (%2)").arg(testo, tasto.toString(QKeySequence::NativeText)));
+    return azione;
   };
   comando(QStringLiteral("Nuovo"), QKeySequence::New, &F_Script::Nuovo);
   comando(QStringLiteral("Apri..."), QKeySequence::Open, &F_Script::Apri);
@@ -152,7 +157,7 @@ void F_Script::CreaComandi(QVBoxLayout* layout) {
   connect(m_protetto, &QAction::triggered, this,
           [this](bool attivo) { ImpostaModalita(attivo ? script::Modalita::Protetta : script::Modalita::Normale); });
   comandi->addSeparator();
-  comando(QStringLiteral("Esegui"), QKeySequence(Qt::Key_F5), &F_Script::Esegui);
+  m_esegui = comando(QStringLiteral("Esegui"), QKeySequence(Qt::Key_F5), &F_Script::Esegui);
   m_stop = comandi->addAction(QStringLiteral("Stop"), this, &F_Script::Ferma);
   m_interrompi = comandi->addAction(QStringLiteral("Interrompi subito"), this, &F_Script::InterrompiSubito);
   m_stop->setEnabled(false);
@@ -192,12 +197,19 @@ script::Modalita F_Script::ModalitaDelFile(const QString& file, const QByteArray
   return scelta;
 }
 
-bool F_Script::ProseguoSenzaSalvare() {
-  return !m_editor->isModified() || m_dialoghi->Conferma(QStringLiteral("Modifiche non salvate. Proseguo ? "));
+bool F_Script::ModificheGestite() {
+  if (!m_editor->isModified()) return true;
+  const QString nome = m_file.isEmpty() ? QStringLiteral("nuovo script") : QFileInfo(m_file).fileName();
+  switch (m_dialoghi->ModificheNonSalvate(nome)) {
+    case DialoghiScript::Modifiche::Salva: return Salva();
+    case DialoghiScript::Modifiche::NonSalvare: return true;
+    case DialoghiScript::Modifiche::Annulla: return false;
+  }
+  return false;
 }
 
 void F_Script::Nuovo() {
-  if (!ProseguoSenzaSalvare()) return;
+  if (!ModificheGestite()) return;
   m_editor->ImpostaTesto(Modello());
   m_file.clear();
   m_impronta.clear();
@@ -205,13 +217,13 @@ void F_Script::Nuovo() {
 }
 
 void F_Script::Apri() {
-  if (!ProseguoSenzaSalvare()) return;
+  if (!ModificheGestite()) return;
   const QString file =
       m_dialoghi->FileDaAprire(QString::fromStdString(CartellaScript(m_contesto.Configurazione()).string()));
   if (!file.isEmpty()) CaricaFile(file);
 }
 
-bool F_Script::ApriFile(const QString& file) { return ProseguoSenzaSalvare() && CaricaFile(file); }
+bool F_Script::ApriFile(const QString& file) { return ModificheGestite() && CaricaFile(file); }
 
 bool F_Script::CaricaFile(const QString& file) {
   auto letto = script::LeggiFileRegolare(file.toStdString(), script::kLimiteFileScript);
@@ -270,6 +282,7 @@ void F_Script::Esegui() {
   m_avanzamento->setValue(0);
   m_stato->clear();
   m_attesa->setVisible(true);
+  m_esegui->setEnabled(false);
   m_stop->setEnabled(true);
   m_interrompi->setEnabled(true);
   m_editor->TogliErrore();
@@ -277,17 +290,24 @@ void F_Script::Esegui() {
 }
 
 void F_Script::AggiungiOutput(const std::vector<script::TrattoTesto>& tratti) {
+  // The output follows the new lines, unless the user scrolled up to read.
+  QScrollBar* barra = m_output->verticalScrollBar();
+  const bool in_fondo = barra->value() == barra->maximum();
   QTextCursor cursore(m_output->document());
   cursore.movePosition(QTextCursor::End);
   for (const script::TrattoTesto& tratto : tratti)
     cursore.insertText(QString::fromStdString(tratto.testo), FormatoDi(tratto));
+  if (in_fondo) barra->setValue(barra->maximum());
 }
 
 void F_Script::Terminata() {
   m_attesa->setVisible(false);
+  m_esegui->setEnabled(true);
   m_stop->setEnabled(false);
   m_interrompi->setEnabled(false);
   const script::EsitoEsecuzione& esito = m_esecuzione->Esito();
+  // A script that never reports its progress still shows that it has finished.
+  if (esito.stato == script::EsitoEsecuzione::Stato::Completato) m_avanzamento->setValue(100);
   if (!esito.pagina_html.empty()) MostraPagina(esito.pagina_html);
   if (esito.stato == script::EsitoEsecuzione::Stato::ErroreScript && esito.errore) {
     const script::ErroreScript& errore = *esito.errore;
@@ -337,7 +357,7 @@ void F_Script::closeEvent(QCloseEvent* evento) {
     evento->ignore();
     return;
   }
-  if (!ProseguoSenzaSalvare()) {
+  if (!ModificheGestite()) {
     evento->ignore();
     return;
   }

@@ -52,6 +52,7 @@ class F_Script : public QWidget {
   QLabel* Disegno() const { return m_disegno; }
   QLabel* Attesa() const { return m_attesa; }
   QProgressBar* Avanzamento() const { return m_avanzamento; }
+  QAction* AzioneEsegui() const { return m_esegui; }
   QComboBox* Timeout() const { return m_timeout; }
   const QString& File() const { return m_file; }
   script::Modalita Modalita() const { return m_modalita; }
@@ -77,7 +78,8 @@ class F_Script : public QWidget {
 
  private:
   void CreaComandi(QVBoxLayout* layout);
-  bool ProseguoSenzaSalvare();
+  // Whether the script in the editor may be replaced or closed: unchanged, saved, or let go.
+  bool ModificheGestite();
   bool CaricaFile(const QString& file);
   bool ScriviFile(const QString& file);
   void AggiungiOutput(const std::vector<script::TrattoTesto>& tratti);
@@ -106,6 +108,7 @@ class F_Script : public QWidget {
   QProgressBar* m_avanzamento = nullptr;
   QLabel* m_attesa = nullptr;
   QLabel* m_stato = nullptr;
+  QAction* m_esegui = nullptr;
   QAction* m_stop = nullptr;
   QAction* m_interrompi = nullptr;
   QAction* m_protetto = nullptr;

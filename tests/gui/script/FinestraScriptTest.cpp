@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QThread>
+#include <algorithm>
 
 #include <fstream>
 
@@ -37,6 +38,11 @@ class DialoghiDiProva final : public DialoghiScript {
     Annota();
     domande << testo;
     return risposta_conferma;
+  }
+  Modifiche ModificheNonSalvate(const QString& nome) override {
+    Annota();
+    domande << nome;
+    return risposta_modifiche;
   }
   void Avvisa(const Avviso& avviso) override {
     Annota();
@@ -78,6 +84,7 @@ class DialoghiDiProva final : public DialoghiScript {
   }
 
   bool risposta_conferma = true;
+  Modifiche risposta_modifiche = Modifiche::NonSalvare;
   int pulsante_msgbox = 1;
   QString file_da_aprire;
   QString file_da_salvare;
@@ -211,12 +218,14 @@ class FinestraScriptTest : public QObject {
 
   void LOutputEIDialoghiDellaLibreriaArrivanoNellaFinestra() {
     Apri("[GENERALE]\nsColoreSfondoHtml=#FFEECC\n");
+    QSignalSpy avanzamento(m_finestra->Avanzamento(), &QProgressBar::valueChanged);
     Esegui(
         "Sub Main\nDim n\nn = ScegliNumeri(\"Numeri\", 2)\nScrivi n(1) & \"-\" & n(2)\nMessaggio \"fatto\"\n"
         "AvanzamentoElab 1, 4\nEnd Sub");
     QVERIFY2(m_dialoghi->avvisi.empty(), m_dialoghi->avvisi.empty() ? "" : m_dialoghi->avvisi[0].testo.c_str());
     QCOMPARE(m_finestra->Output()->toPlainText(), QString("7-41\n"));
-    QCOMPARE(m_finestra->Avanzamento()->value(), 25);
+    QVERIFY(std::any_of(avanzamento.begin(), avanzamento.end(), [](const QList<QVariant>& v) { return v[0] == 25; }));
+    QCOMPARE(m_finestra->Avanzamento()->value(), 100);  // the run is over
     QVERIFY(!m_dialoghi->fuori_dal_thread_della_finestra);
     QVERIFY(m_finestra->PaginaHtml()->toPlainText().contains("7-41"));
     QFile pagina(m_finestra->PaginaHtml()->source().toLocalFile());
@@ -269,10 +278,12 @@ class FinestraScriptTest : public QObject {
   void UnoScriptCheScriveSenzaFineVieneTroncatoEInterrottoSubito() {
     Apri();
     AvviaEAttendiIlVia(kAlluvione);
+    QVERIFY2(!m_finestra->AzioneEsegui()->isEnabled(), "a second run cannot start during the first");
     QTRY_VERIFY_WITH_TIMEOUT(m_finestra->Output()->toPlainText().contains("Output troncato"), kAttesaMs);
     QSignalSpy terminata(m_finestra.get(), &F_Script::EsecuzioneTerminata);
     m_finestra->InterrompiSubito();
     QVERIFY(terminata.wait(kAttesaMs));
+    QVERIFY(m_finestra->AzioneEsegui()->isEnabled());
     const QString output = m_finestra->Output()->toPlainText();
     QVERIFY(output.count('\n') <= kMassimoRighe + 10);
     QCOMPARE(output.count("Output troncato"), 1);
@@ -288,6 +299,7 @@ class FinestraScriptTest : public QObject {
     const QString output = m_finestra->Output()->toPlainText();
     QCOMPARE(output.count(QString::fromStdString(m_dialoghi->avvisi[0].testo)), 2);
     QVERIFY(output.endsWith("fine\n"));
+    QCOMPARE(m_finestra->Avanzamento()->value(), 100);
   }
 
   void UnoScriptDaFuoriChiedeLaModalitaUnaVoltaPerContenuto() {
@@ -384,13 +396,24 @@ class FinestraScriptTest : public QObject {
 
     m_finestra->Editor()->insert("' mio\n");
     QVERIFY(m_finestra->isWindowModified());
-    m_dialoghi->risposta_conferma = false;
+    m_dialoghi->risposta_modifiche = DialoghiScript::Modifiche::Annulla;
     m_finestra->Nuovo();
-    QCOMPARE(m_dialoghi->domande, QStringList{"Modifiche non salvate. Proseguo ? "});
+    QCOMPARE(m_dialoghi->domande, QStringList{"nuovo script"});
     QVERIFY(m_finestra->Editor()->text().startsWith("' mio"));
     QVERIFY(!m_finestra->close());
 
-    m_dialoghi->risposta_conferma = true;
+    // Saving first: the file gets the changes, then the new script replaces them.
+    const QString file = QString::fromStdString((m_base->Percorso() / "salvato.ls").string());
+    m_dialoghi->file_da_salvare = file;
+    m_dialoghi->risposta_modifiche = DialoghiScript::Modifiche::Salva;
+    m_finestra->Nuovo();
+    QCOMPARE(m_finestra->Editor()->text().toStdString(), std::string(script::kModelloScript));
+    QFile salvato(file);
+    QVERIFY(salvato.open(QIODevice::ReadOnly));
+    QVERIFY(salvato.readAll().startsWith("' mio"));
+
+    m_finestra->Editor()->insert("' altro\n");
+    m_dialoghi->risposta_modifiche = DialoghiScript::Modifiche::NonSalvare;
     m_finestra->Nuovo();
     QCOMPARE(m_finestra->Editor()->text().toStdString(), std::string(script::kModelloScript));
     QVERIFY(!m_finestra->Editor()->isModified());
@@ -410,9 +433,9 @@ class FinestraScriptTest : public QObject {
     QVERIFY(m_dialoghi->domande.isEmpty());
     m_finestra->Editor()->insert("x");
     m_dialoghi->file_da_aprire = salvato;
-    m_dialoghi->risposta_conferma = false;
+    m_dialoghi->risposta_modifiche = DialoghiScript::Modifiche::Annulla;
     QVERIFY(!m_finestra->ApriFile(m_dialoghi->file_da_aprire));
-    m_dialoghi->risposta_conferma = true;
+    m_dialoghi->risposta_modifiche = DialoghiScript::Modifiche::NonSalvare;
     m_finestra->Apri();
     QCOMPARE(m_dialoghi->domande.size(), 2);
     QCOMPARE(m_finestra->Editor()->text(), QString("Sub Main\nScrivi \"è\"\nEnd Sub"));
