@@ -34,6 +34,7 @@ const Tabella& TabellaCompleta() {
                           FunzioniLunghette(),
                           FunzioniFormazioni(),
                           FunzioniTabelle(),
+                          FunzioniAnalitico(),
                           FunzioniTesto(),
                           FunzioniCombinazioni(),
                           FunzioniArray(),

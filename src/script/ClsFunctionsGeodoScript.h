@@ -180,6 +180,7 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniRitardiRelativi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniLunghette();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniFormazioni();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniTabelle();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniAnalitico();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniTesto();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniCombinazioni();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniArray();

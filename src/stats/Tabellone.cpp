@@ -1,29 +1,10 @@
 #include "Tabellone.h"
 
-#include <algorithm>
 #include <cassert>
 
+#include "TracciaVincite.h"
+
 namespace lottolab::stats {
-
-namespace {
-
-// One number on one wheel while the range is walked from its first draw.
-struct Traccia {
-  // The wheel's counted draws up to the last win, the winning draw included.
-  int contate_alla_vincita = 0;
-  // The longest run that a win has closed.
-  int massimo_chiuso = 0;
-  int frequenza = 0;
-
-  // A win in a draw that comes after `contate` counted draws of the wheel.
-  void Vince(int contate, bool estratta) {
-    ++frequenza;
-    massimo_chiuso = std::max(massimo_chiuso, contate - contate_alla_vincita);
-    contate_alla_vincita = contate + (estratta ? 1 : 0);
-  }
-};
-
-}  // namespace
 
 const StatisticaNumero& TabelloneRuote::Dati(int ruota, int numero) const {
   assert(ruota >= 1 && ruota <= kTutteLeRuote && numero >= 1 && numero <= kMassimoNumero);
@@ -32,7 +13,7 @@ const StatisticaNumero& TabelloneRuote::Dati(int ruota, int numero) const {
 
 TabelloneRuote CalcolaTabellone(const TabellaEstrazioni& tab, int inizio, int fine) {
   assert(inizio >= 1 && fine <= tab.EstrazioniArchivio());
-  std::array<std::array<Traccia, kMassimoNumero + 1>, kTutteLeRuote + 1> tracce{};
+  std::array<std::array<TracciaVincite, kMassimoNumero + 1>, kTutteLeRuote + 1> tracce{};
   std::array<int, kTutteLeRuote + 1> contate{};
   for (int id = inizio; id <= fine; ++id) {
     const Estrazione& estrazione = tab[id];
@@ -57,12 +38,7 @@ TabelloneRuote CalcolaTabellone(const TabellaEstrazioni& tab, int inizio, int fi
   TabelloneRuote tabellone;
   for (int ruota = 1; ruota <= kTutteLeRuote; ++ruota) {
     for (int numero = 1; numero <= kMassimoNumero; ++numero) {
-      const Traccia& traccia = tracce[ruota][numero];
-      StatisticaNumero& dati = tabellone.m_dati[ruota][numero];
-      dati.ritardo = contate[ruota] - traccia.contate_alla_vincita;
-      dati.frequenza = traccia.frequenza;
-      dati.storico = std::max(traccia.massimo_chiuso, dati.ritardo);
-      dati.incr_storico = std::max(dati.ritardo - traccia.massimo_chiuso, 0);
+      tabellone.m_dati[ruota][numero] = tracce[ruota][numero].Statistica(contate[ruota]);
     }
   }
   return tabellone;

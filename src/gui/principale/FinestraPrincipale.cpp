@@ -113,6 +113,10 @@ void FinestraPrincipale::CreaMenu() {
   QAction* tabellone = azione(statistiche, QStringLiteral("&Tabellone"), "azioneTabellone",
                               [this] { AggiungiFinestra(NuovoTabellone(m_contesto), Icona(kIconaTabellone)); });
   tabellone->setIcon(Icona(kIconaTabellone));
+  azione(statistiche, QStringLiteral("Tabellone &analitico"), "azioneTabelloneAnalitico",
+         [this] { AggiungiFinestra(NuovoTabelloneAnalitico(m_contesto), Icona(kIconaTabellone)); });
+  azione(statistiche, QStringLiteral("A&mbi e terni ritardatari"), "azioneAmbi",
+         [this] { AggiungiFinestra(NuovaFinestraAmbi(m_contesto), Icona(kIconaTabellone)); });
   azione(statistiche, QStringLiteral("&Ciclometria"), "azioneCiclometria",
          [this] { AggiungiFinestra(NuovaFinestraCiclometria(m_contesto), Icona(kIconaTabellone)); });
 

@@ -19,6 +19,10 @@ QWidget* NuovaFinestraArchivioGioco(ContestoGui& contesto, Gioco gioco, QWidget*
 QWidget* NuovaFinestraScript(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);
 // The delay table of the 90 numbers on the chosen wheels, or of every number of another game.
 QWidget* NuovoTabellone(ContestoGui& contesto, QWidget* parent = nullptr);
+// The Tabellone analitico: the 90 numbers on every wheel and on all together at any end draw.
+QWidget* NuovoTabelloneAnalitico(ContestoGui& contesto, QWidget* parent = nullptr);
+// All 4005 ambi of a wheel or of all wheels with their figures, and the most delayed terni on demand.
+QWidget* NuovaFinestraAmbi(ContestoGui& contesto, QWidget* parent = nullptr);
 // A draw on the circle of the 90 numbers, its wheels chosen, with its figures.
 QWidget* NuovaFinestraCiclometria(ContestoGui& contesto, QWidget* parent = nullptr);
 // The agenda of the bets played: the list with the wins not seen yet, a new bet, the check, the

@@ -3,10 +3,21 @@
 #include <QBrush>
 #include <QString>
 
-#include "gui/tabellone/TabelloneScala.h"
+#include "gui/comuni/ScalaRitardo.h"
 #include "stats/RitardiGioco.h"
 
 namespace lottolab::gui {
+
+namespace {
+
+// Whether any draw of inizio..fine counted the wheel: Nazionale before May 2005 has no figures.
+bool RuotaEstrattaTra(const TabellaEstrazioni& tab, int ruota, int inizio, int fine) {
+  for (int id = inizio; id <= fine; ++id)
+    if (tab[id].Presente() && tab[id].RuotaEstratta(ruota)) return true;
+  return false;
+}
+
+}  // namespace
 
 ModelloTabellone::ModelloTabellone(QObject* parent) : QAbstractTableModel(parent) {}
 
@@ -18,9 +29,11 @@ void ModelloTabellone::Calcola(const TabellaEstrazioni& tab, std::span<const int
   if (m_fine > 0) {
     const stats::TabelloneRuote tabellone = stats::CalcolaTabellone(tab, inizio, m_fine);
     m_righe.reserve(ruote.size() * kMassimoNumero);
-    for (int ruota : ruote)
+    for (int ruota : ruote) {
+      const bool estratta = RuotaEstrattaTra(tab, ruota, inizio, m_fine);
       for (int numero = 1; numero <= kMassimoNumero; ++numero)
-        m_righe.push_back({ruota, numero, tabellone.Dati(ruota, numero)});
+        m_righe.push_back({ruota, numero, tabellone.Dati(ruota, numero), estratta});
+    }
   }
   endResetModel();
 }
@@ -34,7 +47,7 @@ void ModelloTabellone::CalcolaGioco(const TabellaGioco& tab, int fine, int inizi
     const std::vector<stats::StatisticaNumero> figure = stats::TabelloneGioco(tab, m_fine, inizio);
     m_righe.reserve(figure.size());
     for (size_t numero = 1; numero < figure.size(); ++numero)
-      m_righe.push_back({0, static_cast<int>(numero), figure[numero]});
+      m_righe.push_back({0, static_cast<int>(numero), figure[numero], true});
   }
   endResetModel();
 }
@@ -75,6 +88,14 @@ QVariant ModelloTabellone::data(const QModelIndex& indice, int ruolo) const {
   if (!indice.isValid() || indice.row() >= rowCount()) return {};
   const Riga& riga = m_righe[static_cast<size_t>(indice.row())];
   const int colonna = indice.column();
+  if (!riga.estratta && colonna >= kColonnaRitardo) {
+    // A dash, below every figure when sorted, rather than figures of 0 that read as a number just drawn.
+    if (ruolo == kRuoloOrdinamento) return -1;
+    if (ruolo == Qt::DisplayRole) return QStringLiteral("–");
+    if (ruolo == Qt::ToolTipRole) return QStringLiteral("La ruota non è mai stata estratta nelle estrazioni scelte");
+    if (ruolo == Qt::TextAlignmentRole) return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    return {};
+  }
   if (ruolo == kRuoloOrdinamento) return Valore(riga, colonna);
   if (ruolo == Qt::DisplayRole && colonna == kColonnaRuota)
     return m_gioco ? QString::fromUtf8(Formato(*m_gioco).nome.data()) : QString::fromUtf8(NomeRuota(riga.ruota));

@@ -60,6 +60,8 @@ class ModelloTabellone : public QAbstractTableModel {
     int ruota;
     int numero;
     stats::StatisticaNumero dati;
+    // False for a wheel that no draw of the range counted: its figures show as dashes.
+    bool estratta;
   };
 
   QVariant Valore(const Riga& riga, int colonna) const;

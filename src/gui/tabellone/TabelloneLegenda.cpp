@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QPixmap>
 
-#include "gui/tabellone/TabelloneScala.h"
+#include "gui/comuni/ScalaRitardo.h"
 
 namespace lottolab::gui {
 

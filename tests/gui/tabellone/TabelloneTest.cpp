@@ -12,9 +12,9 @@
 #include <vector>
 
 #include "archive/TabellaEstrazioni.h"
+#include "gui/comuni/ScalaRitardo.h"
 #include "gui/tabellone/GraficoRitardi.h"
 #include "gui/tabellone/ModelloTabellone.h"
-#include "gui/tabellone/TabelloneScala.h"
 
 namespace lottolab::gui {
 namespace {
@@ -119,6 +119,13 @@ class TabelloneTest : public QObject {
     ConfrontaFigure(FigureMostrate(modello, 1, 7), {3, 1, 3});
     ConfrontaFigure(FigureMostrate(modello, 2, 7), {1, 0, 1});
     ConfrontaFigure(FigureMostrate(modello, 0, 40), {5, 0, 5});
+
+    // Before its first draw Nazionale has dashes, not figures of 0 that read as a number just drawn.
+    modello.Calcola(ArchivioAMano(), kRuoteScelte, 4);
+    const QModelIndex nazionale = modello.index(2 * kMassimoNumero + 6, ModelloTabellone::kColonnaStorico);
+    QCOMPARE(modello.data(nazionale).toString(), QStringLiteral("–"));
+    QCOMPARE(modello.data(nazionale, ModelloTabellone::kRuoloOrdinamento).toInt(), -1);
+    QCOMPARE(modello.data(modello.index(6, ModelloTabellone::kColonnaRitardo)).toInt(), 1);
 
     modello.Calcola(ArchivioAMano(), kRuoteScelte, 13);
     QCOMPARE(modello.rowCount(), 0);

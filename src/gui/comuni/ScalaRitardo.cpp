@@ -1,4 +1,4 @@
-#include "gui/tabellone/TabelloneScala.h"
+#include "gui/comuni/ScalaRitardo.h"
 
 #include <algorithm>
 #include <cmath>
