@@ -33,8 +33,9 @@ constexpr std::string_view kParoleStatistica =
 constexpr std::array kComandi = {
     Comando{"importa", "FILE", "aggiunge all'archivio le estrazioni nuove di un file di risultati (testo o zip)",
             ComandoImporta, ComandoImportaGioco},
-    Comando{"aggiorna", "", "scarica e importa i risultati pubblicati (del Lotto e di ogni gioco con un indirizzo)",
-            ComandoAggiorna, ComandoAggiorna},
+    Comando{"aggiorna", "[--indirizzo URL]",
+            "scarica e importa i risultati pubblicati (del Lotto e di ogni gioco con un indirizzo)", ComandoAggiorna,
+            ComandoAggiorna},
     Comando{"info", "", "numero di estrazioni, prima e ultima data; controlla l'archivio", ComandoInfo,
             ComandoInfoGioco},
     Comando{"ripara", "", "toglie da un archivio l'estrazione incompleta in fondo, dopo averlo copiato", ComandoRipara},

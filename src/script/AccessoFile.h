@@ -8,8 +8,8 @@
 // Protected, for scripts that come from someone else: it reads only inside the base folder, writes
 // and deletes only inside the output folders (scriptOutput/ of the base folder, and the folder of a
 // page the user named), never touches lottolab.ini or the archives, and hands no file to another
-// program. There is no network function in the library or the engine, so nothing is downloaded or
-// sent in either mode.
+// program. Downloads are writes and uploads are reads of the files they name; a protected script
+// sends nothing over the network.
 //
 // Every path is resolved before it is judged: links are followed and "." and ".." taken out, so a
 // name that goes through a link, or climbs out with "..", is judged by where it really leads.

@@ -10,6 +10,9 @@
 
 namespace lottolab::script {
 
+// The transfers' family (FunzioniRete.cpp), the one family that reaches the network.
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniRete();
+
 namespace {
 
 using Funzione = ClsFunctionsGeodoScript::Funzione;
@@ -39,6 +42,7 @@ const Tabella& TabellaCompleta() {
                           FunzioniCombinazioni(),
                           FunzioniArray(),
                           FunzioniFile(),
+                          FunzioniRete(),
                           FunzioniDialoghi(),
                           FunzioniEstrazioniAttive(),
                           FunzioniCollezioni(),

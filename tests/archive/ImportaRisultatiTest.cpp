@@ -15,7 +15,6 @@
 #include "archive/ClsEstrazioni.h"
 #include "archive/DateEstrazione.h"
 #include "archive/ImportaRisultati.h"
-#include "archive/ScaricaRisultati.h"
 
 namespace lottolab {
 namespace {
@@ -482,50 +481,6 @@ TEST_F(ImportaRisultatiDatiReali, ImportingAgainOrInTwoStepsGivesTheSameArchive)
   EXPECT_EQ(*resto, 208 + 87);
   EXPECT_EQ(*prima_parte + *resto, 7318);
   EXPECT_EQ(LeggiFile(a_tappe.Archivio()), LeggiFile(m_archivio));
-}
-
-class ScaricaRisultatiTest : public testing::Test {
- protected:
-  std::vector<fs::path> Contenuto() const {
-    std::vector<fs::path> file(fs::directory_iterator(m_cartella.Percorso()), {});
-    std::sort(file.begin(), file.end());
-    return file;
-  }
-  CartellaTemporanea m_cartella;
-  fs::path m_destinazione = m_cartella / "lotto.zip";
-};
-
-TEST_F(ScaricaRisultatiTest, ReplacesTheDestinationOnlyWhenComplete) {
-  const fs::path sorgente = m_cartella / "pubblicato.txt";
-  ScriviFile(sorgente, kDueEstrazioni);
-  ScriviFile(m_destinazione, "vecchio");
-
-  auto esito = ScaricaRisultati("file://" + fs::absolute(sorgente).generic_string(), m_destinazione);
-  ASSERT_TRUE(esito) << esito.Errore().testo;
-  EXPECT_EQ(*esito, m_destinazione);
-  EXPECT_EQ(LeggiFile(m_destinazione), kDueEstrazioni);
-  EXPECT_EQ(Contenuto(), (std::vector<fs::path>{m_destinazione, sorgente}));
-}
-
-TEST_F(ScaricaRisultatiTest, FailureLeavesNothingBehind) {
-  ScriviFile(m_destinazione, "vecchio");
-
-  auto esito = ScaricaRisultati("http://127.0.0.1:9/lotto.zip", m_destinazione);
-  ASSERT_FALSE(esito);
-  EXPECT_EQ(esito.Errore().tipo, TipoAvviso::Esclamativo);
-  EXPECT_TRUE(esito.Errore().testo.starts_with("Impossibile scaricare http://127.0.0.1:9/lotto.zip: "))
-      << esito.Errore().testo;
-
-  esito = ScaricaRisultati("file://" + fs::absolute(m_cartella / "assente.txt").generic_string(), m_destinazione);
-  ASSERT_FALSE(esito);
-  EXPECT_TRUE(esito.Errore().testo.starts_with("Impossibile scaricare file://")) << esito.Errore().testo;
-
-  EXPECT_EQ(Contenuto(), std::vector<fs::path>{m_destinazione});
-  EXPECT_EQ(LeggiFile(m_destinazione), "vecchio");
-
-  esito = ScaricaRisultati("file://" + fs::absolute(m_destinazione).generic_string(), m_cartella / "manca" / "x.zip");
-  ASSERT_FALSE(esito);
-  EXPECT_EQ(Contenuto(), std::vector<fs::path>{m_destinazione});
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "DatiReali.h"
 #include "LottolabDiProva.h"
+#include "ServerLocali.h"
 
 namespace lottolab::cli {
 namespace {
@@ -81,6 +82,52 @@ TEST_F(Aggiorna, OgniGiocoConUnIndirizzoEUnoCheFallisceNonFermaGliAltri) {
             "la chiave sIndirizzoRisultatiDL5 di [GENERALE] in lottolab.ini\n");
   auto rifiutato = Lottolab({"--gioco", "SE", "aggiorna", "ancora"});
   EXPECT_EQ(rifiutato.codice, 2);
+}
+
+// A new installation: the base folder does not exist yet, and the update creates it with the
+// archive. The results come from a server of the test; a failed download says why in Italian,
+// naming the host, and leaves nothing behind.
+TEST_F(Aggiorna, UnaNuovaInstallazioneSiAggiornaDaUnIndirizzoDato) {
+  test::ServerHttp server;
+  server.Aggiungi("/lotto.txt", {200, EstrazioneDelLotto("2010/01/05", 0) + EstrazioneDelLotto("2010/01/07", 3)});
+  server.Aggiungi("/se.txt", {200, "2010/01/02\t1\t1\t2\t3\t4\t5\t6\t7\t8\n"});
+  const fs::path nuova = m_base / "nuova" / "lottolab";
+  setenv("LOTTOLAB_HOME", nuova.c_str(), 1);
+
+  auto lotto = Lottolab({"aggiorna", "--indirizzo", server.Indirizzo("/lotto.txt")});
+  EXPECT_EQ(lotto.codice, 0) << lotto.err;
+  EXPECT_EQ(lotto.out, "importate 2 estrazioni\n");
+  auto se = Lottolab({"--gioco", "SE", "aggiorna", "--indirizzo", server.Indirizzo("/se.txt")});
+  EXPECT_EQ(se.out, "importate 1 estrazioni del SuperEnalotto\n") << se.err;
+  // The archives and their lock files, and nothing of the downloads.
+  auto file = [&] {
+    std::vector<std::string> nomi;
+    for (const fs::directory_entry& voce : fs::directory_iterator(nuova)) nomi.push_back(voce.path().filename());
+    std::sort(nomi.begin(), nomi.end());
+    return nomi;
+  };
+  const std::vector<std::string> archivi = {"BaseDati.dat", "BaseDati.dat.lock", "SuperEnalotto.dat",
+                                            "SuperEnalotto.dat.lock"};
+  EXPECT_EQ(file(), archivi);
+
+  const std::string host = fmt::format("127.0.0.1:{}", server.Porta());
+  const uint16_t chiusa = test::PortaChiusa();
+  const std::string spento = fmt::format("http://127.0.0.1:{}/lotto.zip", chiusa);
+  const std::pair<std::string, std::string> guasti[] = {
+      {server.Indirizzo("/assente.zip"), host + " ha risposto 404 (file non trovato)"},
+      {spento, fmt::format("127.0.0.1:{} non accetta la connessione: il server è spento o irraggiungibile, oppure il "
+                           "computer non è collegato a Internet",
+                           chiusa)},
+  };
+  const std::string archivio = test::Leggi(nuova / "BaseDati.dat");
+  for (const auto& [indirizzo, motivo] : guasti) {
+    auto fallito = Lottolab({"aggiorna", "--indirizzo", indirizzo});
+    EXPECT_NE(fallito.codice, 0);
+    EXPECT_EQ(fallito.err, fmt::format("lottolab: Impossibile scaricare {}: {}\n", indirizzo, motivo));
+  }
+  EXPECT_EQ(test::Leggi(nuova / "BaseDati.dat"), archivio);
+  EXPECT_EQ(file(), archivi);
+  EXPECT_EQ(Lottolab({"aggiorna", "--indirizzo"}).codice, 2);
 }
 
 // The 10eLotto evening archive follows the Lotto archive once it exists: the evenings the Lotto adds

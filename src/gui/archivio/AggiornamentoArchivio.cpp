@@ -10,8 +10,8 @@
 #include "archive/ArchivioGioco.h"
 #include "archive/ClsEstrazioni.h"
 #include "archive/ImportaRisultati.h"
-#include "archive/ScaricaRisultati.h"
 #include "gui/comuni/LavoroSenzaEccezioni.h"
+#include "rete/ScaricaRisultati.h"
 
 namespace lottolab::gui {
 
@@ -24,6 +24,20 @@ constexpr Gioco kAltriGiochi[] = {Gioco::SuperEnalotto, Gioco::DieciELotto, Gioc
                                   Gioco::WinForLife, Gioco::Generico};
 
 const std::string kNonRicavato = "10eLotto serale: non ricavato di nuovo dall'archivio del Lotto. ";
+
+// "1,2 MB scaricati di 3,4 MB" ("12 KB" under a megabyte), the total left out while the server has
+// not said it.
+std::string TestoByte(uint64_t fatti, uint64_t totali) {
+  constexpr uint64_t kMega = 1024 * 1024;
+  auto mega = [](uint64_t byte) {
+    if (byte < kMega) return fmt::format("{} KB", (byte + 1023) / 1024);
+    std::string testo = fmt::format("{:.1f}", static_cast<double>(byte) / static_cast<double>(kMega));
+    std::replace(testo.begin(), testo.end(), '.', ',');
+    return testo + " MB";
+  };
+  if (totali == 0) return mega(fatti) + " scaricati";
+  return fmt::format("{} scaricati di {}", mega(fatti), mega(totali));
+}
 
 // An import that throws is one more failed step: the steps after it still run.
 template <typename Lavoro>
@@ -115,9 +129,10 @@ EsitoAggiornamento AggiornamentoArchivio::ImportaLotto(const fs::path& file) con
   return esito;
 }
 
-EsitoImportazione AggiornamentoArchivio::ScaricaGioco(Gioco gioco) const {
+EsitoImportazione AggiornamentoArchivio::ScaricaGioco(Gioco gioco,
+                                                      const rete::AvanzamentoTrasferimento& avanzamento) const {
   const fs::path destinazione = m_configurazione.base / fmt::format("risultati-scaricati-{}", Formato(gioco).sigla);
-  auto scaricato = ScaricaRisultati(m_configurazione.IndirizzoRisultatiGioco(gioco), destinazione);
+  auto scaricato = rete::ScaricaRisultati(m_configurazione.IndirizzoRisultatiGioco(gioco), destinazione, avanzamento);
   if (!scaricato) return EsitoImportazione{scaricato.Errore(), {}};
   EsitoImportazione esito = ImportaRisultatiGioco(m_configurazione, gioco, *scaricato);
   std::error_code ec;
@@ -125,16 +140,22 @@ EsitoImportazione AggiornamentoArchivio::ScaricaGioco(Gioco gioco) const {
   return esito;
 }
 
-EsitoAggiornamento AggiornamentoArchivio::Scarica(const std::function<void(std::string)>& passo) const {
+EsitoAggiornamento AggiornamentoArchivio::Scarica(const std::function<void(std::string)>& passo,
+                                                  const std::function<bool()>& annullato) const {
+  std::string archivio_corrente;
   auto annuncia = [&](const std::string& archivio) {
+    archivio_corrente = archivio;
     if (passo) passo(fmt::format("Aggiornamento dell'{}...", archivio));
+  };
+  const rete::AvanzamentoTrasferimento avanzamento = [&](uint64_t fatti, uint64_t totali) {
+    if (passo) passo(fmt::format("Aggiornamento dell'{}: {}", archivio_corrente, TestoByte(fatti, totali)));
+    return annullato && annullato() ? rete::Prosegui::No : rete::Prosegui::Si;
   };
   annuncia("archivio del Lotto");
   std::error_code ec;
-  fs::create_directories(m_configurazione.base, ec);
   EsitoAggiornamento esito;
-  auto scaricato =
-      ScaricaRisultati(m_configurazione.IndirizzoRisultati(), m_configurazione.base / "risultati-scaricati.zip");
+  auto scaricato = rete::ScaricaRisultati(m_configurazione.IndirizzoRisultati(),
+                                          m_configurazione.base / "risultati-scaricati.zip", avanzamento);
   if (scaricato) {
     esito = ImportaLotto(*scaricato);
     fs::remove(*scaricato, ec);
@@ -144,8 +165,8 @@ EsitoAggiornamento AggiornamentoArchivio::Scarica(const std::function<void(std::
   for (Gioco gioco : kAltriGiochi) {
     if (m_configurazione.IndirizzoRisultatiGioco(gioco).empty()) continue;
     annuncia(NomeArchivioGioco(Formato(gioco)));
-    esito.giochi.push_back(
-        {gioco, SenzaEccezioniImportazione("AggiornamentoArchivio.ScaricaGioco", [&] { return ScaricaGioco(gioco); })});
+    esito.giochi.push_back({gioco, SenzaEccezioniImportazione("AggiornamentoArchivio.ScaricaGioco",
+                                                              [&] { return ScaricaGioco(gioco, avanzamento); })});
   }
   esito.agenda = VerificaAgendaDopoAggiornamento(m_configurazione, esito.GiochiCresciuti());
   return esito;

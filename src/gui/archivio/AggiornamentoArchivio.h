@@ -18,6 +18,7 @@
 #include "agenda/VerificaAgenda.h"
 #include "app/Configurazione.h"
 #include "gui/archivio/ImportazioneGioco.h"
+#include "rete/Trasferimento.h"
 
 namespace lottolab::gui {
 
@@ -59,12 +60,15 @@ class AggiornamentoArchivio {
 
   // Downloads the Lotto's results from the configured address and imports them, then does the same
   // for every other game whose address is configured; `passo` is told, in the user's words, each
-  // archive as its turn comes.
-  EsitoAggiornamento Scarica(const std::function<void(std::string)>& passo = {}) const;
+  // archive as its turn comes and the megabytes downloaded. `annullato` is asked during every
+  // download: once it says true, the download under way and those after it fail as cancelled,
+  // leaving their archives untouched (an import, once started, always finishes).
+  EsitoAggiornamento Scarica(const std::function<void(std::string)>& passo = {},
+                             const std::function<bool()>& annullato = {}) const;
 
  private:
   EsitoAggiornamento ImportaLotto(const std::filesystem::path& file) const;
-  EsitoImportazione ScaricaGioco(Gioco gioco) const;
+  EsitoImportazione ScaricaGioco(Gioco gioco, const rete::AvanzamentoTrasferimento& avanzamento) const;
 
   app::Configurazione m_configurazione;
 };

@@ -24,6 +24,7 @@ std::shared_ptr<DialoghiArchivio> DialoghiPer(std::shared_ptr<DialoghiArchivio> 
 struct Lavoro {
   QString descrizione;
   std::function<EsitoAggiornamento(Avanzamento&)> esegui;
+  Annullabile annullabile = Annullabile::No;  // a download can stop, an import cannot
 };
 
 // The source the user chooses; nothing when the user cancels.
@@ -39,8 +40,10 @@ std::optional<Lavoro> ScegliLavoro(const ContestoGui& contesto, DialoghiArchivio
   if (scelta == 0u)
     return Lavoro{QStringLiteral("Scaricamento e importazione dei risultati..."),
                   [aggiornamento](Avanzamento& avanzamento) {
-                    return aggiornamento.Scarica([&](std::string passo) { avanzamento.Passo(std::move(passo)); });
-                  }};
+                    return aggiornamento.Scarica([&](std::string passo) { avanzamento.Passo(std::move(passo)); },
+                                                 [&] { return avanzamento.Annullato(); });
+                  },
+                  Annullabile::Si};
   if (scelta != 1u) return std::nullopt;
   auto file = dialoghi.ScegliFile("File dei risultati del Lotto", contesto.Configurazione().base, kFiltroRisultati);
   if (!file) return std::nullopt;
@@ -82,14 +85,16 @@ void AvviaAggiornamentoArchivio(ContestoGui& contesto, QWidget* finestra, std::s
   dialoghi = DialoghiPer(std::move(dialoghi), finestra);
   std::optional<Lavoro> lavoro = ScegliLavoro(contesto, *dialoghi);
   if (!lavoro) return;
-  AvviaLavoroConProgresso<EsitoAggiornamento>(finestra, QString::fromStdString(kTitolo), lavoro->descrizione,
-                                              "AggiornamentoArchivio.Avvia", std::move(lavoro->esegui),
-                                              [&contesto, dialoghi](const Esito<EsitoAggiornamento>& esito) {
-                                                if (esito)
-                                                  MostraEsito(contesto, *dialoghi, *esito);
-                                                else
-                                                  dialoghi->Mostra(esito.Errore());
-                                              });
+  AvviaLavoroConProgresso<EsitoAggiornamento>(
+      finestra, QString::fromStdString(kTitolo), lavoro->descrizione, "AggiornamentoArchivio.Avvia",
+      std::move(lavoro->esegui),
+      [&contesto, dialoghi](const Esito<EsitoAggiornamento>& esito) {
+        if (esito)
+          MostraEsito(contesto, *dialoghi, *esito);
+        else
+          dialoghi->Mostra(esito.Errore());
+      },
+      lavoro->annullabile);
 }
 
 void AvviaImportazioneGioco(ContestoGui& contesto, Gioco gioco, QWidget* finestra,

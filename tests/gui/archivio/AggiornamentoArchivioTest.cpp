@@ -9,6 +9,7 @@
 #include <deque>
 #include <memory>
 
+#include "ServerLocali.h"
 #include "TempDir.h"
 #include "agenda/Agenda.h"
 #include "gui/archivio/AggiornamentoArchivio.h"
@@ -101,7 +102,9 @@ class AggiornamentoArchivioTest : public QObject {
         "\nsIndirizzoRisultatiFT=" + Indirizzo("ft.txt")));
 
     std::vector<std::string> passi;
-    const EsitoAggiornamento esito = aggiornamento.Scarica([&](std::string passo) { passi.push_back(passo); });
+    const EsitoAggiornamento esito = aggiornamento.Scarica([&](std::string passo) {
+      if (passo.ends_with("...")) passi.push_back(passo);
+    });
     QCOMPARE(passi, (std::vector<std::string>{
                         "Aggiornamento dell'archivio del Lotto...", "Aggiornamento dell'archivio del SuperEnalotto...",
                         "Aggiornamento dell'archivio del Win for Life...", "Aggiornamento dell'archivio generico..."}));
@@ -127,6 +130,39 @@ class AggiornamentoArchivioTest : public QObject {
                                                        "SuperEnalotto: già aggiornato, nessuna nuova estrazione.\n"
                                                        "Win for Life: aggiunta 1 estrazione.\n"
                                                        "Archivio generico: già aggiornato, nessuna nuova estrazione."));
+  }
+
+  // A new installation downloads into a base folder that does not exist yet; the steps tell the
+  // megabytes downloaded. A cancelled download stops within a second and leaves the archive as it
+  // was, and the report says so.
+  void ScaricaInUnaNuovaCartellaEAnnulla() {
+    test::ServerHttp server;
+    server.Aggiungi("/lotto.txt", {200, EstrazioneDelLotto("2010/01/05", 0)});
+    server.Aggiungi("/lento.txt", {200, std::string(200'000, ' '), std::chrono::milliseconds(0), 1000,
+                                   std::chrono::milliseconds(20)});
+    const fs::path nuova = *m_base / "nuova" / "lottolab";
+    auto configurazione = [&](const std::string& percorso) {
+      return app::Configurazione{
+          nuova, app::FileIni::DaTesto("[GENERALE]\nsIndirizzoRisultati=" + server.Indirizzo(percorso))};
+    };
+    std::vector<std::string> passi;
+    const EsitoAggiornamento esito =
+        AggiornamentoArchivio(configurazione("/lotto.txt")).Scarica([&](std::string passo) { passi.push_back(passo); });
+    QVERIFY2(esito.Riuscito(), TestoAggiornamento(esito).c_str());
+    QVERIFY(fs::exists(nuova / "BaseDati.dat"));
+    QVERIFY(std::find(passi.begin(), passi.end(), "Aggiornamento dell'archivio del Lotto: 1 KB scaricati di 1 KB") !=
+            passi.end());
+
+    const std::string archivio = test::Leggi(nuova / "BaseDati.dat");
+    bool iniziato = false;
+    const auto inizio = std::chrono::steady_clock::now();
+    const EsitoAggiornamento annullato =
+        AggiornamentoArchivio(configurazione("/lento.txt"))
+            .Scarica([&](std::string passo) { iniziato = passo.ends_with("KB"); }, [&] { return iniziato; });
+    QVERIFY(std::chrono::steady_clock::now() - inizio < std::chrono::seconds(2));
+    QCOMPARE(TestoAggiornamento(annullato), "Lotto: non aggiornato. Impossibile scaricare " +
+                                                server.Indirizzo("/lento.txt") + ": trasferimento annullato");
+    QCOMPARE(test::Leggi(nuova / "BaseDati.dat"), archivio);
   }
 
   // A Lotto import that adds draws derives the evening 10eLotto again when it has an archive, and
