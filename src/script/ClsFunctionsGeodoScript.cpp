@@ -57,7 +57,8 @@ const Tabella& TabellaCompleta() {
                           FunzioniPremi(),
                           FunzioniPic(),
                           FunzioniPicCerchio(),
-                          FunzioniDisegnoTavola()})
+                          FunzioniDisegnoTavola(),
+                          FunzioniXls()})
       t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =

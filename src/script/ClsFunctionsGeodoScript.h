@@ -204,5 +204,6 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPic();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPicCerchio();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniDisegnoTavola();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPremi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniXls();
 
 }  // namespace lottolab::script
