@@ -65,7 +65,8 @@ Result<size_t> ArgomentoFoglio(const StatoXls& stato, CallArgs& args, size_t i) 
   }
   VBS_TRY_ASSIGN(auto numero, args.Long(i));
   if (numero < 1 || static_cast<size_t>(numero) > fogli.size())
-    return ArgomentoNonValido(fmt::format("Foglio {} inesistente: la cartella di lavoro ne ha {}", numero, fogli.size()));
+    return ArgomentoNonValido(
+        fmt::format("Foglio {} inesistente: la cartella di lavoro ne ha {}", numero, fogli.size()));
   return static_cast<size_t>(numero - 1);
 }
 
@@ -117,7 +118,8 @@ Result<Formato> FormatoDaArgomenti(CallArgs& args, size_t i, Formato formato) {
     if (colore != -1) {
       auto dalla_tavolozza = RgbDiColoreScript(colore);
       if (!dalla_tavolozza)
-        return ArgomentoNonValido(fmt::format("Colore {} non valido: 0..7 (Nero_..Magenta_), RGB(r, g, b) o -1", colore));
+        return ArgomentoNonValido(
+            fmt::format("Colore {} non valido: 0..7 (Nero_..Magenta_), RGB(r, g, b) o -1", colore));
       rgb = *dalla_tavolozza;
     }
     (k == i + 1 ? formato.colore_testo : formato.colore_sfondo) = rgb;
@@ -212,7 +214,8 @@ Result<Variant> XlsChiudi(Libreria& lib, CallArgs& args) {
 Result<Variant> XlsMostra(Libreria& lib, CallArgs&) {
   VBS_TRY_ASSIGN(auto stato, Aperta(lib));
   VBS_TRY_ASSIGN(auto salvata, Salva(lib, *stato, "XlsMostra"));
-  if (salvata.as_boolean()) lib.Scrivi(fmt::format("Cartella di lavoro salvata in {}\n", stato->file.string()), kNero, false);
+  if (salvata.as_boolean())
+    lib.Scrivi(fmt::format("Cartella di lavoro salvata in {}\n", stato->file.string()), kNero, false);
   return salvata;
 }
 
@@ -220,9 +223,10 @@ Result<Variant> XlsMostra(Libreria& lib, CallArgs&) {
 Result<Variant> DeinizializzaXls(Libreria& lib, CallArgs&) {
   auto& stato = lib.Stato<StatoXls>();
   if (stato.cartella && stato.modificata)
-    Segnala(lib, "DeinizializzaXls",
-            fmt::format("Le modifiche alla cartella di lavoro {} non sono state salvate (XlsSalva, XlsChiudi o XlsMostra)",
-                        stato.file.string()));
+    Segnala(
+        lib, "DeinizializzaXls",
+        fmt::format("Le modifiche alla cartella di lavoro {} non sono state salvate (XlsSalva, XlsChiudi o XlsMostra)",
+                    stato.file.string()));
   stato = StatoXls{};
   return Variant();
 }
@@ -302,7 +306,8 @@ Result<Variant> XlsMerge(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto fine, ArgomentoCella(args, kPrimo + 2));
   if (!foglio->AggiungiUnione({inizio, fine}))
     return ArgomentoNonValido(fmt::format(
-        "Le celle {}{}:{}{} non si possono unire: l'intervallo è di una sola cella, è rovesciato o tocca un'unione già fatta",
+        "Le celle {}{}:{}{} non si possono unire: l'intervallo è di una sola cella, è rovesciato o tocca un'unione già "
+        "fatta",
         esporta::LetteraColonna(inizio.colonna), inizio.riga, esporta::LetteraColonna(fine.colonna), fine.riga));
   stato->modificata = true;
   return Variant::Boolean(true);
@@ -344,30 +349,38 @@ const Libreria::Funzione kXls[] = {
     {"XlsApriFile", 1, 2, &XlsApriFile,
      "NomeFile, [Crea = True]: apre la cartella di lavoro .xlsx, o la crea vuota (un foglio) se il file non esiste; "
      "le modifiche non salvate di quella aperta prima vengono salvate (Boolean)"},
-    {"XlsSalva", 0, 1, &XlsSalva, "[NomeFile]: scrive la cartella di lavoro, nel suo file o con il nome dato (Boolean)"},
-    {"XlsChiudi", 0, 1, &XlsChiudi, "[Salva = True]: chiude la cartella di lavoro, scrivendo prima le modifiche (Boolean)"},
+    {"XlsSalva", 0, 1, &XlsSalva,
+     "[NomeFile]: scrive la cartella di lavoro, nel suo file o con il nome dato (Boolean)"},
+    {"XlsChiudi", 0, 1, &XlsChiudi,
+     "[Salva = True]: chiude la cartella di lavoro, scrivendo prima le modifiche (Boolean)"},
     {"XlsMostra", 0, 0, &XlsMostra, "scrive la cartella di lavoro e indica nell'output dove è stata salvata (Boolean)"},
     {"XlsGetFoglio", 0, 1, &XlsGetFoglio,
      "[Foglio]: rende corrente il foglio (numero da 1 o nome); il numero del foglio corrente (Long)"},
-    {"XlsAddFoglio", 0, 1, &XlsAddFoglio, "[Nome]: aggiunge un foglio in fondo e lo rende corrente; il suo numero (Long)"},
+    {"XlsAddFoglio", 0, 1, &XlsAddFoglio,
+     "[Nome]: aggiunge un foglio in fondo e lo rende corrente; il suo numero (Long)"},
     {"XlsScrivi", 3, 3, &XlsScrivi<false, false>,
-     "Riga, Colonna, Valore: scrive nel foglio corrente un numero, un testo, un Boolean o una data; Empty svuota la cella"},
+     "Riga, Colonna, Valore: scrive nel foglio corrente un numero, un testo, un Boolean o una data; Empty svuota la "
+     "cella"},
     {"XlsScriviInFoglio", 4, 4, &XlsScrivi<true, false>, "Foglio, Riga, Colonna, Valore: XlsScrivi nel foglio dato"},
     {"XlsScriviC", 3, 9, &XlsScrivi<false, true>,
      "Riga, Colonna, Valore, [Grassetto], [ColoreTesto], [ColoreSfondo], [FormatoNumero], [Allineamento], [Corsivo]: "
      "scrive con il formato (vedi XlsFormatoCella)"},
-    {"XlsScriviCInFoglio", 4, 10, &XlsScrivi<true, true>, "Foglio, Riga, Colonna, Valore, ...: XlsScriviC nel foglio dato"},
+    {"XlsScriviCInFoglio", 4, 10, &XlsScrivi<true, true>,
+     "Foglio, Riga, Colonna, Valore, ...: XlsScriviC nel foglio dato"},
     {"XlsFormatoCella", 2, 8, &XlsFormatoCella<false>,
      "Riga, Colonna, [Grassetto], [ColoreTesto], [ColoreSfondo], [FormatoNumero], [Allineamento], [Corsivo]: cambia il "
      "formato dei soli argomenti dati; colori 0..7 (Nero_..Magenta_), RGB(r, g, b) o -1 (nessuno); FormatoNumero "
      "come \"0.00\" o \"dd/mm/yyyy\"; Allineamento XlsLeft, XlsCenter, XlsRight o 0"},
-    {"XlsFormatoCellaInFoglio", 3, 9, &XlsFormatoCella<true>, "Foglio, Riga, Colonna, ...: XlsFormatoCella nel foglio dato"},
+    {"XlsFormatoCellaInFoglio", 3, 9, &XlsFormatoCella<true>,
+     "Foglio, Riga, Colonna, ...: XlsFormatoCella nel foglio dato"},
     {"XlsMerge", 4, 4, &XlsMerge<false>, "Riga1, Colonna1, Riga2, Colonna2: unisce le celle dell'intervallo (Boolean)"},
     {"XlsMergeInFoglio", 5, 5, &XlsMerge<true>, "Foglio, Riga1, Colonna1, Riga2, Colonna2: XlsMerge nel foglio dato"},
-    {"XlsLeggi", 2, 2, &XlsLeggi<false>, "Riga, Colonna: il valore della cella del foglio corrente (Double, String, Boolean o Empty)"},
+    {"XlsLeggi", 2, 2, &XlsLeggi<false>,
+     "Riga, Colonna: il valore della cella del foglio corrente (Double, String, Boolean o Empty)"},
     {"XlsLeggiinFoglio", 3, 3, &XlsLeggi<true>, "Foglio, Riga, Colonna: XlsLeggi nel foglio dato"},
     {"XlsAutoFit", 0, 1, &XlsAutoFit, "[Foglio]: le colonne del foglio prendono la larghezza dei loro testi (Boolean)"},
-    {"XlsGetLetteraFromColonna", 1, 1, &XlsGetLetteraFromColonna, "Colonna: le lettere della colonna, 1 -> A, 27 -> AA (String)"},
+    {"XlsGetLetteraFromColonna", 1, 1, &XlsGetLetteraFromColonna,
+     "Colonna: le lettere della colonna, 1 -> A, 27 -> AA (String)"},
     {"XlsLeft", 0, 0, &Costante<kSinistra>, "l'allineamento a sinistra per XlsFormatoCella e XlsScriviC (Long)"},
     {"XlsCenter", 0, 0, &Costante<kCentro>, "l'allineamento al centro per XlsFormatoCella e XlsScriviC (Long)"},
     {"XlsRight", 0, 0, &Costante<kDestra>, "l'allineamento a destra per XlsFormatoCella e XlsScriviC (Long)"},

@@ -155,5 +155,31 @@ TEST_F(LibreriaXls, MostraSalvaEFineEsecuzioneAvvisa) {
   EXPECT_TRUE(m_ospite.avvisi.empty());
 }
 
+TEST_F(LibreriaXls, LaTabellaDelloScriptEsportata) {
+  EXPECT_TRUE(Vuoto("EsportaListviewInXls(\"lista.xlsx\")"));
+  AvvisoErrore5("EsportaListviewInXls", "Nessuna tabella iniziata", "prima di InitTabella");
+  Esegui(R"(
+    InitTabella Array("Numero", "Ritardo", "Nota")
+    AddRigaTabella Array(12, "3,5", "città")
+    SetColoreCella 2, Rosso_
+    AddRigaTabella Array("-7", "1,2,3", ",5")
+    CreaTabella
+  )");
+  m_ospite.avvisi.clear();
+  EXPECT_EQ(Testo("EsportaListviewInXls(\"lista.xlsx\")"), "Vero");
+  auto cartella = Rileggi("lista.xlsx");
+  const auto& foglio = cartella.fogli.at(0);
+  EXPECT_EQ(foglio.Trova({1, 2})->valore, Valore(std::string("Ritardo")));
+  EXPECT_TRUE(cartella.formati[foglio.Trova({1, 2})->formato].grassetto);
+  EXPECT_EQ(foglio.Trova({2, 1})->valore, Valore(12.0));
+  EXPECT_EQ(foglio.Trova({2, 2})->valore, Valore(3.5));
+  EXPECT_EQ(cartella.formati[foglio.Trova({2, 2})->formato].colore_sfondo, 0xFF0000u);
+  EXPECT_EQ(foglio.Trova({2, 3})->valore, Valore(std::string("città")));
+  EXPECT_EQ(foglio.Trova({3, 1})->valore, Valore(-7.0));
+  EXPECT_EQ(foglio.Trova({3, 2})->valore, Valore(std::string("1,2,3")));
+  EXPECT_EQ(foglio.Trova({3, 3})->valore, Valore(std::string(",5")));
+  EXPECT_TRUE(m_ospite.avvisi.empty());
+}
+
 }  // namespace
 }  // namespace lottolab::script
