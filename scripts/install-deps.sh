@@ -4,7 +4,7 @@ set -euo pipefail
 
 packages=(
   cmake ninja-build g++ pkg-config clang clang-format clang-tidy libclang-rt-14-dev
-  libfmt-dev libzip-dev libcurl4-openssl-dev libsqlite3-dev
+  libfmt-dev libzip-dev libcurl4-openssl-dev libsqlite3-dev libxlsxwriter-dev libpugixml-dev
   libgtest-dev libbenchmark-dev liblua5.4-dev
   qt6-base-dev qt6-charts-dev libqscintilla2-qt6-dev
 )

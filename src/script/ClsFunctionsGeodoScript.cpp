@@ -10,8 +10,6 @@
 
 namespace lottolab::script {
 
-// The transfers' family (FunzioniRete.cpp), the one family that reaches the network.
-std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniRete();
 
 namespace {
 
@@ -63,7 +61,8 @@ const Tabella& TabellaCompleta() {
                           FunzioniPic(),
                           FunzioniPicCerchio(),
                           FunzioniDisegnoTavola(),
-                          FunzioniGrafici()})
+                          FunzioniGrafici(),
+                          FunzioniXls()})
       t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =

@@ -206,5 +206,8 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPicCerchio();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniDisegnoTavola();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGrafici();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniPremi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniXls();
+// The transfers (FunzioniRete.cpp), the one family that reaches the network.
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniRete();
 
 }  // namespace lottolab::script

@@ -122,10 +122,6 @@ Result<Variant> ColoraRtfOutputMulti(Libreria& lib, CallArgs&) {
   return Variant();
 }
 
-// Entry points of the run sequence whose state arrives with later families (spreadsheets, bets):
-// until then there is nothing to release.
-Result<Variant> NienteDaRilasciare(Libreria&, CallArgs&) { return Variant(); }
-
 // The host hands over its window itself, before the object is added; from a script it does nothing.
 Result<Variant> setFromScript(Libreria&, CallArgs&) { return Variant(); }
 
@@ -150,7 +146,6 @@ const Libreria::Funzione kEsecuzione[] = {
     {"AzzeraHtmlOutputMulti", 0, 0, &AzzeraHtmlOutputMulti, "avvia la pagina HTML dell'output successivo"},
     {"ColoraRtfOutput", 0, 0, &ColoraRtfOutput, "(host) completa l'output di testo"},
     {"ColoraRtfOutputMulti", 0, 0, &ColoraRtfOutputMulti, "completa l'output corrente di un'esecuzione con più output"},
-    {"DeinizializzaXls", 0, 0, &NienteDaRilasciare, "(host) rilascia il foglio di calcolo aperto"},
     {"ChiudiFileHtmlOutput", 0, 0, &ChiudiFileHtmlOutput, "(host) chiude la pagina HTML"},
     {"StopProcess", 0, 0, &StopProcess, "chiede allo script e ai cicli lunghi della libreria di fermarsi"},
     {"ScriptInterrotto", 0, 0, &ScriptInterrotto,

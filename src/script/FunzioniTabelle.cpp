@@ -4,14 +4,17 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <charconv>
 #include <filesystem>
 #include <fmt/format.h>
 #include <optional>
 
 #include "ArgomentiLotto.h"
 #include "ArgomentiRitardi.h"
+#include "ArgomentoPercorso.h"
 #include "Famiglia.h"
 #include "TabellaOutput.h"
+#include "esporta/ScritturaXlsx.h"
 #include "stats/Numeri.h"
 #include "stats/Ritardi.h"
 #include "text/Utf.h"
@@ -178,6 +181,64 @@ Result<Variant> GetTabella(Libreria& lib, CallArgs&) {
   return Variant::String(text::Utf8ToUtf16((tabella)->Html(false)));
 }
 
+// A cell's text as a number when it is one as Italians write it ("12", "-3,5"), so the sheet can
+// sum it; any other text stays text.
+esporta::Valore ValoreDiCella(const std::string& testo) {
+  const size_t inizio = testo.starts_with('-') ? 1 : 0;
+  const size_t virgola = testo.find(',');
+  const bool cifre = testo.size() > inizio && testo.size() <= 15 + inizio &&
+                     std::all_of(testo.begin() + static_cast<ptrdiff_t>(inizio), testo.end(),
+                                 [&](char c) { return std::isdigit(static_cast<unsigned char>(c)) || c == ','; });
+  if (!cifre || testo.find(',', virgola + 1) != std::string::npos || virgola == inizio || virgola + 1 == testo.size())
+    return testo.empty() ? esporta::Valore() : esporta::Valore(testo);
+  std::string punto = testo;
+  std::replace(punto.begin(), punto.end(), ',', '.');
+  double numero = 0;
+  std::from_chars(punto.data(), punto.data() + punto.size(), numero);
+  return esporta::Valore(numero);
+}
+
+std::optional<uint32_t> RgbDiColore(std::optional<int16_t> colore) {
+  return colore ? RgbDiColoreScript(*colore) : std::nullopt;
+}
+
+// The table the script built, exported as the list it shows: titles bold, each cell's colours,
+// written all at once.
+Result<Variant> EsportaListviewInXls(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto file, PercorsoArgomento(lib, args, 0));
+  VBS_TRY_ASSIGN(auto seconda, args.Boolean(1, false));
+  const TabellaOutput* tabella = nullptr;
+  if (seconda) {
+    VBS_TRY_ASSIGN(tabella, TabellaIniziata<kSeconda>(lib));
+  } else {
+    VBS_TRY_ASSIGN(tabella, TabellaIniziata<kPrima>(lib));
+  }
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Write, file, "EsportaListviewInXls"));
+  esporta::CartellaLavoro cartella;
+  esporta::Foglio& foglio = cartella.fogli[*cartella.AggiungiFoglio("")];
+  foglio.adatta_colonne = true;
+  auto riga = [&](int numero, const RigaTabella& r, bool grassetto) {
+    for (size_t c = 0; c < r.celle.size() && c < esporta::kMassimoColonne; ++c) {
+      const Cella& cella = r.celle[c];
+      esporta::Formato formato{
+          .grassetto = grassetto,
+          .colore_testo = RgbDiColore(cella.colori.testo ? cella.colori.testo : r.colori.testo),
+          .colore_sfondo = RgbDiColore(cella.colori.sfondo ? cella.colori.sfondo : r.colori.sfondo)};
+      foglio.celle[{numero, static_cast<int>(c) + 1}] = {
+          grassetto ? esporta::Valore(cella.testo) : ValoreDiCella(cella.testo), cartella.IndiceFormato(formato)};
+    }
+  };
+  riga(1, tabella->Titoli(), true);
+  for (size_t r = 0; r < tabella->Righe().size() && r + 2 <= esporta::kMassimoRighe; ++r)
+    riga(static_cast<int>(r) + 2, tabella->Righe()[r], false);
+  if (auto scritto = esporta::ScriviXlsx(cartella, file); !scritto) {
+    lib.ospite().Mostra(
+        Avviso{TipoAvviso::Esclamativo, "ClsFunctionsGeodoScript.EsportaListviewInXls", scritto.Errore().testo});
+    return Variant::Boolean(false);
+  }
+  return Variant::Boolean(true);
+}
+
 // The pyramid of a draw's numbers on one wheel: the five numbers as drawn, then each row the sums,
 // brought into 1..90, of neighbours in the row above, down to one number. Each cell shows the
 // number and its delay on the wheel at that draw, as students of the pyramid read it.
@@ -231,6 +292,10 @@ const Libreria::Funzione kTabelle[] = {
     {"CreaTabellaOrdinabile", 0, 0, &CreaTabella<kPrima, true>,
      "scrive la tabella come CreaTabella; nella pagina un clic su un titolo ordina le righe secondo quella colonna"},
     {"GetTabella", 0, 0, &GetTabella<kPrima>, "l'HTML della tabella (String)"},
+    {"EsportaListviewInXls", 1, 2, &EsportaListviewInXls,
+     "NomeFile, [Seconda = False]: scrive la tabella costruita (InitTabella, AddRigaTabella; con True quella di "
+     "InitTabellaX) in una cartella di lavoro .xlsx, titoli in grassetto, colori delle celle, numeri come numeri "
+     "(Boolean)"},
     {"CreaPiramideRitardi", 2, 2, &CreaPiramideRitardi,
      "IdEstr, Ruota: scrive come tabella la piramide dei numeri della ruota nell'estrazione: i cinque estratti in "
      "ordine di estrazione, poi in ogni riga le somme (riportate in 1..90) dei numeri vicini della riga sopra, fino "

@@ -44,6 +44,8 @@ class TabellaOutput {
   void AggiungiRiga(RigaTabella riga);
   // Null before the first row.
   RigaTabella* UltimaRiga() { return m_righe.empty() ? nullptr : &m_righe.back(); }
+  const RigaTabella& Titoli() const { return m_titoli; }
+  const std::vector<RigaTabella>& Righe() const { return m_righe; }
   // An HTML width ("600", "80%"); empty lets the page choose.
   void ImpostaLarghezza(std::string larghezza) { m_larghezza = std::move(larghezza); }
 

@@ -12,6 +12,7 @@
 #include "gui/archivio/AvvioAggiornamento.h"
 #include "gui/archivio/ModelloEstrazioni.h"
 #include "gui/archivio/VistaEstrazioni.h"
+#include "gui/comuni/EsportaTabella.h"
 #include "gui/principale/Finestre.h"
 
 namespace lottolab::gui {
@@ -61,6 +62,7 @@ class FinestraArchivio : public QWidget {
 
     m_tabella->setModel(m_modello);
     PreparaTabellaEstrazioni(*m_tabella);
+    AggiungiEsportazione(m_tabella, QStringLiteral("Estrazioni"));
 
     m_dettaglio->setObjectName(QStringLiteral("dettaglioEstrazione"));
     m_dettaglio->setTextFormat(Qt::RichText);

@@ -16,6 +16,7 @@
 #include <optional>
 
 #include "archive/DateEstrazione.h"
+#include "gui/comuni/EsportaTabella.h"
 #include "gui/principale/Finestre.h"
 #include "gui/principale/GiocoFinestra.h"
 #include "gui/tabellone/GraficoRitardi.h"
@@ -171,6 +172,7 @@ QTableView* FinestraTabellone::NuovaTabella() {
   m_tabella->verticalHeader()->setDefaultSectionSize(m_tabella->fontMetrics().height() + 6);
   m_tabella->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   connect(m_tabella, &QTableView::doubleClicked, this, &FinestraTabellone::ApriGrafico);
+  AggiungiEsportazione(m_tabella, QStringLiteral("Tabellone"));
   return m_tabella;
 }
 
