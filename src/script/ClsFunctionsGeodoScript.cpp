@@ -10,7 +10,6 @@
 
 namespace lottolab::script {
 
-
 namespace {
 
 using Funzione = ClsFunctionsGeodoScript::Funzione;
