@@ -50,6 +50,7 @@ const Tabella& TabellaCompleta() {
                           FunzioniGiochiElenchi(),
                           FunzioniGiochiEstrazioniAttive(),
                           FunzioniGiochiFile(),
+                          FunzioniBaseDati(),
                           FunzioniSistemi(),
                           FunzioniGiocate(),
                           FunzioniGiocateGiochi(),
@@ -134,6 +135,12 @@ vbs::Status ClsFunctionsGeodoScript::ControllaInterruzione() const {
   if (m_motore && m_motore->InterruptDue()) [[unlikely]]
     return m_motore->InterruptError();
   return vbs::Ok();
+}
+
+void ClsFunctionsGeodoScript::SostituisciArchivio(std::shared_ptr<const TabellaEstrazioni> tabella) {
+  m_archivio_aperto = std::move(tabella);
+  m_impostazioni.archivio = m_archivio_aperto.get();
+  m_estrazioni_attive.assign(static_cast<size_t>(m_archivio_aperto->EstrazioniArchivio()) + 1, true);
 }
 
 vbs::ScriptError ClsFunctionsGeodoScript::ArchivioMancante() {

@@ -117,6 +117,9 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
     return ArchivioMancante();
   }
 
+  // The Lotto archive of the rest of the run, in place of the configured one; every draw active.
+  void SostituisciArchivio(std::shared_ptr<const TabellaEstrazioni> tabella);
+
   bool Interrotto() const { return m_stop.load(std::memory_order_relaxed); }
   void AzzeraStop() { m_stop.store(false, std::memory_order_relaxed); }
   std::vector<Interruzione>& interruzioni() { return m_interruzioni; }
@@ -153,6 +156,7 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
   InterfacciaScript& m_ospite;
   const vbs::Locale& m_locale;
   ImpostazioniLibreria m_impostazioni;
+  std::shared_ptr<const TabellaEstrazioni> m_archivio_aperto;  // what ApriFileBaseDati read
   std::shared_ptr<const AccessoFile> m_accesso;
   vbs::Interpreter* m_motore = nullptr;
   std::atomic<bool> m_stop{false};
@@ -195,6 +199,7 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiStatistiche();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiElenchi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiEstrazioniAttive();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiFile();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniBaseDati();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniSistemi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocate();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocateGiochi();

@@ -4,6 +4,7 @@
 #include <ctime>
 #include <fmt/format.h>
 
+#include "OggettoFinestra.h"
 #include "text/Utf.h"
 #include "vbscript/ScriptControl.h"
 
@@ -109,7 +110,8 @@ EsitoEsecuzione EsecutoreScript::EseguiNelMotore(vbs::ScriptControl& motore, Cls
   motore.SetUiHandler(m_ui);
   motore.interpreter().SetFileAccessPolicy(libreria.accesso());
   (void)motore.AddObject("ClsFunctionsGeodoScript", vbs::Ref<vbs::Object>(&libreria), true);
-  if (opzioni.finestra) (void)motore.AddObject("F_Script", opzioni.finestra, true);
+  (void)motore.AddObject("F_Script", vbs::Ref<vbs::Object>(vbs::MakeRef<OggettoFinestra>(libreria.locale(), m_ospite)),
+                         true);
   motore.SetTimeout(opzioni.timeout_ms);
 
   // Each statement of the sequence stops the run at its first error; the closing ones always run.

@@ -63,9 +63,6 @@ struct OpzioniEsecuzione {
   bool salva_previsioni = false;
   std::string nome_file_html;          // empty: NomeFileHtmlOutput of now
   std::string nome_script = "script";  // the name errors give for the user's code
-  // The window that runs the script, added under "F_Script" with its members as global names; none
-  // on the command line.
-  vbs::Ref<vbs::Object> finestra;
 };
 
 struct EsitoEsecuzione {

@@ -85,6 +85,19 @@ Result<Variant> AvanzamentoElab(Libreria& lib, CallArgs& args) {
   return Variant();
 }
 
+// The script runs on a thread of its own, so the window never waits for it: what is left of the
+// old meaning is the moment to notice "Interrompi subito" in a loop that calls nothing else.
+Result<Variant> DoEventsEx(Libreria& lib, CallArgs&) {
+  VBS_TRY(lib.ControllaInterruzione());
+  return Variant();
+}
+
+Result<Variant> VisualizzaFormProgress(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto visibile, args.Boolean(0, true));
+  lib.ospite().MostraAvanzamento(visibile);
+  return Variant();
+}
+
 Result<Variant> ApriPagina(Libreria& lib, const std::string& nome, std::string_view funzione) {
   const fs::path file = lib.impostazioni().cartella_output / nome;
   VBS_TRY(lib.Consenti(vbs::FileAccess::Write, file, funzione));
@@ -154,6 +167,10 @@ const Libreria::Funzione kEsecuzione[] = {
      "A, B, C: aggiunge il record (A, B, C), o imposta C del record (A, B)"},
     {"AvanzamentoElab", 2, 3, &AvanzamentoElab,
      "Valore, Massimo | Inizio, Fine, Valore: aggiorna la barra di avanzamento"},
+    {"DoEventsEx", 0, 0, &DoEventsEx,
+     "lascia rispondere la finestra; in un ciclo lungo, il punto in cui \"Interrompi subito\" lo ferma"},
+    {"VisualizzaFormProgress", 0, 1, &VisualizzaFormProgress,
+     "[Visibile = True]: mostra o nasconde la barra di avanzamento"},
     {"setFromScript", 0, 1, &setFromScript, "(host) affida alla libreria la finestra dello script"},
     {"SetNomeFileHtmlOut", 1, 1, &SetNomeFileHtmlOut, "Nome: il nome del file della pagina HTML dell'esecuzione"},
     {"SetFlagSalvaPrevisioniInCorso", 0, 1, &SetFlagSalvaPrevisioniInCorso,

@@ -307,17 +307,26 @@ bool AvviaApertura(const fs::path& file) {
   return true;
 }
 
-Result<Variant> LanciaFile(Libreria& lib, CallArgs& args) {
-  VBS_TRY_ASSIGN(auto file, PercorsoArgomento(lib, args, 0));
-  VBS_TRY(lib.Consenti(vbs::FileAccess::Launch, file, "LanciaFile"));
+// What LanciaFile and ApriDirectory open: a file, written through first when the script has it open,
+// or a folder.
+Result<Variant> ApriSulDesktop(Libreria& lib, CallArgs& args, std::string_view funzione, bool cartella) {
+  VBS_TRY_ASSIGN(auto percorso, PercorsoArgomento(lib, args, 0));
+  VBS_TRY(lib.Consenti(vbs::FileAccess::Launch, percorso, funzione));
+  const std::string cosa = fmt::format("{} {}", cartella ? "la cartella" : "il file", percorso.string());
   std::error_code ec;
-  if (!fs::exists(file, ec)) return NonRiuscito(lib, "LanciaFile", fmt::format("Il file {} non esiste", file.string()));
-  if (!DesktopDisponibile())
-    return NonRiuscito(lib, "LanciaFile", fmt::format("Nessun desktop su cui aprire il file {}", file.string()));
-  ScaricaSeAperto(lib, file);
-  if (!AvviaApertura(file))
-    return NonRiuscito(lib, "LanciaFile", fmt::format("Impossibile aprire il file {} (xdg-open)", file.string()));
+  if (cartella ? !fs::is_directory(percorso, ec) : !fs::exists(percorso, ec))
+    return NonRiuscito(lib, funzione, fmt::format("{}{} non esiste", cartella ? "L" : "I", cosa.substr(1)));
+  if (!DesktopDisponibile()) return NonRiuscito(lib, funzione, fmt::format("Nessun desktop su cui aprire {}", cosa));
+  if (!cartella) ScaricaSeAperto(lib, percorso);
+  if (!AvviaApertura(percorso))
+    return NonRiuscito(lib, funzione, fmt::format("Impossibile aprire {} (xdg-open)", cosa));
   return Variant::Boolean(true);
+}
+
+Result<Variant> LanciaFile(Libreria& lib, CallArgs& args) { return ApriSulDesktop(lib, args, "LanciaFile", false); }
+
+Result<Variant> ApriDirectory(Libreria& lib, CallArgs& args) {
+  return ApriSulDesktop(lib, args, "ApriDirectory", true);
 }
 
 // The draws of a file in the operator's results layout, read again only when the file changed; null
@@ -400,6 +409,9 @@ const Libreria::Funzione kFile[] = {
      "cartella che corrispondono a Filtro (* e ?, più modelli separati da \";\") e restituisce n (Long)"},
     {"GetDirectoryTemp", 0, 0, &GetDirectoryTemp, "la cartella per i file temporanei, terminante con \"/\""},
     {"GetDirectoryAppData", 0, 0, &GetDirectoryAppData, "la cartella dei dati dell'applicazione, terminante con \"/\""},
+    {"ApriDirectory", 1, 1, &ApriDirectory,
+     "Cartella: apre la cartella nel gestore dei file del desktop; True se avviato, False (con un avviso) se la "
+     "cartella non esiste o non c'è un desktop"},
     {"LanciaFile", 1, 1, &LanciaFile,
      "NomeFile: apre il file con il programma del desktop associato (xdg-open), senza attendere; True se avviato, "
      "False se non c'è un desktop; in modalità protetta è rifiutato (errore 70)"},

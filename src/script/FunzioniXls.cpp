@@ -262,12 +262,25 @@ Result<std::pair<StatoXls*, Foglio*>> FoglioDellaChiamata(Libreria& lib, CallArg
   return std::pair{stato, &stato->cartella->fogli[indice]};
 }
 
+struct CellaChiamata {
+  StatoXls* stato;
+  Foglio* foglio;
+  Posizione cella;
+};
+
+// The sheet and the cell a call names, the row and column coming after the sheet when `InFoglio`.
+template <bool InFoglio>
+Result<CellaChiamata> CellaDellaChiamata(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto dove, (FoglioDellaChiamata<InFoglio>(lib, args)));
+  VBS_TRY_ASSIGN(auto cella, ArgomentoCella(args, InFoglio ? 1 : 0));
+  return CellaChiamata{dove.first, dove.second, cella};
+}
+
 template <bool InFoglio, bool ConFormato>
 Result<Variant> XlsScrivi(Libreria& lib, CallArgs& args) {
   constexpr size_t kPrimo = InFoglio ? 1 : 0;
-  VBS_TRY_ASSIGN(auto dove, (FoglioDellaChiamata<InFoglio>(lib, args)));
-  auto [stato, foglio] = dove;
-  VBS_TRY_ASSIGN(auto cella, ArgomentoCella(args, kPrimo));
+  VBS_TRY_ASSIGN(auto chiamata, CellaDellaChiamata<InFoglio>(lib, args));
+  auto [stato, foglio, cella] = chiamata;
   VBS_TRY_ASSIGN(auto grezzo, args.Value(kPrimo + 2));
   bool data = false;
   VBS_TRY_ASSIGN(auto valore, ValoreDaScript(lib, grezzo, data));
@@ -286,9 +299,8 @@ Result<Variant> XlsScrivi(Libreria& lib, CallArgs& args) {
 template <bool InFoglio>
 Result<Variant> XlsFormatoCella(Libreria& lib, CallArgs& args) {
   constexpr size_t kPrimo = InFoglio ? 1 : 0;
-  VBS_TRY_ASSIGN(auto dove, (FoglioDellaChiamata<InFoglio>(lib, args)));
-  auto [stato, foglio] = dove;
-  VBS_TRY_ASSIGN(auto cella, ArgomentoCella(args, kPrimo));
+  VBS_TRY_ASSIGN(auto chiamata, CellaDellaChiamata<InFoglio>(lib, args));
+  auto [stato, foglio, cella] = chiamata;
   const esporta::Cella* esistente = foglio->Trova(cella);
   VBS_TRY_ASSIGN(auto formato,
                  FormatoDaArgomenti(args, kPrimo + 2, stato->cartella->formati[esistente ? esistente->formato : 0]));
@@ -315,9 +327,8 @@ Result<Variant> XlsMerge(Libreria& lib, CallArgs& args) {
 
 template <bool InFoglio>
 Result<Variant> XlsLeggi(Libreria& lib, CallArgs& args) {
-  VBS_TRY_ASSIGN(auto dove, (FoglioDellaChiamata<InFoglio>(lib, args)));
-  VBS_TRY_ASSIGN(auto cella, ArgomentoCella(args, InFoglio ? 1 : 0));
-  const esporta::Cella* letta = dove.second->Trova(cella);
+  VBS_TRY_ASSIGN(auto chiamata, CellaDellaChiamata<InFoglio>(lib, args));
+  const esporta::Cella* letta = chiamata.foglio->Trova(chiamata.cella);
   return letta ? ValorePerScript(letta->valore) : Variant();
 }
 

@@ -45,6 +45,12 @@ class InterfacciaScript : public DialoghiLibreria {
   // The picture area of the Pic... functions and of the circle; none for a host that draws
   // nothing, and the library then refuses those functions with a clear message.
   virtual AreaDisegno* Disegno() { return nullptr; }
+  // The window's title, as the script sets F_Script.Caption; a host without a window keeps none.
+  virtual void Titolo(const std::string& /*testo*/) {}
+  // Drops the text output written so far (F_Script.PulisciOutput); a printed output stays.
+  virtual void PulisciOutput() {}
+  // Shows or hides the progress bar (VisualizzaFormProgress).
+  virtual void MostraAvanzamento(bool /*visibile*/) {}
 };
 
 }  // namespace lottolab::script

@@ -26,6 +26,7 @@
 #include "gui/agenda/EsportaCsv.h"
 #include "gui/agenda/ModelloAgenda.h"
 #include "gui/agenda/ModelloVerifiche.h"
+#include "gui/comuni/EsportaTabella.h"
 #include "gui/comuni/LavoroConProgresso.h"
 #include "gui/principale/Finestre.h"
 #include "gui/principale/SegnalatoreGui.h"
@@ -97,6 +98,8 @@ class FinestraAgenda : public QWidget {
     m_elenco->setTextElideMode(Qt::ElideRight);
     m_elenco->setWordWrap(false);
     m_dettaglio->setModel(m_verifiche);
+    AggiungiEsportazione(m_elenco, QStringLiteral("Agenda"));
+    AggiungiEsportazione(m_dettaglio, QStringLiteral("Verifica della giocata"));
     m_dettaglio->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_dettaglio->horizontalHeader()->setStretchLastSection(true);
     // A draw with many wins shows them all, on as many lines as they take.

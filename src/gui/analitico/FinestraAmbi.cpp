@@ -4,17 +4,15 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QSortFilterProxyModel>
 #include <QSpinBox>
 #include <QTabWidget>
-#include <QTableView>
 #include <QVBoxLayout>
 
 #include <memory>
 
 #include "gui/analitico/ModelloCombinazioni.h"
 #include "gui/comuni/CalcoloAnnullabile.h"
-#include "gui/comuni/CopiaRighe.h"
+#include "gui/comuni/TabellaAnalisi.h"
 #include "gui/principale/Finestre.h"
 #include "gui/principale/SegnalatoreGui.h"
 
@@ -33,7 +31,7 @@ class FinestraAmbi : public QWidget {
 
  private:
   QWidget* NuoveScelte();
-  QTableView* NuovaTabella(ModelloCombinazioni* modello, const char* nome);
+  QTableView* NuovaTabella(ModelloCombinazioni* modello, const char* nome, const QString& titolo);
   int Ruota() const { return m_ruota->currentData().toInt(); }
   void AggiornaArchivio();
   void CalcolaAmbi();
@@ -58,8 +56,9 @@ FinestraAmbi::FinestraAmbi(ContestoGui& contesto, QWidget* parent)
   auto* colonna = new QVBoxLayout(this);
   colonna->addWidget(NuoveScelte());
   m_schede = new QTabWidget;
-  m_schede->addTab(NuovaTabella(m_ambi, "tabellaAmbi"), QStringLiteral("Ambi (4005)"));
-  m_schede->addTab(NuovaTabella(m_terni, "tabellaTerni"), QStringLiteral("Terni più ritardatari"));
+  m_schede->addTab(NuovaTabella(m_ambi, "tabellaAmbi", QStringLiteral("Ambi")), QStringLiteral("Ambi (4005)"));
+  m_schede->addTab(NuovaTabella(m_terni, "tabellaTerni", QStringLiteral("Terni ritardatari")),
+                   QStringLiteral("Terni più ritardatari"));
   colonna->addWidget(m_schede, 1);
   m_stato = new QLabel;
   m_stato->setWordWrap(true);
@@ -97,22 +96,9 @@ QWidget* FinestraAmbi::NuoveScelte() {
   return scelte;
 }
 
-QTableView* FinestraAmbi::NuovaTabella(ModelloCombinazioni* modello, const char* nome) {
-  auto* ordinamento = new QSortFilterProxyModel(this);
-  ordinamento->setSourceModel(modello);
-  ordinamento->setSortRole(ModelloCombinazioni::kRuoloOrdinamento);
-  auto* tabella = new QTableView;
-  tabella->setObjectName(nome);
-  tabella->setModel(ordinamento);
-  tabella->setSortingEnabled(true);
+QTableView* FinestraAmbi::NuovaTabella(ModelloCombinazioni* modello, const char* nome, const QString& titolo) {
+  QTableView* tabella = NuovaTabellaAnalisi(modello, ModelloCombinazioni::kRuoloOrdinamento, nome, titolo, this);
   tabella->sortByColumn(ModelloCombinazioni::kColonnaRitardo, Qt::DescendingOrder);
-  tabella->setSelectionBehavior(QAbstractItemView::SelectRows);
-  tabella->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  tabella->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  tabella->verticalHeader()->hide();
-  tabella->verticalHeader()->setDefaultSectionSize(tabella->fontMetrics().height() + 6);
-  tabella->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-  AggiungiCopiaRighe(tabella);
   return tabella;
 }
 

@@ -4,16 +4,14 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QSignalBlocker>
-#include <QSortFilterProxyModel>
 #include <QSpinBox>
-#include <QTableView>
 #include <QVBoxLayout>
 
 #include <memory>
 
 #include "gui/analitico/ModelloAnalitico.h"
 #include "gui/comuni/CalcoloAnnullabile.h"
-#include "gui/comuni/CopiaRighe.h"
+#include "gui/comuni/TabellaAnalisi.h"
 #include "gui/principale/Finestre.h"
 #include "gui/principale/SegnalatoreGui.h"
 
@@ -37,7 +35,6 @@ class FinestraAnalitico : public QWidget {
 
   ContestoGui& m_contesto;
   ModelloAnalitico* m_modello;
-  QSortFilterProxyModel* m_ordinamento;
   QSpinBox* m_fine = nullptr;
   QDateEdit* m_data = nullptr;
   QLabel* m_data_fine = nullptr;
@@ -45,14 +42,9 @@ class FinestraAnalitico : public QWidget {
 };
 
 FinestraAnalitico::FinestraAnalitico(ContestoGui& contesto, QWidget* parent)
-    : QWidget(parent),
-      m_contesto(contesto),
-      m_modello(new ModelloAnalitico(this)),
-      m_ordinamento(new QSortFilterProxyModel(this)) {
+    : QWidget(parent), m_contesto(contesto), m_modello(new ModelloAnalitico(this)) {
   setWindowTitle(QStringLiteral("Tabellone analitico"));
   setObjectName("finestraAnalitico");
-  m_ordinamento->setSourceModel(m_modello);
-  m_ordinamento->setSortRole(ModelloAnalitico::kRuoloOrdinamento);
 
   auto* colonna = new QVBoxLayout(this);
   colonna->addWidget(NuoveScelte());
@@ -107,19 +99,10 @@ QWidget* FinestraAnalitico::NuoveScelte() {
 }
 
 QTableView* FinestraAnalitico::NuovaTabella() {
-  auto* tabella = new QTableView;
-  tabella->setObjectName("tabellaAnalitico");
-  tabella->setModel(m_ordinamento);
-  tabella->setSortingEnabled(true);
+  QTableView* tabella =
+      NuovaTabellaAnalisi(m_modello, ModelloAnalitico::kRuoloOrdinamento, "tabellaAnalitico", windowTitle(), this);
   tabella->sortByColumn(ModelloAnalitico::kColonnaNumero, Qt::AscendingOrder);
-  tabella->setSelectionBehavior(QAbstractItemView::SelectRows);
-  tabella->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  tabella->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  tabella->verticalHeader()->hide();
-  tabella->verticalHeader()->setDefaultSectionSize(tabella->fontMetrics().height() + 6);
-  tabella->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   tabella->horizontalHeader()->setMinimumSectionSize(tabella->fontMetrics().horizontalAdvance("Nazionale") + 12);
-  AggiungiCopiaRighe(tabella);
   return tabella;
 }
 

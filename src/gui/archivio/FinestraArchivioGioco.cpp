@@ -15,6 +15,7 @@
 #include "gui/archivio/AvvioAggiornamento.h"
 #include "gui/archivio/ModelloEstrazioniGioco.h"
 #include "gui/archivio/VistaEstrazioni.h"
+#include "gui/comuni/EsportaTabella.h"
 #include "gui/principale/Finestre.h"
 #include "gui/principale/GiocoFinestra.h"
 
@@ -73,6 +74,7 @@ class FinestraArchivioGioco : public QWidget {
 
     m_tabella->setModel(m_modello);
     PreparaTabellaEstrazioni(*m_tabella);
+    AggiungiEsportazione(m_tabella, windowTitle());
 
     m_dettaglio->setObjectName(QStringLiteral("dettaglioEstrazione"));
     m_dettaglio->setTextFormat(Qt::RichText);

@@ -119,6 +119,12 @@ F_Script::F_Script(ContestoGui& contesto, std::unique_ptr<DialoghiScript> dialog
     vista->show();
   });
   connect(&ospite, &OspiteGui::MessaggioRicevuto, m_stato, &QLabel::setText);
+  connect(&ospite, &OspiteGui::TitoloCambiato, this, [this](const QString& testo) {
+    m_caption = testo;
+    AggiornaTitolo();
+  });
+  connect(&ospite, &OspiteGui::OutputPulito, m_output, &QPlainTextEdit::clear);
+  connect(&ospite, &OspiteGui::AvanzamentoVisibile, m_avanzamento, &QWidget::setVisible);
   connect(&ospite, &OspiteGui::AvanzamentoCambiato, this,
           [this](double percentuale) { m_avanzamento->setValue(static_cast<int>(std::lround(percentuale))); });
   connect(m_esecuzione.get(), &EsecuzioneInThread::Terminata, this, &F_Script::Terminata);
@@ -170,7 +176,8 @@ bool F_Script::InEsecuzione() const { return m_esecuzione->InEsecuzione(); }
 void F_Script::AggiornaTitolo() {
   const QString nome = m_file.isEmpty() ? QStringLiteral("nuovo script") : QFileInfo(m_file).fileName();
   const QString modo = m_modalita == script::Modalita::Protetta ? QStringLiteral(" (protetto)") : QString();
-  setWindowTitle(QStringLiteral("Script - %1%2[*]").arg(nome, modo));
+  const QString caption = m_caption.isEmpty() ? QString() : QStringLiteral(" - %1").arg(m_caption);
+  setWindowTitle(QStringLiteral("Script - %1%2%3[*]").arg(nome, modo, caption));
 }
 
 void F_Script::MostraModalita(script::Modalita modalita) {
@@ -279,7 +286,10 @@ void F_Script::Esegui() {
   // The worker's output reaches the window only through queued notices: clearing now loses none.
   m_output->clear();
   if (!MantieniPaginaHtml(configurazione)) m_html->setHtml(QString());
+  m_caption.clear();
+  AggiornaTitolo();
   m_avanzamento->setValue(0);
+  m_avanzamento->setVisible(true);
   m_stato->clear();
   m_attesa->setVisible(true);
   m_esegui->setEnabled(false);

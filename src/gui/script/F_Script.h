@@ -98,6 +98,7 @@ class F_Script : public QWidget {
   std::string m_impronta;  // of the opened file when it came from outside the scripts folder
   // The name the running script's own code has in its errors: an error elsewhere is in an include.
   std::string m_nome_codice;
+  QString m_caption;  // as the running script set F_Script.Caption
 
   EditorScript* m_editor = nullptr;
   QPlainTextEdit* m_output = nullptr;

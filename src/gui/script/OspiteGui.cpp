@@ -107,14 +107,17 @@ void OspiteGui::ConsegnaTesto() { Consegna(kRighePerConsegna); }
 void OspiteGui::Consegna(int64_t righe) {
   std::vector<script::TrattoTesto> tratti;
   bool resta = false;
+  bool pulisci = false;
   {
     std::lock_guard blocco(m_mutex);
+    pulisci = std::exchange(m_pulisci, false);
     tratti = PrimeRighe(righe);
     resta = !m_tratti.empty();
     m_consegna_chiesta = resta;
   }
   m_ultima_consegna.start();
   if (resta) QTimer::singleShot(kIntervalloConsegnaMs, this, &OspiteGui::ConsegnaTesto);
+  if (pulisci) emit OutputPulito();
   if (!tratti.empty()) emit TestoScritto(tratti);
 }
 
@@ -131,6 +134,7 @@ void OspiteGui::Azzera() {
   m_righe = 0;
   m_caratteri = 0;
   m_troncato = false;
+  m_pulisci = false;
 }
 
 void OspiteGui::Avanzamento(double percentuale) {
@@ -142,6 +146,24 @@ void OspiteGui::Avanzamento(double percentuale) {
 void OspiteGui::ConsegnaAvanzamento() {
   m_avanzamento_in_attesa = false;
   emit AvanzamentoCambiato(m_percentuale);
+}
+
+void OspiteGui::Titolo(const std::string& testo) { emit TitoloCambiato(QString::fromStdString(testo)); }
+
+void OspiteGui::MostraAvanzamento(bool visibile) { emit AvanzamentoVisibile(visibile); }
+
+void OspiteGui::PulisciOutput() {
+  bool chiedi = false;
+  {
+    std::lock_guard blocco(m_mutex);
+    m_tratti.clear();
+    m_righe = 0;
+    m_caratteri = 0;
+    m_troncato = false;
+    m_pulisci = true;
+    chiedi = !std::exchange(m_consegna_chiesta, true);
+  }
+  if (chiedi) QMetaObject::invokeMethod(this, &OspiteGui::ProgrammaConsegna, Qt::QueuedConnection);
 }
 
 void OspiteGui::Messaggio(const std::string& testo) { emit MessaggioRicevuto(QString::fromStdString(testo)); }

@@ -44,6 +44,10 @@ class OspiteGui final : public QObject, public script::InterfacciaScript, public
   void Mostra(const Avviso& avviso) override;
   void Messaggio(const std::string& testo) override;
   void Avanzamento(double percentuale) override;
+  void Titolo(const std::string& testo) override;
+  // The text waiting for the window is dropped with what the window shows, in the order of writing.
+  void PulisciOutput() override;
+  void MostraAvanzamento(bool visibile) override;
   script::AreaDisegno* Disegno() override { return &m_area; }
   AreaDisegnoGui& Area() { return m_area; }
   std::optional<std::vector<int>> ScegliVoci(const std::string& titolo, const std::vector<std::string>& voci,
@@ -74,6 +78,10 @@ class OspiteGui final : public QObject, public script::InterfacciaScript, public
   void TestoScritto(const std::vector<lottolab::script::TrattoTesto>& tratti);
   void MessaggioRicevuto(const QString& testo);
   void AvanzamentoCambiato(double percentuale);
+  void TitoloCambiato(const QString& testo);
+  // Comes before the TestoScritto of what the script wrote after clearing.
+  void OutputPulito();
+  void AvanzamentoVisibile(bool visibile);
 
  private:
   // Runs `chiedi` on the window's thread and gives its answer; `annullato` once dismissed.
@@ -97,6 +105,7 @@ class OspiteGui final : public QObject, public script::InterfacciaScript, public
   int64_t m_righe = 0;                        // of this run, handed over or waiting
   int64_t m_caratteri = 0;
   bool m_troncato = false;
+  bool m_pulisci = false;            // the window must clear its output before the next text it takes
   QElapsedTimer m_ultima_consegna;   // on the window's thread
   std::set<std::string> m_mostrati;  // the messages of this run shown in a dialog; worker's thread
   std::atomic<double> m_percentuale{0};

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 
+#include "gui/comuni/EsportaTabella.h"
 #include "gui/comuni/LavoroSenzaEccezioni.h"
 
 namespace lottolab::gui {
@@ -142,6 +143,7 @@ F_StatStrutture::F_StatStrutture(ContestoGui& contesto, std::function<figures::S
   m_avanzamento->setTextVisible(false);
 
   m_figure->setModel(m_modello);
+  AggiungiEsportazione(m_figure, QStringLiteral("Figure trovate"));
   m_figure->verticalHeader()->hide();
   m_figure->verticalHeader()->setDefaultSectionSize(m_figure->fontMetrics().height() + 6);
   m_figure->setEditTriggers(QAbstractItemView::NoEditTriggers);

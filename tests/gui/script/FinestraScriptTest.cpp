@@ -233,6 +233,21 @@ class FinestraScriptTest : public QObject {
     QVERIFY(pagina.readAll().contains("bgcolor =#FFEECC"));
   }
 
+  // PulisciOutput drops what was written before it, even what had not reached the window yet.
+  void IMembriDiF_ScriptArrivanoAllaFinestraNellOrdine() {
+    Apri();
+    Esegui(
+        "Sub Main\nDim i\nFor i = 1 To 2000\nScrivi i\nNext\nF_Script.PulisciOutput\nScrivi \"dopo\"\n"
+        "F_Script.Caption = \"Ricerca ambi\"\nVisualizzaFormProgress False\nEnd Sub");
+    QCOMPARE(m_finestra->Output()->toPlainText(), QString("dopo\n"));
+    QVERIFY(m_finestra->windowTitle().contains("Ricerca ambi"));
+    QVERIFY(m_finestra->Avanzamento()->isHidden());
+    Esegui("Sub Main\nScrivi F_Script.Caption = \"\"\nEnd Sub");
+    QVERIFY(!m_finestra->windowTitle().contains("Ricerca ambi"));
+    QVERIFY(!m_finestra->Avanzamento()->isHidden());
+    QCOMPARE(m_finestra->Output()->toPlainText(), QString("Vero\n"));
+  }
+
   void LaPaginaPrecedenteSparisceAllAvvioSalvoImpostazione() {
     Apri();
     m_finestra->PaginaHtml()->setHtml("vecchia");
