@@ -62,6 +62,12 @@ FinestraFrequenze::FinestraFrequenze(ContestoGui& contesto, QWidget* parent)
   Componi(NuoveScelte(), m_grafico, m_modello, m_grafico,
           QStringLiteral("Clic su una barra: storia del ritardo del numero · rotella: zoom · trascina: scorri"));
   m_periodo->Imposta(*m_contesto.Archivio(), 0, 0);
+  connect(m_grafico, &GraficoInterattivo::Cliccato, this, [this](QPointF punto) {
+    const int numero = static_cast<int>(std::lround(punto.x())) + 1;
+    if (numero >= 1 && numero <= m_modello->rowCount())
+      ApriStoriaRitardo(this, m_contesto, {numero}, m_ruota_calcolata, m_intervallo_calcolato.first,
+                        m_intervallo_calcolato.second);
+  });
   connect(&m_contesto, &ContestoGui::ArchivioCambiato, this, [this] {
     m_periodo->Imposta(*m_contesto.Archivio(), 0, 0);
     Calcola();
@@ -141,10 +147,6 @@ void FinestraFrequenze::Disegna() {
   for (int frequenza : frequenze.frequenze) insieme->append(frequenza);
   barre->append(insieme);
   grafico->addSeries(barre);
-  connect(insieme, &QBarSet::clicked, this, [this](int indice) {
-    ApriStoriaRitardo(this, m_contesto, {indice + 1}, m_ruota_calcolata, m_intervallo_calcolato.first,
-                      m_intervallo_calcolato.second);
-  });
 
   const int numeri = static_cast<int>(frequenze.frequenze.size());
   auto* attesa = new QLineSeries;
@@ -164,8 +166,12 @@ void FinestraFrequenze::Disegna() {
     asse_numeri->append(QString::number(numero), numero - 1);
   asse_numeri->setGridLineVisible(false);
   const int massimo = std::max(1, *std::max_element(frequenze.frequenze.begin(), frequenze.frequenze.end()));
+  // Over a long period every bar is near the expected frequency: the axis starts below the lowest
+  // bar, so that the differences, which are what the chart is for, can be seen.
+  const int minimo = *std::min_element(frequenze.frequenze.begin(), frequenze.frequenze.end());
+  const double alto = std::max<double>(massimo, frequenze.attesa);
   QValueAxis* asse_frequenza =
-      NuovoAsseInteri(QStringLiteral("Frequenza"), std::max<double>(massimo, frequenze.attesa));
+      NuovoAsseInteri(QStringLiteral("Frequenza"), alto, minimo > alto / 2 ? minimo - (alto - minimo) / 2 : 0);
   grafico->addAxis(asse_numeri, Qt::AlignBottom);
   grafico->addAxis(asse_frequenza, Qt::AlignLeft);
   for (QAbstractSeries* serie : grafico->series()) {

@@ -4,6 +4,7 @@
 #include <QDateTimeAxis>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLegendMarker>
 #include <QLineEdit>
 #include <QLineSeries>
 #include <QPushButton>
@@ -81,7 +82,10 @@ FinestraStoriaRitardo::FinestraStoriaRitardo(ContestoGui& contesto, const std::v
     m_periodo->Imposta(*m_contesto.Archivio(), 0, 0);
     Calcola();
   });
-  if (!numeri.empty()) Calcola();
+  if (numeri.empty())
+    m_grafico->chart()->setTitle(QStringLiteral("Scrivi da 1 a 5 numeri, scegli la ruota e premi Traccia"));
+  else
+    Calcola();
 }
 
 QWidget* FinestraStoriaRitardo::NuoveScelte(const std::vector<int>& numeri, int ruota) {
@@ -218,12 +222,17 @@ void FinestraStoriaRitardo::Disegna() {
     segno->setPointLabelsClipping(false);
     segno->setPointLabelsColor(colore.darker());
     grafico->addSeries(segno);
+    return segno;
   };
-  if (storia.estrazione_storico > 0)
-    segna(QStringLiteral("Raggiunto il %1").arg(m_modello->Data(riga_storico)), QStringLiteral("max @yPoint"),
-          QColor(190, 30, 30), QPointF(static_cast<double>(m_modello->Istante(riga_storico)), storia.storico));
+  // The maximum's point repeats the dashed line's legend; the current delay's label is the bare figure,
+  // which stays inside the frame at the right edge.
+  if (storia.estrazione_storico > 0) {
+    QScatterSeries* massimo = segna({}, QStringLiteral("max @yPoint"), QColor(190, 30, 30),
+                                    QPointF(static_cast<double>(m_modello->Istante(riga_storico)), storia.storico));
+    for (QLegendMarker* marcatore : grafico->legend()->markers(massimo)) marcatore->setVisible(false);
+  }
   segna(QStringLiteral("Ritardo attuale: %1 (%2)").arg(storia.ritardo_attuale).arg(m_modello->Data(righe - 1)),
-        QStringLiteral("attuale @yPoint"), QColor(0, 130, 60), QPointF(ultimo, storia.ritardo_attuale));
+        QStringLiteral("@yPoint"), QColor(0, 130, 60), QPointF(ultimo, storia.ritardo_attuale));
 
   m_asse_date = new QDateTimeAxis;
   m_asse_date->setTitleText(QStringLiteral("Data dell'estrazione"));

@@ -68,6 +68,10 @@ std::optional<std::pair<double, double>> GraficoInterattivo::RangeOrizzontale() 
   return std::nullopt;
 }
 
+QPointF GraficoInterattivo::NelGrafico(QPointF vista) const {
+  return chart()->mapFromScene(mapToScene(vista.toPoint()));
+}
+
 void GraficoInterattivo::Zoom(double fattore, double x) {
   const QRectF area = chart()->plotArea();
   if (area.width() <= 0 || chart()->series().isEmpty()) return;
@@ -85,7 +89,7 @@ void GraficoInterattivo::Contieni() {
 void GraficoInterattivo::wheelEvent(QWheelEvent* evento) {
   const int scatti = evento->angleDelta().y();
   if (scatti == 0) return;
-  Zoom(scatti > 0 ? kPassoRotella : 1 / kPassoRotella, evento->position().x());
+  Zoom(scatti > 0 ? kPassoRotella : 1 / kPassoRotella, NelGrafico(evento->position()).x());
   evento->accept();
 }
 
@@ -98,6 +102,7 @@ void GraficoInterattivo::mousePressEvent(QMouseEvent* evento) {
   }
   if (evento->button() == Qt::LeftButton) {
     m_trascinamento = evento->position();
+    m_spostato = false;
     viewport()->setCursor(Qt::ClosedHandCursor);
     evento->accept();
     return;
@@ -108,6 +113,8 @@ void GraficoInterattivo::mousePressEvent(QMouseEvent* evento) {
 void GraficoInterattivo::mouseMoveEvent(QMouseEvent* evento) {
   if (m_trascinamento) {
     const double spostamento = evento->position().x() - m_trascinamento->x();
+    if (spostamento == 0) return;
+    m_spostato = true;
     m_trascinamento = evento->position();
     chart()->scroll(-spostamento, 0);
     evento->accept();
@@ -115,7 +122,7 @@ void GraficoInterattivo::mouseMoveEvent(QMouseEvent* evento) {
   }
   QChartView::mouseMoveEvent(evento);
   if (m_selezione || !m_suggerimento) return;
-  const QPointF punto = evento->position();
+  const QPointF punto = NelGrafico(evento->position());
   const QString testo = chart()->plotArea().contains(punto) && !chart()->series().isEmpty()
                             ? m_suggerimento(chart()->mapToValue(punto))
                             : QString();
@@ -125,11 +132,21 @@ void GraficoInterattivo::mouseMoveEvent(QMouseEvent* evento) {
     QToolTip::showText(evento->globalPosition().toPoint(), testo, this);
 }
 
+// The scene answers the delayed tooltip event by hiding every tooltip, since none of its items has one:
+// the pointer's own tooltip, shown as the mouse moves, would vanish at once.
+bool GraficoInterattivo::viewportEvent(QEvent* evento) {
+  if (evento->type() == QEvent::ToolTip && m_suggerimento) return true;
+  return QChartView::viewportEvent(evento);
+}
+
 void GraficoInterattivo::mouseReleaseEvent(QMouseEvent* evento) {
   if (m_trascinamento && evento->button() == Qt::LeftButton) {
     m_trascinamento.reset();
     viewport()->unsetCursor();
     evento->accept();
+    const QPointF punto = NelGrafico(evento->position());
+    if (!m_spostato && chart()->plotArea().contains(punto) && !chart()->series().isEmpty())
+      emit Cliccato(chart()->mapToValue(punto));
     return;
   }
   QChartView::mouseReleaseEvent(evento);

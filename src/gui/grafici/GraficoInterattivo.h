@@ -29,23 +29,32 @@ class GraficoInterattivo : public QChartView {
   // Remembers the axes' ranges as they are now, where Ripristina brings them back.
   void MemorizzaVistaIniziale();
   void Ripristina();
-  // Zooms by `fattore` (below 1 zooms in) around the horizontal position `x` of the view.
+  // Zooms by `fattore` (below 1 zooms in) around the horizontal position `x` of the chart.
   void Zoom(double fattore, double x);
+
+ signals:
+  // A click of the left button that did not drag, at a point of the plot in the values of the first
+  // series' axes.
+  void Cliccato(QPointF valore);
 
  protected:
   void wheelEvent(QWheelEvent* evento) override;
   void mousePressEvent(QMouseEvent* evento) override;
   void mouseMoveEvent(QMouseEvent* evento) override;
   void mouseReleaseEvent(QMouseEvent* evento) override;
+  bool viewportEvent(QEvent* evento) override;
 
  private:
   // The horizontal axis's range as numbers (milliseconds for dates); nothing for an axis of categories.
   std::optional<std::pair<double, double>> RangeOrizzontale() const;
+  // A point of the view's viewport in the chart's coordinates, where the plot area and the values are.
+  QPointF NelGrafico(QPointF vista) const;
   // Brings the view back inside the range it was given where a zoom out carried it beyond.
   void Contieni();
 
   Suggerimento m_suggerimento;
   std::optional<QPointF> m_trascinamento;
+  bool m_spostato = false;
   bool m_selezione = false;
   std::optional<std::pair<double, double>> m_iniziale;
   std::function<void()> m_ripristina;

@@ -230,6 +230,20 @@ class GraficiTest : public QObject {
     auto* dati = Trova<QTableView>(*frequenze, "tabellaDati");
     QTRY_COMPARE(dati->model()->rowCount(), kMassimoNumero);
     QCOMPARE(dati->model()->index(6, ModelloFrequenze::kColonnaFrequenza).data().toInt(), 4);
+    // A click on the bar of 7 opens its history; a drag that starts on it only scrolls.
+    auto* barre = frequenze->findChild<GraficoInterattivo*>();
+    QVERIFY(QTest::qWaitForWindowExposed(frequenze.get()));
+    QTRY_VERIFY(barre->chart()->plotArea().width() > 100);
+    const QPoint barra = barre->mapFromScene(barre->chart()->mapToPosition(QPointF(6, 2)));
+    QTest::mousePress(barre->viewport(), Qt::LeftButton, {}, barra);
+    QTest::mouseMove(barre->viewport(), barra + QPoint(30, 0));
+    QTest::mouseRelease(barre->viewport(), Qt::LeftButton, {}, barra + QPoint(30, 0));
+    QVERIFY(!frequenze->findChild<QWidget*>(QStringLiteral("finestraStoriaRitardo")));
+    barre->Ripristina();
+    QTest::mouseClick(barre->viewport(), Qt::LeftButton, {}, barra);
+    auto* dal_grafico = frequenze->findChild<QWidget*>(QStringLiteral("finestraStoriaRitardo"));
+    QVERIFY(dal_grafico);
+    QCOMPARE(dal_grafico->windowTitle(), QStringLiteral("Storia del ritardo del 7 su tutte le ruote"));
 
     std::unique_ptr<QWidget> mappa(NuovaMappaRitardi(*m_contesto));
     mappa->resize(1000, 700);
