@@ -1,3 +1,4 @@
+#include <QAbstractProxyModel>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QHBoxLayout>
@@ -49,10 +50,11 @@ FinestraAnalitico::FinestraAnalitico(ContestoGui& contesto, QWidget* parent)
   auto* colonna = new QVBoxLayout(this);
   colonna->addWidget(NuoveScelte());
   colonna->addWidget(NuovaTabella(), 1);
-  auto* legenda = new QLabel(
-      QStringLiteral("Ogni cella è colorata dal ritardo rispetto allo storico del numero sulla stessa ruota (bianco "
-                     "appena uscito, rosso al massimo storico); il suggerimento dà tutte le figure e i ritardi "
-                     "precedenti. \"–\": ruota non ancora estratta. Ctrl+C copia le righe scelte."));
+  auto* legenda = new QLabel(QStringLiteral(
+      "Ogni cella è colorata dal ritardo rispetto allo storico del numero sulla stessa ruota (bianco "
+      "appena uscito, rosso al massimo storico); il suggerimento dà tutte le figure e i ritardi "
+      "precedenti. \"–\": ruota non ancora estratta. Doppio clic: storia del ritardo. Ctrl+C copia le righe "
+      "scelte."));
   legenda->setWordWrap(true);
   colonna->addWidget(legenda);
 
@@ -103,6 +105,11 @@ QTableView* FinestraAnalitico::NuovaTabella() {
       NuovaTabellaAnalisi(m_modello, ModelloAnalitico::kRuoloOrdinamento, "tabellaAnalitico", windowTitle(), this);
   tabella->sortByColumn(ModelloAnalitico::kColonnaNumero, Qt::AscendingOrder);
   tabella->horizontalHeader()->setMinimumSectionSize(tabella->fontMetrics().horizontalAdvance("Nazionale") + 12);
+  connect(tabella, &QTableView::doubleClicked, this, [this, tabella](const QModelIndex& indice) {
+    const QModelIndex cella = static_cast<const QAbstractProxyModel*>(tabella->model())->mapToSource(indice);
+    if (cella.column() != ModelloAnalitico::kColonnaNumero && m_modello->Fine() > 0)
+      ApriStoriaRitardo(this, m_contesto, {cella.row() + 1}, cella.column(), 1, m_modello->Fine());
+  });
   return tabella;
 }
 

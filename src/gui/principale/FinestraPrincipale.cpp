@@ -20,6 +20,7 @@
 #include <algorithm>
 
 #include "gui/archivio/AvvioAggiornamento.h"
+#include "gui/comuni/IconaApplicazione.h"
 #include "gui/principale/DialogoImpostazioni.h"
 #include "gui/principale/Finestre.h"
 #include "gui/principale/GiocoFinestra.h"
@@ -119,6 +120,13 @@ void FinestraPrincipale::CreaMenu() {
          [this] { AggiungiFinestra(NuovaFinestraAmbi(m_contesto), Icona(kIconaTabellone)); });
   azione(statistiche, QStringLiteral("&Ciclometria"), "azioneCiclometria",
          [this] { AggiungiFinestra(NuovaFinestraCiclometria(m_contesto), Icona(kIconaTabellone)); });
+  statistiche->addSeparator();
+  azione(statistiche, QStringLiteral("&Storia del ritardo..."), "azioneStoriaRitardo",
+         [this] { AggiungiFinestra(NuovaStoriaRitardo(m_contesto), IconaApplicazione()); });
+  azione(statistiche, QStringLiteral("&Frequenze dei numeri"), "azioneFrequenze",
+         [this] { AggiungiFinestra(NuovoGraficoFrequenze(m_contesto), IconaApplicazione()); });
+  azione(statistiche, QStringLiteral("&Mappa dei ritardi"), "azioneMappaRitardi",
+         [this] { AggiungiFinestra(NuovaMappaRitardi(m_contesto), IconaApplicazione()); });
 
   QMenu* giocate = menuBar()->addMenu(QStringLiteral("&Giocate"));
   QAction* agenda = azione(giocate, QStringLiteral("&Agenda delle giocate"), "azioneAgenda", [this] { ApriAgenda(); });

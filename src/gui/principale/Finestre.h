@@ -6,6 +6,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <vector>
+
 #include "gui/principale/ContestoGui.h"
 
 namespace lottolab::gui {
@@ -31,6 +33,17 @@ QWidget* NuovaFinestraAgenda(ContestoGui& contesto, QWidget* parent = nullptr);
 // How many wins of the agenda the user has not seen yet; 0 when there is no agenda. Reads the file on
 // the caller's thread: a quick query.
 Esito<int> VinciteDaVedere(const app::Configurazione& configurazione);
+// The delay of one to five numbers (sorte: as many as they are) on a wheel or on all (12), draw by
+// draw over inizio..fine (0 for the first and the last draw), on a time axis to zoom and scroll; with
+// no numbers the window waits for them. ApriStoriaRitardo opens it beside `vicino`, in its area.
+QWidget* NuovaStoriaRitardo(ContestoGui& contesto, const std::vector<int>& numeri = {}, int ruota = kTutteLeRuote,
+                            int inizio = 0, int fine = 0, QWidget* parent = nullptr);
+void ApriStoriaRitardo(QWidget* vicino, ContestoGui& contesto, const std::vector<int>& numeri, int ruota, int inizio,
+                       int fine);
+// The frequency of the 90 numbers on a wheel or on all over a period, against the expected one.
+QWidget* NuovoGraficoFrequenze(ContestoGui& contesto, QWidget* parent = nullptr);
+// The heat map of the delays of the 90 numbers on every wheel at any end draw.
+QWidget* NuovaMappaRitardi(ContestoGui& contesto, QWidget* parent = nullptr);
 // The editor of user figures; with a file, the structure read from it.
 QWidget* NuovoEditorStrutture(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);
 

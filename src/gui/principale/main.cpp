@@ -8,6 +8,7 @@
 
 #include "app/ErroreInatteso.h"
 #include "app/Percorsi.h"
+#include "gui/comuni/IconaApplicazione.h"
 #include "gui/principale/ContestoGui.h"
 #include "gui/principale/FinestraPrincipale.h"
 
@@ -60,6 +61,7 @@ void TraduciDialoghiQt(QApplication& applicazione) {
 
 int Avvia(Applicazione& applicazione) {
   QApplication::setApplicationName(QStringLiteral("lottolab"));
+  QApplication::setWindowIcon(lottolab::gui::IconaApplicazione());
   TraduciDialoghiQt(applicazione);
 
   const auto base = lottolab::app::CartellaBase();

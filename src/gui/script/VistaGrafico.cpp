@@ -14,6 +14,7 @@
 #include <cmath>
 
 #include "disegno/CerchioCiclometrico.h"
+#include "gui/comuni/IconaApplicazione.h"
 
 namespace lottolab::gui {
 
@@ -149,6 +150,7 @@ VistaGrafico::VistaGrafico(script::DisegnoGrafico disegno, QWidget* parent)
   for (QAbstractSeries* serie : grafico->series()) serie->attachAxis(asse_y);
   setChart(grafico);
   setRenderHint(QPainter::Antialiasing);
+  setWindowIcon(IconaApplicazione());
   setWindowTitle(m_disegno.titolo.empty() ? QStringLiteral("Grafico") : QString::fromStdString(m_disegno.titolo));
   resize(std::min(m_disegno.impaginazione.larghezza, kLarghezzaFinestra),
          std::min(m_disegno.impaginazione.altezza, kAltezzaFinestra));

@@ -2,7 +2,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -19,7 +18,6 @@
 #include "gui/comuni/EsportaTabella.h"
 #include "gui/principale/Finestre.h"
 #include "gui/principale/GiocoFinestra.h"
-#include "gui/tabellone/GraficoRitardi.h"
 #include "gui/tabellone/ModelloTabellone.h"
 #include "gui/tabellone/TabelloneLegenda.h"
 #include "gui/tabellone/TabelloneSceltaRuote.h"
@@ -27,13 +25,6 @@
 namespace lottolab::gui {
 
 namespace {
-
-// The multi-document area the widget sits in, if any: charts open beside the table there.
-QMdiArea* AreaAntenata(QWidget* widget) {
-  for (QWidget* antenato = widget->parentWidget(); antenato != nullptr; antenato = antenato->parentWidget())
-    if (auto* area = qobject_cast<QMdiArea*>(antenato)) return area;
-  return nullptr;
-}
 
 // The chooser's data for the Lotto; each other game is its enum's value.
 constexpr int kSceltaLotto = -1;
@@ -256,13 +247,8 @@ void FinestraTabellone::Ricalcola() {
 void FinestraTabellone::ApriGrafico(const QModelIndex& indice) {
   if (m_modello->GiocoMostrato() || m_modello->Fine() == 0) return;
   const int riga = m_ordinamento->mapToSource(indice).row();
-  auto* grafico = new GraficoRitardi(*m_contesto.Archivio(), m_modello->Ruota(riga), m_modello->Numero(riga),
-                                     m_modello->Fine(), m_inizio->value());
-  grafico->setAttribute(Qt::WA_DeleteOnClose);
-  if (QMdiArea* area = AreaAntenata(this))
-    area->addSubWindow(grafico)->show();
-  else
-    grafico->show();
+  ApriStoriaRitardo(this, m_contesto, {m_modello->Numero(riga)}, m_modello->Ruota(riga), m_inizio->value(),
+                    m_modello->Fine());
 }
 
 }  // namespace

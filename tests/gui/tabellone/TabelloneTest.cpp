@@ -1,5 +1,4 @@
 #include <QBrush>
-#include <QChart>
 #include <QSortFilterProxyModel>
 #include <QTest>
 
@@ -13,7 +12,6 @@
 
 #include "archive/TabellaEstrazioni.h"
 #include "gui/comuni/ScalaRitardo.h"
-#include "gui/tabellone/GraficoRitardi.h"
 #include "gui/tabellone/ModelloTabellone.h"
 
 namespace lottolab::gui {
@@ -235,32 +233,6 @@ class TabelloneTest : public QObject {
       const double contrasto = (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
       QVERIFY2(contrasto >= 4.5, qPrintable(QString("contrasto %1 al %2%").arg(contrasto).arg(passo)));
     }
-  }
-
-  void IlGraficoHaUnPuntoPerEstrazioneConIlRitardoDopoDiEssa() {
-    const TabellaEstrazioni tab = ArchivioAMano();
-    struct Caso {
-      int ruota;
-      std::vector<int> ritardi;
-    };
-    // Nazionale neither counts nor breaks a run before draw 5, Firenze in draw 10.
-    const std::vector<Caso> casi{
-        {BA, {1, 2, 0, 1, 2, 3, 4, 0, 1, 2, 3, 4}},
-        {FI, {1, 0, 1, 2, 3, 4, 5, 6, 7, 7, 8, 9}},
-        {NZ, {0, 0, 0, 0, 1, 0, 1, 2, 3, 4, 5, 6}},
-    };
-    for (const Caso& caso : casi) {
-      const GraficoRitardi grafico(tab, caso.ruota, 7, 12);
-      const QList<QPointF> punti = grafico.Serie().points();
-      QCOMPARE(punti.size(), 12);
-      for (int k = 1; k <= 12; ++k) {
-        QCOMPARE(punti[k - 1].x(), static_cast<double>(k));
-        QCOMPARE(punti[k - 1].y(), static_cast<double>(caso.ritardi[static_cast<size_t>(k - 1)]));
-      }
-    }
-    const GraficoRitardi fino_alla_sesta(tab, NZ, 7, 6);
-    QCOMPARE(fino_alla_sesta.Serie().points().size(), 6);
-    QCOMPARE(fino_alla_sesta.chart()->title(), QString("Ritardo del 7 su Nazionale"));
   }
 };
 
