@@ -119,6 +119,15 @@ void FinestraPrincipale::CreaMenu() {
          [this] { AggiungiFinestra(NuovaFinestraAmbi(m_contesto), Icona(kIconaTabellone)); });
   azione(statistiche, QStringLiteral("&Ciclometria"), "azioneCiclometria",
          [this] { AggiungiFinestra(NuovaFinestraCiclometria(m_contesto), Icona(kIconaTabellone)); });
+  statistiche->addSeparator();
+  azione(statistiche, QStringLiteral("Numeri s&pia"), "azioneSpia",
+         [this] { AggiungiFinestra(NuovaFinestraSpia(m_contesto), Icona(kIconaTabellone)); });
+  azione(statistiche, QStringLiteral("&Sincroni"), "azioneSincroni",
+         [this] { AggiungiFinestra(NuovaFinestraSincroni(m_contesto), Icona(kIconaTabellone)); });
+  azione(statistiche, QStringLiteral("&Isotopi"), "azioneIsotopi",
+         [this] { AggiungiFinestra(NuovaFinestraIsotopi(m_contesto), Icona(kIconaTabellone)); });
+  azione(statistiche, QStringLiteral("&Previsioni salvate"), "azionePrevisioni",
+         [this] { AggiungiFinestra(NuovaFinestraPrevisioni(m_contesto), Icona(kIconaTabellone)); });
 
   QMenu* giocate = menuBar()->addMenu(QStringLiteral("&Giocate"));
   QAction* agenda = azione(giocate, QStringLiteral("&Agenda delle giocate"), "azioneAgenda", [this] { ApriAgenda(); });

@@ -31,6 +31,15 @@ QWidget* NuovaFinestraAgenda(ContestoGui& contesto, QWidget* parent = nullptr);
 // How many wins of the agenda the user has not seen yet; 0 when there is no agenda. Reads the file on
 // the caller's thread: a quick query.
 Esito<int> VinciteDaVedere(const app::Configurazione& configurazione);
+// The numbers that followed a number or an ambo on a wheel within the next draws, with the current
+// situation.
+QWidget* NuovaFinestraSpia(ContestoGui& contesto, QWidget* parent = nullptr);
+// The numbers drawn with a number in the same draw, on its wheel or on any wheel.
+QWidget* NuovaFinestraSincroni(ContestoGui& contesto, QWidget* parent = nullptr);
+// The numbers drawn in the same position on two or more wheels, by draw and by number and position.
+QWidget* NuovaFinestraIsotopi(ContestoGui& contesto, QWidget* parent = nullptr);
+// The forecasts scripts saved with SalvaPrevisione, checked against the later draws; removal.
+QWidget* NuovaFinestraPrevisioni(ContestoGui& contesto, QWidget* parent = nullptr);
 // The editor of user figures; with a file, the structure read from it.
 QWidget* NuovoEditorStrutture(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);
 
