@@ -5,6 +5,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 #include "ArgomentiPremi.h"
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
@@ -26,6 +28,7 @@ Result<Variant> SalvaPrevisione(Libreria& lib, CallArgs& args) {
   previsione.numeri = std::move(numeri);
   VBS_TRY_ASSIGN(auto ruote, RuoteDellaGiocata(args, 1));
   previsione.ruote = std::move(ruote);
+  std::ranges::sort(previsione.ruote);
   VBS_TRY_ASSIGN(auto colpi, ColpiArgomento(args, 2));
   previsione.colpi = colpi;
   const int ultima = archivio->EstrazioniArchivio();

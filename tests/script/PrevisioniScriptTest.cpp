@@ -42,12 +42,12 @@ class Previsioni : public Libreria {
 };
 
 TEST_F(Previsioni, LoScriptSalvaELaPrevisioneSiRilegge) {
-  EXPECT_EQ(Testo("SalvaPrevisione(Array(91, 45), Array(BA_, NZ_), 9, 4, \"ambo per Natale\")"), "1");
+  EXPECT_EQ(Testo("SalvaPrevisione(Array(91, 45), Array(NZ_, BA_), 9, 4, \"ambo per Natale\")"), "1");
   EXPECT_EQ(Testo("SalvaPrevisione(Array(3), TT_, 18)"), "2");
   ASSERT_TRUE(m_ospite.avvisi.empty()) << m_ospite.avvisi.front().testo;
   const auto salvate = Salvate();
   ASSERT_EQ(salvate.size(), 2U);
-  // 91 is brought into 1..90; NZ_ is the table's wheel 11; TT_ the ten city wheels.
+  // 91 is brought into 1..90; NZ_ is the table's wheel 11, kept after Bari; TT_ the ten city wheels.
   EXPECT_EQ(salvate[0].numeri, (std::vector<int>{1, 45}));
   EXPECT_EQ(salvate[0].ruote, (std::vector<int>{BA, NZ}));
   EXPECT_EQ(salvate[0].id_estr, 4);
@@ -76,11 +76,13 @@ TEST_F(Previsioni, GliArgomentiOstiliNonScrivonoNulla) {
   EXPECT_TRUE(Salvate().empty());
 }
 
-TEST_F(Libreria, SenzaAgendaOInModalitaProtettaNonSiSalva) {
+TEST_F(Libreria, SenzaAgendaNonSiSalva) {
   Avvia(DieciEstrazioni());
   EXPECT_TRUE(Vuoto("SalvaPrevisione(Array(1), Array(BA_), 3)"));
   AvvisoErrore5("SalvaPrevisione", "Nessun archivio delle previsioni", "no agenda");
+}
 
+TEST_F(Libreria, InModalitaProtettaNonSiSalva) {
   test::CartellaTemporanea cartella;
   ImpostazioniLibreria impostazioni;
   impostazioni.modalita = Modalita::Protetta;

@@ -4,6 +4,8 @@
 #include <QColor>
 #include <QStringList>
 
+#include <algorithm>
+
 #include "stats/RegolePremi.h"
 
 namespace lottolab::gui {
@@ -12,7 +14,10 @@ namespace {
 
 using previsioni::StatoPrevisione;
 
-QString Sigle(const std::vector<int>& ruote) {
+QString Sigle(std::vector<int> ruote) {
+  std::ranges::sort(ruote);
+  // The ten city wheels are how the operator plays "all": one short name for them.
+  if (ruote == std::vector<int>{BA, CA, FI, GE, MI, NA, PA, RO, TO, VE}) return QStringLiteral("TT (10 città)");
   QStringList sigle;
   for (int r : ruote) sigle << QString::fromUtf8(SiglaRuota(r));
   return sigle.join(", ");

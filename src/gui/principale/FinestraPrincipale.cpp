@@ -126,7 +126,7 @@ void FinestraPrincipale::CreaMenu() {
          [this] { AggiungiFinestra(NuovaFinestraSincroni(m_contesto), Icona(kIconaTabellone)); });
   azione(statistiche, QStringLiteral("&Isotopi"), "azioneIsotopi",
          [this] { AggiungiFinestra(NuovaFinestraIsotopi(m_contesto), Icona(kIconaTabellone)); });
-  azione(statistiche, QStringLiteral("&Previsioni salvate"), "azionePrevisioni",
+  azione(statistiche, QStringLiteral("P&revisioni salvate"), "azionePrevisioni",
          [this] { AggiungiFinestra(NuovaFinestraPrevisioni(m_contesto), Icona(kIconaTabellone)); });
 
   QMenu* giocate = menuBar()->addMenu(QStringLiteral("&Giocate"));

@@ -85,7 +85,6 @@ QWidget* FinestraSpia::NuoveScelte() {
   m_secondo->setToolTip(QStringLiteral("Un secondo numero fa della spia un ambo"));
   m_ruota_spia = NuovaSceltaRuota("ruotaSpia", false);
   m_ruota_esito = NuovaSceltaRuota("ruotaEsito", true);
-  m_ruota_esito->setCurrentIndex(m_ruota_esito->count() - 1);
   m_colpi = new QSpinBox;
   m_colpi->setObjectName("colpiSpia");
   m_colpi->setRange(1, stats::kMassimiColpiSpia);

@@ -42,8 +42,8 @@ previsioni::Previsione Previsione(std::vector<int> numeri, std::vector<int> ruot
 
 // Won, lost, open and made at a draw the archive does not hold.
 std::vector<previsioni::Previsione> Esempi() {
-  return {Previsione({7, 10}, {BA, VE}, 2, 5), Previsione({55}, {VE}, 1, 3), Previsione({55}, {VE}, 4, 10),
-          Previsione({55}, {VE}, 99, 10)};
+  return {Previsione({7, 10}, {BA, VE}, 2, 5), Previsione({55}, {BA, CA, FI, GE, MI, NA, PA, RO, TO, VE}, 1, 3),
+          Previsione({55}, {VE}, 4, 10), Previsione({55}, {VE}, 99, 10)};
 }
 
 }  // namespace
@@ -64,6 +64,7 @@ class PrevisioniGuiTest : public QObject {
     QCOMPARE(esito(3), QStringLiteral("fatta all'estrazione 99, che l'archivio non ha"));
     QCOMPARE(modello.index(0, ModelloPrevisioni::kColonnaNumeri).data().toString(), QStringLiteral("07-10"));
     QCOMPARE(modello.index(0, ModelloPrevisioni::kColonnaRuote).data().toString(), QStringLiteral("BA, VE"));
+    QCOMPARE(modello.index(1, ModelloPrevisioni::kColonnaRuote).data().toString(), QStringLiteral("TT (10 città)"));
     QCOMPARE(modello.index(0, ModelloPrevisioni::kColonnaFatta).data().toString(),
              QStringLiteral("estr. 2 del 02/05/2005"));
     // Sorted by outcome: won, open, lost, then those that cannot be judged.
