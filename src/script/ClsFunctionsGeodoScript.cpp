@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <unordered_map>
 
+#include "FunzioniPrevisioni.h"
 #include "text/AsciiCase.h"
 #include "text/Utf.h"
 #include "vbscript/runtime/Interpreter.h"
@@ -55,6 +56,7 @@ const Tabella& TabellaCompleta() {
                           FunzioniGiocate(),
                           FunzioniGiocateGiochi(),
                           FunzioniGiocateAgenda(),
+                          FunzioniPrevisioni(),
                           FunzioniEsiti(),
                           FunzioniEsitiGiochi(),
                           FunzioniPremi(),

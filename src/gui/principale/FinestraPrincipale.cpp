@@ -127,6 +127,14 @@ void FinestraPrincipale::CreaMenu() {
          [this] { AggiungiFinestra(NuovoGraficoFrequenze(m_contesto), IconaApplicazione()); });
   azione(statistiche, QStringLiteral("&Mappa dei ritardi"), "azioneMappaRitardi",
          [this] { AggiungiFinestra(NuovaMappaRitardi(m_contesto), IconaApplicazione()); });
+  azione(statistiche, QStringLiteral("Numeri s&pia"), "azioneSpia",
+         [this] { AggiungiFinestra(NuovaFinestraSpia(m_contesto), Icona(kIconaTabellone)); });
+  azione(statistiche, QStringLiteral("&Sincroni"), "azioneSincroni",
+         [this] { AggiungiFinestra(NuovaFinestraSincroni(m_contesto), Icona(kIconaTabellone)); });
+  azione(statistiche, QStringLiteral("&Isotopi"), "azioneIsotopi",
+         [this] { AggiungiFinestra(NuovaFinestraIsotopi(m_contesto), Icona(kIconaTabellone)); });
+  azione(statistiche, QStringLiteral("P&revisioni salvate"), "azionePrevisioni",
+         [this] { AggiungiFinestra(NuovaFinestraPrevisioni(m_contesto), Icona(kIconaTabellone)); });
 
   QMenu* giocate = menuBar()->addMenu(QStringLiteral("&Giocate"));
   QAction* agenda = azione(giocate, QStringLiteral("&Agenda delle giocate"), "azioneAgenda", [this] { ApriAgenda(); });

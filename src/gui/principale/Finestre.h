@@ -44,6 +44,15 @@ void ApriStoriaRitardo(QWidget* vicino, ContestoGui& contesto, const std::vector
 QWidget* NuovoGraficoFrequenze(ContestoGui& contesto, QWidget* parent = nullptr);
 // The heat map of the delays of the 90 numbers on every wheel at any end draw.
 QWidget* NuovaMappaRitardi(ContestoGui& contesto, QWidget* parent = nullptr);
+// The numbers that followed a number or an ambo on a wheel within the next draws, with the current
+// situation.
+QWidget* NuovaFinestraSpia(ContestoGui& contesto, QWidget* parent = nullptr);
+// The numbers drawn with a number in the same draw, on its wheel or on any wheel.
+QWidget* NuovaFinestraSincroni(ContestoGui& contesto, QWidget* parent = nullptr);
+// The numbers drawn in the same position on two or more wheels, by draw and by number and position.
+QWidget* NuovaFinestraIsotopi(ContestoGui& contesto, QWidget* parent = nullptr);
+// The forecasts scripts saved with SalvaPrevisione, checked against the later draws; removal.
+QWidget* NuovaFinestraPrevisioni(ContestoGui& contesto, QWidget* parent = nullptr);
 // The editor of user figures; with a file, the structure read from it.
 QWidget* NuovoEditorStrutture(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);
 
