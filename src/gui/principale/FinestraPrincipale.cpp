@@ -119,6 +119,15 @@ void FinestraPrincipale::CreaMenu() {
          [this] { AggiungiFinestra(NuovaFinestraAmbi(m_contesto), Icona(kIconaTabellone)); });
   azione(statistiche, QStringLiteral("&Ciclometria"), "azioneCiclometria",
          [this] { AggiungiFinestra(NuovaFinestraCiclometria(m_contesto), Icona(kIconaTabellone)); });
+  statistiche->addSeparator();
+  azione(statistiche, QStringLiteral("&Ricerca estrazioni"), "azioneRicercaEstrazioni",
+         [this] { AggiungiFinestra(NuovaFinestraRicercaEstrazioni(m_contesto), Icona(kIconaTabellone)); });
+  azione(statistiche, QStringLiteral("&Frequenze per periodo"), "azioneFrequenzePeriodo",
+         [this] { AggiungiFinestra(NuovaFinestraFrequenzePeriodo(m_contesto), Icona(kIconaTabellone)); });
+  azione(statistiche, QStringLiteral("&Somme"), "azioneSomme",
+         [this] { AggiungiFinestra(NuovaFinestraSomme(m_contesto), Icona(kIconaTabellone)); });
+  azione(statistiche, QStringLiteral("Cadenze, figure e &decine"), "azioneClassiNumeri",
+         [this] { AggiungiFinestra(NuovaFinestraClassiNumeri(m_contesto), Icona(kIconaTabellone)); });
 
   QMenu* giocate = menuBar()->addMenu(QStringLiteral("&Giocate"));
   QAction* agenda = azione(giocate, QStringLiteral("&Agenda delle giocate"), "azioneAgenda", [this] { ApriAgenda(); });
