@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -30,10 +31,14 @@ stats::EstrazioniPerAnalisi ArchivioDaAnalizzare::PerAnalisi() const {
 
 SceltaEstrazioni::SceltaEstrazioni(std::span<const Gioco> giochi, ConDate con_date, QWidget* parent)
     : QWidget(parent), m_giochi(giochi.begin(), giochi.end()), m_gioco(new QComboBox), m_ruote(new QWidget) {
-  auto* riga = new QHBoxLayout(this);
-  riga->setContentsMargins(0, 0, 0, 0);
+  // The wheels take a line of their own: with the dates beside them they would not fit 1024 pixels.
+  auto* righe = new QVBoxLayout(this);
+  righe->setContentsMargins(0, 0, 0, 0);
+  auto* riga = new QHBoxLayout;
+  righe->addLayout(riga);
   riga->addWidget(new QLabel(QStringLiteral("Gioco:")));
   m_gioco->setObjectName("sceltaGioco");
+  m_gioco->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   m_gioco->addItem(QStringLiteral("Lotto"));
   for (Gioco gioco : m_giochi) m_gioco->addItem(QString::fromUtf8(Formato(gioco).nome));
   riga->addWidget(m_gioco);
@@ -59,8 +64,11 @@ SceltaEstrazioni::SceltaEstrazioni(std::span<const Gioco> giochi, ConDate con_da
   });
   ruote->addWidget(tutte);
   riga->addWidget(m_ruote);
+  riga->addStretch();
 
   if (con_date == ConDate::Si) {
+    riga = new QHBoxLayout;
+    righe->addLayout(riga);
     auto nuova_data = [&](const QString& etichetta, const QString& nome, QCheckBox*& casella, QDateEdit*& data) {
       casella = new QCheckBox(etichetta);
       casella->setObjectName(nome + QStringLiteral("Spunta"));
@@ -71,14 +79,14 @@ SceltaEstrazioni::SceltaEstrazioni(std::span<const Gioco> giochi, ConDate con_da
       data->setCalendarPopup(true);
       data->setEnabled(false);
       connect(casella, &QCheckBox::toggled, data, &QDateEdit::setEnabled);
-      riga->addSpacing(8);
       riga->addWidget(casella);
       riga->addWidget(data);
     };
     nuova_data(QStringLiteral("Dal"), QStringLiteral("dataDal"), m_con_dal, m_dal);
-    nuova_data(QStringLiteral("al"), QStringLiteral("dataAl"), m_con_al, m_al);
+    riga->addSpacing(8);
+    nuova_data(QStringLiteral("Al"), QStringLiteral("dataAl"), m_con_al, m_al);
+    riga->addStretch();
   }
-  riga->addStretch();
   connect(m_gioco, &QComboBox::currentIndexChanged, this, &SceltaEstrazioni::CambiaGioco);
 }
 

@@ -5,7 +5,6 @@
 #include <QVBoxLayout>
 
 #include "gui/comuni/CalcoloAnnullabile.h"
-#include "gui/comuni/ScalaRitardo.h"
 #include "gui/comuni/SceltaEstrazioni.h"
 #include "gui/comuni/TabellaAnalisi.h"
 #include "gui/distribuzioni/ModelloClassiNumeri.h"
@@ -50,9 +49,10 @@ FinestraClassiNumeri::FinestraClassiNumeri(ContestoGui& contesto, QWidget* paren
   auto* riga = new QHBoxLayout;
   riga->addWidget(m_riassunto, 1);
   riga->addWidget(calcola);
-  auto* legenda = new QLabel(QStringLiteral("Ogni classe si segue come un'unica combinazione: esce quando esce uno "
-                                            "qualsiasi dei suoi numeri su una delle ruote scelte. ") +
-                             DescrizioneScalaRitardo());
+  auto* legenda = new QLabel(QStringLiteral(
+      "Ogni classe si segue come un'unica combinazione: esce quando esce uno qualsiasi dei suoi numeri su una delle "
+      "ruote scelte. Il colore del ritardo lo confronta con il ritardo storico della classe: bianco appena uscita, "
+      "rosso pieno quando lo eguaglia."));
   legenda->setWordWrap(true);
 
   auto* colonna = new QVBoxLayout(this);

@@ -52,7 +52,9 @@ QVariant ModelloClassiNumeri::data(const QModelIndex& indice, int ruolo) const {
     return QBrush(SfondoRitardo(QuotaDelloStorico(classe.ritardo, classe.storico)));
   if (ruolo == Qt::ForegroundRole && colonna == kRitardo && !vuota)
     return QBrush(TestoSuSfondo(SfondoRitardo(QuotaDelloStorico(classe.ritardo, classe.storico))));
-  if (ruolo == Qt::ToolTipRole && colonna == kRitardo) return DescrizioneScalaRitardo();
+  if (ruolo == Qt::ToolTipRole && colonna == kRitardo && !vuota)
+    return QStringLiteral("Il %1% del ritardo storico della classe")
+        .arg(static_cast<int>(QuotaDelloStorico(classe.ritardo, classe.storico) * 100 + 0.5));
   if (ruolo != Qt::DisplayRole && ruolo != kRuoloOrdinamento) return {};
   // A class of no numbers (a decade beyond the game's largest number) has nothing to count.
   auto cifra = [&](int valore) -> QVariant {

@@ -99,7 +99,7 @@ QVariant ModelloSomme::DatoValore(int riga, int colonna, int ruolo) const {
   switch (colonna) {
     case 0: return ruolo == kRuoloOrdinamento ? QVariant(valore.somma) : QString::number(valore.somma);
     case 1: return ruolo == kRuoloOrdinamento ? QVariant(valore.uscite) : QString::number(valore.uscite);
-    case 2: return Numero(valore.attese, 1, ruolo);
+    case 2: return Numero(valore.attese, 2, ruolo);
     case 3:
       return ruolo == kRuoloOrdinamento ? QVariant(valore.uscite - valore.attese)
                                         : TestoScarto(valore.uscite, valore.attese);
