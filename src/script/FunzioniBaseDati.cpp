@@ -20,7 +20,8 @@ Result<Variant> ApriFileBaseDati(Libreria& lib, CallArgs& args) {
   VBS_TRY(lib.Consenti(vbs::FileAccess::Read, file, "ApriFileBaseDati"));
   std::error_code ec;
   if (const auto dimensione = fs::file_size(file, ec); !ec && dimensione > kLimiteFileTesto)
-    return ArgomentoNonValido(fmt::format("Il file {} è troppo grande per un archivio delle estrazioni", file.string()));
+    return ArgomentoNonValido(
+        fmt::format("Il file {} è troppo grande per un archivio delle estrazioni", file.string()));
   auto tabella = ClsEstrazioni(file).CaricaEstrazioni();
   if (!tabella) return ArgomentoNonValido(tabella.Errore().testo);
   if (tabella->EstrazioniArchivio() == 0)

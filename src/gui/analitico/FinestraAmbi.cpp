@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QTableView>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -97,7 +98,9 @@ QWidget* FinestraAmbi::NuoveScelte() {
 }
 
 QTableView* FinestraAmbi::NuovaTabella(ModelloCombinazioni* modello, const char* nome, const QString& titolo) {
-  QTableView* tabella = NuovaTabellaAnalisi(modello, ModelloCombinazioni::kRuoloOrdinamento, nome, titolo, this);
+  QTableView* tabella = NuovaTabellaAnalisi(modello, ModelloCombinazioni::kRuoloOrdinamento, titolo);
+  tabella->setObjectName(nome);
+  tabella->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   tabella->sortByColumn(ModelloCombinazioni::kColonnaRitardo, Qt::DescendingOrder);
   return tabella;
 }

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <QTableView>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -101,8 +102,9 @@ QWidget* FinestraAnalitico::NuoveScelte() {
 }
 
 QTableView* FinestraAnalitico::NuovaTabella() {
-  QTableView* tabella =
-      NuovaTabellaAnalisi(m_modello, ModelloAnalitico::kRuoloOrdinamento, "tabellaAnalitico", windowTitle(), this);
+  QTableView* tabella = NuovaTabellaAnalisi(m_modello, ModelloAnalitico::kRuoloOrdinamento, windowTitle());
+  tabella->setObjectName("tabellaAnalitico");
+  tabella->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   tabella->sortByColumn(ModelloAnalitico::kColonnaNumero, Qt::AscendingOrder);
   tabella->horizontalHeader()->setMinimumSectionSize(tabella->fontMetrics().horizontalAdvance("Nazionale") + 12);
   connect(tabella, &QTableView::doubleClicked, this, [this, tabella](const QModelIndex& indice) {

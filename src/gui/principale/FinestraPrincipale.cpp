@@ -111,30 +111,53 @@ void FinestraPrincipale::CreaMenu() {
   azione(archivio, QStringLiteral("E&sci"), "azioneEsci", [this] { close(); })->setShortcut(QKeySequence::Quit);
 
   QMenu* statistiche = menuBar()->addMenu(QStringLiteral("&Statistiche"));
-  QAction* tabellone = azione(statistiche, QStringLiteral("&Tabellone"), "azioneTabellone",
-                              [this] { AggiungiFinestra(NuovoTabellone(m_contesto), Icona(kIconaTabellone)); });
-  tabellone->setIcon(Icona(kIconaTabellone));
-  azione(statistiche, QStringLiteral("Tabellone &analitico"), "azioneTabelloneAnalitico",
-         [this] { AggiungiFinestra(NuovoTabelloneAnalitico(m_contesto), Icona(kIconaTabellone)); });
-  azione(statistiche, QStringLiteral("A&mbi e terni ritardatari"), "azioneAmbi",
-         [this] { AggiungiFinestra(NuovaFinestraAmbi(m_contesto), Icona(kIconaTabellone)); });
-  azione(statistiche, QStringLiteral("&Ciclometria"), "azioneCiclometria",
-         [this] { AggiungiFinestra(NuovaFinestraCiclometria(m_contesto), Icona(kIconaTabellone)); });
+  auto finestra = [&](const QString& testo, const char* nome, auto nuova, const QIcon& icona) {
+    return azione(statistiche, testo, nome, [this, nuova, icona] { AggiungiFinestra(nuova(m_contesto), icona); });
+  };
+  const QIcon tavola = Icona(kIconaTabellone);
+  QAction* tabellone = finestra(
+      QStringLiteral("&Tabellone"), "azioneTabellone", [](ContestoGui& c) { return NuovoTabellone(c); }, tavola);
+  tabellone->setIcon(tavola);
+  finestra(
+      QStringLiteral("Tabellone &analitico"), "azioneTabelloneAnalitico",
+      [](ContestoGui& c) { return NuovoTabelloneAnalitico(c); }, tavola);
+  finestra(
+      QStringLiteral("Am&bi e terni ritardatari"), "azioneAmbi", [](ContestoGui& c) { return NuovaFinestraAmbi(c); },
+      tavola);
+  finestra(
+      QStringLiteral("&Storia del ritardo..."), "azioneStoriaRitardo",
+      [](ContestoGui& c) { return NuovaStoriaRitardo(c); }, IconaApplicazione());
+  finestra(
+      QStringLiteral("&Mappa dei ritardi"), "azioneMappaRitardi", [](ContestoGui& c) { return NuovaMappaRitardi(c); },
+      IconaApplicazione());
   statistiche->addSeparator();
-  azione(statistiche, QStringLiteral("&Storia del ritardo..."), "azioneStoriaRitardo",
-         [this] { AggiungiFinestra(NuovaStoriaRitardo(m_contesto), IconaApplicazione()); });
-  azione(statistiche, QStringLiteral("&Frequenze dei numeri"), "azioneFrequenze",
-         [this] { AggiungiFinestra(NuovoGraficoFrequenze(m_contesto), IconaApplicazione()); });
-  azione(statistiche, QStringLiteral("&Mappa dei ritardi"), "azioneMappaRitardi",
-         [this] { AggiungiFinestra(NuovaMappaRitardi(m_contesto), IconaApplicazione()); });
-  azione(statistiche, QStringLiteral("Numeri s&pia"), "azioneSpia",
-         [this] { AggiungiFinestra(NuovaFinestraSpia(m_contesto), Icona(kIconaTabellone)); });
-  azione(statistiche, QStringLiteral("&Sincroni"), "azioneSincroni",
-         [this] { AggiungiFinestra(NuovaFinestraSincroni(m_contesto), Icona(kIconaTabellone)); });
-  azione(statistiche, QStringLiteral("&Isotopi"), "azioneIsotopi",
-         [this] { AggiungiFinestra(NuovaFinestraIsotopi(m_contesto), Icona(kIconaTabellone)); });
-  azione(statistiche, QStringLiteral("P&revisioni salvate"), "azionePrevisioni",
-         [this] { AggiungiFinestra(NuovaFinestraPrevisioni(m_contesto), Icona(kIconaTabellone)); });
+  finestra(
+      QStringLiteral("&Ricerca estrazioni"), "azioneRicercaEstrazioni",
+      [](ContestoGui& c) { return NuovaFinestraRicercaEstrazioni(c); }, tavola);
+  finestra(
+      QStringLiteral("&Frequenze dei numeri"), "azioneFrequenze",
+      [](ContestoGui& c) { return NuovoGraficoFrequenze(c); }, IconaApplicazione());
+  finestra(
+      QStringLiteral("Frequenze per peri&odo"), "azioneFrequenzePeriodo",
+      [](ContestoGui& c) { return NuovaFinestraFrequenzePeriodo(c); }, tavola);
+  finestra(
+      QStringLiteral("Somm&e"), "azioneSomme", [](ContestoGui& c) { return NuovaFinestraSomme(c); }, tavola);
+  finestra(
+      QStringLiteral("Cadenze, figure e &decine"), "azioneClassiNumeri",
+      [](ContestoGui& c) { return NuovaFinestraClassiNumeri(c); }, tavola);
+  statistiche->addSeparator();
+  finestra(
+      QStringLiteral("Numeri s&pia"), "azioneSpia", [](ContestoGui& c) { return NuovaFinestraSpia(c); }, tavola);
+  finestra(
+      QStringLiteral("Si&ncroni"), "azioneSincroni", [](ContestoGui& c) { return NuovaFinestraSincroni(c); }, tavola);
+  finestra(
+      QStringLiteral("&Isotopi"), "azioneIsotopi", [](ContestoGui& c) { return NuovaFinestraIsotopi(c); }, tavola);
+  finestra(
+      QStringLiteral("Pre&visioni salvate"), "azionePrevisioni",
+      [](ContestoGui& c) { return NuovaFinestraPrevisioni(c); }, tavola);
+  finestra(
+      QStringLiteral("&Ciclometria"), "azioneCiclometria", [](ContestoGui& c) { return NuovaFinestraCiclometria(c); },
+      tavola);
 
   QMenu* giocate = menuBar()->addMenu(QStringLiteral("&Giocate"));
   QAction* agenda = azione(giocate, QStringLiteral("&Agenda delle giocate"), "azioneAgenda", [this] { ApriAgenda(); });

@@ -27,6 +27,14 @@ QWidget* NuovoTabelloneAnalitico(ContestoGui& contesto, QWidget* parent = nullpt
 QWidget* NuovaFinestraAmbi(ContestoGui& contesto, QWidget* parent = nullptr);
 // A draw on the circle of the 90 numbers, its wheels chosen, with its figures.
 QWidget* NuovaFinestraCiclometria(ContestoGui& contesto, QWidget* parent = nullptr);
+// The draws of any game that pass filters of dates, wheels and numbers, each shown whole on demand.
+QWidget* NuovaFinestraRicercaEstrazioni(ContestoGui& contesto, QWidget* parent = nullptr);
+// The frequency of every number in each year, each month of a year or each group of draws.
+QWidget* NuovaFinestraFrequenzePeriodo(ContestoGui& contesto, QWidget* parent = nullptr);
+// The sums of the draws' numbers: draw by draw, by value with count and delay, and by classes.
+QWidget* NuovaFinestraSomme(ContestoGui& contesto, QWidget* parent = nullptr);
+// Frequency and delays of the cadences, figures and decades on the chosen wheels.
+QWidget* NuovaFinestraClassiNumeri(ContestoGui& contesto, QWidget* parent = nullptr);
 // The agenda of the bets played: the list with the wins not seen yet, a new bet, the check, the
 // removal, a bet's check draw by draw, the totals, the export to CSV.
 QWidget* NuovaFinestraAgenda(ContestoGui& contesto, QWidget* parent = nullptr);
