@@ -334,6 +334,8 @@ void F_EditorStrutture::AdattaAltezzaGriglia() {
                       m_vista->horizontalScrollBar()->sizeHint().height();
   m_vista->setMaximumHeight(altezza);
   m_vista->setMinimumHeight(std::min(altezza, 200));
+  // The panels below take what the grid leaves, and only that.
+  if (auto* divisore = qobject_cast<QSplitter*>(m_vista->parentWidget())) divisore->setSizes({altezza, 1});
 }
 
 void F_EditorStrutture::Aggiorna() {
