@@ -7,6 +7,7 @@ packages=(
   libfmt-dev libzip-dev libcurl4-openssl-dev libsqlite3-dev libxlsxwriter-dev libpugixml-dev
   libgtest-dev libbenchmark-dev liblua5.4-dev
   qt6-base-dev qt6-charts-dev libqscintilla2-qt6-dev
+  qt6-translations-l10n
 )
 
 missing=()

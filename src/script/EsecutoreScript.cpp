@@ -31,7 +31,8 @@ class AllaFine {
 
 std::vector<std::string> VociTimeout() {
   std::vector<std::string> voci{"Infinito"};
-  for (int minuti = 1; minuti <= kMinutiMassimi; ++minuti) voci.push_back(fmt::format("{} minuti", minuti));
+  for (int minuti = 1; minuti <= kMinutiMassimi; ++minuti)
+    voci.push_back(fmt::format("{} {}", minuti, minuti == 1 ? "minuto" : "minuti"));
   return voci;
 }
 

@@ -30,7 +30,7 @@ namespace lottolab::script {
 // The template of a new script.
 inline constexpr std::string_view kModelloScript = "Option Explicit\n\nSub Main\n\nEnd Sub\n";
 
-// The entries of the time-out box: "Infinito", then "1 minuti" to "10 minuti".
+// The entries of the time-out box: "Infinito", then "1 minuto" to "10 minuti".
 std::vector<std::string> VociTimeout();
 // The longest time-out, in whole minutes, that the engine's milliseconds can hold (about 24 days).
 inline constexpr int32_t kMinutiTimeoutMassimi = INT32_MAX / 60000;

@@ -101,6 +101,8 @@ TEST(Timeout, EntriesOfTheBoxAndTheirMilliseconds) {
   const auto voci = VociTimeout();
   ASSERT_EQ(voci.size(), 11u);
   EXPECT_EQ(voci.front(), "Infinito");
+  EXPECT_EQ(voci[1], "1 minuto");
+  EXPECT_EQ(TimeoutDaVoce(1, voci[1]), 60000);
   EXPECT_EQ(voci[3], "3 minuti");
   EXPECT_EQ(TimeoutDaVoce(0, voci[0]), -1);
   EXPECT_EQ(TimeoutDaVoce(3, voci[3]), 180000);

@@ -26,6 +26,7 @@
 #include "gui/agenda/EsportaCsv.h"
 #include "gui/agenda/ModelloAgenda.h"
 #include "gui/agenda/ModelloVerifiche.h"
+#include "gui/comuni/CopiaRighe.h"
 #include "gui/comuni/EsportaTabella.h"
 #include "gui/comuni/LavoroConProgresso.h"
 #include "gui/principale/Finestre.h"
@@ -39,11 +40,12 @@ QTableView* NuovaTabella(const QString& nome) {
   auto* tabella = new QTableView;
   tabella->setObjectName(nome);
   tabella->setSelectionBehavior(QAbstractItemView::SelectRows);
-  tabella->setSelectionMode(QAbstractItemView::SingleSelection);
+  tabella->setSelectionMode(QAbstractItemView::ExtendedSelection);
   tabella->setEditTriggers(QAbstractItemView::NoEditTriggers);
   tabella->verticalHeader()->hide();
   tabella->verticalHeader()->setDefaultSectionSize(tabella->fontMetrics().height() + 8);
   tabella->horizontalHeader()->setHighlightSections(false);
+  AggiungiCopiaRighe(tabella);
   return tabella;
 }
 

@@ -1,4 +1,5 @@
 #include <QDateEdit>
+#include <QFontDatabase>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -8,6 +9,8 @@
 #include <QSplitter>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 #include "gui/archivio/AvvioAggiornamento.h"
 #include "gui/archivio/ModelloEstrazioni.h"
@@ -88,6 +91,7 @@ class FinestraArchivio : public QWidget {
               m_dettaglio->setText(TestoDettaglio(m_modello->Dettaglio(corrente.row())));
             });
     connect(vai, &QPushButton::clicked, this, &FinestraArchivio::VaiAllaData);
+    VaiConInvio(*m_data, [this] { VaiAllaData(); });
     connect(aggiorna, &QPushButton::clicked, this, [this] { AvviaAggiornamentoArchivio(m_contesto, this); });
     connect(&m_contesto, &ContestoGui::ArchivioCambiato, this, &FinestraArchivio::MostraArchivio);
     MostraArchivio();
@@ -106,7 +110,7 @@ class FinestraArchivio : public QWidget {
   void MostraArchivio() {
     const auto archivio = m_contesto.Archivio();
     m_modello->ImpostaTabella(archivio);
-    m_tabella->resizeColumnsToContents();
+    DimensionaColonne();
     m_esito_ricerca->clear();
     const int righe = m_modello->rowCount();
     if (righe == 0) {
@@ -115,6 +119,16 @@ class FinestraArchivio : public QWidget {
     }
     m_data->setDate(DataQt((*archivio)[righe].data));
     SelezionaRiga(righe - 1);
+  }
+
+  // Columns sized from the rows the view samples would cut the wheels those rows lack (the
+  // Nazionale exists from 2005 only): every wheel's column is as wide as a full wheel.
+  void DimensionaColonne() {
+    m_tabella->resizeColumnsToContents();
+    const QFontMetrics metriche(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    const int piena = metriche.horizontalAdvance(QStringLiteral("00 00 00 00 00")) + 16;
+    for (int colonna = ModelloEstrazioni::kPrimaColonnaRuota; colonna < m_modello->columnCount(); ++colonna)
+      m_tabella->setColumnWidth(colonna, std::max(m_tabella->columnWidth(colonna), piena));
   }
 
   void VaiAllaData() {

@@ -100,6 +100,7 @@ class FinestraArchivioGioco : public QWidget {
               m_dettaglio->setText(TestoDettaglio(m_modello->Dettaglio(corrente.row())));
             });
     connect(vai, &QPushButton::clicked, this, &FinestraArchivioGioco::VaiAllaData);
+    VaiConInvio(*m_data, [this] { VaiAllaData(); });
     connect(importa, &QPushButton::clicked, this, [this] { AvviaImportazioneGioco(m_contesto, m_gioco, this); });
     connect(&m_contesto, &ContestoGui::ArchiviGiochiCambiati, this, &FinestraArchivioGioco::MostraArchivio);
     MostraArchivio();

@@ -34,14 +34,17 @@ std::string TestoStatoArchivio(const ContestoGui& contesto) {
   const TabellaEstrazioni& archivio = *contesto.Archivio();
   const int estrazioni = archivio.EstrazioniArchivio();
   if (estrazioni == 0) return "Archivio vuoto: per riempirlo usa Archivio > Aggiorna archivio";
-  std::string testo =
-      fmt::format("Archivio: {} estrazioni, l'ultima del {}", estrazioni, FormattaData(archivio[estrazioni].data));
+  std::string testo = estrazioni == 1 ? fmt::format("Archivio: 1 estrazione, del {}", FormattaData(archivio[1].data))
+                                      : fmt::format("Archivio: {} estrazioni, l'ultima del {}", estrazioni,
+                                                    FormattaData(archivio[estrazioni].data));
   const RapportoArchivio& rapporto = contesto.Rapporto();
   if (!rapporto.LunghezzaIntera())
     testo += fmt::format(" - ATTENZIONE: {} byte oltre l'ultima estrazione intera", rapporto.byte_sparsi);
   if (rapporto.record_non_validi != 0) {
-    testo += fmt::format(" - ATTENZIONE: {} estrazioni non valide, la prima è la n. {}", rapporto.record_non_validi,
-                         rapporto.primo_non_valido);
+    testo += rapporto.record_non_validi == 1
+                 ? fmt::format(" - ATTENZIONE: 1 estrazione non valida, la n. {}", rapporto.primo_non_valido)
+                 : fmt::format(" - ATTENZIONE: {} estrazioni non valide, la prima è la n. {}",
+                               rapporto.record_non_validi, rapporto.primo_non_valido);
   }
   return testo;
 }

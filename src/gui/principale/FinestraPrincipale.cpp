@@ -1,6 +1,8 @@
 #include "gui/principale/FinestraPrincipale.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QDateTime>
 #include <QDynamicPropertyChangeEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -17,14 +19,13 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
-
 #include "gui/archivio/AvvioAggiornamento.h"
 #include "gui/comuni/IconaApplicazione.h"
 #include "gui/principale/DialogoImpostazioni.h"
 #include "gui/principale/Finestre.h"
 #include "gui/principale/GiocoFinestra.h"
 #include "gui/principale/Impostazioni.h"
+#include "gui/principale/PosizioneFinestra.h"
 #include "gui/principale/SegnalatoreGui.h"
 #include "gui/script/ScriptRecenti.h"
 #include "gui/strutture/StruttureModello.h"
@@ -41,6 +42,7 @@ constexpr QStyle::StandardPixmap kIconaTabellone = QStyle::SP_FileDialogListView
 constexpr QStyle::StandardPixmap kIconaScript = QStyle::SP_FileIcon;
 constexpr QStyle::StandardPixmap kIconaStrutture = QStyle::SP_FileDialogContentsView;
 constexpr QStyle::StandardPixmap kIconaAgenda = QStyle::SP_FileDialogInfoView;
+constexpr QStyle::StandardPixmap kIconaAiuto = QStyle::SP_DialogHelpButton;
 
 }  // namespace
 
@@ -187,6 +189,11 @@ void FinestraPrincipale::CreaMenu() {
   CompilaFinestre();
 
   QMenu* aiuto = menuBar()->addMenu(QStringLiteral("A&iuto"));
+  QAction* guida =
+      azione(aiuto, QStringLiteral("&Guida e funzioni degli script"), "azioneAiuto", [this] { ApriAiuto(); });
+  guida->setIcon(Icona(kIconaAiuto));
+  guida->setShortcut(QKeySequence::HelpContents);
+  aiuto->addSeparator();
   azione(aiuto, QStringLiteral("&Informazioni"), "azioneInformazioni", [this] { MostraInformazioni(); });
 
   QToolBar* barra = addToolBar(QStringLiteral("Strumenti"));
@@ -212,14 +219,12 @@ void FinestraPrincipale::AggiungiFinestra(QWidget* finestra, const QIcon& icona)
   QMdiSubWindow* sotto = m_area->addSubWindow(finestra);
   sotto->setAttribute(Qt::WA_DeleteOnClose);
   sotto->setWindowIcon(icona);
-  // A window opens large enough to be used at once, never larger than the area that holds it.
-  sotto->resize(sotto->sizeHint().expandedTo(m_area->size() * 3 / 4).boundedTo(m_area->size()));
+  const QSize area = m_area->viewport()->size();
+  sotto->resize(DimensioneNuovaFinestra(sotto->sizeHint(), area));
   sotto->show();
-  // The area cascades a new window from the last one: where that would carry it past the area's
-  // edge, it moves back so that all of it is in view.
-  const QRect dentro = sotto->geometry();
-  sotto->move(std::clamp(dentro.x(), 0, std::max(0, m_area->width() - dentro.width())),
-              std::clamp(dentro.y(), 0, std::max(0, m_area->height() - dentro.height())));
+  // The area cascades a new window from the last one; where that would carry it past an edge, it
+  // comes back so that all of it is in view.
+  sotto->move(PosizioneNuovaFinestra(sotto->geometry(), area));
 }
 
 void FinestraPrincipale::ApriScript(const QString& file) {
@@ -251,14 +256,23 @@ void FinestraPrincipale::ApriStruttura(const QString& file) {
   AggiungiFinestra(NuovoEditorStrutture(m_contesto, file), Icona(kIconaStrutture));
 }
 
-void FinestraPrincipale::ApriAgenda() {
-  // One agenda window is enough: a second click brings the open one forward.
+bool FinestraPrincipale::PortaAvanti(const QString& nome) {
   for (QMdiSubWindow* aperta : m_area->subWindowList())
-    if (aperta->widget() && aperta->widget()->objectName() == QStringLiteral("finestraAgenda")) {
+    if (aperta->widget() && aperta->widget()->objectName() == nome) {
       m_area->setActiveSubWindow(aperta);
-      return;
+      return true;
     }
-  AggiungiFinestra(NuovaFinestraAgenda(m_contesto), Icona(kIconaAgenda));
+  return false;
+}
+
+// One agenda window is enough: a second click brings the open one forward.
+void FinestraPrincipale::ApriAgenda() {
+  if (!PortaAvanti(QStringLiteral("finestraAgenda")))
+    AggiungiFinestra(NuovaFinestraAgenda(m_contesto), Icona(kIconaAgenda));
+}
+
+void FinestraPrincipale::ApriAiuto() {
+  if (!PortaAvanti(QStringLiteral("finestraAiuto"))) AggiungiFinestra(NuovaFinestraAiuto(), Icona(kIconaAiuto));
 }
 
 void FinestraPrincipale::MostraVinciteDaVedere() {
@@ -284,11 +298,16 @@ void FinestraPrincipale::ApriImpostazioni() {
 }
 
 void FinestraPrincipale::MostraInformazioni() {
+  // The program's file was written when it was last linked: that is the day of its build.
+  const QString compilato =
+      QFileInfo(QCoreApplication::applicationFilePath()).lastModified().toString(QStringLiteral("dd/MM/yyyy"));
   QMessageBox::about(this, QStringLiteral("Informazioni su lottolab"),
-                     QStringLiteral("<h3>lottolab</h3><p>Banco di lavoro per le statistiche del Lotto: archivio delle "
+                     QStringLiteral("<h3>lottolab %1</h3><p>Compilato il %2.</p>"
+                                    "<p>Banco di lavoro per le statistiche del Lotto: archivio delle "
                                     "estrazioni, ritardi e frequenze, script e figure.</p>"
-                                    "<p>Cartella di base: %1</p>")
-                         .arg(Percorso(m_contesto.Configurazione().base).toHtmlEscaped()));
+                                    "<p>Cartella di base: %3</p>")
+                         .arg(QStringLiteral(LOTTOLAB_VERSIONE), compilato,
+                              Percorso(m_contesto.Configurazione().base).toHtmlEscaped()));
 }
 
 void FinestraPrincipale::MostraArchivio() {

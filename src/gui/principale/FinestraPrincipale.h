@@ -44,6 +44,9 @@ class FinestraPrincipale : public QMainWindow {
   void ApriScriptScelto();
   void ApriStrutturaScelta();
   void ApriAgenda();
+  void ApriAiuto();
+  // Brings forward the open window of that object name; false when there is none.
+  bool PortaAvanti(const QString& nome);
   void MostraVinciteDaVedere();
   void ApriImpostazioni();
   void MostraInformazioni();

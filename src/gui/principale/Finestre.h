@@ -63,5 +63,8 @@ QWidget* NuovaFinestraIsotopi(ContestoGui& contesto, QWidget* parent = nullptr);
 QWidget* NuovaFinestraPrevisioni(ContestoGui& contesto, QWidget* parent = nullptr);
 // The editor of user figures; with a file, the structure read from it.
 QWidget* NuovoEditorStrutture(ContestoGui& contesto, const QString& file = {}, QWidget* parent = nullptr);
+// The help: a short guide for new users and the reference of the script library's names, searchable
+// by name.
+QWidget* NuovaFinestraAiuto(QWidget* parent = nullptr);
 
 }  // namespace lottolab::gui

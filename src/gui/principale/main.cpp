@@ -1,16 +1,14 @@
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QMessageBox>
 #include <QScreen>
 #include <QTimer>
-#include <QTranslator>
 
 #include "app/ErroreInatteso.h"
 #include "app/Percorsi.h"
 #include "gui/comuni/IconaApplicazione.h"
 #include "gui/principale/ContestoGui.h"
 #include "gui/principale/FinestraPrincipale.h"
+#include "gui/principale/TraduzioniQt.h"
 
 namespace {
 
@@ -51,18 +49,10 @@ class Applicazione : public QApplication {
   bool m_segnalazione_aperta = false;
 };
 
-// Qt's own dialogs (file chooser, colour picker, standard buttons) speak Italian like ours.
-void TraduciDialoghiQt(QApplication& applicazione) {
-  auto* traduttore = new QTranslator(&applicazione);
-  if (traduttore->load(QLocale(QLocale::Italian), QStringLiteral("qtbase"), QStringLiteral("_"),
-                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-    applicazione.installTranslator(traduttore);
-}
-
 int Avvia(Applicazione& applicazione) {
   QApplication::setApplicationName(QStringLiteral("lottolab"));
   QApplication::setWindowIcon(lottolab::gui::IconaApplicazione());
-  TraduciDialoghiQt(applicazione);
+  lottolab::gui::TraduciTestiQt(applicazione);
 
   const auto base = lottolab::app::CartellaBase();
   auto configurazione = lottolab::app::CaricaConfigurazione(base);

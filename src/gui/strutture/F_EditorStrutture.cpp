@@ -7,8 +7,8 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileSystemModel>
-#include <QFormLayout>
 #include <QGraphicsView>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -16,6 +16,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSortFilterProxyModel>
 #include <QSpinBox>
@@ -23,6 +24,8 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <cmath>
 #include <filesystem>
 
 #include "figures/FileStrutture.h"
@@ -114,15 +117,18 @@ F_EditorStrutture::F_EditorStrutture(ContestoGui& contesto, QWidget* parent)
 
   m_vista->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   m_vista->setDragMode(QGraphicsView::NoDrag);
+  // The grid is wide and short: it takes the window's width and only the height of its rows, and the
+  // panels share what is left below it.
   auto* pannelli = new QWidget;
-  auto* colonna = new QVBoxLayout(pannelli);
-  colonna->setContentsMargins(0, 0, 0, 0);
-  colonna->addWidget(CreaPannelloVertice());
-  colonna->addWidget(CreaPannelloCondizioni(), 1);
-  auto* divisore = new QSplitter;
+  auto* riga = new QHBoxLayout(pannelli);
+  riga->setContentsMargins(0, 0, 0, 0);
+  riga->addWidget(CreaPannelloVertice());
+  riga->addWidget(CreaPannelloCondizioni(), 1);
+  auto* divisore = new QSplitter(Qt::Vertical);
   divisore->addWidget(m_vista);
   divisore->addWidget(pannelli);
-  divisore->setStretchFactor(0, 1);
+  divisore->setStretchFactor(1, 1);
+  divisore->setCollapsible(0, false);
 
   auto* aiuto = new QLabel(
       "Clic su una cella: nuovo vertice. Clic su un vertice: lo seleziona; Ctrl+clic: "
@@ -146,7 +152,6 @@ F_EditorStrutture::F_EditorStrutture(ContestoGui& contesto, QWidget* parent)
 
   m_modello.Nuova(Estrazioni());
   AggiornaArchivio();
-  resize(1100, 520);
 }
 
 // The scene, a child, clears its selection while it is destroyed: by then the panel it would refresh
@@ -159,14 +164,19 @@ QWidget* F_EditorStrutture::CreaPannelloVertice() {
   RiempiVersi(m_verso_vert);
   RiempiVersi(m_verso_orizz);
   auto* elimina = new QPushButton("Elimina vertice");
-  auto* campi = new QFormLayout(m_vertice);
-  campi->addRow("Etichetta", m_caption);
-  campi->addRow(m_fulcro_orizz);
-  campi->addRow(m_fulcro_vert);
-  campi->addRow("Verso verticale", m_verso_vert);
-  campi->addRow("Verso orizzontale", m_verso_orizz);
-  campi->addRow(m_chiusura);
-  campi->addRow(elimina);
+  // Two columns keep the panel short, so that the grid above it keeps its height.
+  auto* campi = new QGridLayout(m_vertice);
+  campi->addWidget(new QLabel("Etichetta"), 0, 0);
+  campi->addWidget(m_caption, 0, 1);
+  campi->addWidget(elimina, 0, 2, 1, 2);
+  campi->addWidget(new QLabel("Verso verticale"), 1, 0);
+  campi->addWidget(m_verso_vert, 1, 1);
+  campi->addWidget(new QLabel("Verso orizzontale"), 1, 2);
+  campi->addWidget(m_verso_orizz, 1, 3);
+  campi->addWidget(m_fulcro_vert, 2, 0, 1, 2);
+  campi->addWidget(m_fulcro_orizz, 2, 2, 1, 2);
+  campi->addWidget(m_chiusura, 3, 0, 1, 2);
+  campi->setRowStretch(4, 1);
 
   // A refused caption is shown back as it was before the last key.
   connect(m_caption, &QLineEdit::textEdited, this, [this](const QString& testo) {
@@ -318,12 +328,23 @@ bool F_EditorStrutture::SalvaIn(const std::filesystem::path& file) {
   return salvata.Riuscito();
 }
 
+// The view is as tall as the grid's rows, with room for the scroll bar that a narrow window shows.
+void F_EditorStrutture::AdattaAltezzaGriglia() {
+  const int altezza = static_cast<int>(std::ceil(m_scena->sceneRect().height())) + 2 * m_vista->frameWidth() +
+                      m_vista->horizontalScrollBar()->sizeHint().height();
+  m_vista->setMaximumHeight(altezza);
+  m_vista->setMinimumHeight(std::min(altezza, 200));
+  // The panels below take what the grid leaves, and only that.
+  if (auto* divisore = qobject_cast<QSplitter*>(m_vista->parentWidget())) divisore->setSizes({altezza, 1});
+}
+
 void F_EditorStrutture::Aggiorna() {
   {
     // Drawing the grid anew clears and restores the selection: the panel is refreshed once, after.
     const QSignalBlocker blocco_scena(m_scena);
     m_scena->Mostra(*m_contesto.Archivio(), m_modello);
   }
+  AdattaAltezzaGriglia();
   {
     const QSignalBlocker blocco_estrazione(m_estrazione);
     m_estrazione->setValue(m_modello.Griglia().ultima_estrazione);

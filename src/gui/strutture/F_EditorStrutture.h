@@ -55,6 +55,7 @@ class F_EditorStrutture : public QWidget {
 
   // The grid, the panels and the title shown anew from the model.
   void Aggiorna();
+  void AdattaAltezzaGriglia();
   void AggiornaPannello();
   void AggiornaArchivio();
   // The Index of the one selected vertex; 0 when none or several are selected.

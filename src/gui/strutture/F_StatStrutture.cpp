@@ -18,6 +18,7 @@
 
 #include <algorithm>
 
+#include "gui/comuni/CopiaRighe.h"
 #include "gui/comuni/EsportaTabella.h"
 #include "gui/comuni/LavoroSenzaEccezioni.h"
 
@@ -148,6 +149,8 @@ F_StatStrutture::F_StatStrutture(ContestoGui& contesto, std::function<figures::S
   m_figure->verticalHeader()->setDefaultSectionSize(m_figure->fontMetrics().height() + 6);
   m_figure->setEditTriggers(QAbstractItemView::NoEditTriggers);
   m_figure->setSelectionBehavior(QAbstractItemView::SelectRows);
+  m_figure->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  AggiungiCopiaRighe(m_figure);
   m_figure->horizontalHeader()->setStretchLastSection(true);
   m_statistica->setTextFormat(Qt::RichText);
   m_statistica->setWordWrap(true);
@@ -243,9 +246,9 @@ void F_StatStrutture::Concludi() {
   }
   RisultatoRicerca risultato = std::move(**m_risultato);
   m_risultato.reset();
-  m_trovate->setText(QString("%1trovate %2 figure")
-                         .arg(risultato.interrotta ? "Ricerca interrotta: " : "")
-                         .arg(risultato.trovate.elenco.size()));
+  const size_t trovate = risultato.trovate.elenco.size();
+  m_trovate->setText(QString(risultato.interrotta ? "Ricerca interrotta: " : "") +
+                     (trovate == 1 ? QString("trovata 1 figura") : QString("trovate %1 figure").arg(trovate)));
   if (risultato.statistica) MostraStatistica(*risultato.statistica, m_colpi_cercati);
   m_modello->Mostra(m_archivio_cercato, std::move(risultato));
   m_figure->resizeColumnsToContents();
@@ -255,11 +258,11 @@ void F_StatStrutture::MostraStatistica(const figures::StatisticaStruttura& stati
   QString sorti;
   for (int sorte = 1; sorte <= 5; ++sorte)
     sorti += QString("<td>%1 <b>%2</b></td>").arg(kSorti[sorte]).arg(statistica.per_sorte[static_cast<size_t>(sorte)]);
-  m_statistica->setText(QString("<table cellspacing='6'><tr><td>In %1 colpi:</td>%2</tr>"
+  m_statistica->setText(QString("<table cellspacing='6'><tr><td>In %1:</td>%2</tr>"
                                 "<tr><td></td><td>negativi <b>%3</b></td><td>in corso <b>%4</b></td>"
                                 "<td>colpo medio <b>%5</b></td><td>ritardo <b>%6</b></td>"
                                 "<td>ritardo massimo <b>%7</b></td></tr></table>")
-                            .arg(colpi)
+                            .arg(colpi == 1 ? QString("1 colpo") : QString("%1 colpi").arg(colpi))
                             .arg(sorti)
                             .arg(statistica.negativi)
                             .arg(statistica.in_corso)

@@ -13,7 +13,7 @@ namespace lottolab::gui {
 namespace {
 
 constexpr qreal kLarghezzaCella = 25;
-constexpr qreal kAltezzaCella = 22;
+constexpr qreal kAltezzaCella = 22 + kFasciaEtichetta;
 constexpr qreal kLarghezzaEtichetta = 118;
 constexpr qreal kAltezzaIntestazione = 24;
 
@@ -29,6 +29,10 @@ GrigliaScena::GrigliaScena(QObject* parent) : QGraphicsScene(parent) {}
 QRectF GrigliaScena::Cella(int riga, int colonna) const {
   return QRectF(kLarghezzaEtichetta + (colonna - 1) * kLarghezzaCella,
                 kAltezzaIntestazione + (riga - m_griglia.prima_riga) * kAltezzaCella, kLarghezzaCella, kAltezzaCella);
+}
+
+QRectF GrigliaScena::Numero(int riga, int colonna) const {
+  return Cella(riga, colonna).adjusted(0, kFasciaEtichetta, 0, 0);
 }
 
 std::optional<std::pair<int, int>> GrigliaScena::CellaIn(QPointF punto) const {
@@ -61,7 +65,7 @@ void GrigliaScena::Mostra(const TabellaEstrazioni& tab, const StruttureModello& 
     const figures::ClsVertice* fine = modello.Vertice(linea.Fine);
     if (!inizio || !fine) continue;
     auto* tratto =
-        addLine(QLineF(Cella(inizio->Riga, inizio->Colonna).center(), Cella(fine->Riga, fine->Colonna).center()),
+        addLine(QLineF(Numero(inizio->Riga, inizio->Colonna).center(), Numero(fine->Riga, fine->Colonna).center()),
                 QPen(kColoreLinea, 2.5, Qt::SolidLine, Qt::RoundCap));
     tratto->setZValue(1);
   }
@@ -126,13 +130,14 @@ void GrigliaScena::drawBackground(QPainter* painter, const QRectF&) {
     const RigaMostrata& mostrata = m_righe[static_cast<size_t>(riga - m_griglia.prima_riga)];
     const QRectF prima = Cella(riga, 1);
     painter->setPen(Qt::darkGray);
-    painter->drawText(QRectF(4, prima.top(), kLarghezzaEtichetta - 8, kAltezzaCella), Qt::AlignVCenter | Qt::AlignRight,
-                      mostrata.etichetta);
+    painter->drawText(
+        QRectF(4, prima.top() + kFasciaEtichetta, kLarghezzaEtichetta - 8, kAltezzaCella - kFasciaEtichetta),
+        Qt::AlignVCenter | Qt::AlignRight, mostrata.etichetta);
     painter->setPen(Qt::black);
     for (int colonna = 1; colonna <= figures::kColonneTabella; ++colonna) {
       const int numero = mostrata.numeri[static_cast<size_t>(colonna - 1)];
       if (numero != 0)
-        painter->drawText(Cella(riga, colonna), Qt::AlignCenter, QString("%1").arg(numero, 2, 10, QChar('0')));
+        painter->drawText(Numero(riga, colonna), Qt::AlignCenter, QString("%1").arg(numero, 2, 10, QChar('0')));
     }
   }
 

@@ -44,6 +44,8 @@ class GrigliaScena : public QGraphicsScene {
   };
 
   QRectF Cella(int riga, int colonna) const;
+  // The part of the cell where its number is written, below the band of the captions.
+  QRectF Numero(int riga, int colonna) const;
   std::optional<std::pair<int, int>> CellaIn(QPointF punto) const;
 
   GrigliaEstrazioni m_griglia;

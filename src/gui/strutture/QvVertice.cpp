@@ -33,14 +33,13 @@ QvVertice::QvVertice(const figures::ClsVertice& vertice, int numero, const QRect
   setToolTip(suggerimento);
 }
 
-QRectF QvVertice::Disco() const { return m_cella.adjusted(1, 1, -1, -1); }
+QRectF QvVertice::Disco() const { return m_cella.adjusted(1, kFasciaEtichetta + 1, -1, -1); }
 
-// Above the cell's top right corner, so that the number stays readable.
+// Centred in the band at the top of the cell, as wide as the caption needs.
 QRectF QvVertice::Etichetta() const {
   const QFontMetricsF metriche(Carattere(6.5, true));
   const qreal larghezza = metriche.horizontalAdvance(QString::fromStdString(m_vertice.Caption)) + 4;
-  const qreal altezza = metriche.height();
-  return QRectF(m_cella.right() - 4, m_cella.top() - altezza + 4, larghezza, altezza);
+  return QRectF(m_cella.center().x() - larghezza / 2, m_cella.top(), larghezza, kFasciaEtichetta);
 }
 
 QRectF QvVertice::boundingRect() const { return Disco().united(Etichetta()).adjusted(-2, -2, 2, 2); }

@@ -1,7 +1,7 @@
 #pragma once
 
-// A vertex as the structure editor's grid shows it: a disc over its cell with the cell's number, a
-// tag with its caption, a red ring on a pivot and an orange fill when it closes the figure.
+// A vertex as the structure editor's grid shows it: a disc over its cell's number, a tag with its
+// caption in the band above the number, a red ring on a pivot and an orange fill when it closes the figure.
 
 #include <QGraphicsItem>
 #include <QRectF>
@@ -9,6 +9,10 @@
 #include "figures/Struttura.h"
 
 namespace lottolab::gui {
+
+// The top of every cell of the grid is left to the caption of the vertex drawn on it, the rest to
+// the number: a caption never covers a number, its own or its neighbours'.
+inline constexpr qreal kFasciaEtichetta = 10;
 
 class QvVertice : public QGraphicsItem {
  public:

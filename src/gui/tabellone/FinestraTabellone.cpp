@@ -15,6 +15,7 @@
 #include <optional>
 
 #include "archive/DateEstrazione.h"
+#include "gui/comuni/CopiaRighe.h"
 #include "gui/comuni/EsportaTabella.h"
 #include "gui/principale/Finestre.h"
 #include "gui/principale/GiocoFinestra.h"
@@ -157,13 +158,14 @@ QTableView* FinestraTabellone::NuovaTabella() {
   m_tabella->setSortingEnabled(true);
   m_tabella->sortByColumn(ModelloTabellone::kColonnaRuota, Qt::AscendingOrder);
   m_tabella->setSelectionBehavior(QAbstractItemView::SelectRows);
-  m_tabella->setSelectionMode(QAbstractItemView::SingleSelection);
+  m_tabella->setSelectionMode(QAbstractItemView::ExtendedSelection);
   m_tabella->setEditTriggers(QAbstractItemView::NoEditTriggers);
   m_tabella->verticalHeader()->hide();
   m_tabella->verticalHeader()->setDefaultSectionSize(m_tabella->fontMetrics().height() + 6);
   m_tabella->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   connect(m_tabella, &QTableView::doubleClicked, this, &FinestraTabellone::ApriGrafico);
   AggiungiEsportazione(m_tabella, QStringLiteral("Tabellone"));
+  AggiungiCopiaRighe(m_tabella);
   return m_tabella;
 }
 

@@ -1,4 +1,8 @@
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
 #include <QDateEdit>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
@@ -191,6 +195,49 @@ class FinestraArchivioTest : public QObject {
     QCOMPARE(tabella->model()->rowCount(), 4);
     QCOMPARE(tabella->currentIndex().row(), 3);
     QVERIFY(finestra->findChild<QLabel*>("esitoRicerca")->text().isEmpty());
+  }
+
+  // What a user does on a long archive: Enter in the date box, several rows copied, the last wheel
+  // readable though the first thousand draws lack it.
+  void EnterScegliECopia() {
+    std::string risultati;
+    QDate data(1990, 1, 6);
+    for (int estrazione = 0; estrazione < 1200; ++estrazione, data = data.addDays(7))
+      risultati += data.toString("yyyy/MM/dd").toStdString() + "\tBA\t1\t2\t3\t4\t5\n";
+    risultati += data.toString("yyyy/MM/dd").toStdString() + "\tBA\t6\t7\t8\t9\t10\n" +
+                 data.toString("yyyy/MM/dd").toStdString() + "\tRN\t51\t52\t53\t54\t7\n";
+    AggiornamentoArchivio aggiornamento(Configurazione());
+    QVERIFY(aggiornamento.ImportaDaFile(Scrivi("risultati.txt", risultati)).Riuscito());
+    ContestoGui contesto(Configurazione());
+    QVERIFY(contesto.RicaricaArchivio().Riuscito());
+    std::unique_ptr<QWidget> finestra(NuovaFinestraArchivio(contesto));
+    finestra->resize(900, 600);
+    finestra->show();
+    auto* tabella = finestra->findChild<QTableView*>("tabellaEstrazioni");
+    QVERIFY(tabella->columnWidth(Colonna(NZ)) >= tabella->columnWidth(Colonna(BA)));
+
+    auto* vai = finestra->findChild<QDateEdit*>("vaiAllaData");
+    vai->setDate(QDate(1990, 1, 20));
+    QTest::keyClick(vai, Qt::Key_Return);
+    QCOMPARE(tabella->currentIndex().row(), 2);
+
+    tabella->selectionModel()->select(tabella->model()->index(0, 0),
+                                      QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    tabella->selectionModel()->select(tabella->model()->index(1200, 0),
+                                      QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    QAction* copia = nullptr;
+    for (QAction* azione : tabella->actions())
+      if (azione->shortcut() == QKeySequence(QKeySequence::Copy)) copia = azione;
+    QVERIFY(copia);
+    copia->trigger();
+    const QStringList righe = QApplication::clipboard()->text().split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(righe.size(), 4);
+    QVERIFY(righe[0].startsWith("N.\tData\tBA"));
+    QCOMPARE(righe[1].split('\t').size(), 13);
+    QVERIFY(righe[1].startsWith("1\t06/01/1990\t01 02 03 04 05"));
+    QVERIFY(righe[2].startsWith("3\t"));
+    QVERIFY(righe[3].startsWith("1201\t"));
+    QVERIFY(righe[3].endsWith("\t51 52 53 54 07"));
   }
 };
 

@@ -110,15 +110,34 @@ class FinestraPrincipaleTest : public QObject {
     FinestraPrincipale finestra(*contesto);
     finestra.resize(1000, 700);
 
-    for (const char* azione : {"azioneEstrazioni", "azioneTabellone", "azioneNuovoScript", "azioneEditorStrutture"})
+    finestra.show();
+
+    // However many windows cascade, each opens whole inside the area, on a small screen and a large one.
+    for (QSize schermo : {QSize(1024, 768), QSize(1920, 1080)}) {
+      finestra.resize(schermo);
+      for (const char* azione : {"azioneEstrazioni", "azioneTabellone", "azioneNuovoScript", "azioneEditorStrutture",
+                                 "azioneAiuto", "azioneNuovoScript", "azioneEditorStrutture"})
+        finestra.findChild<QAction*>(azione)->trigger();
+      const QRect area = finestra.AreaFinestre()->viewport()->rect();
+      for (QMdiSubWindow* aperta : finestra.AreaFinestre()->subWindowList()) {
+        QVERIFY2(area.contains(aperta->geometry()), qPrintable(aperta->windowTitle()));
+        aperta->close();
+      }
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    for (const char* azione : {"azioneEstrazioni", "azioneTabellone", "azioneNuovoScript", "azioneEditorStrutture",
+                               "azioneAiuto", "azioneAiuto"})
       finestra.findChild<QAction*>(azione)->trigger();
     const QList<QMdiSubWindow*> aperte = finestra.AreaFinestre()->subWindowList();
-    QCOMPARE(aperte.size(), 4);
+    // The help opened twice is one window, brought forward.
+    QCOMPARE(aperte.size(), 5);
+    QCOMPARE(finestra.AreaFinestre()->currentSubWindow()->widget()->objectName(), QString("finestraAiuto"));
 
     aperte.first()->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     // A closed window is gone, not hidden.
-    QCOMPARE(finestra.AreaFinestre()->subWindowList().size(), 3);
+    QCOMPARE(finestra.AreaFinestre()->subWindowList().size(), 4);
   }
 
   // The game of the active window, followed as the window changes game.
@@ -250,7 +269,7 @@ class FinestraPrincipaleTest : public QObject {
     QCOMPARE(prova.domande->size(), size_t{2});
     QCOMPARE(prova.messaggi->size(), size_t{2});
     QVERIFY(prova.messaggi->back().find("il primo è il n. 2: il numero 91") != std::string::npos);
-    QVERIFY(stato->text().endsWith("ATTENZIONE: 1 estrazioni non valide, la prima è la n. 2"));
+    QVERIFY(stato->text().endsWith("ATTENZIONE: 1 estrazione non valida, la n. 2"));
   }
 
   void UnaCartellaComeArchivioNonFermaIlDesktop() {

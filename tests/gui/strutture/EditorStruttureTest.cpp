@@ -130,6 +130,10 @@ class EditorStruttureTest : public QObject {
     QCOMPARE(
         std::count_if(elementi.begin(), elementi.end(), [](QGraphicsItem* e) { return dynamic_cast<QvVertice*>(e); }),
         3);
+    // The pane of the grid is as tall as its rows, not taller.
+    const QGraphicsView* vista = editor->findChild<QGraphicsView*>();
+    const qreal righe = vista->scene()->sceneRect().height();
+    QVERIFY(vista->maximumHeight() >= righe && vista->maximumHeight() < righe + 60);
     QCOMPARE(std::count_if(elementi.begin(), elementi.end(),
                            [](QGraphicsItem* e) { return dynamic_cast<QGraphicsLineItem*>(e); }),
              2);
