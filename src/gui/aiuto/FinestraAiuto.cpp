@@ -41,8 +41,14 @@ questa finestra.</p>
 <ul>
 <li><b>Statistiche &gt; Tabellone</b>: i ritardi dei 90 numeri sulle ruote scelte; doppio clic su un
 numero per il grafico dei suoi ritardi.</li>
-<li><b>Statistiche &gt; Tabellone analitico</b>, <b>Ambi e terni ritardatari</b>,
-<b>Ciclometria</b>: le altre analisi dell'archivio.</li>
+<li><b>Statistiche &gt; Tabellone analitico</b>, <b>Ambi e terni ritardatari</b>: ritardi, storici e
+frequenze a qualsiasi estrazione; <b>Storia del ritardo</b>, <b>Mappa dei ritardi</b>,
+<b>Frequenze dei numeri</b>: i grafici, con zoom e salvataggio in PNG o PDF.</li>
+<li><b>Statistiche &gt; Ricerca estrazioni</b>, <b>Frequenze per periodo</b>, <b>Somme</b>,
+<b>Cadenze, figure e decine</b>: le estrazioni di ogni gioco filtrate e raggruppate.</li>
+<li><b>Statistiche &gt; Numeri spia</b>, <b>Sincroni</b>, <b>Isotopi</b>: che cosa accompagna o segue
+un numero; <b>Previsioni salvate</b>: le previsioni degli script (SalvaPrevisione) verificate sulle
+estrazioni successive; <b>Ciclometria</b>: un'estrazione sul cerchio dei 90 numeri.</li>
 <li><b>Giocate &gt; Agenda delle giocate</b>: le giocate fatte, verificate a ogni aggiornamento;
 la barra di stato avvisa delle vincite da vedere.</li>
 <li><b>Figure &gt; Editor strutture</b>: si disegnano figure sulle estrazioni e si cercano

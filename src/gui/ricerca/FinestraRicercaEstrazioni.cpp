@@ -160,7 +160,7 @@ void FinestraRicercaEstrazioni::Cerca() {
           return;
         }
         if (!*esito) return;
-        m_modello->ImpostaRisultato((*esito)->first, (*esito)->second, filtro.ruote, filtro.numeri);
+        m_modello->ImpostaRisultato((*esito)->first, (*esito)->second, filtro);
         m_riassunto->setText(m_modello->Riassunto());
       });
 }

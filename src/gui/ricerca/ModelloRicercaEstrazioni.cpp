@@ -40,13 +40,18 @@ Esito<std::vector<int>> LeggiNumeriCercati(const QString& testo, int massimo) {
 ModelloRicercaEstrazioni::ModelloRicercaEstrazioni(QObject* parent) : QAbstractTableModel(parent) {}
 
 void ModelloRicercaEstrazioni::ImpostaRisultato(std::shared_ptr<const stats::EstrazioniPerAnalisi> estrazioni,
-                                                std::vector<int> trovate, std::vector<int> ruote,
-                                                std::vector<int> numeri) {
+                                                std::vector<int> trovate, const stats::FiltroEstrazioni& filtro) {
   beginResetModel();
   m_estrazioni = std::move(estrazioni);
   m_trovate = std::move(trovate);
-  m_ruote = m_estrazioni ? stats::RuoteValide(*m_estrazioni, ruote) : std::vector<int>{};
-  m_numeri = std::move(numeri);
+  m_ruote = m_estrazioni ? stats::RuoteValide(*m_estrazioni, filtro.ruote) : std::vector<int>{};
+  m_numeri = filtro.numeri;
+  std::sort(m_numeri.begin(), m_numeri.end());
+  m_numeri.erase(std::unique(m_numeri.begin(), m_numeri.end()), m_numeri.end());
+  const int tutti = static_cast<int>(m_numeri.size());
+  m_da_segnare = filtro.dove == stats::DoveNumeri::Ovunque    ? 1
+                 : filtro.almeno > 0 && filtro.almeno < tutti ? filtro.almeno
+                                                              : std::max(tutti, 1);
   m_cercato = true;
   endResetModel();
 }
@@ -94,7 +99,7 @@ QString ModelloRicercaEstrazioni::Dettaglio(int riga) const {
                       .arg(id)
                       .arg(TestoData(m_estrazioni->date[static_cast<size_t>(id - 1)]));
   for (int ruota = 1; ruota <= m_estrazioni->ruote; ++ruota) {
-    const bool cercati = CercatiSullaRuota(id, ruota) > 0;
+    const bool cercati = CercatiSullaRuota(id, ruota) >= m_da_segnare;
     testo += QStringLiteral("<tr><td>%1</td><td>&nbsp;&nbsp;<tt>%2%3%4</tt></td></tr>")
                  .arg(NomeColonnaRuota(*m_estrazioni, ruota), cercati ? "<b>" : "", NumeriRuota(id, ruota),
                       cercati ? "</b>" : "");
@@ -131,9 +136,9 @@ QVariant ModelloRicercaEstrazioni::data(const QModelIndex& indice, int ruolo) co
     case Qt::DisplayRole:
     case kRuoloOrdinamento: return NumeriRuota(id, ruota);
     case Qt::BackgroundRole:
-      return CercatiSullaRuota(id, ruota) > 0 ? QVariant(QBrush(QColor(255, 236, 160))) : QVariant();
+      return CercatiSullaRuota(id, ruota) >= m_da_segnare ? QVariant(QBrush(QColor(255, 236, 160))) : QVariant();
     case Qt::FontRole: {
-      if (CercatiSullaRuota(id, ruota) == 0) return {};
+      if (CercatiSullaRuota(id, ruota) < m_da_segnare) return {};
       QFont grassetto;
       grassetto.setBold(true);
       return grassetto;

@@ -12,6 +12,7 @@
 
 #include "archive/Esito.h"
 #include "stats/EstrazioniPerAnalisi.h"
+#include "stats/RicercaEstrazioni.h"
 
 namespace lottolab::gui {
 
@@ -31,9 +32,10 @@ class ModelloRicercaEstrazioni : public QAbstractTableModel {
 
   explicit ModelloRicercaEstrazioni(QObject* parent = nullptr);
 
-  // `ruote`: the wheels shown (every wheel of the table when none); `numeri`: those searched for.
+  // The filter's wheels are shown (every wheel of the table when none) and its numbers marked: on the
+  // wheels that hold enough of them for a search on one wheel, on every wheel holding one otherwise.
   void ImpostaRisultato(std::shared_ptr<const stats::EstrazioniPerAnalisi> estrazioni, std::vector<int> trovate,
-                        std::vector<int> ruote, std::vector<int> numeri);
+                        const stats::FiltroEstrazioni& filtro);
 
   // How many draws were found, in words; says so when none was.
   QString Riassunto() const;
@@ -56,6 +58,7 @@ class ModelloRicercaEstrazioni : public QAbstractTableModel {
   std::vector<int> m_trovate;
   std::vector<int> m_ruote;
   std::vector<int> m_numeri;
+  int m_da_segnare = 1;  // how many searched numbers mark a wheel
   bool m_cercato = false;
 };
 

@@ -71,7 +71,7 @@ class RicercaEstrazioniTest : public QObject {
     filtro.ruote = {BA, VE};
     filtro.numeri = {7, 9};
     filtro.almeno = 1;
-    modello.ImpostaRisultato(estrazioni, *stats::CercaEstrazioni(*estrazioni, filtro), filtro.ruote, filtro.numeri);
+    modello.ImpostaRisultato(estrazioni, *stats::CercaEstrazioni(*estrazioni, filtro), filtro);
     QCOMPARE(modello.rowCount(), 2);
     QCOMPARE(modello.Riassunto(), QStringLiteral("Trovate 2 estrazioni."));
     QCOMPARE(modello.columnCount(), ModelloRicercaEstrazioni::kPrimaColonnaRuota + 2);
@@ -103,8 +103,30 @@ class RicercaEstrazioniTest : public QObject {
     QVERIFY(righe[1].startsWith("3\t06/05/2005\t2\t"));
     QCOMPARE(RigheDelModello(ordinamento).size(), 3U);
 
-    modello.ImpostaRisultato(estrazioni, {}, filtro.ruote, filtro.numeri);
+    modello.ImpostaRisultato(estrazioni, {}, filtro);
     QCOMPARE(modello.Riassunto(), QStringLiteral("Nessuna estrazione trovata con questi filtri."));
+  }
+
+  // Searching all the numbers on one wheel marks the wheel that holds them, not another holding one.
+  void SonoSegnateLeRuoteCheSoddisfanoLaRicerca() {
+    auto tabella = Estrazioni();
+    tabella[2].ImpostaNumero(BA, 1, 1);
+    auto estrazioni =
+        std::make_shared<const stats::EstrazioniPerAnalisi>(stats::PerAnalisi(TabellaEstrazioni(tabella)));
+    ModelloRicercaEstrazioni modello;
+    stats::FiltroEstrazioni filtro;
+    filtro.ruote = {BA, VE};
+    filtro.numeri = {7, 1, 7};
+    modello.ImpostaRisultato(estrazioni, *stats::CercaEstrazioni(*estrazioni, filtro), filtro);
+    QCOMPARE(modello.rowCount(), 2);
+    const int bari = ModelloRicercaEstrazioni::kPrimaColonnaRuota;
+    QVERIFY(!modello.index(1, bari).data(Qt::BackgroundRole).isValid());
+    QVERIFY(modello.index(1, bari + 1).data(Qt::BackgroundRole).isValid());
+    QVERIFY(!modello.Dettaglio(1).contains("<b>01 82"));
+
+    filtro.dove = stats::DoveNumeri::Ovunque;
+    modello.ImpostaRisultato(estrazioni, *stats::CercaEstrazioni(*estrazioni, filtro), filtro);
+    QVERIFY(modello.index(1, bari).data(Qt::BackgroundRole).isValid());
   }
 
   // The window over an archive file: the search runs off the window's thread and fills the table.
