@@ -7,6 +7,7 @@
 
 #include "Argomenti.h"
 #include "Comandi.h"
+#include "Quantita.h"
 #include "agenda/VerificaGioco.h"
 #include "app/ErroreInatteso.h"
 #include "archive/ArchivioGioco.h"
@@ -89,7 +90,8 @@ Esito<int> ImportaGioco(Contesto& contesto, const fs::path& file) {
   if (contesto.archivio.has_parent_path()) fs::create_directories(contesto.archivio.parent_path(), ec);
   auto aggiunte = ImportaEstrazioniGioco(nuove->formato(), contesto.archivio, nuove->Tutte());
   if (!aggiunte) return aggiunte.Errore();
-  fmt::print(contesto.out, "importate {} estrazioni {}\n", *aggiunte, DelGioco(nuove->formato()));
+  fmt::print(contesto.out, "{} {}\n", Fatte(*aggiunte, "importata", "importate", "estrazione", "estrazioni"),
+             DelGioco(nuove->formato()));
   if (*aggiunte > 0)
     if (auto gioco = GiocoDellAgenda(contesto)) VerificaAgendaDopoImportazione(contesto, {*gioco});
   return aggiunte;

@@ -3,6 +3,7 @@
 
 #include "Argomenti.h"
 #include "Comandi.h"
+#include "Quantita.h"
 #include "app/ErroreInatteso.h"
 #include "archive/AllineaDieciELotto.h"
 #include "archive/ClsEstrazioni.h"
@@ -67,7 +68,7 @@ int ImportaLotto(Contesto& contesto, const fs::path& file) {
   ClsEstrazioni archivio(contesto.archivio);
   auto importate = ImportaRisultati(archivio, file);
   if (!importate) return contesto.Fallisci(importate.Errore());
-  fmt::print(contesto.out, "importate {} estrazioni\n", *importate);
+  fmt::print(contesto.out, "{}\n", Fatte(*importate, "importata", "importate", "estrazione", "estrazioni"));
   // The agenda follows the configured archives only: another archive's draws are not its bets'.
   if (*importate > 0 && ArchivioConfigurato(contesto)) {
     std::vector<agenda::GiocoGiocata> giochi = {agenda::GiocoGiocata::Lotto};

@@ -7,6 +7,7 @@
 
 #include "Argomenti.h"
 #include "Comandi.h"
+#include "Quantita.h"
 #include "figures/FileStrutture.h"
 #include "figures/RicercaFigure.h"
 #include "figures/StatisticaStrutture.h"
@@ -87,7 +88,8 @@ int ComandoCercaFigura(Contesto& contesto, const Parole& parole) {
   auto trovate = figures::CercaFigura(*tabella, *struttura, ricerca);
   if (!trovate) return contesto.Fallisci(trovate.Errore());
   for (const figures::FiguraTrovata& trovata : trovate->elenco) ScriviFigura(contesto.out, *tabella, *trovate, trovata);
-  fmt::print(contesto.out, "trovate {} figure\n", trovate->elenco.size());
+  fmt::print(contesto.out, "{}\n",
+             Fatte(static_cast<long long>(trovate->elenco.size()), "trovata", "trovate", "figura", "figure"));
   if (colpi)
     ScriviStatistica(contesto.out,
                      figures::CalcolaStatistica(*tabella, *trovate, *colpi, intervallo->inizio, intervallo->fine),

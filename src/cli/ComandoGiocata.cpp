@@ -11,6 +11,7 @@
 
 #include "Argomenti.h"
 #include "Comandi.h"
+#include "Quantita.h"
 #include "agenda/Agenda.h"
 #include "agenda/Importi.h"
 #include "agenda/TestiGiocata.h"
@@ -343,8 +344,8 @@ void VerificaAgendaDopoImportazione(Contesto& contesto, const std::vector<GiocoG
   }
   for (const std::string& riga : esito->non_verificate) contesto.segnalatore.Avverti("agenda: " + riga);
   if (esito->verificate > 0 || esito->vincite_da_vedere > 0)
-    fmt::print(contesto.out, "agenda: verificate {} giocate, vincite da vedere {} (lottolab giocata verifica)\n",
-               esito->verificate, esito->vincite_da_vedere);
+    fmt::print(contesto.out, "agenda: {}, vincite da vedere {} (lottolab giocata verifica)\n",
+               Fatte(esito->verificate, "verificata", "verificate", "giocata", "giocate"), esito->vincite_da_vedere);
 }
 
 int ComandoGiocata(Contesto& contesto, const Parole& parole) {

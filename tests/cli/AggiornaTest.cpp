@@ -58,9 +58,9 @@ TEST_F(Aggiorna, OgniGiocoConUnIndirizzoEUnoCheFallisceNonFermaGliAltri) {
   auto tutti = Lottolab({"aggiorna"});
   EXPECT_EQ(tutti.codice, 2) << "Win for Life failed";
   EXPECT_EQ(tutti.out,
-            "importate 1 estrazioni\n"
-            "importate 1 estrazioni del SuperEnalotto\n"
-            "importate 1 estrazioni dell'archivio generico\n");
+            "importata 1 estrazione\n"
+            "importata 1 estrazione del SuperEnalotto\n"
+            "importata 1 estrazione dell'archivio generico\n");
   EXPECT_NE(tutti.err.find("lottolab: l'archivio del Win for Life non è stato aggiornato: Impossibile scaricare " +
                            Indirizzo("non-pubblicato.txt")),
             std::string::npos)
@@ -73,7 +73,7 @@ TEST_F(Aggiorna, OgniGiocoConUnIndirizzoEUnoCheFallisceNonFermaGliAltri) {
   Scrivi("se.txt", "2010/01/02\t1\t1\t2\t3\t4\t5\t6\t7\t8\n2010/01/05\t2\t11\t12\t13\t14\t15\t90\t17\t0\n");
   auto solo_se = Lottolab({"--gioco", "SE", "aggiorna"});
   EXPECT_EQ(solo_se.codice, 0) << solo_se.err;
-  EXPECT_EQ(solo_se.out, "importate 1 estrazioni del SuperEnalotto\n");
+  EXPECT_EQ(solo_se.out, "importata 1 estrazione del SuperEnalotto\n");
 
   auto senza_indirizzo = Lottolab({"--gioco", "DL5", "aggiorna"});
   EXPECT_EQ(senza_indirizzo.codice, 2);
@@ -98,7 +98,7 @@ TEST_F(Aggiorna, UnaNuovaInstallazioneSiAggiornaDaUnIndirizzoDato) {
   EXPECT_EQ(lotto.codice, 0) << lotto.err;
   EXPECT_EQ(lotto.out, "importate 2 estrazioni\n");
   auto se = Lottolab({"--gioco", "SE", "aggiorna", "--indirizzo", server.Indirizzo("/se.txt")});
-  EXPECT_EQ(se.out, "importate 1 estrazioni del SuperEnalotto\n") << se.err;
+  EXPECT_EQ(se.out, "importata 1 estrazione del SuperEnalotto\n") << se.err;
   // The archives and their lock files, and nothing of the downloads.
   auto file = [&] {
     std::vector<std::string> nomi;

@@ -57,7 +57,7 @@ TEST_F(AltriGiochi, OgniGiocoHaIlSuoArchivioNellaCartellaBase) {
   EXPECT_NE(tabellone.find("\n     7         2         0         2\n"), std::string::npos) << "a Jolly is no number";
 
   const std::string win = Scrivi("wf.txt", "2026/03/02 08:00 1 1 3 5 7 9 11 13 15 17 19 20\n");
-  EXPECT_EQ(Lottolab({"--gioco", "WF", "importa", win}).out, "importate 1 estrazioni del Win for Life\n");
+  EXPECT_EQ(Lottolab({"--gioco", "WF", "importa", win}).out, "importata 1 estrazione del Win for Life\n");
   EXPECT_EQ(Lottolab({"--gioco", "WF", "estrazione", "1"}).out,
             "1 02/03/2026 08:00 concorso 1: 01 03 05 07 09 11 13 15 17 19  Numerone 20\n");
 }
@@ -67,10 +67,10 @@ TEST_F(AltriGiochi, LArchivioGenericoSiImportaESiLeggeDalSuoFile) {
   EXPECT_EQ(mancante.codice, 2) << "no file, no format";
   auto importa = Lottolab({"--gioco", "FT", "importa", Scrivi("ft.txt", "# numeri 3 massimo 40\n01/02/2026 1 2 40\n")});
   EXPECT_EQ(importa.codice, 0) << importa.err;
-  EXPECT_EQ(importa.out, "importate 1 estrazioni dell'archivio generico\n");
+  EXPECT_EQ(importa.out, "importata 1 estrazione dell'archivio generico\n");
   // A text that does not say its measures is read in the archive's: 40 is then no number out of range.
   EXPECT_EQ(Lottolab({"--gioco", "FT", "importa", Scrivi("ft2.txt", "08/02/2026 3 4 40\n")}).out,
-            "importate 1 estrazioni dell'archivio generico\n");
+            "importata 1 estrazione dell'archivio generico\n");
   EXPECT_EQ(Lottolab({"--gioco", "FT", "info"}).out,
             "gioco: Archivio generico\nnumeri: 3 da 1 a 40\nestrazioni: 2\nprima: 01/02/2026\nultima: 08/02/2026\n");
   EXPECT_EQ(Lottolab({"--gioco", "FT", "estrazione", "2"}).out, "2 08/02/2026 concorso 0: 03 04 40\n");

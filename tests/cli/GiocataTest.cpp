@@ -184,14 +184,14 @@ TEST_F(Giocata, LaVerificaGiocaLeGiocateSullArchivio) {
 TEST_F(Giocata, LImportazioneVerificaLeGiocateAperte) {
   test::Scrivi(m_base / "a.txt", "2023/01/05\tBA\t1\t2\t3\t4\t5\n");
   test::Scrivi(m_base / "b.txt", "2023/01/07\tBA\t12\t7\t34\t8\t9\n");
-  ASSERT_EQ(Lottolab({"importa", (m_base / "a.txt").string()}).out, "importate 1 estrazioni\n")
+  ASSERT_EQ(Lottolab({"importa", (m_base / "a.txt").string()}).out, "importata 1 estrazione\n")
       << "no agenda yet, nothing to check";
   ASSERT_EQ(Aggiungi({"--numeri", "12,34,56", "--ruote", "BA", "--sorte", "ambo", "--posta", "1", "--dal", "06/01/2023",
                       "--colpi", "3"})
                 .codice,
             0);
   EXPECT_EQ(Lottolab({"importa", (m_base / "b.txt").string()}).out,
-            "importate 1 estrazioni\nagenda: verificate 1 giocate, vincite da vedere 1 (lottolab giocata verifica)\n");
+            "importata 1 estrazione\nagenda: verificata 1 giocata, vincite da vedere 1 (lottolab giocata verifica)\n");
   EXPECT_NE(Lottolab({"giocata", "verifica"}).out.find("ambo 12.34 su BA (1), lordo 83,33"), std::string::npos);
 }
 
@@ -212,8 +212,8 @@ TEST_F(Giocata, LeGiocateDegliAltriGiochiSiVerificanoPerCategoria) {
   const Uscita importa = Lottolab({"--gioco", "SE", "importa", (m_base / "se2.txt").string()});
   ASSERT_EQ(importa.codice, 0) << importa.err;
   EXPECT_EQ(importa.out,
-            "importate 1 estrazioni del SuperEnalotto\n"
-            "agenda: verificate 1 giocate, vincite da vedere 1 (lottolab giocata verifica)\n")
+            "importata 1 estrazione del SuperEnalotto\n"
+            "agenda: verificata 1 giocata, vincite da vedere 1 (lottolab giocata verifica)\n")
       << "the Lotto bet waits for the Lotto's draws";
 
   const Uscita verifica = Lottolab({"giocata", "verifica"});

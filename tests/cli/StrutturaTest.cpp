@@ -128,8 +128,8 @@ TEST_F(ComandoStrutturaTest, CercaFiguraListsEachPlacementAndSumsUpWhatFollowed)
             "trovate 3 figure\n"
             "in 1 colpi: ambata 0, ambo 0, terno 0, quaterna 0, cinquina 0, negativi 2, in corso 1\n"
             "colpo medio 0.00, ritardo 0, ritardo massimo 1\n");
-  EXPECT_EQ(cerca({"--ruote", "BA"}).out, "2 03/05/2005 BA 01 02\ntrovate 1 figure\n");
-  EXPECT_EQ(cerca({"--inizio", "4/5/2005"}).out, "3 04/05/2005 VE 11 12\ntrovate 1 figure\n");
+  EXPECT_EQ(cerca({"--ruote", "BA"}).out, "2 03/05/2005 BA 01 02\ntrovata 1 figura\n");
+  EXPECT_EQ(cerca({"--inizio", "4/5/2005"}).out, "3 04/05/2005 VE 11 12\ntrovata 1 figura\n");
 
   EXPECT_EQ(cerca({"--colpi", "0"}).codice, 2);
   coppia.condizioni = {"[A] + = [B]"};
