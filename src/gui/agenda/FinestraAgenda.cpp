@@ -23,7 +23,6 @@
 #include "agenda/VerificaAgenda.h"
 #include "archive/DateEstrazione.h"
 #include "gui/agenda/DialogoNuovaGiocata.h"
-#include "gui/agenda/EsportaCsv.h"
 #include "gui/agenda/ModelloAgenda.h"
 #include "gui/agenda/ModelloVerifiche.h"
 #include "gui/comuni/CopiaRighe.h"
@@ -430,7 +429,8 @@ class FinestraAgenda : public QWidget {
         this, QStringLiteral("Esporta l'agenda"), DaStd((m_contesto.Configurazione().base / "agenda.csv").string()),
         QStringLiteral("CSV (*.csv);;Tutti i file (*)"));
     if (scelto.isEmpty()) return;
-    if (auto scritto = ScriviCsv(scelto.toStdString(), TestoCsv(*m_ordinato)); !scritto) Mostra(scritto.Errore());
+    if (auto scritto = esporta::ScriviCsv(RigheDelModello(*m_ordinato), scelto.toStdString()); !scritto)
+      Mostra(scritto.Errore());
   }
 
   ContestoGui& m_contesto;

@@ -11,7 +11,6 @@
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
 #include <QSpinBox>
-#include <QStandardItemModel>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTest>
@@ -24,9 +23,9 @@
 #include "archive/ClsEstrazioni.h"
 #include "archive/ImportaRisultati.h"
 #include "gui/agenda/DialogoNuovaGiocata.h"
-#include "gui/agenda/EsportaCsv.h"
 #include "gui/agenda/ModelloAgenda.h"
 #include "gui/archivio/ImportazioneGioco.h"
+#include "gui/comuni/EsportaTabella.h"
 #include "gui/principale/FinestraPrincipale.h"
 #include "gui/principale/Finestre.h"
 
@@ -86,21 +85,9 @@ class FinestraAgendaTest : public QObject {
 
     // The export writes what the list shows, a field holding the separator or a quote quoted.
     modello.Imposta({Voce(7, 100, 0)}, {});
-    std::string csv = TestoCsv(modello);
+    std::string csv = esporta::TestoCsv(RigheDelModello(modello));
     QVERIFY(csv.starts_with("\xEF\xBB\xBFN.;Gioco;Numeri;Ruote;Poste;Dal;Colpi;Stato;Spesa;Vinto netto;Saldo\r\n"));
     QVERIFY2(csv.ends_with("7;LO;12.34;BA;ambo 1,00;05/01/2023;0/3;aperta;1,00;0,00;-1,00\r\n"), csv.c_str());
-  }
-
-  void IlCsvCitaICampiCheLoRichiedono() {
-    QStandardItemModel tabella(1, 2);
-    tabella.setHorizontalHeaderLabels({"a;b", "c"});
-    tabella.setItem(0, 0, new QStandardItem("dice \"sì\""));
-    tabella.setItem(0, 1, new QStandardItem("riga\nnuova"));
-    QCOMPARE(TestoCsv(tabella), std::string("\xEF\xBB\xBF\"a;b\";c\r\n\"dice \"\"sì\"\"\";\"riga\nnuova\"\r\n"));
-    test::CartellaTemporanea cartella;
-    QVERIFY(ScriviCsv(cartella / "agenda.csv", "x"));
-    QCOMPARE(test::Leggi(cartella / "agenda.csv"), std::string("x"));
-    QVERIFY2(!ScriviCsv(cartella.Percorso(), "x"), "a folder in the file's place is refused");
   }
 
   // The dialog builds the bet the fields describe, and says the check's fault in its own words.
