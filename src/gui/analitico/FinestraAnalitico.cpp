@@ -12,10 +12,9 @@
 #include <memory>
 
 #include "gui/analitico/ModelloAnalitico.h"
-#include "gui/comuni/CalcoloAnnullabile.h"
+#include "gui/comuni/PreparaAnalitico.h"
 #include "gui/comuni/TabellaAnalisi.h"
 #include "gui/principale/Finestre.h"
-#include "gui/principale/SegnalatoreGui.h"
 
 namespace lottolab::gui {
 
@@ -117,31 +116,12 @@ QTableView* FinestraAnalitico::NuovaTabella() {
 
 // The archive is prepared on another thread; meanwhile the table keeps what it showed.
 void FinestraAnalitico::Prepara() {
-  std::shared_ptr<const TabellaEstrazioni> archivio = m_contesto.Archivio();
-  AvviaCalcoloAnnullabile<std::shared_ptr<const stats::Analitico>>(
-      this, windowTitle(), QStringLiteral("Preparazione del tabellone analitico…"), "FinestraAnalitico.Prepara",
-      [archivio](stats::ControlloCalcolo&) {
-        return std::optional(std::make_shared<const stats::Analitico>(*archivio));
-      },
-      [this, archivio](const Esito<std::optional<std::shared_ptr<const stats::Analitico>>>& esito) {
-        if (!esito) {
-          SegnalatoreGui(this).Mostra(esito.Errore());
-          return;
-        }
-        if (!*esito) return;
-        const int ultima = archivio->EstrazioniArchivio();
-        // A table that showed the last draw keeps showing the last one after an update.
-        const bool all_ultima = m_fine->value() == m_fine->maximum();
-        m_modello->ImpostaAnalitico(**esito);
-        {
-          const QSignalBlocker blocco(m_fine);
-          m_fine->setRange(ultima > 0 ? 1 : 0, ultima);
-          if (all_ultima) m_fine->setValue(ultima);
-        }
-        m_fine->setEnabled(ultima > 0);
-        m_data->setEnabled(ultima > 0);
-        CambiaFine();
-      });
+  PreparaAnalitico(this, m_contesto.Archivio(), QStringLiteral("Preparazione del tabellone analitico…"),
+                   "FinestraAnalitico.Prepara", m_fine, [this](std::shared_ptr<const stats::Analitico> analitico) {
+                     m_modello->ImpostaAnalitico(std::move(analitico));
+                     m_data->setEnabled(m_fine->isEnabled());
+                     CambiaFine();
+                   });
 }
 
 void FinestraAnalitico::CambiaFine() {

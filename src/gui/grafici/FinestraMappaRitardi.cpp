@@ -1,18 +1,16 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSignalBlocker>
 #include <QSpinBox>
 
 #include <memory>
 
-#include "gui/comuni/CalcoloAnnullabile.h"
+#include "gui/comuni/PreparaAnalitico.h"
 #include "gui/comuni/ScalaRitardo.h"
 #include "gui/grafici/FinestraGrafico.h"
 #include "gui/grafici/ModelloMappaRitardi.h"
 #include "gui/grafici/VistaMappaRitardi.h"
 #include "gui/principale/Finestre.h"
-#include "gui/principale/SegnalatoreGui.h"
 
 namespace lottolab::gui {
 
@@ -78,29 +76,11 @@ QWidget* FinestraMappaRitardi::NuoveScelte() {
 }
 
 void FinestraMappaRitardi::Prepara() {
-  std::shared_ptr<const TabellaEstrazioni> archivio = m_contesto.Archivio();
-  AvviaCalcoloAnnullabile<std::shared_ptr<const stats::Analitico>>(
-      this, windowTitle(), QStringLiteral("Preparazione della mappa dei ritardi…"), "FinestraMappaRitardi.Prepara",
-      [archivio](stats::ControlloCalcolo&) {
-        return std::optional(std::make_shared<const stats::Analitico>(*archivio));
-      },
-      [this, archivio](const Esito<std::optional<std::shared_ptr<const stats::Analitico>>>& esito) {
-        if (!esito) {
-          SegnalatoreGui(this).Mostra(esito.Errore());
-          return;
-        }
-        if (!*esito) return;
-        const int ultima = archivio->EstrazioniArchivio();
-        const bool all_ultima = m_fine->value() == m_fine->maximum();
-        m_modello->ImpostaAnalitico(**esito);
-        {
-          const QSignalBlocker blocco(m_fine);
-          m_fine->setRange(ultima > 0 ? 1 : 0, ultima);
-          if (all_ultima) m_fine->setValue(ultima);
-        }
-        m_fine->setEnabled(ultima > 0);
-        CambiaFine();
-      });
+  PreparaAnalitico(this, m_contesto.Archivio(), QStringLiteral("Preparazione della mappa dei ritardi…"),
+                   "FinestraMappaRitardi.Prepara", m_fine, [this](std::shared_ptr<const stats::Analitico> analitico) {
+                     m_modello->ImpostaAnalitico(std::move(analitico));
+                     CambiaFine();
+                   });
 }
 
 void FinestraMappaRitardi::CambiaFine() {
