@@ -7,13 +7,15 @@
 
 namespace lottolab::gui {
 
-void PreparaAnalitico(QWidget* finestra, std::shared_ptr<const TabellaEstrazioni> archivio,
-                      const QString& descrizione, const char* procedura, QSpinBox* fine,
+void PreparaAnalitico(QWidget* finestra, std::shared_ptr<const TabellaEstrazioni> archivio, const QString& descrizione,
+                      const char* procedura, QSpinBox* fine,
                       std::function<void(std::shared_ptr<const stats::Analitico>)> pronto) {
   using Preparato = std::shared_ptr<const stats::Analitico>;
   AvviaCalcoloAnnullabile<Preparato>(
       finestra, finestra->windowTitle(), descrizione, procedura,
-      [archivio](stats::ControlloCalcolo&) { return std::optional(std::make_shared<const stats::Analitico>(*archivio)); },
+      [archivio](stats::ControlloCalcolo&) {
+        return std::optional(std::make_shared<const stats::Analitico>(*archivio));
+      },
       [finestra, archivio, fine, pronto = std::move(pronto)](const Esito<std::optional<Preparato>>& esito) {
         if (!esito) {
           SegnalatoreGui(finestra).Mostra(esito.Errore());

@@ -95,15 +95,10 @@ QWidget* FinestraFrequenze::NuoveScelte() {
 
 void FinestraFrequenze::Calcola() {
   std::shared_ptr<const TabellaEstrazioni> archivio = m_contesto.Archivio();
-  const std::pair<int, int> intervallo = m_periodo->Intervallo(*archivio);
-  const int inizio = intervallo.first;
-  const int fine = intervallo.second;
-  if (inizio > fine) {
-    MostraAvviso(archivio->EstrazioniArchivio() == 0 ? QStringLiteral("L'archivio è vuoto")
-                                                     : QStringLiteral("Nessuna estrazione nel periodo scelto"));
-    return;
-  }
-  MostraAvviso({});
+  const auto intervallo = IntervalloScelto(*m_periodo, *archivio);
+  if (!intervallo) return;
+  const int inizio = intervallo->first;
+  const int fine = intervallo->second;
   const int ruota = m_ruota->currentData().toInt();
   AvviaCalcoloAnnullabile<stats::FrequenzeNumeri>(
       this, windowTitle(), QStringLiteral("Calcolo delle frequenze…"), "FinestraFrequenze.Calcola",

@@ -17,6 +17,7 @@
 #include "gui/comuni/IconaApplicazione.h"
 #include "gui/grafici/EsportaImmagine.h"
 #include "gui/grafici/GraficoInterattivo.h"
+#include "gui/grafici/SceltePeriodo.h"
 
 namespace lottolab::gui {
 
@@ -84,6 +85,18 @@ void FinestraGrafico::MostraAvviso(const QString& avviso) {
   m_avviso->setText(avviso);
   m_avviso->setVisible(!avviso.isEmpty());
   m_aiuto->setVisible(avviso.isEmpty());
+}
+
+std::optional<std::pair<int, int>> FinestraGrafico::IntervalloScelto(const SceltePeriodo& periodo,
+                                                                     const TabellaEstrazioni& archivio) {
+  const std::pair<int, int> intervallo = periodo.Intervallo(archivio);
+  if (intervallo.first > intervallo.second) {
+    MostraAvviso(archivio.EstrazioniArchivio() == 0 ? QStringLiteral("L'archivio è vuoto")
+                                                    : QStringLiteral("Nessuna estrazione nel periodo scelto"));
+    return std::nullopt;
+  }
+  MostraAvviso({});
+  return intervallo;
 }
 
 void FinestraGrafico::SalvaPng() {

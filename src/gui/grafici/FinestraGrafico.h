@@ -8,6 +8,11 @@
 #include <QString>
 #include <QWidget>
 
+#include <optional>
+#include <utility>
+
+#include "archive/TabellaEstrazioni.h"
+
 class QLabel;
 class QTabWidget;
 class QTableView;
@@ -15,6 +20,7 @@ class QTableView;
 namespace lottolab::gui {
 
 class GraficoInterattivo;
+class SceltePeriodo;
 
 class FinestraGrafico : public QWidget {
   Q_OBJECT
@@ -36,6 +42,8 @@ class FinestraGrafico : public QWidget {
                const QString& aiuto);
   // A message in place of the picture's help line, for a choice that cannot be drawn; empty clears it.
   void MostraAvviso(const QString& avviso);
+  // The draws of the period chosen in `periodo`; nothing, with the reason shown, when there is none.
+  std::optional<std::pair<int, int>> IntervalloScelto(const SceltePeriodo& periodo, const TabellaEstrazioni& archivio);
 
  private:
   void SalvaPng();
