@@ -1,5 +1,6 @@
 // Reading the Lotto draw archive: the numbers, dates and indices of each draw.
 
+#include <fmt/format.h>
 #include <vector>
 
 #include "ArgomentiLotto.h"
@@ -106,6 +107,39 @@ Result<Variant> DataEstrToIdEstr(Libreria& lib, CallArgs& args) {
   return Variant::Long(trovata ? id_estr : 0);
 }
 
+// The draw that opens (Ini) or closes (Fin) a period starting or ending on a date: the first draw on
+// that day or after it, the last on that day or before it; 0 when there is none, or for a text that
+// is not a date, after explaining it.
+template <bool Fin>
+Result<Variant> EstrazioneDellaData(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto testo, args.String(0));
+  const std::string scritta = text::Utf16ToUtf8(testo);
+  auto data = LeggiData(scritta);
+  if (data && !DataValida(*data))
+    data = AvvisoEsclamativo(fmt::format("La data {} non esiste: si scrive GG/MM/AAAA", scritta));
+  if (!data) {
+    lib.ospite().Mostra(data.Errore());
+    return Variant::Long(0);
+  }
+  const TabellaEstrazioni& tab = *archivio;
+  const int entro = tab.UltimaEstrazioneEntro(*data);
+  if (Fin) return Variant::Long(entro);
+  const bool del_giorno = entro > 0 && ConfrontaDate(tab[entro].data, *data) == 0;
+  const int dal = del_giorno ? entro : entro + 1;
+  return Variant::Long(tab.Contiene(dal) ? dal : 0);
+}
+
+// The archive's last draw is not known to close its month: later draws of the month may come.
+Result<Variant> IsUltimaDelMese(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
+  VBS_TRY_ASSIGN(auto id_estr, IdEstrArgomento(*archivio, args, 0));
+  if (!archivio->Contiene(id_estr + 1)) return Variant::Boolean(false);
+  const GruppoData& questa = (*archivio)[id_estr].data;
+  const GruppoData& dopo = (*archivio)[id_estr + 1].data;
+  return Variant::Boolean(dopo.mese != questa.mese || dopo.anno != questa.anno);
+}
+
 // Argument i as one wheel of the table (1..11); all the wheels together (TU_) is no single wheel.
 Result<int> RuotaSingola(const CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto ruota, RuotaTabella(args, i));
@@ -202,6 +236,15 @@ const Libreria::Funzione kArchivio[] = {
      "il numero di estrazioni nell'archivio, cioè l'ultimo IdEstr (Long)"},
     {"DataEstrToIdEstr", 1, 1, &DataEstrToIdEstr,
      "Data: l'IdEstr dell'estrazione di quella data \"GG/MM/AAAA\" (Long), 0 se non ce n'è alcuna"},
+    {"EstrazioneIni", 1, 1, &EstrazioneDellaData<false>,
+     "Data: l'IdEstr della prima estrazione di quel giorno \"GG/MM/AAAA\" o successiva (Long), 0 se non ce n'è "
+     "alcuna: l'inizio di un periodo"},
+    {"EstrazioneFin", 1, 1, &EstrazioneDellaData<true>,
+     "Data: l'IdEstr dell'ultima estrazione di quel giorno \"GG/MM/AAAA\" o precedente (Long), 0 se non ce n'è "
+     "alcuna: la fine di un periodo"},
+    {"IsUltimaDelMese", 1, 1, &IsUltimaDelMese,
+     "IdEstr: True se è l'ultima estrazione del suo mese nell'archivio (False per l'ultima dell'archivio: il mese "
+     "può non essere finito)"},
     {"isIdEstrValido", 1, 1, &isIdEstrValido, "IdEstr: True se l'archivio contiene un'estrazione con quell'indice"},
     {"Posizione", 3, 3, &Posizione,
      "IdEstr, Ruota, Numero: la posizione 1..5 del numero sulla ruota in quell'estrazione, 0 se non è uscito "
