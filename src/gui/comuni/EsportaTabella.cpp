@@ -2,11 +2,13 @@
 
 #include <QAction>
 #include <QBrush>
+#include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPageLayout>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QStandardPaths>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTextDocument>
@@ -111,6 +113,12 @@ Esito<Fatto> ScriviPdf(const QAbstractItemModel& modello, const QString& titolo,
   return SostituisciFile(file, *byte);
 }
 
+QString PropostaEsportazione(const QString& nome) {
+  QString cartella = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  if (cartella.isEmpty() || !QDir(cartella).exists()) cartella = QDir::homePath();
+  return QDir(cartella).filePath(nome);
+}
+
 void AggiungiEsportazione(QTableView* vista, const QString& titolo) {
   vista->setContextMenuPolicy(Qt::ActionsContextMenu);
   auto aggiungi = [vista](const QString& testo, auto&& fai) {
@@ -120,7 +128,8 @@ void AggiungiEsportazione(QTableView* vista, const QString& titolo) {
     return azione;
   };
   auto scegli = [vista, titolo](const QString& filtro, const QString& estensione) {
-    return QFileDialog::getSaveFileName(vista, QStringLiteral("Esporta"), titolo + estensione, filtro);
+    return QFileDialog::getSaveFileName(vista, QStringLiteral("Esporta"), PropostaEsportazione(titolo + estensione),
+                                        filtro);
   };
   aggiungi(QStringLiteral("Esporta in CSV..."), [vista, scegli] {
     const QString file = scegli(QStringLiteral("Testo CSV (*.csv)"), QStringLiteral(".csv"));

@@ -27,6 +27,10 @@ esporta::CartellaLavoro CartellaDelModello(const QAbstractItemModel& modello, co
 // The table printed to a PDF file, titled, all at once.
 Esito<Fatto> ScriviPdf(const QAbstractItemModel& modello, const QString& titolo, const std::filesystem::path& file);
 
+// Where the save dialog of an export first proposes the file `nome`: the user's documents folder, or
+// the home folder where there is none, never the folder the program happened to start in.
+QString PropostaEsportazione(const QString& nome);
+
 // Adds the export actions to `vista`'s context menu (and Ctrl+Shift+E for the spreadsheet);
 // `titolo` names the sheet, the printed page and the file proposed.
 void AggiungiEsportazione(QTableView* vista, const QString& titolo);

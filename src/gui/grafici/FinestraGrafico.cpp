@@ -100,14 +100,16 @@ std::optional<std::pair<int, int>> FinestraGrafico::IntervalloScelto(const Scelt
 }
 
 void FinestraGrafico::SalvaPng() {
-  const QString file = QFileDialog::getSaveFileName(this, QStringLiteral("Salva l'immagine"), windowTitle() + ".png",
+  const QString file = QFileDialog::getSaveFileName(this, QStringLiteral("Salva l'immagine"),
+                                                    PropostaEsportazione(windowTitle() + ".png"),
                                                     QStringLiteral("Immagine PNG (*.png)"));
   if (!file.isEmpty()) Riferisci(this, ScriviPng(ImmagineDi(*m_immagine), Percorso(file)));
 }
 
 void FinestraGrafico::SalvaPdf() {
-  const QString file = QFileDialog::getSaveFileName(this, QStringLiteral("Salva in PDF"), windowTitle() + ".pdf",
-                                                    QStringLiteral("Documento PDF (*.pdf)"));
+  const QString file =
+      QFileDialog::getSaveFileName(this, QStringLiteral("Salva in PDF"), PropostaEsportazione(windowTitle() + ".pdf"),
+                                   QStringLiteral("Documento PDF (*.pdf)"));
   if (!file.isEmpty()) Riferisci(this, ScriviPdfImmagine(ImmagineDi(*m_immagine), windowTitle(), Percorso(file)));
 }
 
