@@ -11,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+#include "EstrazioniAMano.h"
 #include "TempDir.h"
 #include "archive/ClsEstrazioni.h"
 #include "archive/TabellaEstrazioni.h"
@@ -27,35 +28,17 @@
 namespace lottolab::gui {
 namespace {
 
-struct NumeriRuota {
-  int ruota;
-  std::array<int, kNumeriPerRuota> numeri;
-};
-
 // Six draws of May 2005; every wheel not written out holds 81..85, Nazionale is drawn from draw 3.
 //   7 on Bari: out in draws 1 and 5; on Nazionale in 3; on Venezia in 5.
 TabellaEstrazioni ArchivioAMano() {
-  std::vector<Estrazione> estrazioni;
-  auto aggiungi = [&](std::initializer_list<NumeriRuota> scritte) {
-    Estrazione estrazione;
-    estrazione.id_estr = static_cast<int>(estrazioni.size()) + 1;
-    for (int ruota = 1; ruota <= kNumeroRuote; ++ruota) {
-      if (ruota == NZ && estrazione.id_estr < 3) continue;
-      for (int p = 1; p <= kNumeriPerRuota; ++p) estrazione.ImpostaNumero(ruota, p, 80 + p);
-    }
-    for (const NumeriRuota& scritta : scritte)
-      for (int p = 1; p <= kNumeriPerRuota; ++p) estrazione.ImpostaNumero(scritta.ruota, p, scritta.numeri[p - 1]);
-    estrazione.data =
-        GruppoData{static_cast<int16_t>(estrazione.id_estr), static_cast<int16_t>(estrazione.id_estr * 3), 5, 2005};
-    estrazioni.push_back(estrazione);
-  };
-  aggiungi({{BA, {7, 1, 2, 3, 4}}});
-  aggiungi({});
-  aggiungi({{NZ, {7, 1, 2, 3, 4}}});
-  aggiungi({});
-  aggiungi({{BA, {7, 1, 2, 3, 4}}, {VE, {9, 7, 1, 2, 3}}});
-  aggiungi({});
-  return TabellaEstrazioni(std::move(estrazioni));
+  return test::EstrazioniAMano(3, 3)
+      .Aggiungi({{BA, {7, 1, 2, 3, 4}}})
+      .Aggiungi({})
+      .Aggiungi({{NZ, {7, 1, 2, 3, 4}}})
+      .Aggiungi({})
+      .Aggiungi({{BA, {7, 1, 2, 3, 4}}, {VE, {9, 7, 1, 2, 3}}})
+      .Aggiungi({})
+      .Tabella();
 }
 
 template <typename T>

@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+#include "EstrazioniAMano.h"
 #include "TempDir.h"
 #include "archive/ClsEstrazioni.h"
 #include "gui/comuni/CopiaRighe.h"
@@ -20,35 +21,17 @@
 namespace lottolab::gui {
 namespace {
 
-struct NumeriRuota {
-  int ruota;
-  std::array<int, kNumeriPerRuota> numeri;
-};
-
 // Every wheel not written out holds 81..85; Nazionale is drawn from draw 3.
 //   7 on Bari in draws 1, 3 and 5; 20 on Venezia in draw 2; 7 first on Bari and Cagliari in draw 5.
 TabellaEstrazioni ArchivioAMano() {
-  std::vector<Estrazione> estrazioni;
-  auto aggiungi = [&](std::initializer_list<NumeriRuota> scritte) {
-    Estrazione estrazione;
-    estrazione.id_estr = static_cast<int>(estrazioni.size()) + 1;
-    estrazione.data =
-        GruppoData{static_cast<int16_t>(estrazione.id_estr), static_cast<int16_t>(estrazione.id_estr), 5, 2005};
-    for (int ruota = 1; ruota <= kNumeroRuote; ++ruota) {
-      if (ruota == NZ && estrazione.id_estr < 3) continue;
-      for (int p = 1; p <= kNumeriPerRuota; ++p) estrazione.ImpostaNumero(ruota, p, 80 + p);
-    }
-    for (const NumeriRuota& scritta : scritte)
-      for (int p = 1; p <= kNumeriPerRuota; ++p) estrazione.ImpostaNumero(scritta.ruota, p, scritta.numeri[p - 1]);
-    estrazioni.push_back(estrazione);
-  };
-  aggiungi({{BA, {7, 1, 2, 3, 4}}});
-  aggiungi({{VE, {20, 21, 22, 23, 24}}});
-  aggiungi({{BA, {7, 10, 11, 12, 13}}});
-  aggiungi({});
-  aggiungi({{BA, {7, 1, 2, 3, 4}}, {CA, {7, 30, 31, 32, 33}}});
-  aggiungi({});
-  return TabellaEstrazioni(std::move(estrazioni));
+  return test::EstrazioniAMano(3, 1)
+      .Aggiungi({{BA, {7, 1, 2, 3, 4}}})
+      .Aggiungi({{VE, {20, 21, 22, 23, 24}}})
+      .Aggiungi({{BA, {7, 10, 11, 12, 13}}})
+      .Aggiungi({})
+      .Aggiungi({{BA, {7, 1, 2, 3, 4}}, {CA, {7, 30, 31, 32, 33}}})
+      .Aggiungi({})
+      .Tabella();
 }
 
 // The row of the model whose first column shows `numero`.

@@ -10,17 +10,13 @@
 #include <utility>
 #include <vector>
 
+#include "EstrazioniAMano.h"
 #include "archive/TabellaEstrazioni.h"
 #include "gui/comuni/ScalaRitardo.h"
 #include "gui/tabellone/ModelloTabellone.h"
 
 namespace lottolab::gui {
 namespace {
-
-struct NumeriRuota {
-  int ruota;
-  std::array<int, kNumeriPerRuota> numeri;
-};
 
 // Twelve draws written by hand. Every wheel not written out holds 81..85; Nazionale is drawn from
 // draw 5 on and Firenze is missing from draw 10.
@@ -29,29 +25,20 @@ struct NumeriRuota {
 //   7 on Nazionale out in draw 6
 //   40             never out
 TabellaEstrazioni ArchivioAMano() {
-  std::vector<Estrazione> estrazioni;
-  auto aggiungi = [&](std::initializer_list<NumeriRuota> scritte) {
-    Estrazione estrazione;
-    estrazione.id_estr = static_cast<int>(estrazioni.size()) + 1;
-    for (int ruota = 1; ruota <= kNumeroRuote; ++ruota) {
-      if (ruota == NZ && estrazione.id_estr < 5) continue;
-      if (ruota == FI && estrazione.id_estr == 10) continue;
-      for (int p = 1; p <= kNumeriPerRuota; ++p) estrazione.ImpostaNumero(ruota, p, 80 + p);
-    }
-    for (const NumeriRuota& scritta : scritte)
-      for (int p = 1; p <= kNumeriPerRuota; ++p) estrazione.ImpostaNumero(scritta.ruota, p, scritta.numeri[p - 1]);
-    estrazioni.push_back(estrazione);
-  };
-  aggiungi({});
-  aggiungi({{FI, {1, 2, 3, 4, 7}}});
-  aggiungi({{BA, {7, 1, 2, 3, 4}}});
-  aggiungi({});
-  aggiungi({});
-  aggiungi({{NZ, {5, 6, 7, 8, 9}}});
-  aggiungi({});
-  aggiungi({{BA, {1, 2, 3, 7, 4}}});
-  for (int id = 9; id <= 12; ++id) aggiungi({});
-  return TabellaEstrazioni(std::move(estrazioni));
+  return test::EstrazioniAMano(5, 0)
+      .Aggiungi({})
+      .Aggiungi({{FI, {1, 2, 3, 4, 7}}})
+      .Aggiungi({{BA, {7, 1, 2, 3, 4}}})
+      .Aggiungi({})
+      .Aggiungi({})
+      .Aggiungi({{NZ, {5, 6, 7, 8, 9}}})
+      .Aggiungi({})
+      .Aggiungi({{BA, {1, 2, 3, 7, 4}}})
+      .Aggiungi({})
+      .Aggiungi({}, {FI})
+      .Aggiungi({})
+      .Aggiungi({})
+      .Tabella();
 }
 
 constexpr std::array kRuoteScelte{int{BA}, int{FI}, int{NZ}};
