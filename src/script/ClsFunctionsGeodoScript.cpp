@@ -15,7 +15,10 @@ namespace {
 
 using Funzione = ClsFunctionsGeodoScript::Funzione;
 
+using Famiglia = ClsFunctionsGeodoScript::Famiglia;
+
 struct Tabella {
+  std::vector<Famiglia> famiglie;
   std::vector<Funzione> funzioni;
   std::unordered_map<std::string, vbs::DispId> per_nome;  // lower-case name -> member number
 };
@@ -23,49 +26,50 @@ struct Tabella {
 const Tabella& TabellaCompleta() {
   static const Tabella tabella = [] {
     Tabella t;
-    for (auto famiglia : {FunzioniCostanti(),
-                          FunzioniEsecuzione(),
-                          FunzioniOutput(),
-                          FunzioniArchivio(),
-                          FunzioniAritmetica(),
-                          FunzioniRitardi(),
-                          FunzioniStatistiche(),
-                          FunzioniElenchi(),
-                          FunzioniRitardiRelativi(),
-                          FunzioniLunghette(),
-                          FunzioniFormazioni(),
-                          FunzioniTabelle(),
-                          FunzioniAnalitico(),
-                          FunzioniTesto(),
-                          FunzioniCombinazioni(),
-                          FunzioniArray(),
-                          FunzioniFile(),
-                          FunzioniRete(),
-                          FunzioniDialoghi(),
-                          FunzioniEstrazioniAttive(),
-                          FunzioniCollezioni(),
-                          FunzioniCiclometria(),
-                          FunzioniFigureUtente(),
-                          FunzioniGiochiArchivio(),
-                          FunzioniGiochiStatistiche(),
-                          FunzioniGiochiElenchi(),
-                          FunzioniGiochiEstrazioniAttive(),
-                          FunzioniGiochiFile(),
-                          FunzioniBaseDati(),
-                          FunzioniSistemi(),
-                          FunzioniGiocate(),
-                          FunzioniGiocateGiochi(),
-                          FunzioniGiocateAgenda(),
-                          FunzioniPrevisioni(),
-                          FunzioniEsiti(),
-                          FunzioniEsitiGiochi(),
-                          FunzioniPremi(),
-                          FunzioniPic(),
-                          FunzioniPicCerchio(),
-                          FunzioniDisegnoTavola(),
-                          FunzioniGrafici(),
-                          FunzioniXls()})
-      t.funzioni.insert(t.funzioni.end(), famiglia.begin(), famiglia.end());
+    t.famiglie = {{"Costanti", FunzioniCostanti()},
+                  {"Esecuzione dello script", FunzioniEsecuzione()},
+                  {"Output di testo", FunzioniOutput()},
+                  {"Archivio e date", FunzioniArchivio()},
+                  {"Aritmetica dei numeri", FunzioniAritmetica()},
+                  {"Ritardi", FunzioniRitardi()},
+                  {"Frequenze e storici", FunzioniStatistiche()},
+                  {"Elenchi di ritardatari", FunzioniElenchi()},
+                  {"Ritardi relativi", FunzioniRitardiRelativi()},
+                  {"Lunghette", FunzioniLunghette()},
+                  {"Formazioni", FunzioniFormazioni()},
+                  {"Tabelle di output", FunzioniTabelle()},
+                  {"Tabellone analitico", FunzioniAnalitico()},
+                  {"Testi di numeri ed estrazioni", FunzioniTesto()},
+                  {"Combinazioni e sviluppi", FunzioniCombinazioni()},
+                  {"Array di numeri", FunzioniArray()},
+                  {"File", FunzioniFile()},
+                  {"Rete", FunzioniRete()},
+                  {"Dialoghi con l'utente", FunzioniDialoghi()},
+                  {"Estrazioni attive", FunzioniEstrazioniAttive()},
+                  {"Collezioni", FunzioniCollezioni()},
+                  {"Ciclometria", FunzioniCiclometria()},
+                  {"Figure utente", FunzioniFigureUtente()},
+                  {"Altri giochi: archivio", FunzioniGiochiArchivio()},
+                  {"Altri giochi: ritardi e frequenze", FunzioniGiochiStatistiche()},
+                  {"Altri giochi: elenchi", FunzioniGiochiElenchi()},
+                  {"Altri giochi: estrazioni attive", FunzioniGiochiEstrazioniAttive()},
+                  {"Archivio generico: file", FunzioniGiochiFile()},
+                  {"Basi dati", FunzioniBaseDati()},
+                  {"Sistemi", FunzioniSistemi()},
+                  {"Giocate e resoconto", FunzioniGiocate()},
+                  {"Giocate degli altri giochi", FunzioniGiocateGiochi()},
+                  {"Agenda delle giocate", FunzioniGiocateAgenda()},
+                  {"Previsioni", FunzioniPrevisioni()},
+                  {"Esiti", FunzioniEsiti()},
+                  {"Esiti degli altri giochi", FunzioniEsitiGiochi()},
+                  {"Premi", FunzioniPremi()},
+                  {"Disegni", FunzioniPic()},
+                  {"Disegni del cerchio", FunzioniPicCerchio()},
+                  {"Disegni della tavola", FunzioniDisegnoTavola()},
+                  {"Grafici", FunzioniGrafici()},
+                  {"Fogli di calcolo", FunzioniXls()}};
+    for (const Famiglia& famiglia : t.famiglie)
+      t.funzioni.insert(t.funzioni.end(), famiglia.funzioni.begin(), famiglia.funzioni.end());
     for (size_t i = 0; i < t.funzioni.size(); ++i) {
       [[maybe_unused]] bool nuovo =
           t.per_nome.emplace(text::LowerAscii(t.funzioni[i].nome), static_cast<vbs::DispId>(i + 1)).second;
@@ -94,6 +98,8 @@ ClsFunctionsGeodoScript::ClsFunctionsGeodoScript(InterfacciaScript& ospite, cons
 ClsFunctionsGeodoScript::~ClsFunctionsGeodoScript() { m_html.Chiudi(); }
 
 std::span<const Funzione> ClsFunctionsGeodoScript::Funzioni() { return TabellaCompleta().funzioni; }
+
+std::span<const Famiglia> ClsFunctionsGeodoScript::Famiglie() { return TabellaCompleta().famiglie; }
 
 vbs::DispId ClsFunctionsGeodoScript::FindMember(std::string_view name) {
   const auto& per_nome = TabellaCompleta().per_nome;

@@ -65,7 +65,15 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
     uint8_t min_args;
     uint8_t max_args;
     Chiamata chiamata;
-    std::string_view descrizione;
+    std::string_view descrizione;       // "arguments: meaning", or only the meaning for a name without any
+    std::string_view restituisce = {};  // what the call gives back, for the reference
+    std::string_view esempio = {};      // one line of a script that calls it
+  };
+
+  // The rows of one family file, under the title the reference gives them.
+  struct Famiglia {
+    std::string_view titolo;
+    std::span<const Funzione> funzioni;
   };
 
   // The whole-number form of a function that scripts call in their innermost loops (see
@@ -80,6 +88,8 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
 
   // The whole table, every family together.
   static std::span<const Funzione> Funzioni();
+  // The same rows, family by family.
+  static std::span<const Famiglia> Famiglie();
 
   std::u16string ClassName() const override { return u"ClsFunctionsGeodoScript"; }
   vbs::DispId FindMember(std::string_view name) override;

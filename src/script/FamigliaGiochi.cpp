@@ -45,9 +45,12 @@ std::vector<ClsFunctionsGeodoScript::Funzione> DeclinaPerGioco(
       std::string nome = std::string(funzione.radice) + std::string(d.suffisso);
       if (!Pubblico(nome)) continue;
       const std::string& nome_fisso = testi.emplace_back(std::move(nome));
-      const std::string& descrizione = testi.emplace_back(
-          fmt::format(fmt::runtime(funzione.descrizione), fmt::arg("n", d.numeri), fmt::arg("m", d.massimo)));
-      righe.push_back({nome_fisso, funzione.min_args, funzione.max_args, funzione.chiamate[s], descrizione});
+      const auto declina = [&](std::string_view testo) -> std::string_view {
+        return testi.emplace_back(fmt::format(fmt::runtime(testo), fmt::arg("n", d.numeri), fmt::arg("m", d.massimo),
+                                              fmt::arg("s", d.suffisso)));
+      };
+      righe.push_back({nome_fisso, funzione.min_args, funzione.max_args, funzione.chiamate[s],
+                       declina(funzione.descrizione), declina(funzione.restituisce), declina(funzione.esempio)});
     }
   }
   righe.insert(righe.end(), altre.begin(), altre.end());

@@ -5,7 +5,8 @@
 // know are bound: EstrattoIncrStorico has no WF form, for one, and so it gets none.
 //
 // The description may name the numbers of a draw as {n} and their range as {m}; each row gets its
-// game's figures ("6" and "90" for the SuperEnalotto, "K" and "M" for the generic archive).
+// game's figures ("6" and "90" for the SuperEnalotto, "K" and "M" for the generic archive); the
+// example calls the row's own name as {s} after the root.
 
 #include <array>
 #include <span>
@@ -23,6 +24,8 @@ struct FunzioneDeiGiochi {
   uint8_t max_args;
   std::array<ClsFunctionsGeodoScript::Chiamata, kNumeroSuffissi> chiamate;  // SE, DL, WF, FT
   std::string_view descrizione;
+  std::string_view restituisce = {};
+  std::string_view esempio = {};  // {s} is the game's suffix
 };
 
 // The four instances of a function template over Suffisso, in the order of FunzioneDeiGiochi; the

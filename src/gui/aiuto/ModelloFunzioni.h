@@ -1,19 +1,28 @@
 #pragma once
 
-// The reference of the script library as a table: every public name, family by family, with its
-// arguments and meaning taken from the library's own binding rows. Built from the lists the
-// library keeps, so a name bound tomorrow appears here without touching the desktop.
+// The reference of the script library as a table: every public name, family by family, with the
+// card the library keeps for it (script/Riferimento.h), so a name bound tomorrow appears here
+// without touching the desktop.
 
 #include <QAbstractTableModel>
 
-#include <string_view>
 #include <vector>
+
+#include "script/Riferimento.h"
 
 namespace lottolab::gui {
 
 class ModelloFunzioni : public QAbstractTableModel {
  public:
-  enum Colonna { kColonnaNome, kColonnaArgomenti, kColonnaSignificato, kColonnaFamiglia, kColonne };
+  enum Colonna {
+    kColonnaNome,
+    kColonnaArgomenti,
+    kColonnaRestituisce,
+    kColonnaSignificato,
+    kColonnaEsempio,
+    kColonnaFamiglia,
+    kColonne
+  };
 
   explicit ModelloFunzioni(QObject* parent = nullptr);
 
@@ -26,15 +35,7 @@ class ModelloFunzioni : public QAbstractTableModel {
   int Disponibili() const;
 
  private:
-  struct Voce {
-    std::string_view famiglia;
-    std::string_view nome;
-    std::string_view argomenti;
-    std::string_view significato;
-    bool disponibile = false;
-  };
-
-  std::vector<Voce> m_voci;
+  const std::vector<script::SchedaFunzione>& m_schede;
 };
 
 }  // namespace lottolab::gui

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "script/ClsFunctionsGeodoScript.h"
+#include "script/Riferimento.h"
 #include "text/AsciiCase.h"
 #include "vbscript/builtins/Builtins.h"
 
@@ -32,15 +33,40 @@ ParolaEditor DaBuiltin(const vbs::Builtin& builtin) {
   return {std::string(builtin.name), std::string(builtin.description.substr(0, due_punti))};
 }
 
-// The library's rows read "Arguments: what it does", or only what it does for a name with none.
+// A call tip wider than the editor would be cut: the meaning is wrapped at spaces.
+std::string AndandoACapo(const std::string& testo, size_t larghezza) {
+  std::string risultato;
+  size_t colonna = 0;
+  size_t inizio = 0;
+  while (inizio < testo.size()) {
+    size_t fine = testo.find_first_of(" \n", inizio);
+    if (fine == std::string::npos) fine = testo.size();
+    const size_t parola = fine - inizio;
+    if (colonna > 0 && colonna + 1 + parola > larghezza) {
+      risultato += '\n';
+      colonna = 0;
+    } else if (colonna > 0) {
+      risultato += ' ';
+      ++colonna;
+    }
+    risultato.append(testo, inizio, parola);
+    colonna += parola;
+    if (fine < testo.size() && testo[fine] == '\n') {
+      risultato += '\n';
+      colonna = 0;
+    }
+    inizio = fine + 1;
+  }
+  return risultato;
+}
+
+// A public name shows its card; a constant (BA_, Rosso_) reads "BA_: Bari: ruota 1".
 ParolaEditor DaFunzione(const script::ClsFunctionsGeodoScript::Funzione& funzione) {
-  const std::string nome(funzione.nome);
-  const std::string_view descrizione = funzione.descrizione;
-  const size_t due_punti = descrizione.find(": ");
-  if (funzione.max_args == 0 || due_punti == std::string_view::npos)
-    return {nome, nome + ": " + std::string(descrizione)};
-  return {nome, nome + "(" + std::string(descrizione.substr(0, due_punti)) + ")\n" +
-                    std::string(descrizione.substr(due_punti + 2))};
+  constexpr size_t kLarghezzaSuggerimento = 100;
+  std::string nome(funzione.nome);
+  if (const script::SchedaFunzione* scheda = script::CercaScheda(nome))
+    return {std::move(nome), AndandoACapo(script::TestoSuggerimento(*scheda), kLarghezzaSuggerimento)};
+  return {nome, nome + ": " + std::string(funzione.descrizione)};
 }
 
 }  // namespace

@@ -169,7 +169,7 @@ class FinestraScriptTest : public QObject {
     }
     QCOMPARE(parole.Suggerimento("len"), std::string("Len(string)"));
     const std::string estratto = parole.Suggerimento("ESTRATTO");
-    QVERIFY(estratto.starts_with("Estratto(IdEstr, Ruota, Posizione)\n"));
+    QVERIFY(estratto.starts_with("Estratto(IdEstr, Ruota, Posizione)"));
     QCOMPARE(parole.Suggerimento("BA_"), std::string("BA_: Bari: ruota 1"));
     QVERIFY(parole.Suggerimento("InitScript").empty());
 
