@@ -2,6 +2,9 @@
 
 #include <fmt/format.h>
 
+#include <cstdio>
+#include <string>
+
 #include "ArgomentiLotto.h"
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
@@ -84,6 +87,17 @@ Result<MisuraGioco> MisuraNumeriGioco(Libreria& lib, Suffisso suffisso, const Ca
   misura.sorte = quanti;
   const auto dopo = static_cast<size_t>(quanti);
   return Completa(*tab, args, std::move(misura), {.inizio = dopo, .fine = dopo + 1, .posizioni = dopo + 2});
+}
+
+Result<int> OraArgomento(const CallArgs& args, size_t i) {
+  VBS_TRY_ASSIGN(auto testo, args.String(i));
+  const std::string ora = text::Utf16ToUtf8(testo);
+  int ore = 0, minuti = 0;
+  char due_punti = 0;
+  if (std::sscanf(ora.c_str(), "%d%c%d", &ore, &due_punti, &minuti) != 3 || (due_punti != ':' && due_punti != '.') ||
+      ore < 0 || ore > 23 || minuti < 0 || minuti > 59)
+    return ArgomentoNonValido(fmt::format("Ora non valida: \"{}\" (si scrive hh:mm, da 00:00 a 23:59)", ora));
+  return ore * 60 + minuti;
 }
 
 }  // namespace lottolab::script

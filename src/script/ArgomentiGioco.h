@@ -23,6 +23,9 @@ vbs::Result<const TabellaGioco*> TabellaDelGioco(ClsFunctionsGeodoScript& lib, S
 // Argument i as a draw of the table: error 9 outside it, as for the Lotto's archive.
 vbs::Result<const EstrazioneGioco*> EstrazioneDelGioco(const TabellaGioco& tab, const vbs::CallArgs& args, size_t i);
 
+// Argument i as a time of day, "hh:mm" (or "hh.mm"), in minutes after midnight.
+vbs::Result<int> OraArgomento(const vbs::CallArgs& args, size_t i);
+
 // Argument i as one number, brought into 1..M.
 vbs::Result<int> NumeroDelGioco(const TabellaGioco& tab, const vbs::CallArgs& args, size_t i);
 

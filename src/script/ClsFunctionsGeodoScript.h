@@ -104,6 +104,8 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
   void StopProcess() { m_stop.store(true, std::memory_order_relaxed); }
   // The engine the library runs in, whose interruption long loops of the library watch.
   void SetMotore(vbs::Interpreter* motore) { m_motore = motore; }
+  // The engine, for the functions that run code in it (Includi, CreateObjectX); null before SetMotore.
+  vbs::Interpreter* motore() const { return m_motore; }
 
   // ---- The run's state, for the families ----
   InterfacciaScript& ospite() { return m_ospite; }
@@ -183,10 +185,13 @@ class ClsFunctionsGeodoScript final : public vbs::Object {
 // The families of the table, one file each.
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniCostanti();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniEsecuzione();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniMotore();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniOutput();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniArchivio();
 std::span<const ClsFunctionsGeodoScript::FormaIntera> FormeIntereArchivio();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniAritmetica();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniConversioni();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniInfoEstrazioni();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniRitardi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniStatistiche();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniElenchi();
@@ -210,6 +215,7 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiElenchi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiEstrazioniAttive();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiFile();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniBaseDati();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniBaseDatiGiochi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniSistemi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocate();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocateGiochi();

@@ -166,6 +166,8 @@ Result<Variant> AmboPosRit(Libreria& lib, CallArgs& args) {
 }
 
 // Every run between two outings in order, then the open run, so that the last element is RitPos.
+// kConUscita counts each closed run with the draw that closed it: the draws it took to come out.
+template <bool kConUscita>
 Result<Variant> RitPosCrono(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto archivio, lib.Archivio());
   VBS_TRY_ASSIGN(auto ruota, RuotaArgomento(args, 0, kTutteLeRuote));
@@ -174,9 +176,11 @@ Result<Variant> RitPosCrono(Libreria& lib, CallArgs& args) {
   const int ruote[] = {ruota};
   const std::vector<int> singole = RuoteSingole(ruote);
   const NumeroInPosizione posti[] = {posto};
-  const std::vector<int> ritardi =
+  std::vector<int> ritardi =
       CronologiaConRegola(*archivio, singole, intervallo.inizio, intervallo.fine,
                           [&](const Estrazione& estrazione) { return InPosizione(estrazione, singole, posti); });
+  if (kConUscita && !ritardi.empty())
+    std::for_each(ritardi.begin(), ritardi.end() - 1, [](int& ritardo) { ++ritardo; });
   args.Out(3) = ArrayDaUno(ritardi);
   return Variant::Long(static_cast<int32_t>(ritardi.size()));
 }
@@ -242,7 +246,12 @@ const Libreria::Funzione kElenchi[] = {
      "dell'ambo posizionale su Ruota (TU_ per tutte) a Fine: le estrazioni dopo l'ultima in cui Numero1 è uscito "
      "in Posizione1 e Numero2 in Posizione2 (due posizioni diverse, 1..5) sulla stessa ruota, contate come in "
      "RitPos (Long)"},
-    {"RitPosCrono", 4, 6, &RitPosCrono,
+    {"RitPosCronoRp1", 4, 6, &RitPosCrono<true>,
+     "Ruota, Numero, Posizione, aRet, [Inizio = 1], [Fine = ultima estrazione]: la cronologia di RitPosCrono con "
+     "ogni ritardo chiuso contato insieme all'estrazione dell'uscita (ritardo + 1: le estrazioni che sono servite); "
+     "l'ultimo, il ritardo aperto a Fine, resta quello di RitPos",
+     "Long: quanti ritardi; in aRet i ritardi (array da 1)", "n = RitPosCronoRp1(BA_, 90, 1, aR) : Scrivi aR(1)"},
+    {"RitPosCrono", 4, 6, &RitPosCrono<false>,
      "Ruota, Numero, Posizione, aRet, [Inizio = 1], [Fine = ultima estrazione]: la cronologia dei ritardi di "
      "RitPos: riempie aRet(1..) con il ritardo chiuso da ogni uscita di Numero in Posizione su Ruota (TU_ per "
      "tutte) in Inizio..Fine, una per estrazione, dalla più vecchia, e per ultimo il ritardo a Fine, quello di "

@@ -129,18 +129,6 @@ Result<Variant> DataEstrToIdEstr(Libreria& lib, CallArgs& args) {
 Result<Variant> EstrazioneIniDL(Libreria& lib, CallArgs& args) { return EstrazioneDelGiorno<false>(lib, args, S::DL); }
 Result<Variant> EstrazioneFinDL(Libreria& lib, CallArgs& args) { return EstrazioneDelGiorno<true>(lib, args, S::DL); }
 
-// "hh:mm" as minutes after midnight.
-Result<int> OraArgomento(const CallArgs& args, size_t i) {
-  VBS_TRY_ASSIGN(auto testo, args.String(i));
-  const std::string ora = text::Utf16ToUtf8(testo);
-  int ore = 0, minuti = 0;
-  char due_punti = 0;
-  if (std::sscanf(ora.c_str(), "%d%c%d", &ore, &due_punti, &minuti) != 3 || (due_punti != ':' && due_punti != '.') ||
-      ore < 0 || ore > 23 || minuti < 0 || minuti > 59)
-    return ArgomentoNonValido(fmt::format("Ora non valida: \"{}\" (si scrive hh:mm, da 00:00 a 23:59)", ora));
-  return ore * 60 + minuti;
-}
-
 // The first draw of the day at or after the time, or the last at or before it; 0 when none.
 template <bool kFine>
 Result<Variant> Fascia(Libreria& lib, CallArgs& args) {

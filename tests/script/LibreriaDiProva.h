@@ -46,9 +46,9 @@ class Libreria : public ::testing::Test {
     m_tab = std::move(tab);
     impostazioni.archivio = &m_tab;
     ASSERT_TRUE(m_engine.SetLanguage("VBScript"));
-    ASSERT_TRUE(m_engine.AddObject(
-        "ClsFunctionsGeodoScript",
-        vbs::MakeRef<ClsFunctionsGeodoScript>(m_ospite, m_engine.interpreter().locale(), impostazioni), true));
+    auto libreria = vbs::MakeRef<ClsFunctionsGeodoScript>(m_ospite, m_engine.interpreter().locale(), impostazioni);
+    libreria->SetMotore(&m_engine.interpreter());
+    ASSERT_TRUE(m_engine.AddObject("ClsFunctionsGeodoScript", std::move(libreria), true));
   }
 
   // The value as the script prints it; "errore n" when evaluating it failed in the engine itself.

@@ -1,0 +1,3 @@
+Function Raddoppia(x)
+  Raddoppia = x * 2
+End Function
