@@ -52,6 +52,7 @@ Sub Main
   Scrivi "Terzine della decina " & StringaNumeri(aDecina) & " più ritardate per ambo", True
   For k = 1 To righe
     ' Ogni riga di aRet ha i tre numeri e poi il ritardo.
-    Scrivi Format2(aRet(k, 1)) & "." & Format2(aRet(k, 2)) & "." & Format2(aRet(k, 3)) & "  ritardo " & aRet(k, 4)
+    Scrivi Format2(aRet(k, 1)) & "." & Format2(aRet(k, 2)) & "." & Format2(aRet(k, 3)) & _
+           "  ritardo " & aRet(k, 4)
   Next
 End Sub

@@ -1,7 +1,8 @@
 ' Fogli di calcolo
 ' Scrive una cartella di lavoro .xlsx con il numero più ritardato di ogni ruota (primo foglio) e
 ' l'ultima estrazione (secondo foglio), nella cartella della pagina di output dello script
-' (scriptOutput nella cartella di base, se non ne scegli un'altra), e la rilegge. Righe e colonne partono da 1; un valore può essere un numero, un testo, una data.
+' (scriptOutput nella cartella di base, se non ne scegli un'altra), e la rilegge. Righe e colonne
+' partono da 1; un valore può essere un numero, un testo, una data.
 ' I colori sono quelli della libreria (Rosso_, Blu_...) o RGB(r, g, b).
 ' Per cambiarlo: il nome del file in sFile, le colonne scritte nel ciclo, i formati di XlsScriviC.
 ' Dal terminale: lottolab esegui 09_fogli_calcolo.ls
@@ -46,5 +47,6 @@ Sub Main
   Scrivi "Nel foglio Estrazione, Venezia: " & XlsLeggiinFoglio("Estrazione", 11, 2) & " ..."
   ' Chiude salvando: il file è scritto tutto insieme.
   XlsChiudi
-  Scrivi "Cartella di lavoro " & Mid(sFile, InStrRev(sFile, "/") + 1) & ": " & Iif(FileEsistente(sFile), "scritta", "non scritta")
+  Scrivi "Cartella di lavoro " & Mid(sFile, InStrRev(sFile, "/") + 1) & ": " & _
+         Iif(FileEsistente(sFile), "scritta", "non scritta")
 End Sub

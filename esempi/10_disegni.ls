@@ -1,5 +1,5 @@
 ' Disegni, cerchio e grafici
-' Disegna l'ultima estrazione di alcune ruote come una tabella di caselle, il cerchio dei 90
+' Disegna le ultime due estrazioni di alcune ruote come tabelle di caselle, il cerchio dei 90
 ' numeri con i numeri di due ruote e le loro figure ciclometriche, e un grafico del ritardo di un
 ' numero nelle ultime estrazioni. Nel programma ogni disegno ha la sua scheda o finestra; dal
 ' terminale diventa un'immagine PNG accanto alla pagina HTML (una riga su stderr dice dove).
