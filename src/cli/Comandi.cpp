@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "app/ErroreInatteso.h"
+#include "app/Esempi.h"
 #include "app/Percorsi.h"
 
 namespace lottolab::cli {
@@ -155,6 +156,10 @@ int EseguiParole(const Parole& argomenti, std::ostream& out, std::ostream& err) 
   Parole parole(argomenti.begin() + static_cast<std::ptrdiff_t>(i) + 1, argomenti.end());
 
   const auto trovato = std::ranges::find(kComandi, std::string_view(comando), &Comando::nome);
+  // The first run on a base folder leaves there the example scripts a user starts from.
+  if (trovato != kComandi.end())
+    if (auto esempi = app::InstallaEsempi(contesto.configurazione.base); !esempi)
+      segnalatore.Avverti(esempi.Errore().testo);
   if (trovato != kComandi.end() && contesto.gioco) {
     if (trovato->esegui_altro_gioco) return trovato->esegui_altro_gioco(contesto, parole);
     return contesto.Fallisci(AvvisoEsclamativo(fmt::format(

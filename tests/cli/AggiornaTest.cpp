@@ -99,14 +99,14 @@ TEST_F(Aggiorna, UnaNuovaInstallazioneSiAggiornaDaUnIndirizzoDato) {
   EXPECT_EQ(lotto.out, "importate 2 estrazioni\n");
   auto se = Lottolab({"--gioco", "SE", "aggiorna", "--indirizzo", server.Indirizzo("/se.txt")});
   EXPECT_EQ(se.out, "importata 1 estrazione del SuperEnalotto\n") << se.err;
-  // The archives and their lock files, and nothing of the downloads.
+  // The archives and their lock files, the example scripts of a first run, and nothing of the downloads.
   auto file = [&] {
     std::vector<std::string> nomi;
     for (const fs::directory_entry& voce : fs::directory_iterator(nuova)) nomi.push_back(voce.path().filename());
     std::sort(nomi.begin(), nomi.end());
     return nomi;
   };
-  const std::vector<std::string> archivi = {"BaseDati.dat", "BaseDati.dat.lock", "SuperEnalotto.dat",
+  const std::vector<std::string> archivi = {"BaseDati.dat", "BaseDati.dat.lock", "Script", "SuperEnalotto.dat",
                                             "SuperEnalotto.dat.lock"};
   EXPECT_EQ(file(), archivi);
 

@@ -233,5 +233,21 @@ TEST_F(RigaDiComando, ImportaRifiutaLeDateOltreDomani) {
   EXPECT_TRUE(uscita.err.starts_with("lottolab: Riga 1: la data 9999/12/31 è nel futuro, oltre domani")) << uscita.err;
 }
 
+TEST_F(RigaDiComando, IlPrimoComandoScriveGliEsempiEUnGuastoEUnAvviso) {
+  auto uscita = Lottolab({"nuovo-script", (m_base / "mio.ls").string()});
+  EXPECT_EQ(uscita.codice, 0) << uscita.err;
+  EXPECT_EQ(uscita.err, "");
+  EXPECT_TRUE(std::filesystem::is_directory(m_base / "Script" / "Esempi"));
+
+  // The command still does its work when the examples cannot be written; the exit status is its own.
+  test::BaseTemporanea guasta;
+  test::Scrivi(guasta / "Script", "non una cartella");
+  auto avvisato = Lottolab({"nuovo-script", (guasta / "mio.ls").string()});
+  EXPECT_EQ(avvisato.codice, 0) << avvisato.err;
+  EXPECT_TRUE(avvisato.err.starts_with("lottolab: attenzione: Gli script di esempio non sono stati scritti in "))
+      << avvisato.err;
+  EXPECT_TRUE(std::filesystem::exists(guasta / "mio.ls"));
+}
+
 }  // namespace
 }  // namespace lottolab::cli

@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "app/ErroreInatteso.h"
+#include "app/Esempi.h"
 #include "app/Percorsi.h"
 #include "gui/comuni/IconaApplicazione.h"
 #include "gui/principale/ContestoGui.h"
@@ -62,6 +63,8 @@ int Avvia(Applicazione& applicazione) {
                               .arg(QString::fromStdString(configurazione.Errore().testo)));
     return 1;
   }
+  // The first run on a base folder leaves there the example scripts a user starts from.
+  const auto esempi = lottolab::app::InstallaEsempi(base);
   lottolab::gui::ContestoGui contesto(std::move(configurazione).Valore());
   // An archive that cannot even be looked at (a folder, a device, a path the system refuses) is
   // one more reason for having none: the window opens and its settings can point elsewhere.
@@ -104,6 +107,11 @@ int Avvia(Applicazione& applicazione) {
                          "lottolab importa FILE oppure lottolab aggiorna.\n\nArchivio atteso: %2")
               .arg(QString::fromStdString(caricato.Errore().testo),
                    QString::fromStdString(contesto.Configurazione().ArchivioLotto().string())));
+    });
+  if (!esempi)
+    QTimer::singleShot(0, &finestra, [&finestra, &esempi] {
+      QMessageBox::warning(&finestra, QStringLiteral("Script di esempio"),
+                           QString::fromStdString(esempi.Errore().testo));
     });
   return applicazione.exec();
 }
