@@ -63,7 +63,10 @@ const FunzioneDeiGiochi kEsitiGiochi[] = {
      "chiude alla prima estrazione con almeno SorteMinima (1..{n}) numeri tra i principali e restituisce quanti "
      "(Long, 0 se nessuna). Con Scrivi scrive una riga (\"3 punti al colpo 2, concorso ...\", \"negativo dopo N "
      "colpi\", \"in corso: ...\"); nelle variabili facoltative il colpo e l'IdEstr della vincita (0 senza) e i colpi "
-     "che l'archivio contiene"},
+     "che l'archivio contiene",
+     "Long: quanti numeri principali alla prima estrazione vincente, 0 se nessuna; nelle variabili Ret... colpo, "
+     "IdEstr e colpi giocati",
+     "Scrivi VerificaEsito{s}(Array(3, 7, 12, 18), EstrazioniArchivio{s} - 20, 10)"},
 };
 
 }  // namespace

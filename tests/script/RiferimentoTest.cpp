@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <numeric>
 #include <fstream>
+#include <numeric>
 #include <random>
 #include <sstream>
 #include <string>
@@ -25,7 +25,8 @@ TEST(Riferimento, OgniNomeLegatoHaTuttaLaSuaScheda) {
   std::vector<std::string> incomplete;
   for (const SchedaFunzione& scheda : Riferimento()) {
     if (!scheda.legata) continue;
-    const bool esempio_del_nome = text::LowerAscii(scheda.esempio).find(text::LowerAscii(scheda.nome)) != std::string::npos;
+    const bool esempio_del_nome =
+        text::LowerAscii(scheda.esempio).find(text::LowerAscii(scheda.nome)) != std::string::npos;
     if (scheda.significato.empty() || scheda.restituisce.empty() || !esempio_del_nome ||
         scheda.esempio.find('\n') != std::string_view::npos)
       incomplete.emplace_back(scheda.nome);
