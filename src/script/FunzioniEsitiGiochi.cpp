@@ -19,9 +19,12 @@ namespace {
 
 using namespace famiglia;
 
+// The draw as its game names it: by its contest, or by its place in the archive where the game
+// numbers no contests (the generic archive).
 std::string Concorso(const TabellaGioco& tab, int id_estr) {
   const EstrazioneGioco& e = tab[id_estr];
-  std::string testo = fmt::format("concorso {} del {}", e.concorso, FormattaData(e.data));
+  std::string testo = e.concorso > 0 ? fmt::format("concorso {} del {}", e.concorso, FormattaData(e.data))
+                                     : fmt::format("estrazione {} del {}", id_estr, FormattaData(e.data));
   if (tab.formato().con_ora) testo += fmt::format(" alle {:02}:{:02}", e.minuti / 60, e.minuti % 60);
   return testo;
 }
