@@ -55,11 +55,16 @@ const Libreria::Funzione kBaseDati[] = {
     {"ApriFileBaseDati", 1, 1, &ApriFileBaseDati,
      "NomeFile: per il resto dell'esecuzione le funzioni del Lotto leggono l'archivio di quel file (il formato "
      "dell'archivio del programma) invece di quello configurato; il numero di estrazioni lette (Long). Lo stato già "
-     "preparato da altre funzioni (ritardi relativi, sviluppi) resta quello letto prima"},
+     "preparato da altre funzioni (ritardi relativi, sviluppi) resta quello letto prima",
+     "Long: quante estrazioni ha letto; errore 5, con il motivo, se il file non si legge o non ha estrazioni",
+     "For i = EstrazioniArchivio - 199 To EstrazioniArchivio : SalvaEstrazione \"ultime.dat\", i, i - "
+     "EstrazioniArchivio + 200 : Next : Scrivi ApriFileBaseDati(\"ultime.dat\")"},
     {"SalvaEstrazione", 2, 3, &SalvaEstrazione,
      "NomeFile, IdEstr, [Posizione = 0]: scrive l'estrazione IdEstr dell'archivio in uso nel file d'archivio "
      "NomeFile, tutta insieme: in fondo con Posizione 0, al posto di quella alla Posizione indicata altrimenti; "
-     "True se scritta. L'archivio configurato non si scrive dagli script"},
+     "True se scritta. L'archivio configurato non si scrive dagli script",
+     "Boolean: True; errore 5, con il motivo, se il file non si scrive o Posizione va oltre la fine + 1",
+     "Scrivi SalvaEstrazione(\"copia.dat\", EstrazioniArchivio)"},
 };
 
 }  // namespace

@@ -135,40 +135,64 @@ const Libreria::Funzione kCiclometria[] = {
      "[aTipi]: una collezione con tutte le figure ciclometriche tra quei numeri, dei tipi aTipi (un numero o un "
      "array: 1 diametro, 2 triangolo equilatero, 3 triangolo isoscele, 4 quadrato ciclometrico, 5 rettangolo, 6 "
      "trapezio isoscele, 7 aquilone; tutti se omesso), raggruppate per tipo; ogni elemento ha Tipo, IdTipo, "
-     "Numeri, Vertice(i), Ruote, RuoteVertice(i), Descrizione"},
+     "Numeri, Vertice(i), Ruote, RuoteVertice(i), Descrizione",
+     "Collection di FiguraCiclo: le figure trovate, raggruppate per tipo; vuota se non ce ne sono",
+     "For Each f In GetCollFigureCiclometriche(EstrazioniArchivio, Array(BA_, VE_), Array(2, 7)) : Scrivi "
+     "f.Descrizione : Next"},
     {"GetCollTriangoliEquilateri", 1, 2, &FigureDiUnTipo<TipoFigura::TriangoloEquilatero>,
-     LOTTOLAB_ORIGINE "una collezione dei triangoli equilateri: tre numeri a distanza 30 l'uno dall'altro"},
+     LOTTOLAB_ORIGINE "una collezione dei triangoli equilateri: tre numeri a distanza 30 l'uno dall'altro",
+     "Collection di FiguraCiclo: i triangoli equilateri, vuota se non ce ne sono",
+     "For Each f In GetCollTriangoliEquilateri(Array(1, 31, 61, 10, 40, 70)) : Scrivi f : Next"},
     {"GetCollTriangoliIsosceli", 1, 2, &FigureDiUnTipo<TipoFigura::TriangoloIsoscele>,
      LOTTOLAB_ORIGINE
      "una collezione dei triangoli isosceli: un vertice (il primo) alla stessa distanza, da 1 a 44 ma non 30, "
-     "dagli altri due; gli equilateri sono a parte"},
+     "dagli altri due; gli equilateri sono a parte",
+     "Collection di FiguraCiclo: i triangoli isosceli, vuota se non ce ne sono",
+     "For Each f In GetCollTriangoliIsosceli(EstrazioniArchivio, Array(BA_, NA_)) : Scrivi f : Next"},
     {"GetCollQuadratoCiclometrico", 1, 2, &FigureDiUnTipo<TipoFigura::QuadratoCiclometrico>,
      LOTTOLAB_ORIGINE
      "una collezione dei quadrati ciclometrici: 90 non si divide per 4, così il quadrato è quello di lati 22 e 23, "
-     "con due diametri per diagonali (1-23-46-68)"},
+     "con due diametri per diagonali (1-23-46-68)",
+     "Collection di FiguraCiclo: i quadrati ciclometrici, vuota se non ce ne sono",
+     "Scrivi GetCollQuadratoCiclometrico(Array(1, 23, 46, 68)).Count & \" quadrato\""},
     {"GetCollRettangoli", 1, 2, &FigureDiUnTipo<TipoFigura::Rettangolo>,
-     LOTTOLAB_ORIGINE "una collezione dei rettangoli: due diametri qualsiasi, tranne quelli del quadrato ciclometrico"},
+     LOTTOLAB_ORIGINE "una collezione dei rettangoli: due diametri qualsiasi, tranne quelli del quadrato ciclometrico",
+     "Collection di FiguraCiclo: i rettangoli, vuota se non ce ne sono",
+     "For Each f In GetCollRettangoli(Array(1, 46, 10, 55)) : Scrivi f : Next"},
     {"GetCollTrapezioIsoscele", 1, 2, &FigureDiUnTipo<TipoFigura::TrapezioIsoscele>,
      LOTTOLAB_ORIGINE
-     "una collezione dei trapezi isosceli: due corde parallele (somme uguali modulo 90) di distanza diversa"},
+     "una collezione dei trapezi isosceli: due corde parallele (somme uguali modulo 90) di distanza diversa",
+     "Collection di FiguraCiclo: i trapezi isosceli, vuota se non ce ne sono",
+     "For Each f In GetCollTrapezioIsoscele(EstrazioniArchivio) : Scrivi f : Next"},
     {"GetCollAquiloneCiclometrico", 1, 2, &FigureDiUnTipo<TipoFigura::Aquilone>,
      LOTTOLAB_ORIGINE
      "una collezione degli aquiloni: un diametro (l'asse) e due numeri alla stessa distanza da un suo estremo; "
-     "il primo vertice è l'estremo tra i lati più corti"},
+     "il primo vertice è l'estremo tra i lati più corti",
+     "Collection di FiguraCiclo: gli aquiloni, vuota se non ce ne sono",
+     "For Each f In GetCollAquiloneCiclometrico(Array(10, 55, 18, 2)) : Scrivi f : Next"},
     {"GetCollParallelepipedi", 1, 2, &GetCollParallelepipedi,
      "IdEstr, [aRuote = TT_]: una collezione dei parallelepipedi dell'estrazione: una corda di una ruota e la "
      "corda dei suoi diametrali su un'altra delle ruote aRuote (almeno due), per ogni coppia di ruote; Ruote dice "
-     "la ruota di ogni vertice"},
+     "la ruota di ogni vertice",
+     "Collection di FiguraCiclo: i parallelepipedi (IdTipo 8), vuota se non ce ne sono",
+     "For Each f In GetCollParallelepipedi(EstrazioniArchivio, Array(BA_, CA_, FI_)) : Scrivi f : Next"},
     {"GetCollParallelepipediQN", 2, 2, &GetCollParallelepipediQN,
      "aNumeri1, aNumeri2: i parallelepipedi tra due gruppi di numeri 1..90 dati dallo script al posto di due "
-     "ruote: una corda di aNumeri1 e la corda dei suoi diametrali in aNumeri2"},
+     "ruote: una corda di aNumeri1 e la corda dei suoi diametrali in aNumeri2",
+     "Collection di FiguraCiclo: i parallelepipedi tra i due gruppi, vuota se non ce ne sono",
+     "For Each f In GetCollParallelepipediQN(Array(10, 20), Array(55, 65)) : Scrivi f : Next"},
     {"GetCollParallelepipediFT", 1, 2, &GetCollParallelepipediFT,
      "IdEstr, [IdEstr2 = IdEstr - 1]: i parallelepipedi tra due estrazioni dell'archivio generico (ApriBaseDatiFT), "
      "che ha una sola ruota: una corda dell'estrazione IdEstr e la corda dei suoi diametrali nell'estrazione "
-     "IdEstr2, la precedente se omessa; l'archivio deve avere i numeri da 1 a 90"},
+     "IdEstr2, la precedente se omessa; l'archivio deve avere i numeri da 1 a 90",
+     "Collection di FiguraCiclo: i parallelepipedi tra le due estrazioni, vuota se non ce ne sono",
+     "Scrivi GetCollParallelepipediFT(EstrazioniArchivioFT).Count & \" parallelepipedi\""},
     {"GetArrayNumeriFromFiguraCiclo", 2, 2, &GetArrayNumeriFromFiguraCiclo,
      "Figura, aRet: mette in aRet, con indice da 1, i vertici di una figura delle collezioni ciclometriche "
-     "nell'ordine del disegno e restituisce quanti sono"},
+     "nell'ordine del disegno e restituisce quanti sono",
+     "Integer: quanti vertici; in aRet i vertici (array da 1)",
+     "For Each f In GetCollRettangoli(Array(1, 46, 10, 55)) : n = GetArrayNumeriFromFiguraCiclo(f, aV) : Scrivi n & \" "
+     "vertici:\" & Join(aV, \" \") : Next"},
 };
 
 #undef LOTTOLAB_ORIGINE

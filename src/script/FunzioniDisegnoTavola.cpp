@@ -197,21 +197,36 @@ const Libreria::Funzione kDisegnoTavola[] = {
     {"DisegnaEstrazione", 1, 5, &DisegnaEstrazione,
      "IdEstr, [aRuote = TT_], [X = 0], [Y = 0], [Dimensione = 12]: disegna l'estrazione come tabella, una riga per "
      "ruota con i cinque numeri, data e numero dell'estrazione in alto, con l'angolo in alto a sinistra in (X, Y) e "
-     "il testo alto Dimensione pixel; restituisce l'altezza disegnata in pixel"},
+     "il testo alto Dimensione pixel; restituisce l'altezza disegnata in pixel",
+     "Long: l'altezza disegnata in pixel",
+     "y = DisegnaEstrazione(EstrazioniArchivio) : y = y + DisegnaEstrazione(EstrazioniArchivio - 1, Array(BA_, NA_), "
+     "0, y + 10)"},
     {"DisegnaEstrazioneQN", 1, 5, &DisegnaEstrazioneQN,
      "aNumeri, [aRuote = TT_], [X = 0], [Y = 0], [Dimensione = 12]: come DisegnaEstrazione per i 55 numeri di "
-     "aNumeri (BA posizioni 1..5, CA 6..10, ..., NZ 51..55; 0 dove non c'è numero)"},
+     "aNumeri (BA posizioni 1..5, CA 6..10, ..., NZ 51..55; 0 dove non c'è numero)",
+     "Long: l'altezza disegnata in pixel",
+     "ReDim aN(55) : For i = 1 To 55 : aN(i) = 0 : Next : aN(1) = 12 : aN(2) = 34 : aN(6) = 56 : Scrivi "
+     "DisegnaEstrazioneQN(aN, BA_)"},
     {"DisegnaFiguraGeodomica", 1, 6, &DisegnaFiguraGeodomica<OrigineFigura::Lotto>,
      "Figura, [X = 0], [Y = 0], [Dimensione = 12], [Colore = Rosso_], [Spessore = 2]: disegna la parte della "
      "tabella delle estrazioni che una figura di GetCollFiguraUtente occupa (le sue estrazioni, le ruote dalla prima "
      "all'ultima che tocca), i vertici cerchiati e uniti nell'ordine della struttura, i numeri da giocare evidenziati; "
-     "restituisce l'altezza disegnata in pixel"},
+     "restituisce l'altezza disegnata in pixel",
+     "Long: l'altezza disegnata in pixel",
+     "y = 0 : For Each f In GetCollFiguraUtente(\"strutture\\coppia.dat\", EstrazioniArchivio - 1, EstrazioniArchivio) "
+     ": y = y + DisegnaFiguraGeodomica(f, 0, y) : Next"},
     {"DisegnaFiguraGeodomicaQN", 1, 6, &DisegnaFiguraGeodomica<OrigineFigura::NumeriScript>,
      "Figura, [X = 0], [Y = 0], [Dimensione = 12], [Colore = Rosso_], [Spessore = 2]: come DisegnaFiguraGeodomica "
-     "per una figura di GetCollFiguraUtenteQN, l'ultima riga i numeri dello script"},
+     "per una figura di GetCollFiguraUtenteQN, l'ultima riga i numeri dello script",
+     "Long: l'altezza disegnata in pixel",
+     "ReDim aN(55) : For i = 1 To 55 : aN(i) = 0 : Next : aN(1) = 12 : aN(2) = 34 : aN(6) = 56 : For Each f In "
+     "GetCollFiguraUtenteQN(\"strutture\\coppia.dat\", EstrazioniArchivio, aN) : DisegnaFiguraGeodomicaQN f : Next"},
     {"DisegnaFiguraGeodomicaFT", 1, 6, &DisegnaFiguraGeodomica<OrigineFigura::Generico>,
      "Figura, [X = 0], [Y = 0], [Dimensione = 12], [Colore = Rosso_], [Spessore = 2]: come DisegnaFiguraGeodomica "
-     "per una figura di GetCollFiguraUtenteFT, i K numeri di ogni estrazione dell'archivio generico in fila"},
+     "per una figura di GetCollFiguraUtenteFT, i K numeri di ogni estrazione dell'archivio generico in fila",
+     "Long: l'altezza disegnata in pixel",
+     "For Each f In GetCollFiguraUtenteFT(\"strutture\\coppia.dat\", EstrazioniArchivioFT - 10, EstrazioniArchivioFT) "
+     ": DisegnaFiguraGeodomicaFT f : Next"},
 };
 
 }  // namespace

@@ -216,11 +216,16 @@ const Libreria::Funzione kEsiti[] = {
      "\"in corso: 5 colpi giocati su 18\". "
      "[RetColpo], [RetIdEstr], [RetRuota], [RetColpiGiocati]: nelle variabili facoltative il colpo, l'IdEstr e la "
      "prima ruota (NZ_ = 12) della vincita (0 senza vincita) e i colpi che l'archivio contiene, meno di Colpi se la "
-     "previsione è ancora in corso"},
+     "previsione è ancora in corso",
+     "Long: la sorte più alta della vincita, 0 se nessuna; nelle variabili Ret... colpo, IdEstr, ruota e colpi giocati",
+     "Scrivi VerificaEsito(Array(12, 34, 56), Array(BA_, NA_), EstrazioniArchivio - 30, 18)"},
     {"VerificaEsitoTurbo", 4, 10, &VerificaEsito<Scrittura::Mai>,
      "aNumeri, aRuote, IdEstr, Colpi, [SorteMinima = 1], [Scrivi], [RetColpo], [RetIdEstr], [RetRuota], "
      "[RetColpiGiocati]: come VerificaEsito, con gli stessi argomenti, ma non scrive mai (Scrivi è ignorato): per i "
-     "cicli su tutto l'archivio"},
+     "cicli su tutto l'archivio",
+     "Long: la sorte più alta della vincita, 0 se nessuna; le variabili Ret... come VerificaEsito",
+     "s = VerificaEsitoTurbo(Array(12, 34, 56), TT_, EstrazioniArchivio - 30, 18, 1, False, c) : Scrivi s & \" al "
+     "colpo \" & c"},
     {"VerificaEsitoConGuadagno", 5, 10, &VerificaEsitoConGuadagno,
      "aNumeri, aRuote, IdEstr, Colpi, aPoste, [Scrivi = True], [FermaAllaVincita = True], [RetSpesa], "
      "[RetVintoNetto], [RetColpo]: gioca aNumeri sulle ruote di aRuote dall'estrazione dopo IdEstr per Colpi "
@@ -228,18 +233,24 @@ const Libreria::Funzione kEsiti[] = {
      "l'operatore paga (premi e ritenuta della data di ogni estrazione, vincita massima per biglietto); si ferma "
      "alla prima vincita se FermaAllaVincita. Restituisce il guadagno netto in euro (Double, negativo se perde); "
      "con Scrivi scrive le sorti vinte, la spesa, il vinto e il guadagno; nelle variabili facoltative la spesa, il "
-     "vinto netto in euro e il colpo della prima vincita (0 se nessuna)"},
+     "vinto netto in euro e il colpo della prima vincita (0 se nessuna)",
+     "Double: il guadagno netto in euro, negativo se perde; nelle variabili Ret... spesa, vinto netto e colpo",
+     "ReDim aP(2) : aP(2) = 1 : Scrivi VerificaEsitoConGuadagno(Array(12, 34, 56), Array(BA_, NA_), EstrazioniArchivio "
+     "- 30, 18, aP)"},
     {"VerificaAmbetto", 4, 9, &VerificaAmbetto,
      "aNumeri, aRuote, IdEstr, Colpi, [Scrivi = True], [RetColpo], [RetIdEstr], [RetRuota], [RetColpiGiocati]: "
      "l'esito per ambetto della previsione di aNumeri (almeno due) dopo IdEstr sulle ruote di aRuote nei Colpi "
      "estrazioni seguenti: le combinazioni di ambetto vinte alla prima estrazione che ne dà, sommate sulle ruote "
      "(Long, 0 se nessuna). Le combinazioni si contano a ogni data, anche prima che l'ambetto si giocasse. Con "
-     "Scrivi scrive una riga; le variabili facoltative come in VerificaEsito"},
+     "Scrivi scrive una riga; le variabili facoltative come in VerificaEsito",
+     "Long: le combinazioni di ambetto vinte, 0 se nessuna; le variabili Ret... come VerificaEsito",
+     "Scrivi VerificaAmbetto(Array(12, 34, 56), TT_, EstrazioniArchivio - 30, 18)"},
     {"TestAmbetto", 2, 2, &TestAmbetto,
      "aNumeri, aEstratti: le combinazioni di ambetto di aNumeri (almeno due) vinte dai numeri di aEstratti (fino a "
      "cinque, i numeri di una ruota): un numero giocato uscito con un vicino (sul cerchio dei 90: i vicini di 90 "
      "sono 89 e 1) di un altro numero giocato; un vicino che è esso stesso giocato non conta e l'ambo esatto non "
-     "vince l'ambetto (Long)"},
+     "vince l'ambetto (Long)",
+     "Long: quante combinazioni di ambetto vincono", "Scrivi TestAmbetto(Array(12, 34), Array(12, 35, 60, 70, 80))"},
 };
 
 }  // namespace

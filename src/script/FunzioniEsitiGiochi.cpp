@@ -19,9 +19,12 @@ namespace {
 
 using namespace famiglia;
 
+// The draw as its game names it: by its contest, or by its place in the archive where the game
+// numbers no contests (the generic archive).
 std::string Concorso(const TabellaGioco& tab, int id_estr) {
   const EstrazioneGioco& e = tab[id_estr];
-  std::string testo = fmt::format("concorso {} del {}", e.concorso, FormattaData(e.data));
+  std::string testo = e.concorso > 0 ? fmt::format("concorso {} del {}", e.concorso, FormattaData(e.data))
+                                     : fmt::format("estrazione {} del {}", id_estr, FormattaData(e.data));
   if (tab.formato().con_ora) testo += fmt::format(" alle {:02}:{:02}", e.minuti / 60, e.minuti % 60);
   return testo;
 }
@@ -63,7 +66,10 @@ const FunzioneDeiGiochi kEsitiGiochi[] = {
      "chiude alla prima estrazione con almeno SorteMinima (1..{n}) numeri tra i principali e restituisce quanti "
      "(Long, 0 se nessuna). Con Scrivi scrive una riga (\"3 punti al colpo 2, concorso ...\", \"negativo dopo N "
      "colpi\", \"in corso: ...\"); nelle variabili facoltative il colpo e l'IdEstr della vincita (0 senza) e i colpi "
-     "che l'archivio contiene"},
+     "che l'archivio contiene",
+     "Long: quanti numeri principali alla prima estrazione vincente, 0 se nessuna; nelle variabili Ret... colpo, "
+     "IdEstr e colpi giocati",
+     "Scrivi VerificaEsito{s}(Array(3, 7, 12, 18), EstrazioniArchivio{s} - 20, 10)"},
 };
 
 }  // namespace

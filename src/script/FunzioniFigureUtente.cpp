@@ -195,24 +195,41 @@ const Libreria::Funzione kFigureUtente[] = {
      "struttura salvata nel file (*.dat dell'editor delle strutture) che si completano, con l'ultima riga, in "
      "un'estrazione da IdEstrIniz a IdEstrFin, toccando solo le ruote aRuote (TT_ tutte, Nazionale compresa), "
      "come le trova cerca-figura; ogni elemento ha IdEstrazione, QuantitaVertici, Vertice(i), "
-     "EstrazioneVertice(i), RuotaVertice(i), PosizioneVertice(i), Numeri, NumeriGioco, Ruote, Descrizione"},
+     "EstrazioneVertice(i), RuotaVertice(i), PosizioneVertice(i), Numeri, NumeriGioco, Ruote, Descrizione",
+     "Collection di FiguraGeodomica: le figure trovate, per estrazione, forma e colonna; vuota se nessuna",
+     "For Each f In GetCollFiguraUtente(\"strutture\\coppia.dat\", EstrazioniArchivio - 1, EstrazioniArchivio) : "
+     "Scrivi f & \" gioca \" & Join(f.NumeriGioco, \"-\") : Next"},
     {"GetCollFiguraUtenteQN", 3, 4, &GetCollFiguraUtenteQN,
      "NomeFileStruttura, IdEstr, aNumeri, [aRuote = TT_]: come GetCollFiguraUtente per la sola IdEstr, ma con i "
      "numeri dell'estrazione IdEstr sostituiti dai 55 di aNumeri, uno per colonna della tabella (BA posizioni "
      "1..5, CA 6..10, ..., NZ 51..55; 0 dove non c'è numero): le figure che quei numeri completerebbero sulle "
-     "estrazioni precedenti"},
+     "estrazioni precedenti",
+     "Collection di FiguraGeodomica: le figure che aNumeri completerebbe; vuota se nessuna",
+     "ReDim aN(55) : For i = 1 To 55 : aN(i) = 0 : Next : aN(1) = 12 : aN(2) = 34 : aN(6) = 56 : Scrivi "
+     "GetCollFiguraUtenteQN(\"strutture\\coppia.dat\", EstrazioniArchivio, aN).Count & \" figure\""},
     {"GetCollFiguraUtenteFT", 2, 3, &GetCollFiguraUtenteFT,
      "NomeFileStruttura, IdEstrIniz, [IdEstrFin = IdEstrIniz]: come GetCollFiguraUtente sull'archivio generico "
      "(quello aperto da ApriBaseDatiFT o configurato): i K numeri di ogni estrazione stanno nelle prime K colonne "
-     "della tabella (BA posizioni 1..5, CA 6..10, ...), le altre vuote; errore se K supera 55 o i numeri 90"},
+     "della tabella (BA posizioni 1..5, CA 6..10, ...), le altre vuote; errore se K supera 55 o i numeri 90",
+     "Collection di FiguraGeodomica: le figure trovate nell'archivio generico; vuota se nessuna",
+     "Scrivi GetCollFiguraUtenteFT(\"strutture\\coppia.dat\", EstrazioniArchivioFT - 10, EstrazioniArchivioFT).Count & "
+     "\" figure\""},
     {"GetArrayNumeriFromFiguraGeodomica", 2, 2, &GetArrayNumeriFromFiguraGeodomica,
      "Figura, aRet: mette in aRet, con indice da 1, i numeri da giocare di una figura di GetCollFiguraUtente "
-     "(quelli dei vertici segnati per la chiusura, o di tutti se nessuno è segnato) e restituisce quanti sono"},
+     "(quelli dei vertici segnati per la chiusura, o di tutti se nessuno è segnato) e restituisce quanti sono",
+     "Long: quanti numeri da giocare; in aRet i numeri (array da 1)",
+     "For Each f In GetCollFiguraUtente(\"strutture\\coppia.dat\", EstrazioniArchivio - 1, EstrazioniArchivio) : n = "
+     "GetArrayNumeriFromFiguraGeodomica(f, aN) : Scrivi n & \" numeri:\" & Join(aN, \" \") : Next"},
     {"GetNumeroVerticiFiguraGeodomica", 1, 1, &GetNumeroVerticiFiguraGeodomica,
-     "Figura: quanti vertici ha una figura di GetCollFiguraUtente"},
+     "Figura: quanti vertici ha una figura di GetCollFiguraUtente", "Long: quanti vertici ha la figura",
+     "For Each f In GetCollFiguraUtente(\"strutture\\coppia.dat\", EstrazioniArchivio - 1, EstrazioniArchivio) : "
+     "Scrivi GetNumeroVerticiFiguraGeodomica(f) : Next"},
     {"SommaVerticaleInFigura", 2, 2, &SommaVerticaleInFigura,
      "Figura, IdVertice: la somma dei numeri dei vertici della figura nella stessa colonna (stessa ruota e "
-     "posizione) del vertice IdVertice, lui compreso, riportata tra 1 e 90 (fuori 90)"},
+     "posizione) del vertice IdVertice, lui compreso, riportata tra 1 e 90 (fuori 90)",
+     "Integer: la somma dei numeri della colonna del vertice, fuori 90 (1..90)",
+     "For Each f In GetCollFiguraUtente(\"strutture\\coppia.dat\", EstrazioniArchivio - 1, EstrazioniArchivio) : "
+     "Scrivi SommaVerticaleInFigura(f, 1) : Next"},
 };
 
 }  // namespace

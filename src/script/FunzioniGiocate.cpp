@@ -237,58 +237,100 @@ const Libreria::Funzione kGiocate[] = {
      "sorte (da 1 estratto a 5 cinquina, da 6 a 10 l'estratto determinato nelle posizioni 1..5, cioè EDET1_..EDET5_, "
      "11 l'ambetto; 0 o vuota non si gioca), per Colpi estrazioni; SorteArresto 0 gioca tutti i colpi, k si ferma "
      "alla prima vincita di una sorte di k numeri o più (l'ambetto conta come ambo). Numeri, ruote e poste sono "
-     "controllati subito: un errore dice cosa non va. Restituisce True"},
+     "controllati subito: un errore dice cosa non va. Restituisce True",
+     "Boolean: True; errore 5, che dice cosa non va, per numeri, ruote, poste o colpi non validi",
+     "ReDim aP(2) : aP(2) = 1 : Scrivi ImpostaGiocata(1, Array(12, 34), Array(BA_, NA_), aP, 9)"},
     {"ImpostaGiocataVirtuale", 5, 6, &ImpostaGiocata<kVirtuale>,
      "Indice, aNumeri, aRuote, aPoste, Colpi, [SorteArresto = 1]: come ImpostaGiocata, per una giocata virtuale, "
-     "seguita senza puntare denaro; non entra mai nei totali reali"},
+     "seguita senza puntare denaro; non entra mai nei totali reali",
+     "Boolean: True; errore 5 come ImpostaGiocata",
+     "ReDim aP(2) : aP(2) = 1 : Scrivi ImpostaGiocataVirtuale(1, Array(12, 34), Array(BA_, NA_), aP, 9)"},
     {"AddLunghettaInGiocata", 2, 2, &AddLunghettaInGiocata,
      "Indice, aNumeri: aggiunge alla giocata Indice un'altra colonna, con le stesse ruote e poste (lo sviluppo di un "
-     "sistema)"},
+     "sistema)",
+     "Boolean: True; errore 5 se la giocata non è impostata o la colonna non va",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocata 1, Array(12, 34), BA_, aP, 9 : Scrivi AddLunghettaInGiocata(1, "
+     "Array(56, 78))"},
     {"ImpostaProgressione", 3, 3, &ImpostaProgressione<kReale>,
      "Indice, Sorte, aPoste: la posta in euro della sorte (numerata come in aPoste) a ogni colpo della giocata "
-     "Indice, aPoste(1) al primo; dopo l'ultima si ripete l'ultima. Una sorte non ancora giocata si aggiunge"},
+     "Indice, aPoste(1) al primo; dopo l'ultima si ripete l'ultima. Una sorte non ancora giocata si aggiunge",
+     "Boolean: True; errore 5 se la giocata non è impostata o una posta non va",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocata 1, Array(12, 34), BA_, aP, 9 : Scrivi ImpostaProgressione(1, 2, "
+     "Array(1, 1, 2, 2, 3))"},
     {"ImpostaProgressioneVirtuale", 3, 3, &ImpostaProgressione<kVirtuale>,
-     "Indice, Sorte, aPoste: come ImpostaProgressione, per una giocata virtuale"},
+     "Indice, Sorte, aPoste: come ImpostaProgressione, per una giocata virtuale",
+     "Boolean: True; errore 5 come ImpostaProgressione",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocataVirtuale 1, Array(12, 34), BA_, aP, 9 : Scrivi "
+     "ImpostaProgressioneVirtuale(1, 2, Array(1, 2, 3))"},
     {"Gioca", 1, 2, &Gioca<kReale>,
      "IdEstr, [Scrivi = True]: gioca le giocate impostate dopo l'estrazione IdEstr, dalla successiva per i loro "
      "colpi, e le aggiunge ai conti dell'esecuzione; le giocate impostate si liberano per la previsione seguente. Una "
      "giocata che va oltre l'ultima estrazione resta in corso. Con Scrivi una riga per giocata: vinta o no, dove, "
-     "quanto. True se una giocata ha vinto; errore se nessuna giocata è impostata"},
-    {"GiocaVirtuale", 1, 2, &Gioca<kVirtuale>, "IdEstr, [Scrivi = True]: come Gioca, per le giocate virtuali"},
+     "quanto. True se una giocata ha vinto; errore se nessuna giocata è impostata",
+     "Boolean: True se una giocata ha vinto",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocata 1, Array(12, 34), BA_, aP, 9 : Scrivi Gioca(EstrazioniArchivio - 20)"},
+    {"GiocaVirtuale", 1, 2, &Gioca<kVirtuale>, "IdEstr, [Scrivi = True]: come Gioca, per le giocate virtuali",
+     "Boolean: True se una giocata virtuale ha vinto",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocataVirtuale 1, Array(12, 34), BA_, aP, 9 : Scrivi "
+     "GiocaVirtuale(EstrazioniArchivio - 20)"},
     {"GetSpesa", 0, 1, &Totale<&Spesa>,
      "[Indice]: gli euro spesi nelle giocate reali dell'esecuzione, di ogni gioco, o in quelle del numero Indice "
-     "(Double)"},
+     "(Double)",
+     "Double: gli euro spesi",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocata 1, Array(12, 34), BA_, aP, 9 : Gioca EstrazioniArchivio - 20, False : "
+     "Scrivi \"spesi \" & GetSpesa(1) & \" euro\""},
     {"GetVincita", 0, 1, &Totale<&Netto>,
      "[Indice]: gli euro vinti, al netto della ritenuta, nelle giocate reali dell'esecuzione o in quelle del numero "
-     "Indice (Double)"},
+     "Indice (Double)",
+     "Double: gli euro vinti, netti", "Scrivi \"vinti \" & GetVincita() & \" euro netti\""},
     {"GetGuadagno", 0, 1, &Totale<&Guadagno>,
      "[Indice]: la vincita netta meno la spesa delle giocate reali dell'esecuzione o di quelle del numero Indice "
-     "(Double)"},
+     "(Double)",
+     "Double: la vincita netta meno la spesa, in euro (negativa se in perdita)",
+     "Scrivi \"saldo \" & GetGuadagno() & \" euro\""},
     {"GetQuantitaGiocateEffettuate", 0, 0, &GetQuantitaGiocateEffettuate,
-     "quante giocate reali sono state giocate nell'esecuzione (Long)"},
+     "quante giocate reali sono state giocate nell'esecuzione (Long)", "Long: quante giocate reali",
+     "Scrivi GetQuantitaGiocateEffettuate()"},
     {"GetSituazioneGiocate", 1, 1, &GetSituazioneGiocate,
      "aRet: riempie aRet(giocata, campo) con una riga per giocata reale, nell'ordine in cui sono state giocate: "
      "1 Indice, 2 gioco (\"LO\", \"SE\", \"DL\", \"WF\", \"FT\"), 3 IdEstr dopo cui è stata giocata, 4 colpi, "
      "5 colpi giocati, 6 stato (0 persa, 1 vinta, 2 in corso oltre l'ultima estrazione, 3 interrotta), 7 primo colpo "
-     "vincente (0 nessuno), 8 spesa, 9 vincita netta; restituisce quante giocate"},
+     "vincente (0 nessuno), 8 spesa, 9 vincita netta; restituisce quante giocate",
+     "Long: quante giocate; in aRet(giocata, 1..9) i loro dati",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocata 1, Array(12, 34), BA_, aP, 9 : Gioca EstrazioniArchivio - 20, False : n "
+     "= GetSituazioneGiocate(aS) : Scrivi n & \" giocate, spesa dell'ultima: \" & aS(n, 8)"},
     {"InterrompiTutteLegiocate", 0, 0, &InterrompiTutte<kReale>,
-     "chiude le giocate reali ancora in corso, i cui colpi mancanti non si giocano più"},
+     "chiude le giocate reali ancora in corso, i cui colpi mancanti non si giocano più", "niente (Sub)",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocata 1, Array(12, 34), BA_, aP, 9 : Gioca EstrazioniArchivio - 3, False : "
+     "InterrompiTutteLegiocate"},
     {"InterrompiTutteLegiocateVirtuali", 0, 0, &InterrompiTutte<kVirtuale>,
-     "chiude le giocate virtuali ancora in corso"},
+     "chiude le giocate virtuali ancora in corso", "niente (Sub)",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocataVirtuale 1, Array(12, 34), BA_, aP, 9 : GiocaVirtuale EstrazioniArchivio "
+     "- 3, False : InterrompiTutteLegiocateVirtuali"},
     {"ResettaGiocate", 0, 0, &ResettaGiocate,
      "dimentica le giocate reali impostate e giocate e i premi di SetPremioPagatoFT (l'esecuzione lo fa prima di "
-     "Main)"},
-    {"ResettaGiocateVirtuale", 0, 0, &ResettaGiocateVirtuale, "dimentica le giocate virtuali impostate e giocate"},
+     "Main)",
+     "niente (Sub)", "ResettaGiocate : Scrivi GetQuantitaGiocateEffettuate()"},
+    {"ResettaGiocateVirtuale", 0, 0, &ResettaGiocateVirtuale, "dimentica le giocate virtuali impostate e giocate",
+     "niente (Sub)", "ResettaGiocateVirtuale"},
     {"Output", 0, 1, &Output<kReale>,
      "[Titolo = \"Giocate\"]: il riepilogo delle giocate reali del Lotto: giocate vinte, perse, in corso, colpi, "
      "spesa, vinto lordo, ritenuta, netto, saldo, estrazioni vincenti per sorte, serie più lunga senza vincite, calo "
-     "massimo del saldo; come testo e come tabella nella pagina HTML"},
+     "massimo del saldo; come testo e come tabella nella pagina HTML",
+     "niente (Sub): scrive il riepilogo",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocata 1, Array(12, 34), BA_, aP, 9 : Gioca EstrazioniArchivio - 20, False : "
+     "Output \"Ambo 12-34 su Bari\""},
     {"OutputVirtuale", 0, 1, &Output<kVirtuale>,
-     "[Titolo = \"Giocate virtuali\"]: come Output, per le giocate virtuali"},
+     "[Titolo = \"Giocate virtuali\"]: come Output, per le giocate virtuali", "niente (Sub): scrive il riepilogo",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocataVirtuale 1, Array(12, 34), BA_, aP, 9 : GiocaVirtuale EstrazioniArchivio "
+     "- 20, False : OutputVirtuale"},
     {"ScriviResoconto", 0, 1, &ScriviResoconto,
      "[Indice]: il conto estrazione per estrazione delle giocate reali del Lotto, o di quelle del numero Indice: "
      "estrazione, data, giocate in corso, spesa, vinto lordo e netto, saldo, vincite; come testo e come tabella "
-     "nella pagina HTML"},
+     "nella pagina HTML",
+     "niente (Sub): scrive il resoconto",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocata 1, Array(12, 34), BA_, aP, 9 : Gioca EstrazioniArchivio - 20, False : "
+     "ScriviResoconto 1"},
 };
 
 }  // namespace

@@ -126,12 +126,17 @@ const Libreria::Funzione kGiocateAgenda[] = {
      "aNumeri, aRuote, aPoste, Colpi, [IdEstrInizio = la prossima estrazione], [Nota]: scrive nell'agenda delle "
      "giocate una giocata del Lotto, con gli argomenti di ImpostaGiocata, da IdEstrInizio per Colpi estrazioni, "
      "senza fermarsi alla prima vincita; restituisce il numero della giocata nell'agenda. Errore se non c'è "
-     "un'agenda o in modalità protetta"},
+     "un'agenda o in modalità protetta",
+     "Long: il numero della giocata nell'agenda",
+     "ReDim aP(2) : aP(2) = 1 : Scrivi AddRecordAgendaGiocate(Array(12, 34), Array(BA_, NA_), aP, 9)"},
     {"CreaGiocataAgenda", 1, 2, &CreaGiocataAgenda,
      "Indice, [Nota]: scrive nell'agenda delle giocate la giocata Indice impostata con ImpostaGiocata, dalla "
      "prossima estrazione; SorteArresto 1 la ferma alla prima vincita, 0 gioca tutti i colpi, altre no; una "
      "progressione deve moltiplicare ogni posta per uno stesso intero. La giocata resta impostata; restituisce il "
-     "numero della giocata nell'agenda"},
+     "numero della giocata nell'agenda",
+     "Long: il numero della giocata nell'agenda",
+     "ReDim aP(2) : aP(2) = 1 : ImpostaGiocata 1, Array(12, 34), BA_, aP, 9 : Scrivi CreaGiocataAgenda(1, \"ambo su "
+     "Bari\")"},
 };
 
 }  // namespace

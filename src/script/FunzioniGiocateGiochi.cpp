@@ -159,42 +159,73 @@ const Libreria::Funzione kGiocateGiochi[] = {
      "Indice, aNumeri, Posta, Colpi, [SorteArresto = 1]: imposta la giocata Indice del SuperEnalotto, una colonna "
      "dei 6 numeri di aNumeri; Posta non conta (una colonna costa quanto costava alla data: 0,50 euro, 1 euro dal "
      "02/02/2016), per Colpi estrazioni; SorteArresto 0 gioca tutti i colpi, k si ferma alla prima vincita di k "
-     "punti o più. La vincita è la categoria (6, 5+1, 5, 4, 3, 2): le quote non sono note, quindi senza importo"},
+     "punti o più. La vincita è la categoria (6, 5+1, 5, 4, 3, 2): le quote non sono note, quindi senza importo",
+     "Boolean: True; errore 5, che dice cosa non va, per una giocata non valida",
+     "Scrivi ImpostaGiocataSE(1, Array(3, 12, 25, 37, 48, 81), 1, 5)"},
     {"ImpostaGiocataDL", 4, 6, &ImpostaGiocata<Suffisso::DL>,
      "Indice, aNumeri, Posta, Colpi, [SorteArresto = 1], [Opzione = \"base\"]: imposta la giocata Indice del "
      "10eLotto, da 1 a 10 numeri, Posta in euro da 1 a 200 a passi di 0,50; Opzione \"oro\", \"doppio oro\" o "
      "\"extra\" costa di nuovo la posta (due volte il Doppio Oro); per Colpi estrazioni; SorteArresto 0 gioca tutti "
      "i colpi, k si ferma alla prima vincita di k punti o più. I premi sono quelli netti della tabella dal "
-     "01/07/2019; prima di quella data la giocata è rifiutata"},
+     "01/07/2019; prima di quella data la giocata è rifiutata",
+     "Boolean: True; errore 5, che dice cosa non va, per una giocata non valida",
+     "Scrivi ImpostaGiocataDL(1, Array(7, 21, 45, 60), 1, 5, 1, \"oro\")"},
     {"ImpostaGiocataWF", 4, 5, &ImpostaGiocata<Suffisso::WF>,
      "Indice, aNumeri, Posta, Colpi, [SorteArresto = 1]: imposta la giocata Indice del Win for Life, una colonna di "
      "10 numeri da 1 a 20; Posta 1 o 2 euro (il biglietto da 2 euro vince anche con 0..3 punti), per Colpi "
-     "estrazioni; SorteArresto come per il SuperEnalotto. La vincita è la categoria; solo la settima ha un importo"},
+     "estrazioni; SorteArresto come per il SuperEnalotto. La vincita è la categoria; solo la settima ha un importo",
+     "Boolean: True; errore 5, che dice cosa non va, per una giocata non valida",
+     "Scrivi ImpostaGiocataWF(1, Array(1, 3, 5, 7, 9, 11, 13, 15, 17, 19), 1, 5)"},
     {"ImpostaGiocataFT", 4, 5, &ImpostaGiocata<Suffisso::FT>,
      "Indice, aNumeri, Posta, Colpi, [SorteArresto = 1]: imposta la giocata Indice sull'archivio generico, una "
      "colonna di numeri da 1 a M; Posta è quanto costa la colonna in euro (anche 0), per Colpi estrazioni; vince i "
-     "punti a cui SetPremioPagatoFT ha dato un premio (senza premi conta soltanto i punti)"},
+     "punti a cui SetPremioPagatoFT ha dato un premio (senza premi conta soltanto i punti)",
+     "Boolean: True; errore 5, che dice cosa non va, per una giocata non valida",
+     "SetPremioPagatoFT 3, 10 : Scrivi ImpostaGiocataFT(1, Array(5, 17, 33), 1, 5)"},
     {"ImpostaProgressioneDL", 3, 3, &ImpostaProgressione<Suffisso::DL>,
      "Indice, Sorte, aPoste: la posta in euro della giocata Indice del 10eLotto a ogni colpo, aPoste(1) al primo; "
-     "dopo l'ultima si ripete l'ultima. Sorte non conta (una colonna ha una sola posta): c'è per la forma del Lotto"},
+     "dopo l'ultima si ripete l'ultima. Sorte non conta (una colonna ha una sola posta): c'è per la forma del Lotto",
+     "Boolean: True; errore 5 se la giocata non è impostata o una posta non va",
+     "ImpostaGiocataDL 1, Array(7, 21, 45, 60), 1, 5 : Scrivi ImpostaProgressioneDL(1, 4, Array(1, 2, 3))"},
     {"ImpostaProgressioneFT", 3, 3, &ImpostaProgressione<Suffisso::FT>,
-     "Indice, Sorte, aPoste: come ImpostaProgressioneDL, per la giocata Indice sull'archivio generico"},
-    {"GiocaSE", 1, 2, &Gioca<Suffisso::SE>, "IdEstr, [Scrivi = True]: come Gioca, per le giocate del SuperEnalotto"},
-    {"GiocaDL", 1, 2, &Gioca<Suffisso::DL>, "IdEstr, [Scrivi = True]: come Gioca, per le giocate del 10eLotto"},
-    {"GiocaWF", 1, 2, &Gioca<Suffisso::WF>, "IdEstr, [Scrivi = True]: come Gioca, per le giocate del Win for Life"},
+     "Indice, Sorte, aPoste: come ImpostaProgressioneDL, per la giocata Indice sull'archivio generico",
+     "Boolean: True; errore 5 se la giocata non è impostata o una posta non va",
+     "SetPremioPagatoFT 3, 10 : ImpostaGiocataFT 1, Array(5, 17, 33), 1, 5 : Scrivi ImpostaProgressioneFT(1, 3, "
+     "Array(1, 2, 3))"},
+    {"GiocaSE", 1, 2, &Gioca<Suffisso::SE>, "IdEstr, [Scrivi = True]: come Gioca, per le giocate del SuperEnalotto",
+     "Boolean: True se una giocata ha vinto",
+     "ImpostaGiocataSE 1, Array(3, 12, 25, 37, 48, 81), 1, 5 : Scrivi GiocaSE(EstrazioniArchivioSE - 10)"},
+    {"GiocaDL", 1, 2, &Gioca<Suffisso::DL>, "IdEstr, [Scrivi = True]: come Gioca, per le giocate del 10eLotto",
+     "Boolean: True se una giocata ha vinto",
+     "ImpostaGiocataDL 1, Array(7, 21, 45, 60), 1, 5 : Scrivi GiocaDL(EstrazioniArchivioDL - 10)"},
+    {"GiocaWF", 1, 2, &Gioca<Suffisso::WF>, "IdEstr, [Scrivi = True]: come Gioca, per le giocate del Win for Life",
+     "Boolean: True se una giocata ha vinto",
+     "ImpostaGiocataWF 1, Array(1, 3, 5, 7, 9, 11, 13, 15, 17, 19), 1, 5 : Scrivi GiocaWF(EstrazioniArchivioWF - 10)"},
     {"GiocaFT", 1, 2, &Gioca<Suffisso::FT>,
-     "IdEstr, [Scrivi = True]: come Gioca, per le giocate sull'archivio generico"},
+     "IdEstr, [Scrivi = True]: come Gioca, per le giocate sull'archivio generico",
+     "Boolean: True se una giocata ha vinto",
+     "SetPremioPagatoFT 3, 10 : ImpostaGiocataFT 1, Array(5, 17, 33), 1, 5 : Scrivi GiocaFT(EstrazioniArchivioFT - "
+     "10)"},
     {"ScriviResocontoSE", 0, 1, &ScriviResoconto<Suffisso::SE>,
-     "[Indice]: come ScriviResoconto, per le giocate del SuperEnalotto"},
+     "[Indice]: come ScriviResoconto, per le giocate del SuperEnalotto", "niente (Sub): scrive il resoconto",
+     "ImpostaGiocataSE 1, Array(3, 12, 25, 37, 48, 81), 1, 5 : GiocaSE EstrazioniArchivioSE - 10, False : "
+     "ScriviResocontoSE"},
     {"ScriviResocontoDL", 0, 1, &ScriviResoconto<Suffisso::DL>,
-     "[Indice]: come ScriviResoconto, per le giocate del 10eLotto"},
+     "[Indice]: come ScriviResoconto, per le giocate del 10eLotto", "niente (Sub): scrive il resoconto",
+     "ImpostaGiocataDL 1, Array(7, 21, 45, 60), 1, 5 : GiocaDL EstrazioniArchivioDL - 10, False : ScriviResocontoDL"},
     {"ScriviResocontoWF", 0, 1, &ScriviResoconto<Suffisso::WF>,
-     "[Indice]: come ScriviResoconto, per le giocate del Win for Life"},
+     "[Indice]: come ScriviResoconto, per le giocate del Win for Life", "niente (Sub): scrive il resoconto",
+     "ImpostaGiocataWF 1, Array(1, 3, 5, 7, 9, 11, 13, 15, 17, 19), 1, 5 : GiocaWF EstrazioniArchivioWF - 10, False : "
+     "ScriviResocontoWF"},
     {"ScriviResocontoFT", 0, 1, &ScriviResoconto<Suffisso::FT>,
-     "[Indice]: come ScriviResoconto, per le giocate sull'archivio generico, coi punti di ogni colpo"},
+     "[Indice]: come ScriviResoconto, per le giocate sull'archivio generico, coi punti di ogni colpo",
+     "niente (Sub): scrive il resoconto",
+     "SetPremioPagatoFT 3, 10 : ImpostaGiocataFT 1, Array(5, 17, 33), 1, 5 : GiocaFT EstrazioniArchivioFT - 10, False "
+     ": ScriviResocontoFT 1"},
     {"SetPremioPagatoFT", 2, 2, &SetPremioPagatoFT,
      "Punti, Premio: il premio in euro di una colonna dell'archivio generico che prende Punti numeri, qualunque sia "
-     "la posta (l'archivio generico non ha tabella dei premi); 0 lo toglie"},
+     "la posta (l'archivio generico non ha tabella dei premi); 0 lo toglie",
+     "niente (Sub)", "SetPremioPagatoFT 3, 10 : SetPremioPagatoFT 4, 250"},
 };
 
 }  // namespace

@@ -148,32 +148,43 @@ Result<Variant> AmboPosRit(Libreria& lib, CallArgs& args) {
 const FunzioneDeiGiochi kElenchiGiochi[] = {
     {"ElencoRitardi", 1, 3, LOTTOLAB_PER_OGNI_GIOCO(ElencoRitardi),
      "aRet, [Inizio = 1], [Fine = ultima estrazione]: riempie aRet(1..{m}) con il ritardo di ogni numero in "
-     "Inizio..Fine, come lo dà EstrattoRitardo"},
+     "Inizio..Fine, come lo dà EstrattoRitardo",
+     "niente (Sub): in aRet (array da 1) il ritardo di ogni numero",
+     "ElencoRitardi{s} aR : Scrivi \"ritardo del 7: \" & aR(7)"},
     {"PiuRitardatario", 0, 1, LOTTOLAB_PER_OGNI_GIOCO(PiuRitardatario),
      "[Fine = ultima estrazione]: il numero con il ritardo maggiore a Fine, il più piccolo tra quelli a pari "
-     "ritardo (Integer)"},
+     "ritardo (Integer)",
+     "Integer: il numero più ritardatario", "Scrivi PiuRitardatario{s}(EstrazioniArchivio{s})"},
     {"PiuRitardatari", 2, 3, LOTTOLAB_PER_OGNI_GIOCO(PiuRitardatari),
      "Quanti, aRet, [Fine = ultima estrazione]: riempie aRet(1..Quanti) con i Quanti (1..{m}) numeri più "
-     "ritardatari a Fine, dal più ritardatario in giù, a pari ritardo prima il numero più piccolo"},
+     "ritardatari a Fine, dal più ritardatario in giù, a pari ritardo prima il numero più piccolo",
+     "niente (Sub): in aRet (array da 1) i numeri, dal più ritardatario",
+     "PiuRitardatari{s} 5, aN : Scrivi Join(aN, \" \")"},
     {"PosNumeroRit", 1, 2, LOTTOLAB_PER_OGNI_GIOCO(PosNumeroRit),
      "Numero, [Fine = ultima estrazione]: il posto di Numero nella classifica di PiuRitardatari, 1 per il più "
-     "ritardatario (Integer)"},
+     "ritardatario (Integer)",
+     "Integer: il posto in classifica, 1 il più ritardatario", "Scrivi PosNumeroRit{s}(7)"},
     {"NumeroPosRit", 1, 2, LOTTOLAB_PER_OGNI_GIOCO(NumeroPosRit),
      "Posizione, [Fine = ultima estrazione]: il numero al posto Posizione (1..{m}) della classifica di "
-     "PiuRitardatari (Integer)"},
+     "PiuRitardatari (Integer)",
+     "Integer: il numero a quel posto della classifica", "Scrivi NumeroPosRit{s}(2)"},
     {"RitPos", 2, 4, LOTTOLAB_PER_OGNI_GIOCO(RitPos),
      "Numero, Posizione, [Inizio = 1], [Fine = ultima estrazione]: il ritardo di Numero uscito nella sola posizione "
-     "Posizione (1..{n}) a Fine (Long)"},
+     "Posizione (1..{n}) a Fine (Long)",
+     "Long: il ritardo del numero in quella posizione", "Scrivi RitPos{s}(7, 1)"},
     {"AmboPosRit", 4, 6, LOTTOLAB_PER_OGNI_GIOCO(AmboPosRit),
      "Numero1, Posizione1, Numero2, Posizione2, [Inizio = 1], [Fine = ultima estrazione]: il ritardo dell'ambo "
      "posizionale a Fine: le estrazioni dopo l'ultima con Numero1 in Posizione1 e Numero2 in Posizione2 (due "
-     "posizioni diverse, 1..{n}) (Long)"},
+     "posizioni diverse, 1..{n}) (Long)",
+     "Long: il ritardo dell'ambo posizionale", "Scrivi AmboPosRit{s}(3, 1, 7, 2)"},
 };
 
 const Libreria::Funzione kOro[] = {
     {"ElencoRitardiNumeroOroDL", 1, 3, &ElencoRitardiNumeroOroDL,
      "aRet, [Inizio = 1], [Fine = ultima estrazione]: riempie aRet(1..90) con il ritardo di ogni numero come Numero "
-     "Oro del 10eLotto in Inizio..Fine"},
+     "Oro del 10eLotto in Inizio..Fine",
+     "niente (Sub): in aRet (array da 1) il ritardo di ogni numero come Numero Oro",
+     "ElencoRitardiNumeroOroDL aR : Scrivi \"ritardo del 7 come Oro: \" & aR(7)"},
 };
 
 }  // namespace

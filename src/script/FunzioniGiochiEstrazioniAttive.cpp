@@ -81,19 +81,28 @@ Result<Variant> EstrazioniRicerca(Libreria& lib, CallArgs& args) {
 
 const FunzioneDeiGiochi kEstrazioniAttiveGiochi[] = {
     {"ImpostaEstrazione", 1, 2, LOTTOLAB_PER_OGNI_GIOCO(ImpostaEstrazione),
-     "IdEstr, [Attiva = True]: rende attiva l'estrazione, o inattiva con Attiva False; errore 9 fuori dall'archivio"},
+     "IdEstr, [Attiva = True]: rende attiva l'estrazione, o inattiva con Attiva False; errore 9 fuori dall'archivio",
+     "niente (Sub)",
+     "ImpostaEstrazione{s} EstrazioniArchivio{s}, False : Scrivi EstrazioneAttivata{s}(EstrazioniArchivio{s}) : "
+     "ImpostaEstrazione{s} EstrazioniArchivio{s}"},
     {"ImpostaNessunaEstrazione", 0, 0, LOTTOLAB_PER_OGNI_GIOCO(ImpostaNessunaEstrazione),
-     "rende inattive tutte le estrazioni dell'archivio"},
+     "rende inattive tutte le estrazioni dell'archivio", "niente (Sub)",
+     "ImpostaNessunaEstrazione{s} : Scrivi EstrazioneAttivata{s}(1) : EstrazioniRicerca{s} 1, EstrazioniArchivio{s}"},
     {"EstrazioneAttivata", 1, 1, LOTTOLAB_PER_OGNI_GIOCO(EstrazioneAttivata),
-     "IdEstr: True se l'estrazione è attiva; False per un indice fuori dall'archivio"},
+     "IdEstr: True se l'estrazione è attiva; False per un indice fuori dall'archivio",
+     "Boolean: True se l'estrazione è attiva", "Scrivi EstrazioneAttivata{s}(EstrazioniArchivio{s})"},
     {"EstrazioniRicerca", 2, 4, LOTTOLAB_PER_OGNI_GIOCO(EstrazioniRicerca),
      "Inizio, Fine, [Mese = 0], [GiornoSettimana = 0]: rende attive solo le estrazioni da Inizio a Fine di quel mese "
-     "(1..12) e giorno della settimana (da 1 domenica a 7 sabato), dove 0 vale qualsiasi; quante sono (Long)"},
+     "(1..12) e giorno della settimana (da 1 domenica a 7 sabato), dove 0 vale qualsiasi; quante sono (Long)",
+     "Long: quante estrazioni restano attive",
+     "Scrivi EstrazioniRicerca{s}(1, EstrazioniArchivio{s}, 12) & \" estrazioni di dicembre\" : EstrazioniRicerca{s} "
+     "1, EstrazioniArchivio{s}"},
 };
 
 const Libreria::Funzione kInizioFT[] = {
     {"InitArrayFlagEstrazioniAttiveFT", 0, 0, &InitArrayFlagEstrazioniAttiveFT,
-     "rende attive tutte le estrazioni dell'archivio generico"},
+     "rende attive tutte le estrazioni dell'archivio generico", "niente (Sub)",
+     "InitArrayFlagEstrazioniAttiveFT : Scrivi EstrazioneAttivataFT(1)"},
 };
 
 }  // namespace

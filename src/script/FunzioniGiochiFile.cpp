@@ -96,13 +96,24 @@ const Libreria::Funzione kGiochiFile[] = {
     {"ApriBaseDatiFT", 1, 3, &ApriBaseDatiFT,
      "NomeFile, [Numeri = 0], [Massimo = 0]: apre per le funzioni FT un archivio generico, il suo file o un file di "
      "testo con un'estrazione per riga (una data e Numeri numeri da 1 a Massimo; 0 li legge dalla riga \"# numeri K "
-     "massimo M\" del file o dalla prima estrazione); il numero di estrazioni lette (Long), vuoto se il file non si "
-     "può leggere"},
+     "massimo M\" del file o dalla prima estrazione); il numero di estrazioni lette (Long), errore 5 se il file non si "
+     "legge o non ha estrazioni",
+     "Long: quante estrazioni ha letto; errore 5, con il motivo, se il file non si legge o non ha estrazioni",
+     "ScriviFile \"generico.txt\", \"01/01/2024 5 17 33 48 90\", False, True : Scrivi ApriBaseDatiFT(\"generico.txt\", "
+     "5, 90) : ResetArchivi"},
     {"GetStreamFT", 1, 1, &GetStreamFT,
-     "NomeFile: apre il file di testo per leggerlo una riga alla volta con GetNextLineFT; True se aperto"},
+     "NomeFile: apre il file di testo per leggerlo una riga alla volta con GetNextLineFT; True se aperto",
+     "Boolean: True; errore 5 se il file non si legge",
+     "ScriviFile \"righe.txt\", \"prima riga\", False, True : If GetStreamFT(\"righe.txt\") Then Scrivi "
+     "GetNextLineFT()"},
     {"GetNextLineFT", 0, 0, &GetNextLineFT,
-     "la riga successiva del file aperto con GetStreamFT, Empty dopo l'ultima (si controlla con IsEmpty)"},
-    {"ChiudiStreamFT", 0, 0, &ChiudiStreamFT, "chiude il file aperto con GetStreamFT"},
+     "la riga successiva del file aperto con GetStreamFT, Empty dopo l'ultima (si controlla con IsEmpty)",
+     "String: la riga, senza il suo a capo; Empty dopo l'ultima",
+     "ScriviFile \"righe.txt\", \"prima riga\", False, True : GetStreamFT \"righe.txt\" : r = GetNextLineFT() : Do "
+     "Until IsEmpty(r) : Scrivi r : r = GetNextLineFT() : Loop"},
+    {"ChiudiStreamFT", 0, 0, &ChiudiStreamFT, "chiude il file aperto con GetStreamFT", "niente (Sub)",
+     "ScriviFile \"righe.txt\", \"prima riga\", False, True : GetStreamFT \"righe.txt\" : Scrivi GetNextLineFT() : "
+     "ChiudiStreamFT"},
 };
 
 }  // namespace

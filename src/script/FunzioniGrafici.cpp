@@ -283,27 +283,39 @@ Result<Variant> DisegnaLineaGrafico(Libreria& lib, CallArgs& args) {
 const Libreria::Funzione kGrafici[] = {
     {"PreparaGrafico", 1, 4, &PreparaGrafico,
      "Titolo, [TitoloX], [TitoloY], [Tipo = 1]: comincia un nuovo grafico (1 linee, 2 barre, 3 punti) al posto di "
-     "quello non ancora mostrato; InserisciGrafico ne aggiunge le serie, Grafico lo mostra"},
+     "quello non ancora mostrato; InserisciGrafico ne aggiunge le serie, Grafico lo mostra",
+     "niente (Sub)",
+     "PreparaGrafico \"Uscite per numero\", \"numero\", \"uscite\", 2 : InserisciGrafico Array(12, 9, 15, 7)"},
     {"InserisciGrafico", 1, 4, &InserisciGrafico,
      "aValori, [NomeSerie], [Colore], [aEtichetteX] oppure aX, aY, [NomeSerie], [Colore]: aggiunge al grafico una "
      "serie (al massimo 16), i valori alle posizioni 1, 2, ... o i punti (aX(i), aY(i)); aEtichetteX sono i testi "
-     "delle posizioni sull'asse X; gli elementi Empty sono saltati; restituisce il numero della serie"},
+     "delle posizioni sull'asse X; gli elementi Empty sono saltati; restituisce il numero della serie",
+     "Long: il numero della serie nel grafico",
+     "PreparaGrafico \"Ritardi\" : Scrivi InserisciGrafico(Array(3, 8, 1, 12), \"Bari\", Rosso_, Array(\"gen\", "
+     "\"feb\", \"mar\", \"apr\"))"},
     {"LayOutGrafico", 0, 7, &LayOutGrafico,
      "[Larghezza = 800], [Altezza = 500], [MinY], [MaxY], [Legenda = True], [Griglia = True], [ColoreSfondo = "
      "Bianco_]: l'aspetto dei grafici che seguono nell'esecuzione (da 100 a 8000 pixel); MinY e MaxY fissano la "
-     "scala dei valori, Empty la torna automatica; quelli omessi restano"},
+     "scala dei valori, Empty la torna automatica; quelli omessi restano",
+     "niente (Sub)", "LayOutGrafico 1000, 600"},
     {"Grafico", 0, 2, &Grafico,
      "[Titolo] oppure aValori, [Titolo]: mostra il grafico preparato (o quello dei soli aValori): nel programma in "
      "una finestra, a riga di comando in un'immagine PNG accanto alla pagina HTML, che la mostra; restituisce il "
-     "numero del grafico nell'esecuzione (al massimo 50)"},
+     "numero del grafico nell'esecuzione (al massimo 50)",
+     "Long: il numero del grafico nell'esecuzione, da 1", "Scrivi Grafico(Array(3, 8, 1, 12, 5), \"Ritardi\")"},
     {"PuntiSuArray", 7, 9, &PuntiSuArray,
      "aValori, aX, aY, X, Y, Larghezza, Altezza, [Minimo], [Massimo]: riempie aX e aY (da 1) dei pixel dei valori "
      "nel rettangolo di angolo (X, Y): il primo sul bordo sinistro, l'ultimo sul destro, Minimo (il più piccolo dei "
-     "valori se omesso) in basso e Massimo in alto; per PicLinea e PicPoligono; restituisce quanti sono"},
+     "valori se omesso) in basso e Massimo in alto; per PicLinea e PicPoligono; restituisce quanti sono",
+     "Long: quanti punti; in aX e aY (array da 1) le loro coordinate in pixel",
+     "Scrivi PuntiSuArray(Array(3, 8, 1, 12), aX, aY, 10, 10, 300, 200) & \" punti, il primo in \" & aX(1) & \", \" & "
+     "aY(1)"},
     {"DisegnaLineaGrafico", 1, 9, &DisegnaLineaGrafico,
      "aValori, [Colore = Nero_], [Spessore = 1], [X = 0], [Y = 0], [Larghezza], [Altezza], [Minimo], [Massimo]: "
      "disegna nell'area di disegno la linea dei valori, posti come li pone PuntiSuArray (il rettangolo, se omesso, "
-     "arriva al bordo dell'immagine); restituisce quanti punti ha"},
+     "arriva al bordo dell'immagine); restituisce quanti punti ha",
+     "Long: quanti punti ha la linea",
+     "Scrivi DisegnaLineaGrafico(Array(3, 8, 1, 12, 5), Rosso_, 2, 20, 20, 400, 200)"},
 };
 
 }  // namespace

@@ -294,36 +294,54 @@ Result<Variant> QvCerchio_InitDisegno(Libreria& lib, CallArgs& args) {
 const Libreria::Funzione kCerchio[] = {
     {"GetNewDisegnoCiclometrico", 0, 0, &GetNewDisegnoCiclometrico,
      "un nuovo disegno del cerchio dei 90 numeri, coi colori, gli spessori e le figure predefiniti: il numero che "
-     "gli altri nomi del cerchio vogliono come IdDisegno"},
+     "gli altri nomi del cerchio vogliono come IdDisegno",
+     "Long: il numero del disegno (IdDisegno); errore 5 oltre i 1000 disegni",
+     "d = GetNewDisegnoCiclometrico() : ImpostaPropDrawWidthCerchioCiclo d, 1, 3 : Scrivi \"disegno n. \" & d"},
     {"DisegnaCerchioCiclometrico", 1, 9, &DisegnaCerchioCiclometrico,
      "IdDisegno, [aNumeri], [aFigure], [aColori], [aSpessori], [Evidenziata = 0], [X = 0], [Y = 0], [Lato]: "
      "disegna nell'area di disegno il cerchio dei 90 numeri (1 in alto, in senso orario) nel quadrato di lato Lato "
      "(omesso, il lato minore dell'immagine) con l'angolo in alto a sinistra in (X, Y); aNumeri sono segnati, "
      "aFigure è un array di array di numeri, ciascuno una figura (i vertici uniti nell'ordine dato, due numeri una "
-     "linea), aColori e aSpessori il colore e lo spessore di ciascuna, Evidenziata la figura evidenziata da 1"},
+     "linea), aColori e aSpessori il colore e lo spessore di ciascuna, Evidenziata la figura evidenziata da 1",
+     "niente (Sub)",
+     "d = GetNewDisegnoCiclometrico() : DisegnaCerchioCiclometrico d, Array(1, 46, 31, 61), Array(Array(1, 46), "
+     "Array(1, 31, 61)), Array(Rosso_, Verde_)"},
     {"DisegnaEstrazioneFromFiguraCiclometrica", 2, 8, &DisegnaEstrazioneFromFiguraCiclometrica,
      "IdDisegno, IdEstr o aNumeri, [aRuote = TT_], [Figure], [Evidenziata = 0], [X = 0], [Y = 0], [Lato]: disegna "
      "nell'area di disegno il cerchio coi numeri dell'estrazione IdEstr sulle ruote aRuote (o quelli di aNumeri) "
      "segnati e le loro figure: tutte se Figure è omesso, quelle dei tipi Figure (un numero o un array, da 1 a 7 "
      "come in GetCollFigureCiclometriche), o la figura o la collezione di figure Figure; restituisce quante figure "
-     "ha disegnato, che QvCerchio_InitDisegno elenca accanto al cerchio"},
+     "ha disegnato, che QvCerchio_InitDisegno elenca accanto al cerchio",
+     "Long: quante figure ha disegnato",
+     "d = GetNewDisegnoCiclometrico() : Scrivi DisegnaEstrazioneFromFiguraCiclometrica(d, EstrazioniArchivio, "
+     "Array(BA_, VE_), Array(2, 7))"},
     {"ImpostaPropColoriCerchioCiclo", 2, 7, &ImpostaPropColoriCerchioCiclo,
      "IdDisegno, [ColoreSfondo], [ColoreCerchio], [ColoreNumeri], [ColoreNumeriSegnati], [ColoreFigure], "
-     "[ColoreEvidenziata]: i colori del disegno (da Nero_ a Magenta_ o un colore di RGB); quelli omessi restano"},
+     "[ColoreEvidenziata]: i colori del disegno (da Nero_ a Magenta_ o un colore di RGB); quelli omessi restano",
+     "niente (Sub)",
+     "d = GetNewDisegnoCiclometrico() : ImpostaPropColoriCerchioCiclo d, Bianco_, Nero_, Nero_, Rosso_, Blu_, Verde_"},
     {"ImpostaPropDrawWidthCerchioCiclo", 2, 4, &ImpostaPropDrawWidthCerchioCiclo,
      "IdDisegno, [SpessoreCerchio = 1], [SpessoreFigure = 2], [SpessoreEvidenziata = 4]: gli spessori in pixel "
-     "(da 0 a 100) delle linee del disegno; quelli omessi restano"},
+     "(da 0 a 100) delle linee del disegno; quelli omessi restano",
+     "niente (Sub)", "d = GetNewDisegnoCiclometrico() : ImpostaPropDrawWidthCerchioCiclo d, 1, 3, 5"},
     {"ImpostaPropFlagFigureCerchioCiclo", 2, 7, &ImpostaPropFlagFigureCerchioCiclo,
      "IdDisegno, [Diametri], [Triangoli], [Quadrilateri], [Poligoni], [Numeri], [NumeriSegnati]: True o False, "
      "quali tipi di figura (per numero di vertici: 2, 3, 4, 5 o più), se i 90 numeri e se i numeri segnati sono "
-     "disegnati; all'inizio tutti, quelli omessi restano"},
+     "disegnati; all'inizio tutti, quelli omessi restano",
+     "niente (Sub)", "d = GetNewDisegnoCiclometrico() : ImpostaPropFlagFigureCerchioCiclo d, True, True, False, False"},
     {"QvCerchio_InitDisegno", 1, 2, &QvCerchio_InitDisegno,
      "IdDisegno, [Titolo]: mostra il disegno, coi numeri e le figure dell'ultimo DisegnaCerchioCiclometrico, in "
-     "una vista a sé: nel programma una finestra, a riga di comando un'immagine PNG accanto alla pagina HTML"},
+     "una vista a sé: nel programma una finestra, a riga di comando un'immagine PNG accanto alla pagina HTML",
+     "niente (Sub)",
+     "d = GetNewDisegnoCiclometrico() : DisegnaEstrazioneFromFiguraCiclometrica d, EstrazioniArchivio, Array(BA_, "
+     "VE_), 7 : QvCerchio_InitDisegno d, \"Aquiloni di Bari e Venezia\""},
     {"QvCerchio_TovataFigura", 2, 5, &QvCerchio_TovataFigura,
      "IdDisegno, Figura, [Colore], [Spessore], [Descrizione]: aggiunge al disegno una figura trovata (una figura "
      "delle collezioni ciclometriche o un array dei suoi numeri), coi vertici segnati, e ne restituisce il numero "
-     "(da 1); QvCerchio_InitDisegno la mostra nell'elenco accanto al cerchio, dove sceglierla la evidenzia"},
+     "(da 1); QvCerchio_InitDisegno la mostra nell'elenco accanto al cerchio, dove sceglierla la evidenzia",
+     "Long: il numero della figura nel disegno, da 1",
+     "d = GetNewDisegnoCiclometrico() : Scrivi QvCerchio_TovataFigura(d, Array(1, 31, 61), Rosso_, 2, \"triangolo "
+     "1-31-61\")"},
 };
 
 }  // namespace

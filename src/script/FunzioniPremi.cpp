@@ -131,24 +131,32 @@ const Libreria::Funzione kPremi[] = {
      "(Double) di una combinazione vincente della sorte (1 estratto .. 5 cinquina, 6 estratto determinato) giocando "
      "QuantitaNumeri numeri (1..10) con Posta euro sulla sorte divisi su QuantitaRuote ruote (1..11; Tutte sono 10), "
      "secondo la tabella in vigore alla data dell'estrazione IdEstr (oggi senza archivio), arrotondato al "
-     "centesimo: l'ambo su 3 numeri con 1 euro vale 83,33; 0 se la sorte allora non si giocava"},
+     "centesimo: l'ambo su 3 numeri con 1 euro vale 83,33; 0 se la sorte allora non si giocava",
+     "Double: il premio lordo in euro, 0 se la sorte allora non si giocava", "Scrivi GetPremioLotto(2, 3)"},
     {"GetPremioPerSorte", 3, 7, &GetPremioPerSorte,
      "Sorte, QuantitaNumeri, Punti, [Posta = 1], [QuantitaRuote = 1], [IdEstr = ultima estrazione], [RetNetto]: la "
      "vincita lorda in euro (Double) su una ruota quando escono Punti (0..5) dei QuantitaNumeri numeri giocati per "
      "la sorte (1..5): C(Punti, Sorte) combinazioni vincenti al premio di GetPremioLotto, entro la vincita massima "
-     "per biglietto; in RetNetto la stessa dopo la ritenuta di quella data"},
+     "per biglietto; in RetNetto la stessa dopo la ritenuta di quella data",
+     "Double: la vincita lorda in euro; in RetNetto la netta",
+     "Scrivi GetPremioPerSorte(2, 5, 3, 1, 1, EstrazioniArchivio, netto) & \" lordi, \" & netto & \" netti\""},
     {"Vincita", 4, 6, &Vincita,
      "aNumeri, aRuote, IdEstr, aPoste, [RetLordo], [RetSpesa]: la vincita netta in euro (Double, dopo la ritenuta e "
      "la vincita massima per biglietto) di aNumeri giocati sulle ruote di aRuote (TT_ le dieci senza Nazionale) "
      "nell'estrazione IdEstr con le poste aPoste(1..5) in euro per sorte (estratto .. cinquina); nelle variabili "
-     "facoltative la vincita lorda e la spesa"},
+     "facoltative la vincita lorda e la spesa",
+     "Double: la vincita netta in euro; in RetLordo la lorda e in RetSpesa la spesa",
+     "ReDim aP(2) : aP(2) = 1 : Scrivi Vincita(Array(12, 34), BA_, EstrazioniArchivio, aP, lordo, spesa) & \" netti su "
+     "\" & spesa & \" spesi\""},
     {"GetVettoreProgressione", 7, 9, &GetVettoreProgressione,
      "Sorte, QuantitaNumeri, QuantitaRuote, Colpi, UtileMinimo, PostaMinima, aRet, [Passo = 0.5], [IdEstr = ultima "
      "estrazione]: riempie aRet(1..) con le poste in euro di una progressione per la sorte (1..5) su QuantitaNumeri "
      "numeri e QuantitaRuote ruote: a ogni colpo la posta più piccola, multipla di Passo e almeno PostaMinima, per "
      "cui la vincita più piccola di quel colpo (una combinazione su una ruota), netta della ritenuta, ripaga tutte le "
      "poste giocate fino a lì più UtileMinimo euro. Restituisce i colpi coperti (Long): meno di Colpi quando la "
-     "posta supererebbe i 200 euro di un biglietto, 0 quando nessuna vincita ripaga nemmeno la sua posta"},
+     "posta supererebbe i 200 euro di un biglietto, 0 quando nessuna vincita ripaga nemmeno la sua posta",
+     "Long: i colpi coperti; in aRet (array da 1) la posta in euro di ogni colpo",
+     "Scrivi GetVettoreProgressione(2, 2, 1, 10, 5, 1, aP) & \" colpi:\" & Join(aP, \" \")"},
 };
 
 }  // namespace

@@ -61,7 +61,9 @@ const Libreria::Funzione kPrevisioni[] = {
      "aNumeri, aRuote, Colpi, [IdEstr = l'ultima estrazione], [Testo]: salva nell'archivio delle previsioni i "
      "numeri (1..90, diversi) sulle ruote (TT_ le dieci città) fatti all'estrazione IdEstr, da giocare nelle Colpi "
      "estrazioni seguenti (1..1000), con un testo di al più 2000 caratteri; restituisce il numero della previsione. "
-     "La finestra delle previsioni le verifica. Errore se non c'è la cartella dell'agenda o in modalità protetta"},
+     "La finestra delle previsioni le verifica. Errore se non c'è la cartella dell'agenda o in modalità protetta",
+     "Long: il numero della previsione nell'archivio delle previsioni",
+     "Scrivi SalvaPrevisione(Array(12, 34), Array(BA_, NA_), 9, EstrazioniArchivio, \"ambo 12-34\")"},
 };
 
 }  // namespace

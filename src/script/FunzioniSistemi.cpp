@@ -238,24 +238,33 @@ const Libreria::Funzione kSistemi[] = {
      "aNumeri, Classe, Garanzia, aRet, [Condizione = Garanzia]: un sistema ridotto dei numeri di aNumeri in colonne "
      "di Classe numeri che garantisce la sorte Garanzia quando Condizione dei numeri escono; riempie aRet(colonna, "
      "1..Classe) e restituisce quante colonne (Long). Ogni sistema è verificato su tutti i casi prima di essere dato; "
-     "GetCombSviluppoRid ne dà poi le colonne una alla volta"},
+     "GetCombSviluppoRid ne dà poi le colonne una alla volta",
+     "Long: quante colonne; in aRet(colonna, 1..Classe) i numeri di ciascuna",
+     "Scrivi GetMatriceSistemaRidotto(Array(1, 2, 3, 4, 5, 6, 7), 3, 2, aS) & \" colonne, la prima: \" & aS(1, 1) & \" "
+     "\" & aS(1, 2) & \" \" & aS(1, 3)"},
     {"GetCombSviluppoRid", 1, 5, &GetCombSviluppoRid,
      "aRet, [aNumeri, Classe, Garanzia, [Condizione = Garanzia]]: mette in aRet la colonna successiva del sistema "
      "ridotto come array con indice da 1 e restituisce True; False, lasciando aRet invariato, dopo l'ultima. Con "
      "aNumeri, Classe e Garanzia diversi da quelli del sistema in corso ne costruisce uno nuovo come "
      "GetMatriceSistemaRidotto e ne dà la prima colonna; uguali, o senza, continua il sistema in corso, l'ultimo "
      "costruito (anche da GetMatriceSistemaRidotto, che lo fa ripartire): Do While GetCombSviluppoRid(c, a, 3, 2) "
-     "dà tutte le colonne una volta"},
+     "dà tutte le colonne una volta",
+     "Boolean: True con la colonna successiva in aRet (array da 1); False dopo l'ultima",
+     "Do While GetCombSviluppoRid(aC, Array(1, 2, 3, 4, 5, 6, 7), 3, 2) : Scrivi Join(aC, \" \") : Loop"},
     {"LeggiColonnaSistema", 3, 3, &LeggiColonnaSistema,
      "NomeFile, NumeroColonna, aRet: mette in aRet la colonna NumeroColonna (da 1) del file di colonne NomeFile, come "
      "array con indice da 1, e restituisce True; False dopo l'ultima colonna. Il file ha una colonna per riga, i "
      "numeri (1..90, diversi) separati da spazi, tabulazioni, virgole o punti e virgola; le righe vuote e quelle che "
-     "cominciano con # non contano. Un file che non rispetta questa forma viene rifiutato, indicando la riga"},
+     "cominciano con # non contano. Un file che non rispetta questa forma viene rifiutato, indicando la riga",
+     "Boolean: True con la colonna in aRet (array da 1); False dopo l'ultima",
+     "SalvaColonnaSistema \"sistema.txt\", Array(3, 11, 19) : If LeggiColonnaSistema(\"sistema.txt\", 1, aC) Then "
+     "Scrivi Join(aC, \" \")"},
     {"SalvaColonnaSistema", 2, 2, &SalvaColonnaSistema,
      "NomeFile, aColonna: aggiunge in fondo al file di colonne NomeFile (creandolo se manca) la colonna aColonna "
      "(array di numeri 1..90 diversi) o tutte le colonne di una matrice aColonna(colonna, elemento) come quella di "
      "GetMatriceSistemaRidotto; il file è riscritto tutto in una volta, e uno che non è un file di colonne non "
-     "viene toccato. Restituisce quante colonne ha ora il file (Long)"},
+     "viene toccato. Restituisce quante colonne ha ora il file (Long)",
+     "Long: quante colonne ha ora il file", "Scrivi SalvaColonnaSistema(\"sistema.txt\", Array(27, 38, 44))"},
 };
 
 }  // namespace

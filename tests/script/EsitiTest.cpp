@@ -144,6 +144,23 @@ TEST_F(Libreria, VerificaEsitoSEContaINumeriPrincipali) {
   EXPECT_EQ(m_ospite.testo, "negativo dopo 2 colpi\nin corso: 1 colpi giocati su 5, nessuna vincita\n");
 }
 
+// The generic archive numbers no contests: the line names the winning draw by its place.
+TEST_F(Libreria, VerificaEsitoFTNominaLEstrazioneSenzaConcorso) {
+  std::vector<EstrazioneGioco> estrazioni(3);
+  for (size_t i = 0; i < estrazioni.size(); ++i) {
+    estrazioni[i].id_estr = static_cast<int32_t>(i + 1);
+    estrazioni[i].data = stats::Data(static_cast<int>(i) + 1, 2, 2020);
+    for (size_t p = 0; p < 5; ++p) estrazioni[i].numeri[p] = static_cast<uint8_t>(i * 10 + p + 1);
+  }
+  test::CartellaTemporanea cartella;
+  ImpostazioniLibreria impostazioni;
+  impostazioni.archivi_giochi[static_cast<size_t>(Gioco::Generico)] = cartella / "FT.dat";
+  ASSERT_TRUE(SalvaArchivioGioco(TabellaGioco(FormatoGenerico(5, 90), estrazioni), cartella / "FT.dat"));
+  Avvia(test::Archivio().Estrazione().Tabella(), impostazioni);
+  EXPECT_EQ(Testo("VerificaEsitoFT(Array(22, 50), 1, 2)"), "1");
+  EXPECT_EQ(m_ospite.testo, "1 punto al colpo 2, estrazione 3 del 03/02/2020\n");
+}
+
 // The worked example of the ambetto, the wrap of the circle at 90, the neighbour that is itself
 // played, and the exact pair that does not win.
 TEST_F(Libreria, TestAmbettoContaLeCombinazioniVinteDaCinqueNumeri) {
