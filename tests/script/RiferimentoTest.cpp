@@ -2,8 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <numeric>
+#include <filesystem>
 #include <fstream>
+#include <numeric>
 #include <random>
 #include <sstream>
 #include <string>
@@ -25,7 +26,8 @@ TEST(Riferimento, OgniNomeLegatoHaTuttaLaSuaScheda) {
   std::vector<std::string> incomplete;
   for (const SchedaFunzione& scheda : Riferimento()) {
     if (!scheda.legata) continue;
-    const bool esempio_del_nome = text::LowerAscii(scheda.esempio).find(text::LowerAscii(scheda.nome)) != std::string::npos;
+    const bool esempio_del_nome =
+        text::LowerAscii(scheda.esempio).find(text::LowerAscii(scheda.nome)) != std::string::npos;
     if (scheda.significato.empty() || scheda.restituisce.empty() || !esempio_del_nome ||
         scheda.esempio.find('\n') != std::string_view::npos)
       incomplete.emplace_back(scheda.nome);
@@ -67,6 +69,7 @@ class EsempiDelRiferimento : public Libreria {
     ImpostazioniLibreria impostazioni;
     impostazioni.cartella_base = m_cartella.Percorso();
     impostazioni.cartella_output = m_cartella / "scriptOutput";
+    std::filesystem::create_directories(impostazioni.cartella_output);  // as every host does before a run
     for (size_t g = 0; g < impostazioni.archivi_giochi.size(); ++g) {
       const Gioco gioco = static_cast<Gioco>(g);
       impostazioni.archivi_giochi[g] = m_cartella / (std::string(Formato(gioco).sigla) + ".dat");
