@@ -247,16 +247,18 @@ const Libreria::Funzione kArchivio[] = {
      "Scrivi EstrazioniArchivio"},
     {"DataEstrToIdEstr", 1, 1, &DataEstrToIdEstr,
      "Data: l'IdEstr dell'estrazione di quella data \"GG/MM/AAAA\" (Long), 0 se non ce n'è alcuna",
-     "Long: l'IdEstr, 0 se quel giorno non c'è estrazione o la data non è valida",
+     "Long: l'IdEstr, 0 se quel giorno non c'è estrazione (o, dopo un avviso, se la data non è valida)",
      "Scrivi DataEstrToIdEstr(DataEstrazione(EstrazioniArchivio - 1))"},
     {"EstrazioneIni", 1, 1, &EstrazioneDellaData<false>,
      "Data: l'IdEstr della prima estrazione di quel giorno \"GG/MM/AAAA\" o successiva (Long), 0 se non ce n'è "
      "alcuna: l'inizio di un periodo",
-     "Long: l'IdEstr, 0 se non c'è", "Scrivi EstrazioneIni(\"01/01/2020\")"},
+     "Long: l'IdEstr, 0 se non c'è (o, dopo un avviso, se la data non è valida)",
+     "Scrivi EstrazioneIni(\"01/01/2020\")"},
     {"EstrazioneFin", 1, 1, &EstrazioneDellaData<true>,
      "Data: l'IdEstr dell'ultima estrazione di quel giorno \"GG/MM/AAAA\" o precedente (Long), 0 se non ce n'è "
      "alcuna: la fine di un periodo",
-     "Long: l'IdEstr, 0 se non c'è", "Scrivi EstrazioneFin(\"31/12/2020\")"},
+     "Long: l'IdEstr, 0 se non c'è (o, dopo un avviso, se la data non è valida)",
+     "Scrivi EstrazioneFin(\"31/12/2020\")"},
     {"IsUltimaDelMese", 1, 1, &IsUltimaDelMese,
      "IdEstr: True se è l'ultima estrazione del suo mese nell'archivio (False per l'ultima dell'archivio: il mese "
      "può non essere finito)",

@@ -191,7 +191,7 @@ const Libreria::Funzione kEsecuzione[] = {
     {"SetNomeFileHtmlOut", 1, 1, &SetNomeFileHtmlOut, "Nome: il nome del file della pagina HTML dell'esecuzione",
      "niente (Sub)", "SetNomeFileHtmlOut \"ritardi.htm\""},
     {"SetFlagSalvaPrevisioniInCorso", 0, 1, &SetFlagSalvaPrevisioniInCorso,
-     "[Attivo]: l'esecuzione salva le previsioni", "niente (Sub)", "SetFlagSalvaPrevisioniInCorso False"},
+     "[Attivo = True]: se l'esecuzione salva le previsioni", "niente (Sub)", "SetFlagSalvaPrevisioniInCorso False"},
 };
 
 }  // namespace
