@@ -275,30 +275,46 @@ const Libreria::Funzione kAnalitico[] = {
     {"GeneraAnalitico", 1, 3, &GeneraAnalitico<Calcolo::Semplice>,
      "Ruota, [Fine], [Inizio]: l'analitico dei 90 numeri sulla ruota (TT_ per tutte) da Inizio a Fine, come matrice "
      "(1 To 90, 1 To 4) di ritardo, frequenza, ritardo storico e incremento storico; valori Null se la ruota non è "
-     "mai stata estratta nell'intervallo (la Nazionale prima del 04/05/2005)"},
+     "mai stata estratta nell'intervallo (la Nazionale prima del 04/05/2005)",
+     "Array (1 To 90, 1 To 4) di Long: ritardo, frequenza, storico, incremento storico di ogni numero; Null se la "
+     "ruota non fu estratta",
+     "m = GeneraAnalitico(BA_) : Scrivi \"90: rit \" & m(90, 1) & \" freq \" & m(90, 2)"},
     {"GeneraAnalitico2", 4, 6, &GeneraAnalitico2<Calcolo::Semplice>,
      "Ruota, aRitardi, aFrequenze, aStorici, [Fine], [Inizio]: l'analitico come tre array (1 To 90); True se la "
-     "ruota è stata estratta nell'intervallo, altrimenti False e gli array pieni di Null"},
+     "ruota è stata estratta nell'intervallo, altrimenti False e gli array pieni di Null",
+     "Boolean: True se la ruota fu estratta; in aRitardi, aFrequenze, aStorici gli array da 1 a 90",
+     "If GeneraAnalitico2(NZ_, aRit, aFreq, aSto) Then Scrivi aRit(90) & \" \" & aSto(90)"},
     {"GeneraAnaliticoRuote", 1, 3, &GeneraAnaliticoRuote,
      "aRuote, [Fine], [Inizio]: la matrice di GeneraAnalitico per le ruote giocate insieme: un numero esce quando "
-     "esce su una di esse, la frequenza conta ogni ruota"},
+     "esce su una di esse, la frequenza conta ogni ruota",
+     "Array (1 To 90, 1 To 4) di Long come GeneraAnalitico",
+     "m = GeneraAnaliticoRuote(Array(BA_, CA_), EstrazioniArchivio) : Scrivi m(1, 1)"},
     {"GeneraAnaliticoTurbo", 1, 2, &GeneraAnalitico<Calcolo::Turbo>,
      "Ruota, [Fine]: GeneraAnalitico dalla prima estrazione; dopo la prima chiamata dell'esecuzione risponde a "
-     "qualsiasi Fine in pochi microsecondi"},
+     "qualsiasi Fine in pochi microsecondi",
+     "Array (1 To 90, 1 To 4) di Long come GeneraAnalitico",
+     "m = GeneraAnaliticoTurbo(TT_, EstrazioniArchivio - 10) : Scrivi m(45, 3)"},
     {"GeneraAnaliticoTurbo2", 4, 5, &GeneraAnalitico2<Calcolo::Turbo>,
      "Ruota, aRitardi, aFrequenze, aStorici, [Fine]: GeneraAnalitico2 dalla prima estrazione, veloce come "
-     "GeneraAnaliticoTurbo"},
+     "GeneraAnaliticoTurbo",
+     "Boolean: True se la ruota fu estratta; in aRitardi, aFrequenze, aStorici gli array da 1 a 90",
+     "If GeneraAnaliticoTurbo2(BA_, aRit, aFreq, aSto) Then Scrivi aFreq(1)"},
     {"GetTabAnalitico", 0, 3, &TabelloneAnalitico<Calcolo::Semplice, true>,
-     "[Fine], [Inizio], [Dato = 1]: l'HTML (String) della tabella di TabelloneAnalitico, senza scriverla"},
+     "[Fine], [Inizio], [Dato = 1]: l'HTML (String) della tabella di TabelloneAnalitico, senza scriverla",
+     "String: il codice HTML della tabella",
+     "s = GetTabAnalitico(EstrazioniArchivio, EstrazioniArchivio - 99, 2) : Scrivi Len(s)"},
     {"TabelloneAnalitico", 0, 3, &TabelloneAnalitico<Calcolo::Semplice, false>,
      "[Fine], [Inizio], [Dato = 1]: scrive la tabella dei 90 numeri (righe) su ogni ruota e su tutte (colonne): "
      "Dato 1 ritardo, 2 frequenza, 3 ritardo storico, 4 incremento storico; un ritardo pari allo storico su rosso, "
-     "oltre i tre quarti su giallo; \"-\" per una ruota non ancora estratta"},
+     "oltre i tre quarti su giallo; \"-\" per una ruota non ancora estratta",
+     "niente (Sub): scrive la tabella", "TabelloneAnalitico EstrazioniArchivio, 1, 1"},
     {"TabelloneAnaliticoRuote", 1, 4, &TabelloneAnaliticoRuote,
      "aRuote, [Fine], [Inizio], [Dato = 1]: TabelloneAnalitico per le sole ruote date, più una colonna per le ruote "
-     "giocate insieme quando sono più di una"},
+     "giocate insieme quando sono più di una",
+     "niente (Sub): scrive la tabella", "TabelloneAnaliticoRuote Array(BA_, NA_), EstrazioniArchivio, 1, 2"},
     {"TabelloneAnaliticoTurbo", 0, 2, &TabelloneAnalitico<Calcolo::Turbo, false>,
-     "[Fine], [Dato = 1]: TabelloneAnalitico dalla prima estrazione, veloce come GeneraAnaliticoTurbo"},
+     "[Fine], [Dato = 1]: TabelloneAnalitico dalla prima estrazione, veloce come GeneraAnaliticoTurbo",
+     "niente (Sub): scrive la tabella", "TabelloneAnaliticoTurbo EstrazioniArchivio, 3"},
 };
 
 }  // namespace

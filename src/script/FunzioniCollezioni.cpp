@@ -86,16 +86,23 @@ Result<Variant> OrdinaItemCollection(Libreria& lib, CallArgs& args) {
 
 const Libreria::Funzione kCollezioni[] = {
     {"GetNewCollection", 0, 0, &GetNewCollection,
-     "una nuova collezione vuota: Add Elemento, [Chiave]; Item(Indice o Chiave); Remove; Count; For Each"},
+     "una nuova collezione vuota: Add Elemento, [Chiave]; Item(Indice o Chiave); Remove; Count; For Each",
+     "Object: una collezione vuota", "Set c = GetNewCollection() : c.Add 12, \"a\" : Scrivi c.Count"},
     {"AddItemColl", 2, 3, &AddItemColl,
      "Coll, Elemento, [Chiave]: aggiunge l'elemento in fondo alla collezione, con la chiave se data; restituisce "
-     "quanti elementi ha ora la collezione"},
+     "quanti elementi ha ora la collezione",
+     "Long: quanti elementi ha la collezione; errore 5 per una chiave già usata",
+     "Set c = GetNewCollection() : Scrivi AddItemColl(c, 34, \"ambo\")"},
     {"GetItemCollection", 2, 2, &GetItemCollection,
-     "Coll, Indice: l'elemento al posto Indice (da 1) o con la chiave Indice"},
+     "Coll, Indice: l'elemento al posto Indice (da 1) o con la chiave Indice",
+     "l'elemento, del tipo che ha; errore 5 per un indice o una chiave che non c'è",
+     "Set c = GetNewCollection() : n = AddItemColl(c, 34, \"ambo\") : Scrivi GetItemCollection(c, \"ambo\")"},
     {"OrdinaItemCollection", 1, 3, &OrdinaItemCollection,
      "Coll, [Ordine = 1], [Proprieta]: ordina sul posto gli elementi della collezione, per il loro valore o, per "
      "oggetti, per il valore della proprietà Proprieta; Ordine 1 crescente, -1 decrescente; i numeri prima dei "
-     "testi, a pari valore resta l'ordine di prima; le chiavi restano ai loro elementi"},
+     "testi, a pari valore resta l'ordine di prima; le chiavi restano ai loro elementi",
+     "niente (Sub): la collezione ordinata sul posto",
+     "Set c = GetNewCollection() : c.Add 45 : c.Add 12 : c.Add 90 : OrdinaItemCollection c, -1 : Scrivi c.Item(1)"},
 };
 
 }  // namespace

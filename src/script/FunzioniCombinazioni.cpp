@@ -460,101 +460,155 @@ using stats::SviluppoDisposizioni;
 
 const Libreria::Funzione kCombinazioni[] = {
     {"Combinazioni", 2, 2, &Combinazioni,
-     "N, K: il numero di combinazioni di N elementi di classe K (Long, Double se più grande); 0 se K > N"},
+     "N, K: il numero di combinazioni di N elementi di classe K (Long, Double se più grande); 0 se K > N",
+     "Long (Double se più grande): quante combinazioni, 0 se K > N", "Scrivi Combinazioni(90, 2)"},
     {"Permutazioni", 1, 2, &Permutazioni,
-     "N, [K = N]: le disposizioni di N elementi di classe K, N! / (N - K)! (Long, Double se più grande)"},
-    {"FattN", 1, 1, &Fattoriale, "N: N! come Double, con N da 0 a 170"},
-    {"FattorialeNum", 1, 1, &Fattoriale, "N: N! come Double, con N da 0 a 170, come FattN"},
+     "N, [K = N]: le disposizioni di N elementi di classe K, N! / (N - K)! (Long, Double se più grande)",
+     "Long (Double se più grande): quante disposizioni", "Scrivi Permutazioni(10, 3)"},
+    {"FattN", 1, 1, &Fattoriale, "N: N! come Double, con N da 0 a 170", "Double: N!; errore 5 fuori da 0..170",
+     "Scrivi FattN(10)"},
+    {"FattorialeNum", 1, 1, &Fattoriale, "N: N! come Double, con N da 0 a 170, come FattN",
+     "Double: N!; errore 5 fuori da 0..170", "Scrivi FattorialeNum(5)"},
     {"InitSviluppoIntegrale", 2, 2, &InitSviluppo<SviluppoIntegrale, &StatoSviluppi::integrale>,
      "aNumeri, Classe: prepara lo sviluppo di tutte le combinazioni di classe Classe dei numeri, in ordine "
-     "lessicografico delle loro posizioni; restituisce quante sono"},
+     "lessicografico delle loro posizioni; restituisce quante sono",
+     "Long (Double se più grande): quante combinazioni", "Scrivi InitSviluppoIntegrale(Array(1, 2, 3, 4, 5), 3)"},
     {"GetCombSviluppo", 1, 1, &ProssimoGruppo<SviluppoIntegrale, &StatoSviluppi::integrale>,
      "aRet: mette in aRet la combinazione successiva dello sviluppo come array con indice da 1 e restituisce True; "
-     "False, lasciando aRet invariato, quando tutte le combinazioni sono già state date"},
+     "False, lasciando aRet invariato, quando tutte le combinazioni sono già state date",
+     "Boolean: True e in aRet la combinazione (array da 1), False alla fine; errore 5 senza InitSviluppoIntegrale",
+     "n = InitSviluppoIntegrale(Array(1, 2, 3, 4, 5), 3) : Do While GetCombSviluppo(aC) : Scrivi StringaNumeri(aC) : "
+     "Loop"},
     {"GetCombSviluppate", 0, 0, &GetCombSviluppate,
      "il numero di combinazioni dello sviluppo date finora, comprese quelle saltate da "
-     "ForzaIncrementoPuntatoreSvilSisInt"},
+     "ForzaIncrementoPuntatoreSvilSisInt",
+     "Long (Double se più grande): le combinazioni date o saltate finora; errore 5 senza sviluppo",
+     "n = InitSviluppoIntegrale(Array(1, 2, 3, 4, 5), 3) : b = GetCombSviluppo(aC) : Scrivi GetCombSviluppate()"},
     {"GetNumPerSviluppo", 1, 1, &GetNumPerSviluppo,
      "aRet: riempie aRet con i numeri dello sviluppo di InitSviluppoIntegrale, nell'ordine in cui furono dati, "
-     "come array con indice da 1, e restituisce quanti sono"},
+     "come array con indice da 1, e restituisce quanti sono",
+     "Long: quanti numeri; in aRet i numeri (array da 1)",
+     "n = InitSviluppoIntegrale(Array(1, 2, 3, 4, 5), 3) : Scrivi GetNumPerSviluppo(aN) & \" numeri, il primo \" & "
+     "aN(1)"},
     {"GetPercCombSviluppate", 0, 0, &GetPercCombSviluppate,
-     "la percentuale, 0..100, delle combinazioni dello sviluppo date (o saltate) finora (Double)"},
+     "la percentuale, 0..100, delle combinazioni dello sviluppo date (o saltate) finora (Double)",
+     "Double: la percentuale 0..100",
+     "n = InitSviluppoIntegrale(Array(1, 2, 3, 4, 5), 3) : b = GetCombSviluppo(aC) : Scrivi GetPercCombSviluppate()"},
     {"ForzaIncrementoPuntatoreSvilSisInt", 1, 1, &ForzaIncrementoPuntatoreSvilSisInt,
      "Livello: nello sviluppo di InitSviluppoIntegrale, salta tutte le combinazioni che hanno i primi Livello "
      "(1..Classe) elementi uguali a quelli della combinazione corrente, così che GetCombSviluppo dia la prima che ne "
      "differisce: per scartare in un passo un ramo di una ricerca. Restituisce quante combinazioni ha saltato (0 "
-     "prima della prima combinazione, dopo l'ultima o con Livello = Classe)"},
+     "prima della prima combinazione, dopo l'ultima o con Livello = Classe)",
+     "Long (Double se più grande): quante combinazioni ha saltato",
+     "n = InitSviluppoIntegrale(Array(1, 2, 3, 4, 5), 3) : b = GetCombSviluppo(aC) : Scrivi "
+     "ForzaIncrementoPuntatoreSvilSisInt(1)"},
     {"GetMotoreSviluppoIntegrale", 2, 2, &GetMotoreSviluppoIntegrale,
      "aNumeri, Classe: un oggetto con uno sviluppo integrale tutto suo delle combinazioni di classe Classe di "
      "aNumeri, nell'ordine di InitSviluppoIntegrale, per tenere più sviluppi in corso insieme; i suoi metodi "
      "GetCombSviluppo(aRet), GetCombSviluppate, GetPercCombSviluppate, GetNumPerSviluppo(aRet), "
      "ForzaIncrementoPuntatoreSvilSisInt(Livello) fanno ciò che fanno le funzioni dello stesso nome, "
-     "QuantitaCombinazioni dice quante sono, Riavvia ricomincia dalla prima"},
+     "QuantitaCombinazioni dice quante sono, Riavvia ricomincia dalla prima",
+     "Object: lo sviluppo con i suoi metodi",
+     "Set m = GetMotoreSviluppoIntegrale(Array(10, 20, 30, 40), 2) : Do While m.GetCombSviluppo(aC) : Scrivi "
+     "StringaNumeri(aC) : Loop"},
     {"SviluppoIntegrale", 3, 3, &SviluppoCompleto<SviluppoCombinazioni>,
      "aNumeri, Classe, aRet: riempie aRet con tutte le combinazioni di classe Classe dei numeri come matrice "
      "aRet(combinazione, elemento), con indici da 1, in ordine lessicografico; restituisce quante sono; uno sviluppo "
-     "di più di 8388608 elementi viene rifiutato"},
+     "di più di 8388608 elementi viene rifiutato",
+     "Long: quante combinazioni; in aRet la matrice (combinazione, elemento) da 1; errore 5 oltre 8388608 elementi",
+     "n = SviluppoIntegrale(Array(1, 2, 3, 4, 5), 2, aC) : Scrivi n & \" ambi, l'ultimo \" & aC(n, 1) & \"-\" & aC(n, "
+     "2)"},
     {"InitSviluppoPermutazioni", 2, 2, &InitSviluppo<SviluppoDisposizioni, &StatoSviluppi::permutazioni>,
      "aNumeri, Classe: prepara lo sviluppo di tutti i gruppi ordinati (disposizioni) di Classe numeri diversi di "
      "aNumeri, in ordine lessicografico delle loro posizioni; Classe uguale alla quantità di numeri dà le "
-     "permutazioni; restituisce quanti sono"},
+     "permutazioni; restituisce quanti sono",
+     "Long (Double se più grande): quanti gruppi ordinati", "Scrivi InitSviluppoPermutazioni(Array(1, 2, 3), 2)"},
     {"GetCombPermutazioni", 1, 1, &ProssimoGruppo<SviluppoDisposizioni, &StatoSviluppi::permutazioni>,
      "aRet: mette in aRet il gruppo successivo dello sviluppo delle permutazioni come array con indice da 1 e "
-     "restituisce True; False, lasciando aRet invariato, alla fine"},
+     "restituisce True; False, lasciando aRet invariato, alla fine",
+     "Boolean: True e in aRet il gruppo (array da 1), False alla fine; errore 5 senza InitSviluppoPermutazioni",
+     "n = InitSviluppoPermutazioni(Array(1, 2, 3), 3) : Do While GetCombPermutazioni(aC) : Scrivi StringaNumeri(aC) : "
+     "Loop"},
     {"SviluppoPermutazioni", 3, 3, &SviluppoCompleto<SviluppoDisposizioni>,
      "aNumeri, Classe, aRet: riempie aRet con tutti i gruppi ordinati di Classe numeri come matrice aRet(gruppo, "
-     "elemento), con indici da 1; restituisce quanti sono; uno sviluppo di più di 8388608 elementi viene rifiutato"},
+     "elemento), con indici da 1; restituisce quanti sono; uno sviluppo di più di 8388608 elementi viene rifiutato",
+     "Long: quanti gruppi; in aRet la matrice (gruppo, elemento) da 1; errore 5 oltre 8388608 elementi",
+     "n = SviluppoPermutazioni(Array(1, 2, 3), 2, aC) : Scrivi n & \" \" & aC(1, 1) & aC(1, 2)"},
     {"GetAmbiDistanzaX", 3, 3, &AmbiScelti<&DistanzaUguale>,
      "aNumeri, Distanza, aRet: riempie aRet con gli ambi dei numeri (riportati in 1..90) la cui distanza sul cerchio "
-     "dei 90 è Distanza, come matrice aRet(ambo, 1..2), e restituisce quanti sono"},
+     "dei 90 è Distanza, come matrice aRet(ambo, 1..2), e restituisce quanti sono",
+     "Long: quanti ambi; in aRet la matrice (ambo, 1..2)",
+     "n = GetAmbiDistanzaX(Array(1, 10, 46, 55), 45, aA) : Scrivi n"},
     {"GetAmbiSommaX", 3, 3, &AmbiScelti<&SommaUguale>,
      "aNumeri, Somma, aRet: riempie aRet con gli ambi dei numeri (riportati in 1..90) la cui somma, riportata in "
-     "1..90, è uguale a Somma riportata in 1..90, come matrice aRet(ambo, 1..2), e restituisce quanti sono"},
+     "1..90, è uguale a Somma riportata in 1..90, come matrice aRet(ambo, 1..2), e restituisce quanti sono",
+     "Long: quanti ambi; in aRet la matrice (ambo, 1..2)",
+     "n = GetAmbiSommaX(Array(1, 10, 45, 80), 90, aA) : Scrivi n"},
     {"GetAmbiUguali", 2, 2, &AmbiUgualiScelti<false>,
      "IdEstr, aRet: riempie aRet con gli ambi usciti in quell'estrazione su due ruote diverse, Nazionale compresa "
      "se estratta, come matrice aRet(riga, 1..4) = Numero1, Numero2, RuotaA, RuotaB (Numero1 < Numero2, RuotaA < "
      "RuotaB, NZ_ = 12), una riga per ogni coppia di ruote con lo stesso ambo, in ordine di numeri e poi di ruote; "
-     "restituisce quante sono le righe"},
+     "restituisce quante sono le righe",
+     "Long: quante righe; in aRet la matrice (riga, 1..4)",
+     "n = GetAmbiUguali(EstrazioniArchivio, aA) : Scrivi n & \" ambi uguali\""},
     {"GetAmbiUgualiDistanzaX", 3, 3, &AmbiUgualiScelti<false, &DistanzaUguale>,
      "IdEstr, Distanza, aRet: come GetAmbiUguali, solo gli ambi i cui numeri hanno distanza Distanza sul cerchio "
-     "dei 90"},
+     "dei 90",
+     "Long: quante righe; in aRet la matrice (riga, 1..4)",
+     "Scrivi GetAmbiUgualiDistanzaX(EstrazioniArchivio, 30, aA)"},
     {"GetAmbiUgualiSommaX", 3, 3, &AmbiUgualiScelti<false, &SommaUguale>,
      "IdEstr, Somma, aRet: come GetAmbiUguali, solo gli ambi la cui somma, riportata in 1..90, è uguale a Somma "
-     "riportata in 1..90"},
+     "riportata in 1..90",
+     "Long: quante righe; in aRet la matrice (riga, 1..4)", "Scrivi GetAmbiUgualiSommaX(EstrazioniArchivio, 90, aA)"},
     {"GetAmbiUgualiIsotopi", 2, 2, &AmbiUgualiScelti<true>,
      "IdEstr, aRet: come GetAmbiUguali, solo gli ambi isotopi, usciti nelle stesse due posizioni su entrambe le "
-     "ruote"},
+     "ruote",
+     "Long: quante righe; in aRet la matrice (riga, 1..4)", "Scrivi GetAmbiUgualiIsotopi(EstrazioniArchivio, aA)"},
     {"GetAmbiUgualiIsotopiDistanzaX", 3, 3, &AmbiUgualiScelti<true, &DistanzaUguale>,
      "IdEstr, Distanza, aRet: come GetAmbiUgualiIsotopi, solo gli ambi i cui numeri hanno distanza Distanza sul "
-     "cerchio dei 90"},
+     "cerchio dei 90",
+     "Long: quante righe; in aRet la matrice (riga, 1..4)",
+     "Scrivi GetAmbiUgualiIsotopiDistanzaX(EstrazioniArchivio, 30, aA)"},
     {"GetAmbiUgualiIsotopiSommaX", 3, 3, &AmbiUgualiScelti<true, &SommaUguale>,
      "IdEstr, Somma, aRet: come GetAmbiUgualiIsotopi, solo gli ambi la cui somma, riportata in 1..90, è uguale a "
-     "Somma riportata in 1..90"},
+     "Somma riportata in 1..90",
+     "Long: quante righe; in aRet la matrice (riga, 1..4)",
+     "Scrivi GetAmbiUgualiIsotopiSommaX(EstrazioniArchivio, 90, aA)"},
     {"Prob", 2, 2, &Prob,
      "Sorte, QuantitaNumeri: la probabilità (Double) che un'estrazione su una ruota vinca la sorte (da 1 estratto a "
-     "5 cinquina) giocando QuantitaNumeri numeri, cioè che almeno Sorte di essi siano estratti"},
+     "5 cinquina) giocando QuantitaNumeri numeri, cioè che almeno Sorte di essi siano estratti",
+     "Double: la probabilità, da 0 a 1; errore 5 per una sorte fuori da 1..5", "Scrivi Prob(AMBO_, 10)"},
     {"CicloTeorico", 2, 2, &CicloTeorico,
      "Sorte, QuantitaNumeri: il ciclo teorico, 1 / Prob(Sorte, QuantitaNumeri): 18 per l'estratto di un numero, "
-     "400.5 per l'ambo di due"},
+     "400.5 per l'ambo di due",
+     "Double: il ciclo teorico in estrazioni", "Scrivi CicloTeorico(AMBATA_, 1)"},
     {"QuantitaTeoricaCombAlRitX", 3, 3, &QuantitaTeoricaCombAlRitX,
      "Classe, Sorte, Ritardo: quante delle combinazioni di classe Classe dei 90 numeri ci si aspetta con un ritardo "
-     "di esattamente Ritardo estrazioni per la sorte su una ruota (Double)"},
+     "di esattamente Ritardo estrazioni per la sorte su una ruota (Double)",
+     "Double: quante combinazioni attese", "Scrivi QuantitaTeoricaCombAlRitX(2, AMBO_, 100)"},
     {"QuantitaTeoricaCombMagUgAlRitX", 3, 3, &QuantitaTeoricaCombMagUgAlRitX,
      "Classe, Sorte, Ritardo: quante delle combinazioni di classe Classe ci si aspetta con un ritardo di Ritardo "
-     "estrazioni o più per la sorte su una ruota (Double)"},
+     "estrazioni o più per la sorte su una ruota (Double)",
+     "Double: quante combinazioni attese", "Scrivi QuantitaTeoricaCombMagUgAlRitX(1, AMBATA_, 100)"},
     {"QuantitaTeoricaCombCompreseTraRit", 4, 4, &QuantitaTeoricaCombCompreseTraRit,
      "Classe, Sorte, RitardoMin, RitardoMax: quante delle combinazioni di classe Classe ci si aspetta con un ritardo "
-     "da RitardoMin a RitardoMax estrazioni per la sorte su una ruota (Double)"},
-    {"NumeroCasuale", 0, 2, &NumeroCasuale, "[Min = 1], [Max = 90]: un numero intero casuale da Min a Max (Long)"},
+     "da RitardoMin a RitardoMax estrazioni per la sorte su una ruota (Double)",
+     "Double: quante combinazioni attese", "Scrivi QuantitaTeoricaCombCompreseTraRit(1, AMBATA_, 0, 18)"},
+    {"NumeroCasuale", 0, 2, &NumeroCasuale, "[Min = 1], [Max = 90]: un numero intero casuale da Min a Max (Long)",
+     "Long: un numero casuale da Min a Max", "Scrivi NumeroCasuale(1, 90)"},
     {"GetColonnaCasuale", 2, 3, &GetColonnaCasuale,
      "Quanti, aRet, [Max = 90]: riempie aRet con Quanti numeri casuali diversi da 1 a Max, in ordine crescente, come "
-     "array con indice da 1"},
+     "array con indice da 1",
+     "niente (Sub): in aRet i numeri (array da 1)", "GetColonnaCasuale 6, aN : Scrivi StringaNumeri(aN)"},
     {"InitGenNumUnivoci", 0, 2, &InitGenNumUnivoci,
      "[Min = 1], [Max = 90]: prepara GetNumeroUnivoco a dare i numeri da Min a Max una volta ciascuno, in ordine "
-     "casuale"},
+     "casuale",
+     "niente (Sub)", "InitGenNumUnivoci 1, 10"},
     {"GetNumeroUnivoco", 0, 0, &GetNumeroUnivoco,
      "il successivo numero casuale dell'intervallo di InitGenNumUnivoci non ancora dato (Long); errore quando sono "
-     "stati dati tutti"},
+     "stati dati tutti",
+     "Long: il numero; errore 5 senza InitGenNumUnivoci o a numeri esauriti",
+     "InitGenNumUnivoci 1, 5 : For i = 1 To 5 : Scrivi GetNumeroUnivoco() : Next"},
 };
 
 }  // namespace

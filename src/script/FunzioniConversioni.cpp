@@ -30,7 +30,8 @@ bool Separatore(char16_t c) { return std::u16string_view(u" \t\r\n.,;:-/|+").fin
 Result<Variant> GetANumeri(Libreria&, CallArgs& args) {
   VBS_TRY_ASSIGN(auto testo, args.String(0));
   VBS_TRY_ASSIGN(auto massimo, args.Long(2, kMassimoNumero));
-  if (massimo < 1) return ArgomentoNonValido(fmt::format("GetANumeri: il massimo deve essere almeno 1, non {}", massimo));
+  if (massimo < 1)
+    return ArgomentoNonValido(fmt::format("GetANumeri: il massimo deve essere almeno 1, non {}", massimo));
   std::vector<int> numeri;
   for (size_t i = 0; i < testo.size();) {
     if (Separatore(testo[i])) {
@@ -41,7 +42,8 @@ Result<Variant> GetANumeri(Libreria&, CallArgs& args) {
       return ArgomentoNonValido(fmt::format("GetANumeri: \"{}\" contiene il carattere \"{}\", che non è un numero",
                                             text::Utf16ToUtf8(testo), text::Utf16ToUtf8(testo.substr(i, 1))));
     int64_t numero = 0;
-    for (; i < testo.size() && Cifra(testo[i]); ++i) numero = std::min<int64_t>(numero * 10 + (testo[i] - u'0'), 1 << 30);
+    for (; i < testo.size() && Cifra(testo[i]); ++i)
+      numero = std::min<int64_t>(numero * 10 + (testo[i] - u'0'), 1 << 30);
     if (numero < 1 || numero > massimo)
       return ArgomentoNonValido(fmt::format("GetANumeri: {} non è un numero da 1 a {}", numero, massimo));
     numeri.push_back(static_cast<int>(numero));
@@ -54,8 +56,10 @@ Result<Variant> GetANumeri(Libreria&, CallArgs& args) {
 // numbering, or TT/TU/Tutte for the ten city wheels.
 std::optional<std::vector<int>> RuoteDellaParola(const std::string& parola) {
   const std::string minuscola = text::LowerAscii(parola);
-  if (minuscola == "tt" || minuscola == "tu" || minuscola == "tutte") return std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
-  if (auto ruota = RuotaDaSigla(parola); ruota && *ruota <= kNumeroRuote) return std::vector<int>{*ruota == NZ ? 12 : *ruota};
+  if (minuscola == "tt" || minuscola == "tu" || minuscola == "tutte")
+    return std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+  if (auto ruota = RuotaDaSigla(parola); ruota && *ruota <= kNumeroRuote)
+    return std::vector<int>{*ruota == NZ ? 12 : *ruota};
   for (int r = 1; r <= kNumeroRuote; ++r)
     if (text::EqualsIgnoringAsciiCase(parola, NomeRuota(r))) return std::vector<int>{r == NZ ? 12 : r};
   if (!parola.empty() && parola.find_first_not_of("0123456789") == std::string::npos && parola.size() <= 2) {
@@ -81,9 +85,10 @@ Result<std::vector<int>> RuoteDelTesto(const CallArgs& args, std::string_view fu
     const std::string parola = testo.substr(inizio, fine - inizio);
     auto trovate = RuoteDellaParola(parola);
     if (!trovate)
-      return ArgomentoNonValido(fmt::format("{}: \"{}\" non è una ruota (BA, CA, FI, GE, MI, NA, PA, RO, TO, VE, NZ, "
-                                            "TT o il nome della ruota)",
-                                            funzione, parola));
+      return ArgomentoNonValido(
+          fmt::format("{}: \"{}\" non è una ruota (BA, CA, FI, GE, MI, NA, PA, RO, TO, VE, NZ, "
+                      "TT o il nome della ruota)",
+                      funzione, parola));
     for (int ruota : *trovate)
       if (std::find(ruote.begin(), ruote.end(), ruota) == ruote.end()) ruote.push_back(ruota);
     i = fine;
@@ -128,10 +133,14 @@ std::optional<double> NumeroScritto(std::string testo) {
   std::string normale;
   for (size_t i = 0; i < testo.size(); ++i) {
     const char c = testo[i];
-    if (c == decimale) normale += '.';
-    else if (c == ',' || c == '.') continue;
-    else if (std::isdigit(static_cast<unsigned char>(c)) || ((c == '-' || c == '+') && i == 0)) normale += c;
-    else return std::nullopt;
+    if (c == decimale)
+      normale += '.';
+    else if (c == ',' || c == '.')
+      continue;
+    else if (std::isdigit(static_cast<unsigned char>(c)) || ((c == '-' || c == '+') && i == 0))
+      normale += c;
+    else
+      return std::nullopt;
   }
   if (normale.find_first_of("0123456789") == std::string::npos) return std::nullopt;
   try {
@@ -153,8 +162,7 @@ Result<Variant> ConvDec(Libreria&, CallArgs& args) {
   }
   VBS_TRY_ASSIGN(auto testo, args.String(0));
   const auto numero = NumeroScritto(text::Utf16ToUtf8(testo));
-  if (!numero)
-    return ArgomentoNonValido(fmt::format("ConvDec: \"{}\" non è un numero", text::Utf16ToUtf8(testo)));
+  if (!numero) return ArgomentoNonValido(fmt::format("ConvDec: \"{}\" non è un numero", text::Utf16ToUtf8(testo)));
   return Variant::Double(*numero);
 }
 
@@ -200,12 +208,14 @@ const Libreria::Funzione kConversioni[] = {
      "Testo, aRet, [Massimo = 90]: riempie aRet(1..) con i numeri scritti nel testo (separati da spazi, punti, "
      "virgole, trattini, punti e virgola o barre), nell'ordine in cui sono scritti; una lettera o un numero fuori da "
      "1..Massimo è un errore che lo nomina",
-     "Long: quanti numeri; in aRet i numeri (array da 1)", "n = GetANumeri(\"5.12.33\", aN) : Scrivi n & \": \" & aN(3)"},
+     "Long: quanti numeri; in aRet i numeri (array da 1)",
+     "n = GetANumeri(\"5.12.33\", aN) : Scrivi n & \": \" & aN(3)"},
     {"RuoteSel", 2, 2, &RuoteSel,
      "Testo, aRet: riempie aRet(1..) con le ruote scritte nel testo, per sigla (BA, RM), per nome (Bari) o per "
      "numero, TT, TU o Tutte per le dieci ruote cittadine; ogni ruota una volta, nell'ordine in cui è scritta, NZ_ "
      "come 12",
-     "Long: quante ruote; in aRet le ruote (array da 1)", "n = RuoteSel(\"BA.NA.Roma\", aR) : Scrivi SiglaRuota(aR(3))"},
+     "Long: quante ruote; in aRet le ruote (array da 1)",
+     "n = RuoteSel(\"BA.NA.Roma\", aR) : Scrivi SiglaRuota(aR(3))"},
     {"RuoteSelB", 2, 2, &RuoteSelB,
      "Testo, aRet: come RuoteSel, ma aRet(1..12) dice per ogni ruota se è scritta (True) o no; aRet(11) è True "
      "quando lo sono tutte le dieci ruote cittadine",

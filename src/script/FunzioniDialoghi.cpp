@@ -208,30 +208,48 @@ Result<Variant> ScegliPoste(Libreria& lib, CallArgs& args) {
 const Libreria::Funzione kDialoghi[] = {
     {"ScegliNumeri", 0, 2, &ScegliNumeri,
      "[Titolo], [Quanti = 90]: chiede fino a Quanti numeri da 1 a 90; un array (1 To n) dei numeri scelti, (1 To 0) "
-     "se annullato"},
+     "se annullato",
+     "Array da 1 di Long: i numeri scelti, (1 To 0) se annullato",
+     "aN = ScegliNumeri(\"Numeri da giocare\", 5) : Scrivi UBound(aN) & \" numeri scelti\""},
     {"ScegliRuota", 0, 1, &ScegliRuota,
-     "[Titolo]: chiede una ruota, o tutte; la ruota (Integer: BA_ .. VE_, NZ_, TU_), 0 se annullato"},
+     "[Titolo]: chiede una ruota, o tutte; la ruota (Integer: BA_ .. VE_, NZ_, TU_), 0 se annullato",
+     "Integer: la ruota scelta (TU_ per tutte), 0 se annullato",
+     "r = ScegliRuota(\"Ruota da studiare\") : If r > 0 Then Scrivi NomeRuota(r)"},
     {"ScegliRuote", 0, 1, &ScegliRuote,
      "[Titolo]: chiede una o più ruote qualsiasi; un array (1 To n) delle ruote scelte, in ordine (NZ_ per ultima), "
-     "(1 To 0) se annullato"},
+     "(1 To 0) se annullato",
+     "Array da 1 di Long: le ruote scelte, (1 To 0) se annullato",
+     "aR = ScegliRuote(\"Ruote da giocare\") : Scrivi StringaRuote(aR)"},
     {"ScegliEsito", 0, 1, &ScegliEsito,
-     "[Titolo]: chiede una sorte; AMBATA_ .. CINQUINA_ (Integer 1..5), 0 se annullato"},
+     "[Titolo]: chiede una sorte; AMBATA_ .. CINQUINA_ (Integer 1..5), 0 se annullato",
+     "Integer: la sorte 1..5, 0 se annullato", "Scrivi NomeSorte(ScegliEsito(\"Sorte da giocare\"))"},
     {"ScegliDaLista", 1, 2, &ScegliDaLista,
-     "aVoci, [Titolo]: chiede una voce dell'array; il suo indice in aVoci (Long), -1 se annullato"},
+     "aVoci, [Titolo]: chiede una voce dell'array; il suo indice in aVoci (Long), -1 se annullato",
+     "Long: l'indice della voce in aVoci, -1 se annullato",
+     "i = ScegliDaLista(Array(\"Ritardi\", \"Frequenze\"), \"Cosa calcolare\") : Scrivi i"},
     {"ScegliOpzioneMenu", 2, 255, &ScegliOpzioneMenu,
      "Titolo, Opzione1, [Opzione2, ...]: chiede una delle opzioni; il suo numero (Long, 1 per Opzione1), 0 se "
-     "annullato"},
+     "annullato",
+     "Long: il numero dell'opzione, da 1; 0 se annullato",
+     "Scrivi ScegliOpzioneMenu(\"Ordina per\", \"Ritardo\", \"Frequenza\")"},
     {"ScegliDirectory", 0, 2, &ScegliPercorso<true>,
-     "[Titolo], [Iniziale = la cartella di base]: chiede una cartella; il suo percorso, \"\" se annullato"},
+     "[Titolo], [Iniziale = la cartella di base]: chiede una cartella; il suo percorso, \"\" se annullato",
+     "String: il percorso della cartella, \"\" se annullato", "Scrivi ScegliDirectory(\"Cartella dei risultati\")"},
     {"ScegliFile", 0, 2, &ScegliPercorso<false>,
-     "[Titolo], [Iniziale = \"\"]: chiede un file; il suo percorso, \"\" se annullato"},
+     "[Titolo], [Iniziale = \"\"]: chiede un file; il suo percorso, \"\" se annullato",
+     "String: il percorso del file, \"\" se annullato", "Scrivi ScegliFile(\"File da leggere\", GetDirectoryAppData)"},
     {"ScegliPoste", 1, 2, &ScegliPoste,
      "aPoste, [Titolo]: chiede la posta in euro di ciascuna sorte, da estratto a cinquina, proponendo quelle di "
-     "aPoste (se vuoto: 1 all'estratto e all'ambo); True con aPoste(1 To 5) impostato (Double), False se annullato"},
+     "aPoste (se vuoto: 1 all'estratto e all'ambo); True con aPoste(1 To 5) impostato (Double), False se annullato",
+     "Boolean: True e in aPoste le cinque poste (array da 1 di Double), False se annullato",
+     "If ScegliPoste(aPoste, \"Poste\") Then Scrivi aPoste(1) & \" \" & aPoste(2)"},
     {"ScegliRange", 2, 3, &ScegliRange,
      "Inizio, Fine, [Titolo]: chiede la prima e l'ultima estrazione di un intervallo, proponendo quello indicato da "
      "Inizio e Fine (l'intero archivio se non ne indicano alcuno); True con Inizio e Fine impostati, False se "
-     "annullato"},
+     "annullato",
+     "Boolean: True e in Inizio e Fine l'intervallo scelto (Long), False se annullato",
+     "Ini = EstrazioniArchivio - 99 : Fin = EstrazioniArchivio : If ScegliRange(Ini, Fin, \"Periodo\") Then Scrivi Ini "
+     "& \" - \" & Fin"},
 };
 
 }  // namespace

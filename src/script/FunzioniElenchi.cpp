@@ -207,45 +207,59 @@ Result<Variant> GetRitardoEstratti(Libreria& lib, CallArgs& args) {
 const Libreria::Funzione kElenchi[] = {
     {"ElencoRitardi", 2, 4, &ElencoRitardi<Calcolo::Semplice>,
      "Ruota, aRet, [Inizio = 1], [Fine = ultima estrazione]: riempie aRet(1..90) con il ritardo di ogni numero su "
-     "Ruota (TU_ per tutte) in Inizio..Fine, come lo dà EstrattoRitardo"},
+     "Ruota (TU_ per tutte) in Inizio..Fine, come lo dà EstrattoRitardo",
+     "niente (Sub): in aRet i 90 ritardi (array da 1, Long)", "ElencoRitardi BA_, aRit : Scrivi aRit(90)"},
     {"ElencoRitardiTurbo", 2, 4, &ElencoRitardi<Calcolo::Turbo>,
      "Ruota, aRet, [Inizio = 1], [Fine = ultima estrazione]: ciò che riempie ElencoRitardi, dalle tabelle costruite "
-     "dalla prima chiamata Turbo dell'esecuzione"},
+     "dalla prima chiamata Turbo dell'esecuzione",
+     "niente (Sub): in aRet i 90 ritardi (array da 1, Long)",
+     "ElencoRitardiTurbo TU_, aRit, 1, EstrazioniArchivio : Scrivi aRit(1)"},
     {"PiuRitardatario", 1, 2, &PiuRitardatario<Calcolo::Semplice>,
      "Ruota, [Fine = ultima estrazione]: il numero con il ritardo maggiore su Ruota a Fine, il più piccolo tra "
-     "quelli a pari ritardo (Integer)"},
+     "quelli a pari ritardo (Integer)",
+     "Integer: il numero più ritardatario", "Scrivi PiuRitardatario(BA_)"},
     {"PiuRitardatarioTurbo", 1, 2, &PiuRitardatario<Calcolo::Turbo>,
      "Ruota, [Fine = ultima estrazione]: ciò che dà PiuRitardatario, dalle tabelle costruite dalla prima chiamata "
-     "Turbo dell'esecuzione"},
+     "Turbo dell'esecuzione",
+     "Integer: il numero più ritardatario", "Scrivi PiuRitardatarioTurbo(BA_, EstrazioniArchivio - 1)"},
     {"PiuRitardatari", 3, 4, &PiuRitardatari<Calcolo::Semplice>,
      "Ruota, Quanti, aRet, [Fine = ultima estrazione]: riempie aRet(1..Quanti) con i Quanti (1..90) numeri più "
-     "ritardatari su Ruota a Fine, dal più ritardatario in giù, a pari ritardo prima il numero più piccolo"},
+     "ritardatari su Ruota a Fine, dal più ritardatario in giù, a pari ritardo prima il numero più piccolo",
+     "niente (Sub): in aRet i Quanti numeri (array da 1)", "PiuRitardatari BA_, 5, aN : Scrivi aN(1) & \" \" & aN(5)"},
     {"PiuRitardatariTurbo", 3, 4, &PiuRitardatari<Calcolo::Turbo>,
      "Ruota, Quanti, aRet, [Fine = ultima estrazione]: ciò che riempie PiuRitardatari, dalle tabelle costruite dalla "
-     "prima chiamata Turbo dell'esecuzione"},
+     "prima chiamata Turbo dell'esecuzione",
+     "niente (Sub): in aRet i Quanti numeri (array da 1)", "PiuRitardatariTurbo TU_, 5, aN : Scrivi aN(1)"},
     {"PosNumeroRit", 2, 3, &PosNumeroRit<Calcolo::Semplice>,
      "Ruota, Numero, [Fine = ultima estrazione]: il posto 1..90 di Numero nella classifica di PiuRitardatari, 1 per "
-     "il più ritardatario (Integer)"},
+     "il più ritardatario (Integer)",
+     "Integer: il posto in classifica, 1..90", "Scrivi PosNumeroRit(BA_, 90)"},
     {"PosNumeroRitTurbo", 2, 3, &PosNumeroRit<Calcolo::Turbo>,
      "Ruota, Numero, [Fine = ultima estrazione]: ciò che dà PosNumeroRit, dalle tabelle costruite dalla prima "
-     "chiamata Turbo dell'esecuzione"},
+     "chiamata Turbo dell'esecuzione",
+     "Integer: il posto in classifica, 1..90", "Scrivi PosNumeroRitTurbo(BA_, 90)"},
     {"NumeroPosRit", 2, 3, &NumeroPosRit<Calcolo::Semplice>,
      "Ruota, Posizione, [Fine = ultima estrazione]: il numero al posto Posizione (1..90) della classifica di "
-     "PiuRitardatari (Integer)"},
+     "PiuRitardatari (Integer)",
+     "Integer: il numero a quel posto", "Scrivi NumeroPosRit(BA_, 2)"},
     {"NumeroPosRitTurbo", 2, 3, &NumeroPosRit<Calcolo::Turbo>,
      "Ruota, Posizione, [Fine = ultima estrazione]: ciò che dà NumeroPosRit, dalle tabelle costruite dalla prima "
-     "chiamata Turbo dell'esecuzione"},
+     "chiamata Turbo dell'esecuzione",
+     "Integer: il numero a quel posto", "Scrivi NumeroPosRitTurbo(BA_, 2)"},
     {"RitPos", 3, 5, &RitPos<Calcolo::Semplice>,
      "Ruota, Numero, Posizione, [Inizio = 1], [Fine = ultima estrazione]: il ritardo di Numero come estratto nella "
-     "sola posizione Posizione (1..5) di Ruota (TU_ per tutte) a Fine (Long)"},
+     "sola posizione Posizione (1..5) di Ruota (TU_ per tutte) a Fine (Long)",
+     "Long: il ritardo posizionale", "Scrivi RitPos(BA_, 90, 1)"},
     {"RitPosTurbo", 3, 5, &RitPos<Calcolo::Turbo>,
      "Ruota, Numero, Posizione, [Inizio = 1], [Fine = ultima estrazione]: ciò che dà RitPos, dalle tabelle costruite "
-     "dalla prima chiamata Turbo dell'esecuzione"},
+     "dalla prima chiamata Turbo dell'esecuzione",
+     "Long: il ritardo posizionale", "Scrivi RitPosTurbo(BA_, 90, 1)"},
     {"AmboPosRit", 5, 7, &AmboPosRit,
      "Ruota, Numero1, Posizione1, Numero2, Posizione2, [Inizio = 1], [Fine = ultima estrazione]: il ritardo "
      "dell'ambo posizionale su Ruota (TU_ per tutte) a Fine: le estrazioni dopo l'ultima in cui Numero1 è uscito "
      "in Posizione1 e Numero2 in Posizione2 (due posizioni diverse, 1..5) sulla stessa ruota, contate come in "
-     "RitPos (Long)"},
+     "RitPos (Long)",
+     "Long: il ritardo dell'ambo posizionale", "Scrivi AmboPosRit(TU_, 12, 1, 34, 2)"},
     {"RitPosCronoRp1", 4, 6, &RitPosCrono<true>,
      "Ruota, Numero, Posizione, aRet, [Inizio = 1], [Fine = ultima estrazione]: la cronologia di RitPosCrono con "
      "ogni ritardo chiuso contato insieme all'estrazione dell'uscita (ritardo + 1: le estrazioni che sono servite); "
@@ -255,11 +269,15 @@ const Libreria::Funzione kElenchi[] = {
      "Ruota, Numero, Posizione, aRet, [Inizio = 1], [Fine = ultima estrazione]: la cronologia dei ritardi di "
      "RitPos: riempie aRet(1..) con il ritardo chiuso da ogni uscita di Numero in Posizione su Ruota (TU_ per "
      "tutte) in Inizio..Fine, una per estrazione, dalla più vecchia, e per ultimo il ritardo a Fine, quello di "
-     "RitPos; restituisce quanti sono (Long)"},
+     "RitPos; restituisce quanti sono (Long)",
+     "Long: quanti ritardi; in aRet i ritardi (array da 1), l'ultimo quello attuale",
+     "n = RitPosCrono(BA_, 90, 1, aRit) : Scrivi n & \" \" & aRit(n)"},
     {"GetRitardoEstratti", 3, 3, &GetRitardoEstratti,
      "IdEstr, Ruota, aRet: riempie aRet(1..5) con i ritardi su Ruota (una sola ruota), calcolati sulle estrazioni "
      "precedenti IdEstr, dei cinque numeri estratti lì in IdEstr, nell'ordine delle loro posizioni; True, oppure "
-     "False lasciando aRet invariato se la ruota non è stata estratta"},
+     "False lasciando aRet invariato se la ruota non è stata estratta",
+     "Boolean: True se la ruota fu estratta; in aRet i cinque ritardi (array da 1)",
+     "If GetRitardoEstratti(EstrazioniArchivio, BA_, aRit) Then Scrivi aRit(1)"},
 };
 
 }  // namespace

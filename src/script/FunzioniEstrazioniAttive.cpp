@@ -86,14 +86,23 @@ Result<Variant> EstrazioniRicerca(Libreria& lib, CallArgs& args) {
 
 const Libreria::Funzione kEstrazioniAttive[] = {
     {"ImpostaEstrazione", 1, 2, &ImpostaEstrazione,
-     "IdEstr, [Attiva = True]: rende attiva l'estrazione, o inattiva con Attiva False; errore 9 fuori dall'archivio"},
-    {"ImpostaNessunaEstrazione", 0, 0, &ImpostaNessunaEstrazione, "rende inattive tutte le estrazioni"},
+     "IdEstr, [Attiva = True]: rende attiva l'estrazione, o inattiva con Attiva False; errore 9 fuori dall'archivio",
+     "niente (Sub); errore 9 fuori dall'archivio",
+     "ImpostaEstrazione EstrazioniArchivio, False : Scrivi EstrazioneAttivata(EstrazioniArchivio) : ImpostaEstrazione "
+     "EstrazioniArchivio"},
+    {"ImpostaNessunaEstrazione", 0, 0, &ImpostaNessunaEstrazione, "rende inattive tutte le estrazioni", "niente (Sub)",
+     "ImpostaNessunaEstrazione : ImpostaEstrazione EstrazioniArchivio : Scrivi EstrazioneAttivata(EstrazioniArchivio - "
+     "1) : n = EstrazioniRicerca(1, EstrazioniArchivio)"},
     {"EstrazioneAttivata", 1, 1, &EstrazioneAttivata,
-     "IdEstr: True se l'estrazione è attiva; False per un indice fuori dall'archivio"},
+     "IdEstr: True se l'estrazione è attiva; False per un indice fuori dall'archivio",
+     "Boolean: True se l'estrazione è attiva", "Scrivi EstrazioneAttivata(EstrazioniArchivio)"},
     {"EstrazioniRicerca", 2, 4, &EstrazioniRicerca,
      "Inizio, Fine, [Mese = 0], [GiornoSettimana = 0]: rende attive solo le estrazioni da Inizio a Fine di quel mese "
      "(1..12) e giorno della settimana (da 1 domenica a 7 sabato, come Weekday), dove 0 vale qualsiasi; il numero di "
-     "estrazioni rese attive (Long)"},
+     "estrazioni rese attive (Long)",
+     "Long: quante estrazioni sono attive",
+     "Scrivi EstrazioniRicerca(EstrazioniArchivio - 999, EstrazioniArchivio, 8, 7) & \" estrazioni di sabato in "
+     "agosto\" : n = EstrazioniRicerca(1, EstrazioniArchivio)"},
 };
 
 }  // namespace

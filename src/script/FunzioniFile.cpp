@@ -385,44 +385,83 @@ const Libreria::Funzione kFile[] = {
      "NomeFile, Testo, [Aggiungi = True], [AChiusura = False]: scrive Testo e un a capo nel file (UTF-8), che resta "
      "aperto fino a CloseFileHandle o alla fine dell'esecuzione; la prima riga dell'esecuzione si aggiunge al "
      "contenuto del file, oppure lo svuota prima se Aggiungi è False; AChiusura lo chiude dopo questa riga. True se "
-     "scritto"},
+     "scritto",
+     "Boolean: True se scritto, False dopo un avviso",
+     "Scrivi ScriviFile(\"scriptOutput/previsioni.txt\", \"12.34.56\", False, True)"},
     {"CloseFileHandle", 1, 1, &CloseFileHandle,
      "NomeFile: chiude il file aperto da ScriviFile, scrivendo ciò che resta; True se chiuso (anche se non era "
-     "aperto)"},
+     "aperto)",
+     "Boolean: True se chiuso, False dopo un avviso",
+     "b = ScriviFile(\"scriptOutput/note.txt\", \"prima riga\", False) : Scrivi "
+     "CloseFileHandle(\"scriptOutput/note.txt\")"},
     {"CloseAllFileHandle", 0, 0, &CloseAllFileHandle,
-     "chiude tutti i file aperti da ScriviFile; l'esecuzione la chiama alla fine, quindi i file sono sempre completi"},
+     "chiude tutti i file aperti da ScriviFile; l'esecuzione la chiama alla fine, quindi i file sono sempre completi",
+     "niente (Sub)", "b = ScriviFile(\"scriptOutput/note.txt\", \"riga\", False) : CloseAllFileHandle"},
     {"LeggiRigheFileDiTesto", 2, 2, &LeggiRigheFileDiTesto,
      "NomeFile, aRighe: riempie aRighe(1 To n) con le righe del file di testo, UTF-8 o Windows-1252, e restituisce n "
-     "(Long); 0 lasciando aRighe invariato se il file non si può leggere"},
-    {"FileEsistente", 1, 1, &Esistente<&FileEsiste>, "NomeFile: True se il file esiste"},
-    {"DirectoryEsistente", 1, 1, &Esistente<&CartellaEsiste>, "Cartella: True se la cartella esiste"},
+     "(Long); 0 lasciando aRighe invariato se il file non si può leggere",
+     "Long: quante righe; in aRighe le righe (array da 1); 0 dopo un avviso se il file non si legge",
+     "b = ScriviFile(\"scriptOutput/righe.txt\", \"uno\", False, True) : n = "
+     "LeggiRigheFileDiTesto(\"scriptOutput/righe.txt\", aR) : Scrivi n & \" \" & aR(1)"},
+    {"FileEsistente", 1, 1, &Esistente<&FileEsiste>, "NomeFile: True se il file esiste",
+     "Boolean: True se il file esiste", "Scrivi FileEsistente(\"scriptOutput/previsioni.txt\")"},
+    {"DirectoryEsistente", 1, 1, &Esistente<&CartellaEsiste>, "Cartella: True se la cartella esiste",
+     "Boolean: True se la cartella esiste", "Scrivi DirectoryEsistente(GetDirectoryTemp)"},
     {"CreaDirectory", 1, 1, &CreaDirectory,
-     "Cartella: crea la cartella e quelle superiori mancanti; True se alla fine esiste"},
+     "Cartella: crea la cartella e quelle superiori mancanti; True se alla fine esiste",
+     "Boolean: True se la cartella esiste alla fine, False dopo un avviso",
+     "Scrivi CreaDirectory(\"scriptOutput/archivio\")"},
     {"CopiaFile", 2, 3, &CopiaFile,
      "Origine, Destinazione, [Sovrascrivi = False]: copia il file; una Destinazione esistente viene sostituita solo "
-     "con Sovrascrivi. True se copiato"},
-    {"EliminaFile", 1, 1, &EliminaFile, "NomeFile: elimina il file (mai una cartella); True se eliminato"},
+     "con Sovrascrivi. True se copiato",
+     "Boolean: True se copiato, False dopo un avviso",
+     "b = ScriviFile(\"scriptOutput/a.txt\", \"x\", False, True) : Scrivi CopiaFile(\"scriptOutput/a.txt\", "
+     "\"scriptOutput/b.txt\", True)"},
+    {"EliminaFile", 1, 1, &EliminaFile, "NomeFile: elimina il file (mai una cartella); True se eliminato",
+     "Boolean: True se eliminato, False dopo un avviso",
+     "b = ScriviFile(\"scriptOutput/tmp.txt\", \"x\", False, True) : Scrivi EliminaFile(\"scriptOutput/tmp.txt\")"},
     {"RinominaFile", 2, 2, &RinominaFile,
-     "Origine, Destinazione: rinomina o sposta il file; rifiutato se Destinazione esiste. True se eseguito"},
+     "Origine, Destinazione: rinomina o sposta il file; rifiutato se Destinazione esiste. True se eseguito",
+     "Boolean: True se eseguito, False dopo un avviso",
+     "b = ScriviFile(\"scriptOutput/vecchio.txt\", \"x\", False, True) : Scrivi "
+     "RinominaFile(\"scriptOutput/vecchio.txt\", \"scriptOutput/nuovo.txt\") : b = "
+     "RinominaFile(\"scriptOutput/nuovo.txt\", \"scriptOutput/vecchio.txt\")"},
     {"ElencoFileInDirectory", 2, 3, &ElencoFileInDirectory,
      "Cartella, aFile, [Filtro = \"*.*\"]: riempie aFile(1 To n) con i nomi, in ordine alfabetico, dei file della "
-     "cartella che corrispondono a Filtro (* e ?, più modelli separati da \";\") e restituisce n (Long)"},
-    {"GetDirectoryTemp", 0, 0, &GetDirectoryTemp, "la cartella per i file temporanei, terminante con \"/\""},
-    {"GetDirectoryAppData", 0, 0, &GetDirectoryAppData, "la cartella dei dati dell'applicazione, terminante con \"/\""},
+     "cartella che corrispondono a Filtro (* e ?, più modelli separati da \";\") e restituisce n (Long)",
+     "Long: quanti file; in aFile i nomi (array da 1)",
+     "b = ScriviFile(\"scriptOutput/elenco.txt\", \"x\", False, True) : n = ElencoFileInDirectory(\"scriptOutput\", "
+     "aF, \"*.txt\") : Scrivi n & \" \" & aF(1)"},
+    {"GetDirectoryTemp", 0, 0, &GetDirectoryTemp, "la cartella per i file temporanei, terminante con \"/\"",
+     "String: la cartella, con \"/\" finale", "Scrivi GetDirectoryTemp"},
+    {"GetDirectoryAppData", 0, 0, &GetDirectoryAppData, "la cartella dei dati dell'applicazione, terminante con \"/\"",
+     "String: la cartella, con \"/\" finale", "Scrivi GetDirectoryAppData & \"scriptOutput/\""},
     {"ApriDirectory", 1, 1, &ApriDirectory,
      "Cartella: apre la cartella nel gestore dei file del desktop; True se avviato, False (con un avviso) se la "
-     "cartella non esiste o non c'è un desktop"},
+     "cartella non esiste o non c'è un desktop",
+     "Boolean: True se avviato, False dopo un avviso", "Scrivi ApriDirectory(GetDirectoryAppData & \"scriptOutput\")"},
     {"LanciaFile", 1, 1, &LanciaFile,
      "NomeFile: apre il file con il programma del desktop associato (xdg-open), senza attendere; True se avviato, "
-     "False se non c'è un desktop; in modalità protetta è rifiutato (errore 70)"},
+     "False se non c'è un desktop; in modalità protetta è rifiutato (errore 70)",
+     "Boolean: True se avviato, False dopo un avviso; errore 70 in modalità protetta",
+     "b = ScriviFile(\"scriptOutput/previsioni.txt\", \"12.34.56\", False, True) : Scrivi "
+     "LanciaFile(\"scriptOutput/previsioni.txt\")"},
     {"QuantitaEstrazioniInFile", 1, 1, &QuantitaEstrazioniInFile,
      "NomeFile: il numero di estrazioni (Long) nel file, scritto nel formato dei risultati del gestore del gioco "
      "(una riga per ruota: AAAA/MM/GG, sigla della ruota, cinque numeri) o in uno zip che lo contiene; 0 se non si "
-     "può leggere"},
+     "può leggere",
+     "Long: quante estrazioni, 0 dopo un avviso se il file non si legge",
+     "b = ScriviFile(\"scriptOutput/estrazioni.txt\", \"2024/01/02\" & vbTab & \"BA\" & vbTab & \"1\" & vbTab & \"2\" "
+     "& vbTab & \"3\" & vbTab & \"4\" & vbTab & \"5\", False, True) : Scrivi "
+     "QuantitaEstrazioniInFile(\"scriptOutput/estrazioni.txt\")"},
     {"LeggiEstrazioneDaFile", 3, 4, &LeggiEstrazioneDaFile,
      "NomeFile, Indice, aNumeri, [Data]: riempie aNumeri(Ruota 1..11, Posizione 1..5), NZ alla 11, con i numeri "
      "dell'estrazione numero Indice del file (da 1, dalla più vecchia) e Data con la sua data \"GG/MM/AAAA\"; True "
-     "se l'estrazione esiste, altrimenti False lasciando invariate le variabili"},
+     "se l'estrazione esiste, altrimenti False lasciando invariate le variabili",
+     "Boolean: True se l'estrazione c'è; in aNumeri la matrice (1..11, 1..5), in Data la data",
+     "b = ScriviFile(\"scriptOutput/estrazioni.txt\", \"2024/01/02\" & vbTab & \"BA\" & vbTab & \"1\" & vbTab & \"2\" "
+     "& vbTab & \"3\" & vbTab & \"4\" & vbTab & \"5\", False, True) : If "
+     "LeggiEstrazioneDaFile(\"scriptOutput/estrazioni.txt\", 1, aN, sData) Then Scrivi sData & \" \" & aN(BA_, 1)"},
 };
 
 }  // namespace

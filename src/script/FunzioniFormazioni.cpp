@@ -173,34 +173,56 @@ const Libreria::Funzione kFormazioni[] = {
     {"AddItemFormazione", 2, 2, &AddItemFormazione,
      "IdFormazione, Numero: aggiunge Numero alla formazione IdFormazione, oppure con IdFormazione 0 crea una nuova "
      "formazione che lo contiene; un numero già presente non viene aggiunto di nuovo; restituisce l'indice della "
-     "formazione (Long)"},
+     "formazione (Long)",
+     "Long: l'indice della formazione",
+     "n = AddItemFormazione(0, 12) : n = AddItemFormazione(n, 34) : Scrivi GetQElemFormazione(n)"},
     {"AddItemFormazioneMultipla", 1, 1, &AddItemFormazioneMultipla,
      "aNumeri: crea una nuova formazione con i numeri di aNumeri, ciascuno una volta; restituisce il suo indice "
-     "(Long)"},
+     "(Long)",
+     "Long: l'indice della nuova formazione", "n = AddItemFormazioneMultipla(Array(12, 34, 56)) : Scrivi n"},
     {"AddNumeriToGruppoStatistico", 1, 1, &AddNumeriToGruppoStatistico,
      "aNumeri: aggiunge al gruppo statistico una formazione di un numero per ogni numero di aNumeri; restituisce "
-     "l'indice dell'ultima, che è il numero di formazioni contenute (Long)"},
+     "l'indice dell'ultima, che è il numero di formazioni contenute (Long)",
+     "Long: il numero di formazioni del gruppo", "Scrivi AddNumeriToGruppoStatistico(Array(7, 17, 27))"},
     {"GetItemFormazione", 2, 2, &GetItemFormazione,
-     "IdFormazione, Indice: il numero di posto Indice (da 1) della formazione (Integer)"},
+     "IdFormazione, Indice: il numero di posto Indice (da 1) della formazione (Integer)",
+     "Integer: il numero a quel posto; errore 5 fuori dalla formazione",
+     "n = AddItemFormazioneMultipla(Array(12, 34, 56)) : Scrivi GetItemFormazione(n, 2)"},
     {"GetElementiFormazione", 1, 1, &GetElementiFormazione,
-     "IdFormazione: i numeri della formazione nell'ordine in cui sono stati aggiunti (array con indice da 1)"},
-    {"GetQElemFormazione", 1, 1, &GetQElemFormazione, "IdFormazione: quanti numeri contiene la formazione (Long)"},
+     "IdFormazione: i numeri della formazione nell'ordine in cui sono stati aggiunti (array con indice da 1)",
+     "Array da 1 di Long: i numeri della formazione",
+     "n = AddItemFormazioneMultipla(Array(12, 34, 56)) : aN = GetElementiFormazione(n) : Scrivi aN(3)"},
+    {"GetQElemFormazione", 1, 1, &GetQElemFormazione, "IdFormazione: quanti numeri contiene la formazione (Long)",
+     "Long: quanti numeri", "n = AddItemFormazioneMultipla(Array(12, 34, 56)) : Scrivi GetQElemFormazione(n)"},
     {"GetClasseFormazione", 1, 1, &GetClasseFormazione,
      "IdFormazione: la sorte più alta che la formazione può vincere: il suo numero di elementi, al massimo CINQUINA_ "
-     "(Integer)"},
+     "(Integer)",
+     "Integer: la classe, da 1 a 5",
+     "n = AddItemFormazioneMultipla(Array(12, 34, 56)) : Scrivi GetClasseFormazione(n)"},
     {"StatisticaFormazione", 7, 9, &StatisticaFormazione<false>,
      "aNumeri, aRuote, Sorte, RetRit, RetRitMax, RetIncrRitMax, RetFreq, [Inizio = 1], [Fine = ultima estrazione]: "
      "imposta le quattro variabili al ritardo, al massimo storico, al suo incremento e alla frequenza di aNumeri "
-     "giocati in blocco per Sorte su aRuote in Inizio..Fine, come li danno RitardoCombinazione e le funzioni affini"},
+     "giocati in blocco per Sorte su aRuote in Inizio..Fine, come li danno RitardoCombinazione e le funzioni affini",
+     "niente (Sub): in RetRit, RetRitMax, RetIncrRitMax e RetFreq le quattro figure (Long)",
+     "StatisticaFormazione Array(12, 34, 56), Array(BA_, NA_), AMBO_, nRit, nMax, nIncr, nFreq : Scrivi nRit & \" \" & "
+     "nMax & \" \" & nIncr & \" \" & nFreq"},
     {"StatisticaFormazioneTurbo", 7, 9, &StatisticaFormazione<true>,
      "aNumeri, aRuote, Sorte, RetRit, RetRitMax, RetIncrRitMax, RetFreq, [Inizio = 1], [Fine = ultima estrazione]: "
-     "ciò che dà StatisticaFormazione, dall'indice delle vincite dell'esecuzione"},
+     "ciò che dà StatisticaFormazione, dall'indice delle vincite dell'esecuzione",
+     "niente (Sub): in RetRit, RetRitMax, RetIncrRitMax e RetFreq le quattro figure (Long)",
+     "StatisticaFormazioneTurbo Array(12, 34, 56), Array(TU_), AMBO_, nRit, nMax, nIncr, nFreq : Scrivi nRit & \" \" & "
+     "nFreq"},
     {"StatisticaGruppoFormazioni", 2, 4, &StatisticaGruppoFormazioni<false>,
      "aRuote, Sorte, [Inizio = 1], [Fine = ultima estrazione]: scrive una tabella con una riga per ogni formazione "
-     "del gruppo statistico: il suo indice, i quattro valori di StatisticaFormazione e i suoi numeri"},
+     "del gruppo statistico: il suo indice, i quattro valori di StatisticaFormazione e i suoi numeri",
+     "niente (Sub): scrive la tabella; errore 5 se il gruppo è vuoto",
+     "n = AddNumeriToGruppoStatistico(Array(7, 17)) : StatisticaGruppoFormazioni Array(BA_), AMBATA_, "
+     "EstrazioniArchivio - 99"},
     {"StatisticaGruppoFormazioniTurbo", 2, 4, &StatisticaGruppoFormazioni<true>,
      "aRuote, Sorte, [Inizio = 1], [Fine = ultima estrazione]: ciò che scrive StatisticaGruppoFormazioni, "
-     "dall'indice delle vincite dell'esecuzione"},
+     "dall'indice delle vincite dell'esecuzione",
+     "niente (Sub): scrive la tabella; errore 5 se il gruppo è vuoto",
+     "n = AddNumeriToGruppoStatistico(Array(7, 17)) : StatisticaGruppoFormazioniTurbo Array(BA_), AMBATA_"},
 };
 
 }  // namespace

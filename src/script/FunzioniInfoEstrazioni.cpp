@@ -38,7 +38,8 @@ Result<Variant> GetInfoEstrazioneGioco(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto estrazione, EstrazioneDelGioco(*tab, args, 0));
   std::string testo = fmt::format("IdEstr {} - concorso n. {} del {}", estrazione->id_estr, estrazione->concorso,
                                   FormattaData(estrazione->data));
-  if (tab->formato().con_ora) testo += fmt::format(" ore {:02}:{:02}", estrazione->minuti / 60, estrazione->minuti % 60);
+  if (tab->formato().con_ora)
+    testo += fmt::format(" ore {:02}:{:02}", estrazione->minuti / 60, estrazione->minuti % 60);
   return Testo(testo);
 }
 
@@ -57,9 +58,8 @@ int Punti(const Estrazione& estrazione, std::span<const int> ruote, std::span<co
 Result<int> SorteDelGruppo(const CallArgs& args, size_t i, size_t quanti, std::string_view funzione) {
   VBS_TRY_ASSIGN(auto sorte, args.Long(i, 1));
   if (sorte < 1 || static_cast<size_t>(sorte) > quanti)
-    return ArgomentoNonValido(
-        fmt::format("{}: la sorte {} non si può vincere con {} numeri (va da 1 a quanti sono i numeri)", funzione, sorte,
-                    quanti));
+    return ArgomentoNonValido(fmt::format(
+        "{}: la sorte {} non si può vincere con {} numeri (va da 1 a quanti sono i numeri)", funzione, sorte, quanti));
   return static_cast<int>(sorte);
 }
 
@@ -128,15 +128,14 @@ Result<Variant> FiltraArrayEstrDieciELotto(Libreria& lib, CallArgs& args) {
   VBS_TRY_ASSIGN(auto elenco, ValoriArgomento(args, 0));
   VBS_TRY_ASSIGN(auto da, OraArgomento(args, 1));
   VBS_TRY_ASSIGN(auto a, OraArgomento(args, 2));
-  if (da > a)
-    return ArgomentoNonValido("FiltraArrayEstrDieciELotto: l'ora iniziale viene dopo quella finale");
+  if (da > a) return ArgomentoNonValido("FiltraArrayEstrDieciELotto: l'ora iniziale viene dopo quella finale");
   std::vector<int> tenute;
   for (double valore : elenco) {
     const int id = static_cast<int>(valore);
     if (valore != id || !tab->Contiene(id))
-      return ArgomentoNonValido(fmt::format(
-          "FiltraArrayEstrDieciELotto: {} non è un'estrazione dell'archivio del 10eLotto (1..{})", valore,
-          tab->EstrazioniArchivio()));
+      return ArgomentoNonValido(
+          fmt::format("FiltraArrayEstrDieciELotto: {} non è un'estrazione dell'archivio del 10eLotto (1..{})", valore,
+                      tab->EstrazioniArchivio()));
     const int minuti = (*tab)[id].minuti;
     if (minuti >= da && minuti <= a) tenute.push_back(id);
   }
@@ -154,8 +153,7 @@ const FunzioneDeiGiochi kInfoGiochi[] = {
 const Libreria::Funzione kInfoLotto[] = {
     {"GetInfoEstrazione", 1, 1, &GetInfoEstrazione,
      "IdEstr: l'estrazione descritta in una riga: IdEstr, numero dell'estrazione nell'anno e data",
-     "String: \"IdEstr 10500 - estrazione n. 45 del 15/04/2025\"",
-     "Scrivi GetInfoEstrazione(EstrazioniArchivio)"},
+     "String: \"IdEstr 10500 - estrazione n. 45 del 15/04/2025\"", "Scrivi GetInfoEstrazione(EstrazioniArchivio)"},
     {"PrimaPrecedente", 3, 4, &PrimaUscita<false>,
      "IdEstr, aNumeri, Ruota, [Sorte = 1]: l'ultima estrazione prima di IdEstr in cui almeno Sorte dei numeri sono "
      "usciti insieme su Ruota (TU_: su una qualunque delle ruote)",

@@ -242,7 +242,10 @@ const Libreria::Funzione kLunghette[] = {
      "presi da aNumeri (al massimo 1.000.000), le Quante con il ritardo maggiore per Sorte (1..Classe) su aRuote a "
      "Fine; riempie aRet(1..righe, 1..Classe + 1) con i numeri di ogni lunghetta in ordine crescente e poi il suo "
      "ritardo, dalla più ritardata in giù, a pari ritardo prima quella con i numeri più piccoli; restituisce le "
-     "righe, Quante o tutte le lunghette se sono meno (Long)"},
+     "righe, Quante o tutte le lunghette se sono meno (Long)",
+     "Long: le righe di aRet; in aRet(riga, 1..Classe + 1) i numeri e il ritardo",
+     "n = GetLunghettePiuRitardate(Array(1, 2, 3, 4, 5, 6, 7, 8, 9, 10), 3, Array(BA_), AMBO_, 5, aL) : Scrivi aL(1, "
+     "1) & \"-\" & aL(1, 2) & \"-\" & aL(1, 3) & \" rit \" & aL(1, 4)"},
 };
 
 }  // namespace

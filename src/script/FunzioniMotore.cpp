@@ -28,8 +28,7 @@ Result<Variant> Includi(Libreria& lib, CallArgs& args) {
   if (nome.empty()) return ArgomentoNonValido("Includi: manca il nome del file");
   const CartelleScript cartelle{lib.impostazioni().cartella_base, lib.impostazioni().cartella_dati_app};
   auto espanso = GestioneIncludiFile(u"includi \"" + nome + u"\"", cartelle, lib.accesso().get());
-  if (!espanso)
-    return vbs::MakeError(vbs::err::kFileNotFound, text::Utf8ToUtf16("Includi: " + espanso.Errore().testo));
+  if (!espanso) return vbs::MakeError(vbs::err::kFileNotFound, text::Utf8ToUtf16("Includi: " + espanso.Errore().testo));
   for (FileIncluso& incluso : espanso->inclusi) {
     const uint32_t sorgente = motore->sources().Add(incluso.percorso.string(), std::move(incluso.codice));
     vbs::ParseResult letto = vbs::ParseProgram(motore->sources(), sorgente);
@@ -59,7 +58,8 @@ const Libreria::Funzione kMotore[] = {
      "NomeFile: aggiunge all'esecuzione il codice del file, come una riga includi: un nome senza cartella si cerca "
      "in Script/Funzioni della cartella base; le sue Sub, Function e variabili diventano dello script. Un file che "
      "manca o che non si può leggere è l'errore 53, uno con errori di sintassi è quell'errore",
-     "Boolean: True quando il codice è stato aggiunto", "If FileEsistente(\"Script/Funzioni/Mie.ls\") Then Includi \"Mie.ls\""},
+     "Boolean: True quando il codice è stato aggiunto",
+     "If FileEsistente(\"Script/Funzioni/Mie.ls\") Then Includi \"Mie.ls\""},
     {"CreateObjectX", 1, 1, &CreateObjectX,
      "NomeClasse: come CreateObject, ma un oggetto che qui non esiste dà Nothing invece di un errore, così lo "
      "script può scegliere un'altra strada (If o Is Nothing Then ...)",

@@ -64,14 +64,20 @@ Result<Variant> Messaggio(Libreria& lib, CallArgs& args) {
 const Libreria::Funzione kOutput[] = {
     {"Scrivi", 0, 6, &Scrivi,
      "[Testo], [Grassetto], [ACapo = True, vedi SetComportamentoACapo], [ColoreSfondo], [ColoreTesto], [Dimensione]: "
-     "scrive una riga di output"},
-    {"ScriviConColori", 2, 4, &ScriviConColori,
-     "Testo, ColoreTesto, [Grassetto], [ACapo = True]: scrive con un colore"},
-    {"ColoreTesto", 1, 1, &ColoreTesto, "Colore: il colore del testo scritto da Scrivi da qui in poi"},
+     "scrive una riga di output",
+     "niente (Sub): scrive il testo nell'output e nella pagina HTML",
+     "Scrivi \"Ritardo: \" & EstrattoRitardo(BA_, 90), True"},
+    {"ScriviConColori", 2, 4, &ScriviConColori, "Testo, ColoreTesto, [Grassetto], [ACapo = True]: scrive con un colore",
+     "niente (Sub)", "ScriviConColori \"Numeri caldi\", Rosso_, True"},
+    {"ColoreTesto", 1, 1, &ColoreTesto, "Colore: il colore del testo scritto da Scrivi da qui in poi", "niente (Sub)",
+     "ColoreTesto Blu_ : Scrivi \"in blu\" : ColoreTesto Nero_"},
     {"SetComportamentoACapo", 1, 1, &SetComportamentoACapo,
      "ACapo: se Scrivi e ScriviConColori vanno a capo dopo il testo quando il loro argomento ACapo è omesso "
-     "(all'inizio di ogni esecuzione True); False scrive i testi seguenti sulla stessa riga"},
-    {"Messaggio", 1, 1, &Messaggio, "Testo: mostra un breve avviso nella barra di stato"},
+     "(all'inizio di ogni esecuzione True); False scrive i testi seguenti sulla stessa riga",
+     "niente (Sub)",
+     "SetComportamentoACapo False : Scrivi \"12 \" : Scrivi \"34\" : SetComportamentoACapo True : Scrivi"},
+    {"Messaggio", 1, 1, &Messaggio, "Testo: mostra un breve avviso nella barra di stato", "niente (Sub)",
+     "Messaggio \"Elaborazione finita\""},
 };
 
 }  // namespace

@@ -127,16 +127,24 @@ const Libreria::Funzione kRete[] = {
     {"DownloadFromWeb", 2, 3, &DownloadFromWeb,
      "Url, FileDestinazione, [Timeout = 60]: scarica l'indirizzo http o https nel file, sostituendolo solo a "
      "trasferimento completo; Timeout in secondi (1..3600) per l'intero trasferimento. True se scaricato; altrimenti "
-     "mostra il motivo (server irraggiungibile, risposta 404, tempo scaduto...) e dà False"},
+     "mostra il motivo (server irraggiungibile, risposta 404, tempo scaduto...) e dà False",
+     "Boolean: True se scaricato, False dopo un avviso col motivo",
+     "Scrivi DownloadFromWeb(\"http://localhost:8000/estrazioni.txt\", \"scriptOutput/estrazioni.txt\", 5)"},
     {"DownloadFromFtp", 2, 5, &DownloadFromFtp,
      "Url, FileDestinazione, [Utente], [Password], [Timeout = 60]: scarica il file ftp://server[:porta]/percorso "
      "(ftp:// "
      "si può omettere) nel file, sostituendolo solo a trasferimento completo; senza Utente l'accesso è anonimo. True "
-     "se scaricato, altrimenti mostra il motivo e dà False"},
+     "se scaricato, altrimenti mostra il motivo e dà False",
+     "Boolean: True se scaricato, False dopo un avviso col motivo",
+     "Scrivi DownloadFromFtp(\"ftp://localhost:2121/pub/estrazioni.txt\", \"scriptOutput/estrazioni.txt\", \"\", \"\", "
+     "5)"},
     {"UploadFileFtp", 2, 5, &UploadFileFtp,
      "FileOrigine, Url, [Utente], [Password], [Timeout = 60]: invia il file a ftp://server[:porta]/percorso (un Url "
      "che termina con \"/\" prende il nome del file), creando le cartelle mancanti. True se inviato, altrimenti mostra "
-     "il motivo e dà False; in modalità protetta è rifiutato (errore 70)"},
+     "il motivo e dà False; in modalità protetta è rifiutato (errore 70)",
+     "Boolean: True se inviato, False dopo un avviso col motivo; errore 70 in modalità protetta",
+     "b = ScriviFile(\"scriptOutput/previsioni.txt\", \"12.34.56\", False, True) : Scrivi "
+     "UploadFileFtp(\"scriptOutput/previsioni.txt\", \"ftp://localhost:2121/archivio/\", \"\", \"\", 5)"},
 };
 
 }  // namespace

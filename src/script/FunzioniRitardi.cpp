@@ -64,20 +64,31 @@ const Libreria::Funzione kRitardi[] = {
     {"RitardoCombinazione", 4, 6, &RitardoCombinazione,
      "aRuote, aNumeri, Sorte, Fine, [aPosizioni], [Inizio]: le estrazioni da Fine indietro fino all'ultima vincita "
      "di almeno Sorte (1..5) numeri di aNumeri su una ruota di aRuote, in Inizio..Fine (Long); aPosizioni(1..5) True "
-     "per le posizioni che contano, tutte se omesso; Fine omesso = ultima estrazione, Inizio omesso = 1"},
+     "per le posizioni che contano, tutte se omesso; Fine omesso = ultima estrazione, Inizio omesso = 1",
+     "Long: le estrazioni trascorse dall'ultima vincita (0 se vinta in Fine, tutte quelle di Inizio..Fine se mai "
+     "vinta)",
+     "ReDim aR(1) : aR(1) = BA_ : ReDim aN(2) : aN(1) = 12 : aN(2) = 34 : Scrivi RitardoCombinazione(aR, aN, AMBO_, "
+     "EstrazioniArchivio)"},
     {"EstrattoRitardo", 2, 5, &EstrattoRitardo,
      "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: il ritardo di Numero su Ruota (TU_ per "
-     "tutte) a Fine (Long)"},
+     "tutte) a Fine (Long)",
+     "Long: il ritardo attuale (0 se uscito nell'estrazione Fine)",
+     "Scrivi EstrattoRitardo(BA_, 90, 1, EstrazioniArchivio)"},
     {"RitardoEstratto", 2, 5, &EstrattoRitardo,
-     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: lo stesso di EstrattoRitardo (Long)"},
+     "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: lo stesso di EstrattoRitardo (Long)",
+     "Long: il ritardo attuale (0 se uscito nell'estrazione Fine)", "Scrivi RitardoEstratto(TU_, 7)"},
     {"AmboRitardo", 3, 6, &AmboRitardo,
      "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: il ritardo dell'ambo su Ruota "
-     "(TU_ per tutte) a Fine, con entrambi i numeri su una ruota della stessa estrazione (Long)"},
+     "(TU_ per tutte) a Fine, con entrambi i numeri su una ruota della stessa estrazione (Long)",
+     "Long: il ritardo dell'ambo (0 se uscito nell'estrazione Fine)",
+     "Scrivi AmboRitardo(NA_, 12, 34, 1, EstrazioniArchivio)"},
     {"RitSincDiLiv", 4, 6, &RitSincDiLiv,
      "aRuote, aNumeri, Sorte, Livello, [Inizio = 1], [Fine = ultima estrazione]: il ritardo sincrono di livello "
      "Livello: le estrazioni da Fine indietro fino all'ultima di Inizio..Fine in cui almeno Sorte numeri di "
      "aNumeri sono usciti su ciascuna di almeno Livello ruote di aRuote (Livello da 1 al numero di ruote, TU_ ne "
-     "vale 11); con Livello 1 è il ritardo di RitardoCombinazione (Long)"},
+     "vale 11); con Livello 1 è il ritardo di RitardoCombinazione (Long)",
+     "Long: il ritardo sincrono di quel livello",
+     "aR = Array(BA_, CA_, FI_) : aN = Array(1, 2, 3, 4, 5, 6, 7, 8, 9, 10) : Scrivi RitSincDiLiv(aR, aN, AMBATA_, 2)"},
 };
 
 }  // namespace

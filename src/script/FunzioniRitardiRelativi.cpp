@@ -243,22 +243,38 @@ const Libreria::Funzione kRitardiRelativi[] = {
      "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione]: prepara i ritardi relativi delle "
      "combinazioni di Sorte numeri del gruppo aNumeri, contati negli eventi del gruppo: le estrazioni di "
      "Inizio..Fine in cui escono almeno Sorte numeri del gruppo su una ruota di aRuote; restituisce il numero di "
-     "eventi (Long)"},
+     "eventi (Long)",
+     "Long: il numero di eventi del gruppo",
+     "aR = Array(BA_, NA_) : Scrivi InitCalcoloRitRel(aR, Array(1, 2, 3, 4, 5, 6), AMBO_)"},
     {"InitCalcoloRitRelTurbo", 3, 5, &InitCalcoloRitRelTurbo,
      "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione]: ciò che fa InitCalcoloRitRel, calcolando "
-     "subito i valori di ogni combinazione (al massimo 3.000.000) per GetRitRelTurbo e GetRitRelMaxTurbo"},
+     "subito i valori di ogni combinazione (al massimo 3.000.000) per GetRitRelTurbo e GetRitRelMaxTurbo",
+     "Long: il numero di eventi del gruppo; errore 5 oltre 3.000.000 combinazioni",
+     "aR = Array(BA_, NA_) : Scrivi InitCalcoloRitRelTurbo(aR, Array(1, 2, 3, 4, 5, 6), AMBO_)"},
     {"GetRitRel", 1, 1, &RitardoRelativo<&stats::RitardoCombinazione>,
      "aNumeri: il ritardo relativo della combinazione aNumeri (Sorte numeri del gruppo): gli eventi del gruppo dopo "
-     "l'ultimo in cui è uscita, tutti se non è mai uscita (Long)"},
+     "l'ultimo in cui è uscita, tutti se non è mai uscita (Long)",
+     "Long: il ritardo relativo in eventi; errore 5 senza InitCalcoloRitRel",
+     "aR = Array(TU_) : n = InitCalcoloRitRel(aR, Array(1, 2, 3, 4, 5, 6), AMBO_) : Scrivi GetRitRel(Array(1, 2))"},
     {"GetRitRelTurbo", 1, 1, &RitardoRelativoTurbo<&TabellaRelativa::ritardo>,
-     "aNumeri: ciò che dà GetRitRel, per il gruppo di InitCalcoloRitRelTurbo"},
+     "aNumeri: ciò che dà GetRitRel, per il gruppo di InitCalcoloRitRelTurbo",
+     "Long: il ritardo relativo in eventi; errore 5 senza InitCalcoloRitRelTurbo",
+     "aR = Array(TU_) : n = InitCalcoloRitRelTurbo(aR, Array(1, 2, 3, 4, 5, 6), AMBO_) : Scrivi "
+     "GetRitRelTurbo(Array(1, 2))"},
     {"GetRitRelMax", 1, 1, &RitardoRelativo<&stats::StoricoCombinazione>,
      "aNumeri: il ritardo relativo massimo della combinazione aNumeri: la serie più lunga di eventi del gruppo senza "
-     "di essa, compresa quella in corso (Long)"},
+     "di essa, compresa quella in corso (Long)",
+     "Long: il ritardo relativo massimo in eventi; errore 5 senza InitCalcoloRitRel",
+     "aR = Array(TU_) : n = InitCalcoloRitRel(aR, Array(1, 2, 3, 4, 5, 6), AMBO_) : Scrivi GetRitRelMax(Array(3, 4))"},
     {"GetRitRelMaxTurbo", 1, 1, &RitardoRelativoTurbo<&TabellaRelativa::massimo>,
-     "aNumeri: ciò che dà GetRitRelMax, per il gruppo di InitCalcoloRitRelTurbo"},
-    {"ResetRitardoRel", 0, 0, &ResetRitardoRel, "dimentica il gruppo di InitCalcoloRitRel"},
-    {"ResetRitardoRelTurbo", 0, 0, &ResetRitardoRelTurbo, "dimentica il gruppo e le tabelle di InitCalcoloRitRelTurbo"},
+     "aNumeri: ciò che dà GetRitRelMax, per il gruppo di InitCalcoloRitRelTurbo",
+     "Long: il ritardo relativo massimo in eventi; errore 5 senza InitCalcoloRitRelTurbo",
+     "aR = Array(TU_) : n = InitCalcoloRitRelTurbo(aR, Array(1, 2, 3, 4, 5, 6), AMBO_) : Scrivi "
+     "GetRitRelMaxTurbo(Array(3, 4))"},
+    {"ResetRitardoRel", 0, 0, &ResetRitardoRel, "dimentica il gruppo di InitCalcoloRitRel", "niente (Sub)",
+     "ResetRitardoRel"},
+    {"ResetRitardoRelTurbo", 0, 0, &ResetRitardoRelTurbo, "dimentica il gruppo e le tabelle di InitCalcoloRitRelTurbo",
+     "niente (Sub)", "ResetRitardoRelTurbo"},
 };
 
 }  // namespace

@@ -144,95 +144,143 @@ std::optional<size_t> FineDelMassimo(const std::vector<int>& storici) {
 const Libreria::Funzione kStatistiche[] = {
     {"EstrattoFrequenza", 2, 5, &FiguraSuRuota<1, kFrequenza, kPercorso>,
      "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: le estrazioni di Inizio..Fine in cui "
-     "Numero è uscito su Ruota, una volta per ogni ruota con TU_ (Long)"},
+     "Numero è uscito su Ruota, una volta per ogni ruota con TU_ (Long)",
+     "Long: quante volte è uscito in Inizio..Fine",
+     "Scrivi EstrattoFrequenza(BA_, 90, EstrazioniArchivio - 99, EstrazioniArchivio)"},
     {"EstrattoStorico", 2, 5, &FiguraSuRuota<1, kStorico, kPercorso>,
      "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: il massimo storico di Numero su Ruota, "
-     "la serie più lunga di estrazioni di Inizio..Fine senza di esso, compresa quella in corso (Long)"},
+     "la serie più lunga di estrazioni di Inizio..Fine senza di esso, compresa quella in corso (Long)",
+     "Long: il ritardo massimo in Inizio..Fine, compreso quello in corso", "Scrivi EstrattoStorico(BA_, 90)"},
     {"EstrattoIncrStorico", 2, 5, &FiguraSuRuota<1, kIncrStorico, kPercorso>,
      "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: di quanto il ritardo a Fine supera ogni "
-     "serie che una vincita ha chiuso in Inizio..Fine, 0 se non le supera tutte (Long)"},
+     "serie che una vincita ha chiuso in Inizio..Fine, 0 se non le supera tutte (Long)",
+     "Long: di quanto il ritardo attuale supera il massimo precedente, 0 se non lo supera",
+     "Scrivi EstrattoIncrStorico(TU_, 45)"},
     {"AmboFrequenza", 3, 6, &FiguraSuRuota<2, kFrequenza, kPercorso>,
      "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: la frequenza dell'ambo su "
-     "Ruota in Inizio..Fine, una volta per ogni ruota con TU_ (Long)"},
+     "Ruota in Inizio..Fine, una volta per ogni ruota con TU_ (Long)",
+     "Long: quante volte l'ambo è uscito in Inizio..Fine", "Scrivi AmboFrequenza(TU_, 12, 34)"},
     {"AmboStorico", 3, 6, &FiguraSuRuota<2, kStorico, kPercorso>,
      "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: il massimo storico dell'ambo "
-     "su Ruota in Inizio..Fine (Long)"},
+     "su Ruota in Inizio..Fine (Long)",
+     "Long: il ritardo massimo dell'ambo in Inizio..Fine", "Scrivi AmboStorico(NA_, 12, 34)"},
     {"AmboIncrStorico", 3, 6, &FiguraSuRuota<2, kIncrStorico, kPercorso>,
      "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: l'incremento del massimo "
-     "storico dell'ambo a Fine (Long)"},
+     "storico dell'ambo a Fine (Long)",
+     "Long: l'incremento del massimo storico dell'ambo, 0 se non superato", "Scrivi AmboIncrStorico(NA_, 12, 34)"},
     {"StatEstratto", 8, 8, &StatSuRuota<1, kPercorso>,
      "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], RetRit, RetRitMax, RetIncrRitMax, RetFreq: il "
      "ritardo, il massimo storico, il suo incremento e la frequenza di Numero su Ruota, nelle quattro variabili "
-     "(Long)"},
+     "(Long)",
+     "niente (Sub): in RetRit, RetRitMax, RetIncrRitMax e RetFreq le quattro figure (Long)",
+     "StatEstratto BA_, 90, 1, EstrazioniArchivio, nRit, nMax, nIncr, nFreq : Scrivi nRit & \" \" & nMax & \" \" & "
+     "nIncr & \" \" & nFreq"},
     {"StatAmbo", 9, 9, &StatSuRuota<2, kPercorso>,
      "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], RetRit, RetRitMax, RetIncrRitMax, RetFreq: "
-     "StatEstratto per l'ambo"},
+     "StatEstratto per l'ambo",
+     "niente (Sub): in RetRit, RetRitMax, RetIncrRitMax e RetFreq le quattro figure dell'ambo (Long)",
+     "StatAmbo TU_, 12, 34, 1, EstrazioniArchivio, nRit, nMax, nIncr, nFreq : Scrivi nRit & \" \" & nFreq"},
     {"SerieRitardo", 3, 6, &SerieRitardo<kPercorso>,
      "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: il ritardo a Fine del gruppo "
-     "giocato nel suo insieme per Sorte (1..5) sulle ruote aRuote: come RitardoCombinazione (Long)"},
+     "giocato nel suo insieme per Sorte (1..5) sulle ruote aRuote: come RitardoCombinazione (Long)",
+     "Long: il ritardo del gruppo a Fine",
+     "aR = Array(BA_, NA_) : aN = Array(1, 2, 3) : Scrivi SerieRitardo(aR, aN, AMBATA_)"},
     {"SerieFreq", 3, 6, &FiguraSerie<kFrequenza, kPercorso>,
      "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: le coppie (estrazione, ruota) "
-     "di Inizio..Fine in cui almeno Sorte numeri di aNumeri sono usciti su una ruota di aRuote (Long)"},
+     "di Inizio..Fine in cui almeno Sorte numeri di aNumeri sono usciti su una ruota di aRuote (Long)",
+     "Long: le vincite del gruppo in Inizio..Fine, una per ruota vincente",
+     "aR = Array(BA_, NA_) : aN = Array(1, 2, 3) : Scrivi SerieFreq(aR, aN, AMBATA_, EstrazioniArchivio - 99)"},
     {"SerieStorico", 3, 6, &FiguraSerie<kStorico, kPercorso>,
      "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: il massimo storico del gruppo "
-     "in Inizio..Fine, compreso il ritardo in corso (Long)"},
+     "in Inizio..Fine, compreso il ritardo in corso (Long)",
+     "Long: il ritardo massimo del gruppo",
+     "aR = Array(TU_) : aN = Array(1, 2, 3) : Scrivi SerieStorico(aR, aN, AMBO_)"},
     {"SeriePrima", 3, 6, &EstrazioneDellaSerie<&stats::SerieFreq, &PrimaVincita>,
      "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: la prima estrazione di "
-     "Inizio..Fine in cui il gruppo ha vinto, 0 se non ha mai vinto (Long)"},
+     "Inizio..Fine in cui il gruppo ha vinto, 0 se non ha mai vinto (Long)",
+     "Long: l'IdEstr della prima vincita, 0 se mai",
+     "aR = Array(BA_) : aN = Array(1, 2, 3) : Scrivi SeriePrima(aR, aN, AMBATA_, EstrazioniArchivio - 99)"},
     {"SerieUltima", 3, 6, &EstrazioneDellaSerie<&stats::SerieFreq, &UltimaVincita>,
      "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: l'ultima estrazione di "
-     "Inizio..Fine in cui il gruppo ha vinto, 0 se non ha mai vinto (Long)"},
+     "Inizio..Fine in cui il gruppo ha vinto, 0 se non ha mai vinto (Long)",
+     "Long: l'IdEstr dell'ultima vincita, 0 se mai",
+     "aR = Array(BA_) : aN = Array(1, 2, 3) : Scrivi SerieUltima(aR, aN, AMBATA_)"},
     {"SerieEstrazioneStorico", 3, 6, &EstrazioneDellaSerie<&stats::SerieStorico, &FineDelMassimo>,
      "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: l'estrazione di Inizio..Fine "
      "in cui il ritardo del gruppo ha raggiunto per la prima volta il suo massimo storico, l'ultima estrazione della "
-     "prima serie così lunga; 0 se il massimo è 0 (Long)"},
+     "prima serie così lunga; 0 se il massimo è 0 (Long)",
+     "Long: l'IdEstr in cui fu raggiunto il massimo storico, 0 se il massimo è 0",
+     "aR = Array(BA_) : aN = Array(1, 2, 3) : Scrivi SerieEstrazioneStorico(aR, aN, AMBATA_)"},
     {"EstrattoRitardoTurbo", 2, 5, &FiguraSuRuota<1, kRitardo, kTurbo>,
      "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà EstrattoRitardo, dall'indice "
-     "delle estrazioni dell'esecuzione, costruito alla prima chiamata Turbo (Long)"},
+     "delle estrazioni dell'esecuzione, costruito alla prima chiamata Turbo (Long)",
+     "Long: il ritardo attuale (0 se uscito nell'estrazione Fine)", "Scrivi EstrattoRitardoTurbo(BA_, 90)"},
     {"RitardoEstrattoTurbo", 2, 5, &FiguraSuRuota<1, kRitardo, kTurbo>,
      "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: lo stesso di EstrattoRitardoTurbo "
-     "(Long)"},
+     "(Long)",
+     "Long: il ritardo attuale (0 se uscito nell'estrazione Fine)",
+     "Scrivi RitardoEstrattoTurbo(TU_, 90, 1, EstrazioniArchivio)"},
     {"EstrattoFrequenzaTurbo", 2, 5, &FiguraSuRuota<1, kFrequenza, kTurbo>,
      "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà EstrattoFrequenza, "
-     "dall'indice dell'esecuzione (Long)"},
+     "dall'indice dell'esecuzione (Long)",
+     "Long: quante volte è uscito in Inizio..Fine", "Scrivi EstrattoFrequenzaTurbo(BA_, 90)"},
     {"EstrattoStoricoTurbo", 2, 5, &FiguraSuRuota<1, kStorico, kTurbo>,
      "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà EstrattoStorico, dall'indice "
-     "dell'esecuzione (Long)"},
+     "dell'esecuzione (Long)",
+     "Long: il ritardo massimo in Inizio..Fine", "Scrivi EstrattoStoricoTurbo(BA_, 90)"},
     {"EstrattoIncrStoricoTurbo", 2, 5, &FiguraSuRuota<1, kIncrStorico, kTurbo>,
      "Ruota, Numero, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà EstrattoIncrStorico, "
-     "dall'indice dell'esecuzione (Long)"},
+     "dall'indice dell'esecuzione (Long)",
+     "Long: l'incremento del massimo storico, 0 se non superato", "Scrivi EstrattoIncrStoricoTurbo(BA_, 90)"},
     {"AmboRitardoTurbo", 3, 6, &FiguraSuRuota<2, kRitardo, kTurbo>,
      "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà AmboRitardo, "
-     "dall'indice dell'esecuzione (Long)"},
+     "dall'indice dell'esecuzione (Long)",
+     "Long: il ritardo dell'ambo", "Scrivi AmboRitardoTurbo(TU_, 12, 34)"},
     {"AmboFrequenzaTurbo", 3, 6, &FiguraSuRuota<2, kFrequenza, kTurbo>,
      "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà AmboFrequenza, "
-     "dall'indice dell'esecuzione (Long)"},
+     "dall'indice dell'esecuzione (Long)",
+     "Long: quante volte l'ambo è uscito", "Scrivi AmboFrequenzaTurbo(TU_, 12, 34)"},
     {"AmboStoricoTurbo", 3, 6, &FiguraSuRuota<2, kStorico, kTurbo>,
      "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà AmboStorico, "
-     "dall'indice dell'esecuzione (Long)"},
+     "dall'indice dell'esecuzione (Long)",
+     "Long: il ritardo massimo dell'ambo", "Scrivi AmboStoricoTurbo(TU_, 12, 34)"},
     {"AmboIncrStoricoTurbo", 3, 6, &FiguraSuRuota<2, kIncrStorico, kTurbo>,
      "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà AmboIncrStorico, "
-     "dall'indice dell'esecuzione (Long)"},
+     "dall'indice dell'esecuzione (Long)",
+     "Long: l'incremento del massimo storico dell'ambo, 0 se non superato", "Scrivi AmboIncrStoricoTurbo(TU_, 12, 34)"},
     {"StatAmboTurbo", 9, 9, &StatSuRuota<2, kTurbo>,
      "Ruota, Numero1, Numero2, [Inizio = 1], [Fine = ultima estrazione], RetRit, RetRitMax, RetIncrRitMax, RetFreq: "
-     "ciò che dà StatAmbo, dall'indice dell'esecuzione"},
+     "ciò che dà StatAmbo, dall'indice dell'esecuzione",
+     "niente (Sub): in RetRit, RetRitMax, RetIncrRitMax e RetFreq le quattro figure dell'ambo (Long)",
+     "StatAmboTurbo TU_, 12, 34, 1, EstrazioniArchivio, nRit, nMax, nIncr, nFreq : Scrivi nRit & \" \" & nMax"},
     {"StatFrzTurbo", 9, 9, &StatFrzTurbo,
      "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], RetRit, RetRitMax, RetIncrRitMax, RetFreq: "
      "il ritardo, il massimo storico, il suo incremento e la frequenza di aNumeri giocati in blocco per Sorte (1..5) "
      "su aRuote in Inizio..Fine, nelle quattro variabili: ciò che dà StatisticaFormazione, dall'indice "
-     "dell'esecuzione"},
+     "dell'esecuzione",
+     "niente (Sub): in RetRit, RetRitMax, RetIncrRitMax e RetFreq le quattro figure del gruppo (Long)",
+     "aR = Array(BA_, NA_) : aN = Array(1, 2, 3) : StatFrzTurbo aR, aN, AMBO_, 1, EstrazioniArchivio, nRit, nMax, "
+     "nIncr, nFreq : Scrivi nRit & \" \" & nFreq"},
     {"RitardoCombinazioneTurbo", 4, 6, &RitardoCombinazioneTurbo,
      "aRuote, aNumeri, Sorte, Fine, [aPosizioni], [Inizio]: ciò che dà RitardoCombinazione, dall'indice "
-     "dell'esecuzione (Long)"},
+     "dell'esecuzione (Long)",
+     "Long: il ritardo della combinazione a Fine",
+     "aR = Array(BA_) : aN = Array(12, 34) : Scrivi RitardoCombinazioneTurbo(aR, aN, AMBO_, EstrazioniArchivio)"},
     {"SerieRitardoTurbo", 3, 6, &SerieRitardo<kTurbo>,
      "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà SerieRitardo, "
-     "dall'indice dell'esecuzione (Long)"},
+     "dall'indice dell'esecuzione (Long)",
+     "Long: il ritardo del gruppo a Fine",
+     "aR = Array(BA_, NA_) : aN = Array(1, 2, 3) : Scrivi SerieRitardoTurbo(aR, aN, AMBATA_)"},
     {"SerieFreqTurbo", 3, 6, &FiguraSerie<kFrequenza, kTurbo>,
      "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà SerieFreq, "
-     "dall'indice dell'esecuzione (Long)"},
+     "dall'indice dell'esecuzione (Long)",
+     "Long: le vincite del gruppo in Inizio..Fine",
+     "aR = Array(BA_, NA_) : aN = Array(1, 2, 3) : Scrivi SerieFreqTurbo(aR, aN, AMBATA_)"},
     {"SerieStoricoTurbo", 3, 6, &FiguraSerie<kStorico, kTurbo>,
      "aRuote, aNumeri, Sorte, [Inizio = 1], [Fine = ultima estrazione], [aPosizioni]: ciò che dà SerieStorico, "
-     "dall'indice dell'esecuzione (Long)"},
+     "dall'indice dell'esecuzione (Long)",
+     "Long: il ritardo massimo del gruppo",
+     "aR = Array(BA_, NA_) : aN = Array(1, 2, 3) : Scrivi SerieStoricoTurbo(aR, aN, AMBO_)"},
 };
 
 }  // namespace

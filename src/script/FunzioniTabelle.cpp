@@ -278,38 +278,74 @@ const Libreria::Funzione kTabelle[] = {
     {"InitTabella", 1, 6, &InitTabella<kPrima>,
      "aTitoli, [ColoreSfondoTitoli], [Allineamento = \"centro\"], [Bordo = 1], [Larghezza], [ColoreTestoTitoli]: "
      "avvia una nuova tabella con una colonna per ogni titolo; Allineamento è \"sinistra\", \"centro\" o \"destra\", "
-     "Larghezza in pixel (600) o in percentuale (\"80%\")"},
+     "Larghezza in pixel (600) o in percentuale (\"80%\")",
+     "niente (Sub)", "InitTabella Array(\"Numero\", \"Ritardo\"), Giallo_, \"centro\", 1, \"80%\""},
     {"AddRigaTabella", 1, 4, &AddRigaTabella<kPrima>,
      "aValori, [ColoreSfondo], [Allineamento = \"sinistra\"], [ColoreTesto]: aggiunge una riga; meno valori che "
-     "colonne lasciano vuote le ultime celle, di più danno errore 5"},
+     "colonne lasciano vuote le ultime celle, di più danno errore 5",
+     "niente (Sub); errore 5 senza InitTabella o con più valori che colonne",
+     "InitTabella Array(\"Numero\", \"Ritardo\") : AddRigaTabella Array(90, EstrattoRitardo(BA_, 90)), Bianco_, "
+     "\"destra\""},
     {"SetColoreCella", 2, 3, &SetColoreCella<kPrima>,
-     "Colonna, ColoreSfondo, [ColoreTesto]: colora la cella della colonna 1.. dell'ultima riga"},
+     "Colonna, ColoreSfondo, [ColoreTesto]: colora la cella della colonna 1.. dell'ultima riga",
+     "niente (Sub); errore 5 se la tabella non ha righe o la colonna non c'è",
+     "InitTabella Array(\"Numero\", \"Ritardo\") : AddRigaTabella Array(90, EstrattoRitardo(BA_, 90)) : SetColoreCella "
+     "2, Rosso_, Bianco_"},
     {"SetTableWidth", 1, 1, &SetTableWidth<kPrima>,
      "Larghezza: la larghezza della tabella, in pixel (600) o in percentuale (\"80%\"), 0 per lasciarla scegliere "
-     "alla pagina"},
+     "alla pagina",
+     "niente (Sub)",
+     "InitTabella Array(\"Numero\", \"Ritardo\") : AddRigaTabella Array(90, EstrattoRitardo(BA_, 90)) : SetTableWidth "
+     "\"50%\""},
     {"CreaTabella", 0, 0, &CreaTabella<kPrima, false>,
-     "scrive la tabella nella pagina HTML e come colonne allineate nell'output di testo"},
+     "scrive la tabella nella pagina HTML e come colonne allineate nell'output di testo",
+     "niente (Sub): scrive la tabella; errore 5 senza InitTabella",
+     "InitTabella Array(\"Numero\", \"Ritardo\") : AddRigaTabella Array(90, EstrattoRitardo(BA_, 90)) : CreaTabella"},
     {"CreaTabellaOrdinabile", 0, 0, &CreaTabella<kPrima, true>,
-     "scrive la tabella come CreaTabella; nella pagina un clic su un titolo ordina le righe secondo quella colonna"},
-    {"GetTabella", 0, 0, &GetTabella<kPrima>, "l'HTML della tabella (String)"},
+     "scrive la tabella come CreaTabella; nella pagina un clic su un titolo ordina le righe secondo quella colonna",
+     "niente (Sub): scrive la tabella; errore 5 senza InitTabella",
+     "InitTabella Array(\"Numero\", \"Ritardo\") : AddRigaTabella Array(90, EstrattoRitardo(BA_, 90)) : "
+     "CreaTabellaOrdinabile"},
+    {"GetTabella", 0, 0, &GetTabella<kPrima>, "l'HTML della tabella (String)",
+     "String: il codice HTML della tabella; errore 5 senza InitTabella",
+     "InitTabella Array(\"Numero\", \"Ritardo\") : AddRigaTabella Array(90, EstrattoRitardo(BA_, 90)) : s = "
+     "GetTabella() : Scrivi Len(s)"},
     {"EsportaListviewInXls", 1, 2, &EsportaListviewInXls,
      "NomeFile, [Seconda = False]: scrive la tabella costruita (InitTabella, AddRigaTabella; con True quella di "
      "InitTabellaX) in una cartella di lavoro .xlsx, titoli in grassetto, colori delle celle, numeri come numeri "
-     "(Boolean)"},
+     "(Boolean)",
+     "Boolean: True se il file è stato scritto, False dopo un avviso",
+     "InitTabella Array(\"Numero\", \"Ritardo\") : AddRigaTabella Array(90, EstrattoRitardo(BA_, 90)) : Scrivi "
+     "EsportaListviewInXls(\"scriptOutput/ritardi.xlsx\")"},
     {"CreaPiramideRitardi", 2, 2, &CreaPiramideRitardi,
      "IdEstr, Ruota: scrive come tabella la piramide dei numeri della ruota nell'estrazione: i cinque estratti in "
      "ordine di estrazione, poi in ogni riga le somme (riportate in 1..90) dei numeri vicini della riga sopra, fino "
-     "a un numero; ogni cella dà il numero e, tra parentesi, il suo ritardo sulla ruota a quell'estrazione"},
+     "a un numero; ogni cella dà il numero e, tra parentesi, il suo ritardo sulla ruota a quell'estrazione",
+     "niente (Sub): scrive la tabella della piramide", "CreaPiramideRitardi EstrazioniArchivio, BA_"},
     {"InitTabellaX", 1, 6, &InitTabella<kSeconda>,
      "aTitoli, [ColoreSfondoTitoli], [Allineamento], [Bordo], [Larghezza], [ColoreTestoTitoli]: InitTabella per una "
-     "seconda tabella, costruita separatamente dalla prima"},
+     "seconda tabella, costruita separatamente dalla prima",
+     "niente (Sub)", "InitTabellaX Array(\"Numero\", \"Frequenza\")"},
     {"AddRigaTabellaX", 1, 4, &AddRigaTabella<kSeconda>,
-     "aValori, [ColoreSfondo], [Allineamento], [ColoreTesto]: AddRigaTabella per la seconda tabella"},
+     "aValori, [ColoreSfondo], [Allineamento], [ColoreTesto]: AddRigaTabella per la seconda tabella",
+     "niente (Sub); errore 5 senza InitTabellaX o con più valori che colonne",
+     "InitTabellaX Array(\"Numero\", \"Ritardo\") : AddRigaTabellaX Array(90, EstrattoRitardo(BA_, 90))"},
     {"SetColoreCellaX", 2, 3, &SetColoreCella<kSeconda>,
-     "Colonna, ColoreSfondo, [ColoreTesto]: SetColoreCella per la seconda tabella"},
-    {"SetTableWidthX", 1, 1, &SetTableWidth<kSeconda>, "Larghezza: SetTableWidth per la seconda tabella"},
-    {"CreaTabellaX", 0, 0, &CreaTabella<kSeconda, false>, "scrive la seconda tabella come CreaTabella"},
-    {"GetTabellaX", 0, 0, &GetTabella<kSeconda>, "l'HTML della seconda tabella (String)"},
+     "Colonna, ColoreSfondo, [ColoreTesto]: SetColoreCella per la seconda tabella", "niente (Sub)",
+     "InitTabellaX Array(\"Numero\", \"Ritardo\") : AddRigaTabellaX Array(90, EstrattoRitardo(BA_, 90)) : "
+     "SetColoreCellaX 1, Verde_"},
+    {"SetTableWidthX", 1, 1, &SetTableWidth<kSeconda>, "Larghezza: SetTableWidth per la seconda tabella",
+     "niente (Sub)",
+     "InitTabellaX Array(\"Numero\", \"Ritardo\") : AddRigaTabellaX Array(90, EstrattoRitardo(BA_, 90)) : "
+     "SetTableWidthX 400"},
+    {"CreaTabellaX", 0, 0, &CreaTabella<kSeconda, false>, "scrive la seconda tabella come CreaTabella",
+     "niente (Sub): scrive la seconda tabella",
+     "InitTabellaX Array(\"Numero\", \"Ritardo\") : AddRigaTabellaX Array(90, EstrattoRitardo(BA_, 90)) : "
+     "CreaTabellaX"},
+    {"GetTabellaX", 0, 0, &GetTabella<kSeconda>, "l'HTML della seconda tabella (String)",
+     "String: il codice HTML della seconda tabella",
+     "InitTabellaX Array(\"Numero\", \"Ritardo\") : AddRigaTabellaX Array(90, EstrattoRitardo(BA_, 90)) : Scrivi "
+     "Len(GetTabellaX())"},
 };
 
 }  // namespace

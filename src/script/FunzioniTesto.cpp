@@ -348,38 +348,55 @@ Result<Variant> GetTestoHtml(Libreria& lib, CallArgs&) { return Stringa(lib.html
 const Libreria::Funzione kTesto[] = {
     {"ScriviEstrazione", 1, 2, &ScriviEstrazione,
      "IdEstr, [aRuote = TU_]: scrive la data dell'estrazione e, una riga per ciascuna, i numeri delle ruote a due "
-     "cifre; le ruote non estratte sono omesse"},
+     "cifre; le ruote non estratte sono omesse",
+     "niente (Sub): scrive l'estrazione", "ScriviEstrazione EstrazioniArchivio, Array(BA_, CA_, NZ_)"},
     {"ScriviMatrice", 1, 1, &ScriviMatrice,
      "aMatrice: scrive un array a una dimensione come una riga, uno a due dimensioni come una riga per ogni primo "
-     "indice, in colonne allineate; una prima riga o colonna Empty di un array con indice da 0 è omessa"},
+     "indice, in colonne allineate; una prima riga o colonna Empty di un array con indice da 0 è omessa",
+     "niente (Sub); errore 5 se non è un array a una o due dimensioni",
+     "ReDim m(2, 2) : m(1, 1) = 12 : m(1, 2) = 34 : m(2, 1) = 56 : m(2, 2) = 78 : ScriviMatrice m"},
     {"StringaEstratti", 2, 3, &StringaEstratti,
      "IdEstr, Ruota, [Separatore = \".\"]: i cinque numeri della ruota a due cifre (\"07.12.45.60.88\"), vuoto se la "
-     "ruota non è stata estratta"},
+     "ruota non è stata estratta",
+     "String: i numeri uniti, vuoto se la ruota non fu estratta",
+     "Scrivi StringaEstratti(EstrazioniArchivio, BA_, \"-\")"},
     {"StringaNumeri", 1, 3, &StringaNumeri,
      "aNumeri, [Separatore = \".\"], [DueCifre = True]: i numeri uniti, a due cifre a meno che DueCifre sia False "
-     "(\"03.45\")"},
+     "(\"03.45\")",
+     "String: i numeri uniti", "Scrivi StringaNumeri(Array(3, 45, 90), \" \", False)"},
     {"StringaNumeriDaMatrice", 2, 4, &StringaNumeriDaMatrice,
      "aMatrice, Riga, [Separatore = \".\"], [DueCifre = True]: i numeri della riga Riga di una matrice a due "
-     "dimensioni uniti come li unisce StringaNumeri, saltando le celle Empty; errore per una riga fuori dai limiti"},
+     "dimensioni uniti come li unisce StringaNumeri, saltando le celle Empty; errore per una riga fuori dai limiti",
+     "String: i numeri della riga uniti; errore 5 per una riga fuori dai limiti",
+     "ReDim m(2, 3) : m(1, 1) = 5 : m(1, 2) = 17 : m(1, 3) = 88 : Scrivi StringaNumeriDaMatrice(m, 1, \"-\")"},
     {"StringaRuote", 1, 2, &StringaRuote,
-     "aRuote, [Separatore = \".\"]: le sigle di due lettere delle ruote unite (\"BA.CA\"), \"TT\" per TU_"},
+     "aRuote, [Separatore = \".\"]: le sigle di due lettere delle ruote unite (\"BA.CA\"), \"TT\" per TU_",
+     "String: le sigle unite", "Scrivi StringaRuote(Array(BA_, CA_, NZ_))"},
     {"FormatSpace", 2, 3, &FormatSpace,
      "Valore, Lunghezza, [AllineaADestra = False]: il testo completato con spazi fino a Lunghezza caratteri, a "
-     "destra o, con AllineaADestra, a sinistra; un testo più lungo resta intero"},
-    {"Format2", 1, 1, &Format2, "Numero: il numero intero con almeno due cifre (\"07\", \"-05\", \"123\")"},
+     "destra o, con AllineaADestra, a sinistra; un testo più lungo resta intero",
+     "String: il testo completato con spazi", "Scrivi \"[\" & FormatSpace(7, 4, True) & \"]\""},
+    {"Format2", 1, 1, &Format2, "Numero: il numero intero con almeno due cifre (\"07\", \"-05\", \"123\")",
+     "String: il numero con almeno due cifre", "Scrivi Format2(7)"},
     {"FormattaStringa", 2, 2, &FormattaStringa,
      "Valore, Formato: il numero formattato secondo un modello di \"0\" (sempre una cifra) e \"#\" (una cifra se "
      "significativa), con un \".\" prima dei decimali (\"000\" -> \"007\", \"0.00\" -> \"3,50\", \"0.##\" -> "
-     "\"3,5\")"},
+     "\"3,5\")",
+     "String: il numero formattato", "Scrivi FormattaStringa(3.5, \"0.00\")"},
     {"NomeSorte", 1, 1, &NomeSorte,
      "Sorte: \"Ambata\", \"Ambo\", \"Terno\", \"Quaterna\", \"Cinquina\" per 1..5, \"Estratto determinato 1\" .. "
-     "\"5\" per 6..10"},
-    {"MeseNome", 1, 1, &MeseNome, "Mese: il nome del mese, \"Gennaio\" .. \"Dicembre\""},
-    {"GetColoreHtml", 1, 1, &GetColoreHtml, "Colore: il colore HTML \"#RRGGBB\" di un colore da Nero_ a Magenta_"},
+     "\"5\" per 6..10",
+     "String: il nome della sorte; errore 5 fuori da 1..10", "Scrivi NomeSorte(TERNO_)"},
+    {"MeseNome", 1, 1, &MeseNome, "Mese: il nome del mese, \"Gennaio\" .. \"Dicembre\"",
+     "String: il nome del mese; errore 5 fuori da 1..12", "Scrivi MeseNome(Mese(EstrazioniArchivio))"},
+    {"GetColoreHtml", 1, 1, &GetColoreHtml, "Colore: il colore HTML \"#RRGGBB\" di un colore da Nero_ a Magenta_",
+     "String: il colore \"#RRGGBB\"", "Scrivi GetColoreHtml(Rosso_)"},
     {"GetPathFileHtml", 0, 0, &GetPathFileHtml,
-     "il percorso della pagina HTML dell'esecuzione, vuoto se non ne è stata aperta alcuna"},
+     "il percorso della pagina HTML dell'esecuzione, vuoto se non ne è stata aperta alcuna",
+     "String: il percorso della pagina, vuoto senza pagina", "Scrivi GetPathFileHtml()"},
     {"GetTestoHtml", 0, 0, &GetTestoHtml,
-     "il testo HTML della pagina dell'esecuzione scritto fin qui, vuoto se non ne è stata aperta alcuna"},
+     "il testo HTML della pagina dell'esecuzione scritto fin qui, vuoto se non ne è stata aperta alcuna",
+     "String: il testo HTML scritto fin qui, vuoto senza pagina", "Scrivi Len(GetTestoHtml())"},
 };
 
 }  // namespace

@@ -381,14 +381,21 @@ const Libreria::Funzione kXls[] = {
      "[Nome]: aggiunge un foglio in fondo e lo rende corrente; il suo numero (Long)",
      "Long: il numero del foglio aggiunto",
      "XlsApriFile \"ritardi.xlsx\" : Scrivi XlsAddFoglio(\"Ruote\") : XlsChiudi False"},
-    {"XlsScrivi", 3, 3, &XlsScrivi<false, false>, "Boolean: True",
+    {"XlsScrivi", 3, 3, &XlsScrivi<false, false>,
+     "Riga, Colonna, Valore: scrive nel foglio corrente un numero, un testo, un Boolean o una data; Empty svuota la "
+     "cella",
+     "Boolean: True",
      "XlsApriFile \"ritardi.xlsx\" : XlsScrivi 1, 1, \"Ritardo del 7\" : XlsScrivi 1, 2, EstrattoRitardo(BA_, 7) : "
      "XlsChiudi"},
-    {"XlsScriviInFoglio", 4, 4, &XlsScrivi<true, false>, "Boolean: True",
-     "XlsApriFile \"ritardi.xlsx\" : XlsScriviInFoglio 1, 3, 1, \"Bari\" : XlsChiudi"},
-    {"XlsScriviC", 3, 9, &XlsScrivi<false, true>, "Boolean: True",
+    {"XlsScriviInFoglio", 4, 4, &XlsScrivi<true, false>, "Foglio, Riga, Colonna, Valore: XlsScrivi nel foglio dato",
+     "Boolean: True", "XlsApriFile \"ritardi.xlsx\" : XlsScriviInFoglio 1, 3, 1, \"Bari\" : XlsChiudi"},
+    {"XlsScriviC", 3, 9, &XlsScrivi<false, true>,
+     "Riga, Colonna, Valore, [Grassetto], [ColoreTesto], [ColoreSfondo], [FormatoNumero], [Allineamento], [Corsivo]: "
+     "scrive con il formato (vedi XlsFormatoCella)",
+     "Boolean: True",
      "XlsApriFile \"ritardi.xlsx\" : XlsScriviC 4, 1, 12.5, True, Rosso_, -1, \"0.00\", XlsRight : XlsChiudi"},
-    {"XlsScriviCInFoglio", 4, 10, &XlsScrivi<true, true>, "Boolean: True",
+    {"XlsScriviCInFoglio", 4, 10, &XlsScrivi<true, true>,
+     "Foglio, Riga, Colonna, Valore, ...: XlsScriviC nel foglio dato", "Boolean: True",
      "XlsApriFile \"ritardi.xlsx\" : XlsScriviCInFoglio 1, 5, 1, \"Totale\", True, Bianco_, Blu_ : XlsChiudi"},
     {"XlsFormatoCella", 2, 8, &XlsFormatoCella<false>,
      "Riga, Colonna, [Grassetto], [ColoreTesto], [ColoreSfondo], [FormatoNumero], [Allineamento], [Corsivo]: cambia il "

@@ -9,7 +9,9 @@
 #include <string_view>
 #include <vector>
 
+#include "script/AreaDisegno.h"
 #include "script/ClsFunctionsGeodoScript.h"
+#include "script/DisegnoGrafico.h"
 #include "text/Utf.h"
 #include "vbscript/ScriptControl.h"
 
@@ -26,14 +28,51 @@ inline Estrazione Datata(int id, GruppoData data) {
   return estrazione;
 }
 
+// A picture area that keeps its size and draws nothing: what the library computes for a picture
+// runs, and a test looks only at what it returns.
+class AreaMuta final : public AreaDisegno {
+ public:
+  void SetDimensioni(int larghezza, int altezza) override { m_dimensioni = {larghezza, altezza}; }
+  void ColoreSfondo(Rgb) override {}
+  void Riempi(Rgb) override {}
+  void Clear() override {}
+  int TextWidth(const std::string& testo, int dimensione) override {
+    return static_cast<int>(testo.size()) * dimensione / 2;
+  }
+  int TextHeight(const std::string&, int dimensione) override { return dimensione; }
+  void StampaTesto(double, double, const std::string&, Rgb, int, double) override {}
+  void Punto(double, double, const Tratto&) override {}
+  void Linea(double, double, double, double, const Tratto&) override {}
+  void Poligono(const std::vector<std::pair<double, double>>&, const Tratto&, std::optional<Rgb>) override {}
+  void Cerchio(double, double, double, const Tratto&, std::optional<Rgb>) override {}
+  void Spezzata(const std::vector<std::pair<double, double>>&, const Tratto&) override {}
+  std::pair<int, int> Dimensioni() const override { return m_dimensioni; }
+  void DisegnaCerchio(const DisegnoCerchio&, double, double, double) override {}
+  Esito<Fatto> Esegui() override { return Fatto{}; }
+  Esito<std::optional<std::filesystem::path>> MostraCerchio(const DisegnoCerchio&, const std::string&,
+                                                            const std::filesystem::path&) override {
+    return std::optional<std::filesystem::path>();
+  }
+  Esito<std::optional<std::filesystem::path>> MostraGrafico(const DisegnoGrafico&,
+                                                            const std::filesystem::path&) override {
+    return std::optional<std::filesystem::path>();
+  }
+  std::optional<std::filesystem::path> FileImmagine(const std::filesystem::path&) override { return std::nullopt; }
+
+ private:
+  std::pair<int, int> m_dimensioni{800, 600};
+};
+
 // Keeps everything the library hands to its host.
 class OspiteDiProva final : public InterfacciaScript {
  public:
+  AreaDisegno* Disegno() override { return disegno; }
   void Scrivi(const TrattoTesto& tratto) override { testo += tratto.testo; }
   void Mostra(const Avviso& avviso) override { avvisi.push_back(avviso); }
   void Messaggio(const std::string& messaggio) override { messaggi.push_back(messaggio); }
   void Avanzamento(double) override {}
 
+  AreaDisegno* disegno = nullptr;  // none unless the test gives one
   std::string testo;
   std::vector<Avviso> avvisi;
   std::vector<std::string> messaggi;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <numeric>
 #include <random>
@@ -14,6 +15,7 @@
 #include "TempDir.h"
 #include "archive/ArchivioGioco.h"
 #include "archive/SuperEnalotto.h"
+#include "figures/FileStrutture.h"
 #include "script/Riferimento.h"
 #include "stats/ArchiviDiProva.h"
 #include "text/AsciiCase.h"
@@ -59,6 +61,19 @@ TabellaGioco Casuale(FormatoGioco formato, int quante) {
   return TabellaGioco(formato, std::move(estrazioni));
 }
 
+// The 10eLotto every five minutes: Casuale's draws, 288 a day from 00:00.
+TabellaGioco OgniCinqueMinuti(int quante) {
+  TabellaGioco casuali = Casuale(Formato(Gioco::DieciELottoOgniCinqueMinuti), quante);
+  std::vector<EstrazioneGioco> estrazioni = casuali.Tutte();
+  for (size_t i = 0; i < estrazioni.size(); ++i) {
+    const int nel_giorno = static_cast<int>(i % 288);
+    estrazioni[i].data = {static_cast<int16_t>(i / 288 + 1), static_cast<int16_t>(i / 288 + 1), 1, 2024};
+    estrazioni[i].minuti = static_cast<int16_t>(nel_giorno * 5);
+    estrazioni[i].concorso = static_cast<int16_t>(nel_giorno + 1);
+  }
+  return TabellaGioco(casuali.formato(), std::move(estrazioni));
+}
+
 // Every example of the reference, run as a script runs it on the real draws and on the archives of
 // the other games: a user who copies one gets no error and no message.
 class EsempiDelRiferimento : public Libreria {
@@ -68,6 +83,7 @@ class EsempiDelRiferimento : public Libreria {
     ImpostazioniLibreria impostazioni;
     impostazioni.cartella_base = m_cartella.Percorso();
     impostazioni.cartella_output = m_cartella / "scriptOutput";
+    std::filesystem::create_directories(impostazioni.cartella_output);  // as every host does before a run
     for (size_t g = 0; g < impostazioni.archivi_giochi.size(); ++g) {
       const Gioco gioco = static_cast<Gioco>(g);
       impostazioni.archivi_giochi[g] = m_cartella / (std::string(Formato(gioco).sigla) + ".dat");
@@ -84,16 +100,40 @@ class EsempiDelRiferimento : public Libreria {
     for (Gioco gioco : {Gioco::DieciELotto, Gioco::WinForLife})
       ASSERT_TRUE(SalvaArchivioGioco(Casuale(Formato(gioco), 400), file_di(gioco)).Riuscito());
     ASSERT_TRUE(SalvaArchivioGioco(Casuale(FormatoGenerico(5, 90), 400), file_di(Gioco::Generico)).Riuscito());
+    ASSERT_TRUE(SalvaArchivioGioco(OgniCinqueMinuti(400), file_di(Gioco::DieciELottoOgniCinqueMinuti)).Riuscito());
+    ASSERT_TRUE(SalvaArchivioGioco(Casuale(FormatoGenerico(5, 90), 400), file_di(Gioco::Generico)).Riuscito());
+    impostazioni.file_agenda = m_cartella / "AgendaGiocate.db";
+    // The user figure the examples search: two cells one above the other.
+    figures::Struttura coppia;
+    coppia.vertici.resize(2);
+    coppia.vertici[0].Index = 1;
+    coppia.vertici[0].Colonna = coppia.vertici[1].Colonna = 1;
+    coppia.vertici[1].Index = 2;
+    coppia.vertici[1].Riga = 1;
+    coppia.vertici[1].UsaPerChiusura = true;
+    std::filesystem::create_directories(m_cartella / "strutture");
+    ASSERT_TRUE(figures::SalvaStruttura(m_cartella / "strutture" / "coppia.dat", coppia));
+    m_ospite.disegno = &m_area;
     Avvia(test::ArchivioReale(), std::move(impostazioni));
   }
 
   test::CartellaTemporanea m_cartella;
+  AreaMuta m_area;
 };
+
+// Names whose job needs what a test never has: a desktop to open files on, or a server.
+bool FuoriDaUnaProva(std::string_view nome) {
+  constexpr std::string_view kFuori[] = {"ApriDirectory", "LanciaFile", "DownloadFromWeb", "DownloadFromFtp",
+                                         "UploadFileFtp"};
+  return std::find(std::begin(kFuori), std::end(kFuori), nome) != std::end(kFuori);
+}
 
 TEST_F(EsempiDelRiferimento, GiranoSenzaErroriNeMessaggi) {
   std::vector<std::string> falliti;
+  size_t eseguiti = 0;
   for (const SchedaFunzione& scheda : Riferimento()) {
-    if (!scheda.legata || scheda.esempio.empty()) continue;
+    if (!scheda.legata || scheda.esempio.empty() || FuoriDaUnaProva(scheda.nome)) continue;
+    ++eseguiti;
     m_ospite.avvisi.clear();
     if (!m_engine.ExecuteStatement(text::Utf8ToUtf16(scheda.esempio))) {
       falliti.push_back(fmt::format("{}: errore {} {}", scheda.nome, m_engine.Error().number,
@@ -105,6 +145,7 @@ TEST_F(EsempiDelRiferimento, GiranoSenzaErroriNeMessaggi) {
   std::string elenco;
   for (const std::string& fallito : falliti) elenco += fallito + "\n";
   EXPECT_TRUE(falliti.empty()) << falliti.size() << " examples fail:\n" << elenco;
+  EXPECT_GT(eseguiti, 600u);
 }
 
 }  // namespace
