@@ -14,12 +14,15 @@
 #include <string>
 #include <vector>
 
+#include "ArgomentiGioco.h"
 #include "ArgomentiLotto.h"
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
 #include "TabellaOutput.h"
 #include "TabelleEsecuzione.h"
+#include "archive/DateEstrazione.h"
 #include "stats/Analitico.h"
+#include "stats/RitardiGioco.h"
 #include "stats/Tabellone.h"
 #include "text/Utf.h"
 #include "vbscript/value/SafeArray.h"
@@ -271,6 +274,55 @@ Result<Variant> TabelloneAnaliticoRuote(Libreria& lib, CallArgs& args) {
   return Variant();
 }
 
+// ---- The generic archive: one set of K numbers of 1..M a draw ----
+
+// GeneraAnaliticoFT [Fine], [Inizio]
+Result<Variant> GeneraAnaliticoFT(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto tab, TabellaDelGioco(lib, Suffisso::FT));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(*tab, args, 1, 0));
+  const std::vector<stats::StatisticaNumero> figure = stats::TabelloneGioco(*tab, intervallo.fine, intervallo.inizio);
+  const int massimo = tab->formato().massimo;
+  const vbs::ArrayBound limiti[] = {{1, massimo}, {1, 4}};
+  VBS_TRY_ASSIGN(auto matrice, vbs::SafeArray::Create(limiti));
+  auto celle = matrice->elements();
+  for (int numero = 1; numero <= massimo; ++numero) {
+    const stats::StatisticaNumero& f = figure[static_cast<size_t>(numero)];
+    const int valori[] = {f.ritardo, f.frequenza, f.storico, f.incr_storico};
+    for (int dato = 1; dato <= 4; ++dato)
+      celle[static_cast<size_t>((numero - 1) + (dato - 1) * massimo)] = Variant::Long(valori[dato - 1]);
+  }
+  return Variant::Array(std::move(matrice));
+}
+
+// TabelloneAnaliticoFT [Fine], [Inizio]: the four figures side by side, the only wheel being the archive.
+Result<Variant> TabelloneAnaliticoFT(Libreria& lib, CallArgs& args) {
+  VBS_TRY_ASSIGN(auto tab, TabellaDelGioco(lib, Suffisso::FT));
+  VBS_TRY_ASSIGN(auto intervallo, IntervalloGioco(*tab, args, 1, 0));
+  const std::vector<stats::StatisticaNumero> figure = stats::TabelloneGioco(*tab, intervallo.fine, intervallo.inizio);
+  RigaTabella titoli;
+  titoli.celle.push_back({"Numero", {}});
+  for (std::string_view nome : kNomiDati) titoli.celle.push_back({std::string(nome), {}});
+  TabellaOutput tabella(std::move(titoli), 1);
+  for (int numero = 1; numero <= tab->formato().massimo; ++numero) {
+    const stats::StatisticaNumero& f = figure[static_cast<size_t>(numero)];
+    Colori colori;
+    if (f.storico > 0 && f.ritardo == f.storico)
+      colori.sfondo = kRosso;
+    else if (f.storico > 0 && 4 * f.ritardo > 3 * f.storico)
+      colori.sfondo = kGiallo;
+    RigaTabella riga;
+    riga.allineamento = Allineamento::Destra;
+    riga.celle.push_back({fmt::format("{:02}", numero), {}});
+    riga.celle.push_back({fmt::format("{}", f.ritardo), colori});
+    for (int valore : {f.frequenza, f.storico, f.incr_storico}) riga.celle.push_back({fmt::format("{}", valore), {}});
+    tabella.AggiungiRiga(std::move(riga));
+  }
+  Scrivi(lib, tabella,
+         fmt::format("Analitico dell'archivio generico dal {} al {}", FormattaData((*tab)[intervallo.inizio].data),
+                     FormattaData((*tab)[intervallo.fine].data)));
+  return Variant();
+}
+
 const Libreria::Funzione kAnalitico[] = {
     {"GeneraAnalitico", 1, 3, &GeneraAnalitico<Calcolo::Semplice>,
      "Ruota, [Fine], [Inizio]: l'analitico dei 90 numeri sulla ruota (TT_ per tutte) da Inizio a Fine, come matrice "
@@ -315,6 +367,16 @@ const Libreria::Funzione kAnalitico[] = {
     {"TabelloneAnaliticoTurbo", 0, 2, &TabelloneAnalitico<Calcolo::Turbo, false>,
      "[Fine], [Dato = 1]: TabelloneAnalitico dalla prima estrazione, veloce come GeneraAnaliticoTurbo",
      "niente (Sub): scrive la tabella", "TabelloneAnaliticoTurbo EstrazioniArchivio, 3"},
+    {"GeneraAnaliticoFT", 0, 2, &GeneraAnaliticoFT,
+     "[Fine], [Inizio]: l'analitico dei numeri 1..M dell'archivio generico da Inizio a Fine, come matrice (1 To M, 1 "
+     "To 4) di ritardo, frequenza, ritardo storico e incremento storico",
+     "Array (1 To M, 1 To 4) di Long: le quattro figure di ogni numero",
+     "m = GeneraAnaliticoFT(EstrazioniArchivioFT) : Scrivi \"1: rit \" & m(1, 1) & \" freq \" & m(1, 2)"},
+    {"TabelloneAnaliticoFT", 0, 2, &TabelloneAnaliticoFT,
+     "[Fine], [Inizio]: scrive la tabella dei numeri 1..M dell'archivio generico (righe) con ritardo, frequenza, "
+     "ritardo storico e incremento storico (colonne); un ritardo pari allo storico su rosso, oltre i tre quarti su "
+     "giallo",
+     "niente (Sub): scrive la tabella", "TabelloneAnaliticoFT EstrazioniArchivioFT, EstrazioniArchivioFT - 99"},
 };
 
 }  // namespace

@@ -285,6 +285,31 @@ TEST_F(GiochiReali, LArchivioGenericoApertoDaTestoDaLeStesseFigure) {
             fmt::format("{} {} 5", classifica[0].second, classifica[1].second));
   Esegui("Dim q : PiuRitardatariFT 3, q");
   EXPECT_EQ(Testo("q(3)"), std::to_string(classifica[2].second));
+
+  // The analitico of the generic archive, number by number, against the walk; over a stretch too.
+  Esegui(
+      fmt::format("Dim m : m = GeneraAnaliticoFT()\nDim t : t = GeneraAnaliticoFT({}, {})", ultima - 50, ultima - 500));
+  EXPECT_EQ(Testo("UBound(m, 1) & \" \" & UBound(m, 2)"), "90 4");
+  for (int n : {1, 45, 90}) {
+    const Figure tutto = APiedi(tab, {n}, 1, 1, ultima);
+    EXPECT_EQ(Testo(fmt::format("m({0}, 1) & \" \" & m({0}, 2) & \" \" & m({0}, 3) & \" \" & m({0}, 4)", n)),
+              fmt::format("{} {} {} {}", tutto.ritardo, tutto.frequenza, tutto.storico, tutto.incr))
+        << n;
+    const Figure tratto = APiedi(tab, {n}, 1, ultima - 500, ultima - 50);
+    EXPECT_EQ(Testo(fmt::format("t({0}, 1) & \" \" & t({0}, 2)", n)),
+              fmt::format("{} {}", tratto.ritardo, tratto.frequenza))
+        << n;
+  }
+  m_ospite.testo.clear();
+  Esegui("TabelloneAnaliticoFT");
+  EXPECT_NE(m_ospite.testo.find("Analitico dell'archivio generico dal"), std::string::npos) << m_ospite.testo;
+  EXPECT_EQ(std::count(m_ospite.testo.begin(), m_ospite.testo.end(), '\n'), 1 + 2 + 90) << m_ospite.testo;
+  // The nearest draws holding a number, found by hand.
+  int precedente = 0;
+  for (int id = ultima - 1; id >= 1 && precedente == 0; --id)
+    for (int i = 0; i < 6; ++i) precedente = tab[id].numeri[static_cast<size_t>(i)] == 7 ? id : precedente;
+  EXPECT_EQ(Testo(fmt::format("PrimaPrecedenteFT({}, Array(7))", ultima)), std::to_string(precedente));
+  EXPECT_EQ(Testo(fmt::format("PrimaSuccessivaFT({}, Array(7)) = 0", ultima)), "Vero");
 }
 
 }  // namespace
