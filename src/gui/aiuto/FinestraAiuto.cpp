@@ -1,4 +1,5 @@
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
@@ -121,10 +122,23 @@ class FinestraAiuto : public QWidget {
     });
     mostraConteggio();
 
+    // The whole card of the chosen name, as the editor's call tip shows it.
+    auto* scheda = new QTextBrowser;
+    scheda->setObjectName(QStringLiteral("schedaFunzione"));
+    scheda->setMaximumHeight(fontMetrics().height() * 7);
+    connect(tabella->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [scheda](const QModelIndex& corrente) {
+              scheda->setPlainText(
+                  corrente.isValid()
+                      ? corrente.siblingAtColumn(ModelloFunzioni::kColonnaNome).data(Qt::ToolTipRole).toString()
+                      : QString());
+            });
+
     auto* pagina = new QWidget;
     auto* layout = new QVBoxLayout(pagina);
     layout->addWidget(cerca);
     layout->addWidget(tabella, 1);
+    layout->addWidget(scheda);
     layout->addWidget(conteggio);
     return pagina;
   }
@@ -133,5 +147,23 @@ class FinestraAiuto : public QWidget {
 }  // namespace
 
 QWidget* NuovaFinestraAiuto(QWidget* parent) { return new FinestraAiuto(parent); }
+
+void MostraNomeNellAiuto(QWidget* aiuto, const QString& nome) {
+  auto* schede = aiuto ? aiuto->findChild<QTabWidget*>() : nullptr;
+  auto* cerca = aiuto ? aiuto->findChild<QLineEdit*>(QStringLiteral("cercaFunzione")) : nullptr;
+  auto* tabella = aiuto ? aiuto->findChild<QTableView*>(QStringLiteral("tabellaFunzioni")) : nullptr;
+  if (!schede || !cerca || !tabella) return;
+  schede->setCurrentIndex(1);
+  cerca->setText(nome);
+  const QAbstractItemModel* righe = tabella->model();
+  for (int riga = 0; riga < righe->rowCount(); ++riga) {
+    const QModelIndex indice = righe->index(riga, ModelloFunzioni::kColonnaNome);
+    if (indice.data().toString().compare(nome, Qt::CaseInsensitive) == 0) {
+      tabella->setCurrentIndex(indice);
+      tabella->scrollTo(indice);
+      return;
+    }
+  }
+}
 
 }  // namespace lottolab::gui

@@ -1,6 +1,7 @@
 #include "gui/principale/FinestraPrincipale.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDynamicPropertyChangeEvent>
@@ -27,6 +28,7 @@
 #include "gui/principale/Impostazioni.h"
 #include "gui/principale/PosizioneFinestra.h"
 #include "gui/principale/SegnalatoreGui.h"
+#include "gui/script/EditorScript.h"
 #include "gui/script/ScriptRecenti.h"
 #include "gui/strutture/StruttureModello.h"
 
@@ -271,8 +273,13 @@ void FinestraPrincipale::ApriAgenda() {
     AggiungiFinestra(NuovaFinestraAgenda(m_contesto), Icona(kIconaAgenda));
 }
 
+// F1 on a name of the script editor opens the help on that name's card.
 void FinestraPrincipale::ApriAiuto() {
+  QString nome;
+  if (auto* editor = qobject_cast<EditorScript*>(QApplication::focusWidget())) nome = editor->ParolaAlCursore();
   if (!PortaAvanti(QStringLiteral("finestraAiuto"))) AggiungiFinestra(NuovaFinestraAiuto(), Icona(kIconaAiuto));
+  if (QMdiSubWindow* aiuto = m_area->activeSubWindow(); aiuto && !nome.isEmpty())
+    MostraNomeNellAiuto(aiuto->widget(), nome);
 }
 
 void FinestraPrincipale::MostraVinciteDaVedere() {

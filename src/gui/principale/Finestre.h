@@ -66,5 +66,8 @@ QWidget* NuovoEditorStrutture(ContestoGui& contesto, const QString& file = {}, Q
 // The help: a short guide for new users and the reference of the script library's names, searchable
 // by name.
 QWidget* NuovaFinestraAiuto(QWidget* parent = nullptr);
+// The help window `aiuto` turned to the reference and filtered on `nome`, its card shown when the name
+// is one of the library's.
+void MostraNomeNellAiuto(QWidget* aiuto, const QString& nome);
 
 }  // namespace lottolab::gui

@@ -101,6 +101,13 @@ void EditorScript::ImpostaStili() {
   stile(kFunzioneLibreria, QColor(0x8B, 0x00, 0x8B), true);
 }
 
+QString EditorScript::ParolaAlCursore() {
+  const long posizione = SendScintilla(SCI_GETCURRENTPOS);
+  const long inizio = SendScintilla(SCI_WORDSTARTPOSITION, posizione, 1L);
+  const long fine = SendScintilla(SCI_WORDENDPOSITION, posizione, 1L);
+  return text(static_cast<int>(inizio), static_cast<int>(fine));
+}
+
 QString EditorScript::ParolaPrima(long posizione) {
   const long inizio = SendScintilla(SCI_WORDSTARTPOSITION, posizione, 1L);
   return text(static_cast<int>(inizio), static_cast<int>(posizione));

@@ -21,6 +21,8 @@ class EditorScript : public QsciScintilla {
   // column counted from 1, as the engine gives them.
   void VaiA(int riga, int colonna);
   void TogliErrore();
+  // The name the caret is on (or right after), for F1: empty between names.
+  QString ParolaAlCursore();
 
  private:
   void ImpostaStili();

@@ -1,6 +1,7 @@
 #include <QLineEdit>
 #include <QTableView>
 #include <QTest>
+#include <QTextBrowser>
 
 #include <memory>
 #include <set>
@@ -9,6 +10,7 @@
 #include "gui/aiuto/ModelloFunzioni.h"
 #include "gui/principale/Finestre.h"
 #include "script/NomiPubblici.h"
+#include "script/Riferimento.h"
 
 namespace lottolab::gui {
 namespace {
@@ -65,6 +67,21 @@ class AiutoTest : public QObject {
     QCOMPARE(tabella->model()->rowCount(), 0);
     cerca->clear();
     QCOMPARE(tabella->model()->rowCount(), tutte);
+  }
+
+  // F1 on a name of the editor: the help shows that name's card, the text of the editor's call tip.
+  void UnNomeMostraLaSuaScheda() {
+    std::unique_ptr<QWidget> finestra(NuovaFinestraAiuto());
+    MostraNomeNellAiuto(finestra.get(), "estrattoritardo");
+    auto* tabella = finestra->findChild<QTableView*>("tabellaFunzioni");
+    auto* scheda = finestra->findChild<QTextBrowser*>("schedaFunzione");
+    QVERIFY(tabella && scheda);
+    QCOMPARE(tabella->currentIndex().siblingAtColumn(ModelloFunzioni::kColonnaNome).data().toString(),
+             QStringLiteral("EstrattoRitardo"));
+    const script::SchedaFunzione* attesa = script::CercaScheda("EstrattoRitardo");
+    QVERIFY(attesa);
+    QCOMPARE(scheda->toPlainText(), Testo(script::TestoSuggerimento(*attesa)));
+    QVERIFY(scheda->toPlainText().contains("Esempio: "));
   }
 };
 
