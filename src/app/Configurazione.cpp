@@ -33,6 +33,12 @@ fs::path Configurazione::FileAgenda() const {
   return RisolviPercorso(base, ini.Leggi(kSezioneGenerale, "sFileAgenda", "AgendaGiocate.db"));
 }
 
+std::array<std::string, 5> Configurazione::IndirizziRisultatiGiochi() const {
+  std::array<std::string, 5> indirizzi;
+  for (size_t g = 0; g < indirizzi.size(); ++g) indirizzi[g] = IndirizzoRisultatiGioco(static_cast<Gioco>(g));
+  return indirizzi;
+}
+
 std::string Configurazione::IndirizzoRisultati() const {
   return ini.Leggi(kSezioneGenerale, "sIndirizzoRisultati", "https://www.igt.it/STORICO_ESTRAZIONI_LOTTO/storico.zip");
 }

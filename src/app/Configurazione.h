@@ -36,6 +36,8 @@ struct Configurazione {
   // one); empty by default, since no public file exists for some of them, and then `aggiorna`
   // passes the game over.
   std::string IndirizzoRisultatiGioco(Gioco gioco) const;
+  // The same for every game, by Gioco.
+  std::array<std::string, 5> IndirizziRisultatiGiochi() const;
 };
 
 // Reads the configuration of the given base folder (lottolab.ini there; an absent file gives the

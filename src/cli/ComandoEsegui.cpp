@@ -255,6 +255,9 @@ int ComandoEsegui(Contesto& contesto, const Parole& parole) {
                                    app::FileConfigurazione(contesto.configurazione.base)};
   opzioni.libreria.archivi_giochi = contesto.configurazione.ArchiviGiochi();
   opzioni.libreria.file_agenda = contesto.configurazione.FileAgenda();
+  opzioni.libreria.file_archivio = contesto.archivio;
+  opzioni.libreria.indirizzo_risultati = contesto.configurazione.IndirizzoRisultati();
+  opzioni.libreria.indirizzi_giochi = contesto.configurazione.IndirizziRisultatiGiochi();
   opzioni.libreria.sola_lettura.insert(opzioni.libreria.sola_lettura.end(), opzioni.libreria.archivi_giochi.begin(),
                                        opzioni.libreria.archivi_giochi.end());
   if (pagina) opzioni.nome_file_html = pagina->filename().string();

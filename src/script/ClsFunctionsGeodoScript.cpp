@@ -59,6 +59,7 @@ const Tabella& TabellaCompleta() {
                   {"Archivio generico: file", FunzioniGiochiFile()},
                   {"Basi dati", FunzioniBaseDati()},
                   {"Basi dati degli altri giochi", FunzioniBaseDatiGiochi()},
+                  {"Aggiornamento degli archivi", FunzioniAggiornaArchivio()},
                   {"Sistemi", FunzioniSistemi()},
                   {"Giocate e resoconto", FunzioniGiocate()},
                   {"Giocate degli altri giochi", FunzioniGiocateGiochi()},

@@ -14,6 +14,7 @@
 // "ClsFunctionsGeodoScript." and the function's name, and the script goes on; only a refusal of the
 // run's file rules (AccessoFile.h, error 70) and an interruption stop it, as script errors.
 
+#include <array>
 #include <atomic>
 #include <filesystem>
 #include <memory>
@@ -48,6 +49,11 @@ struct ImpostazioniLibreria {
   Modalita modalita = Modalita::Normale;
   std::vector<std::filesystem::path> sola_lettura;  // lottolab.ini and the archives
   std::filesystem::path file_agenda;                // the agenda of real bets; empty when the host has none
+  // What AggiornaArchivio updates: the configured Lotto archive (empty when the host has none) and
+  // where the operators publish the results of the Lotto and, by Gioco, of the other games.
+  std::filesystem::path file_archivio;
+  std::string indirizzo_risultati;
+  std::array<std::string, 5> indirizzi_giochi;
 };
 
 // One record of ImpostaInterruzioni.
@@ -216,6 +222,7 @@ std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiEstrazioniAttiv
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiochiFile();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniBaseDati();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniBaseDatiGiochi();
+std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniAggiornaArchivio();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniSistemi();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocate();
 std::span<const ClsFunctionsGeodoScript::Funzione> FunzioniGiocateGiochi();

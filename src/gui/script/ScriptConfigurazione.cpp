@@ -14,6 +14,9 @@ script::ImpostazioniLibreria ImpostazioniLibreriaDa(const app::Configurazione& c
                                app::FileConfigurazione(configurazione.base)};
   impostazioni.archivi_giochi = configurazione.ArchiviGiochi();
   impostazioni.file_agenda = configurazione.FileAgenda();
+  impostazioni.file_archivio = configurazione.ArchivioLotto();
+  impostazioni.indirizzo_risultati = configurazione.IndirizzoRisultati();
+  impostazioni.indirizzi_giochi = configurazione.IndirizziRisultatiGiochi();
   impostazioni.sola_lettura.insert(impostazioni.sola_lettura.end(), impostazioni.archivi_giochi.begin(),
                                    impostazioni.archivi_giochi.end());
   const std::string colore = LeggiImpostazioni(configurazione.ini).colore_sfondo_html;
