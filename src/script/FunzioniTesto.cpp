@@ -108,6 +108,7 @@ class Matrice {
 
   std::vector<std::vector<const Variant*>> Righe() const {
     std::vector<std::vector<const Variant*>> righe;
+    if (m_elementi.empty()) return righe;
     for (int64_t riga = PrimaRiga(); riga < m_righe.count(); ++riga) {
       righe.emplace_back();
       for (int64_t colonna = PrimaColonna(); colonna < m_colonne.count(); ++colonna)
