@@ -255,7 +255,7 @@ struct Archivi {
 // engine.
 class Banco {
  public:
-  explicit Banco(const Archivi& archivi) {
+  explicit Banco(const Archivi& archivi, Modalita modalita = Modalita::Normale) {
     fs::create_directories(m_base / "scriptOutput");
     ImpostazioniLibreria impostazioni;
     impostazioni.archivio = &archivi.lotto;
@@ -263,6 +263,7 @@ class Banco {
     impostazioni.cartella_output = m_base / "scriptOutput";
     impostazioni.cartella_dati_app = m_base.Percorso();
     impostazioni.file_agenda = m_base / "agenda.dat";
+    impostazioni.modalita = modalita;
     for (size_t g = 0; g < impostazioni.archivi_giochi.size(); ++g) {
       impostazioni.archivi_giochi[g] = m_base / archivi.giochi[g].filename();
       fs::copy_file(archivi.giochi[g], impostazioni.archivi_giochi[g]);
@@ -349,6 +350,7 @@ std::vector<std::string> ChiamateOstili(const Funzione& funzione) {
 struct FamigliaOstile {
   std::string_view nome;
   std::span<const Funzione> (*righe)();
+  Modalita modalita = Modalita::Normale;
 };
 
 class ArgomentiOstili : public ::testing::TestWithParam<FamigliaOstile> {
@@ -365,7 +367,7 @@ TEST_P(ArgomentiOstili, OgniChiamataTornaEUnRifiutoDiceIlPerche) {
   size_t chiamate = 0;
   for (const Funzione& funzione : GetParam().righe()) {
     if (kEscluse.contains(funzione.nome)) continue;
-    Banco banco(*s_archivi);
+    Banco banco(*s_archivi, GetParam().modalita);
     for (const std::string& chiamata : ChiamateOstili(funzione)) {
       ++chiamate;
       const std::string difetti = banco.Chiama(chiamata);
@@ -418,7 +420,8 @@ TEST_F(ArgomentiOstili, GliErroriPiuComuniHannoLaRispostaAttesa) {
   }
 }
 
-// The transfers are left out: an address made of a hostile value would be looked up on the network.
+// The transfers run in protected mode, which refuses every destination the arguments name (none is in
+// scriptOutput/) and any upload before a transfer starts: no call reaches the network.
 INSTANTIATE_TEST_SUITE_P(
     Famiglie, ArgomentiOstili,
     ::testing::Values(
@@ -445,7 +448,8 @@ INSTANTIATE_TEST_SUITE_P(
         FamigliaOstile{"Esiti", &FunzioniEsiti}, FamigliaOstile{"EsitiGiochi", &FunzioniEsitiGiochi},
         FamigliaOstile{"Premi", &FunzioniPremi}, FamigliaOstile{"Pic", &FunzioniPic},
         FamigliaOstile{"PicCerchio", &FunzioniPicCerchio}, FamigliaOstile{"DisegnoTavola", &FunzioniDisegnoTavola},
-        FamigliaOstile{"Grafici", &FunzioniGrafici}, FamigliaOstile{"Xls", &FunzioniXls}),
+        FamigliaOstile{"Grafici", &FunzioniGrafici}, FamigliaOstile{"Xls", &FunzioniXls},
+        FamigliaOstile{"Rete", &FunzioniRete, Modalita::Protetta}),
     [](const ::testing::TestParamInfo<FamigliaOstile>& info) { return std::string(info.param.nome); });
 
 }  // namespace
