@@ -31,10 +31,23 @@ namespace fs = std::filesystem;
 using Funzione = ClsFunctionsGeodoScript::Funzione;
 
 // What users pass by mistake, as VBScript writes it.
-constexpr std::string_view kOstili[] = {
-    "Empty",   "Null", "Nothing",          "0",       "-1",
-    "13",      "91",   "2147483648",       "1E+300",  "-1E+300",
-    "\"abc\"", "\"\"", "Array(5, 12, 33)", "Array()", "Array(Array(1, 2), Array(3, 4))"};
+constexpr std::string_view kOstili[] = {"Empty",
+                                        "Null",
+                                        "Nothing",
+                                        "0",
+                                        "-1",
+                                        "13",
+                                        "91",
+                                        "2147483647",
+                                        "2147483648",
+                                        "100000000",
+                                        "1E+300",
+                                        "-1E+300",
+                                        "\"abc\"",
+                                        "\"\"",
+                                        "Array(5, 12, 33)",
+                                        "Array()",
+                                        "Array(Array(1, 2), Array(3, 4))"};
 
 // The names a harness cannot call: they hand the user's desktop a file or a folder to open.
 const std::map<std::string_view, std::string_view, std::less<>> kEscluse = {
@@ -387,6 +400,7 @@ TEST_F(ArgomentiOstili, GliErroriPiuComuniHannoLaRispostaAttesa) {
     std::string_view parola;
   } kCasi[] = {
       {"ScriviMatrice(Array())", 0, ""},
+      {"FormatSpace(\"a\", 2147483647)", 5, "Lunghezza non valida"},
       {"ScriviMatrice(Array(Array(1, 2), Array(3, 4)))", 13, "Tipo"},
       {"RitardoCombinazione(BA_, Array(5, 12, 33), AMBO_, 40)", 0, ""},
       {"RitardoCombinazione(13, Array(5, 12), AMBO_, 40)", 5, "Ruota non valida: 13"},
