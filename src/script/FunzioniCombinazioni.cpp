@@ -14,7 +14,6 @@
 #include <cmath>
 #include <cstddef>
 #include <iterator>
-#include <numeric>
 #include <optional>
 #include <random>
 
