@@ -8,7 +8,6 @@
 #include "ArgomentiLotto.h"
 #include "ArgomentiRitardi.h"
 #include "Famiglia.h"
-#include "stats/Numeri.h"
 
 namespace lottolab::script {
 
@@ -20,7 +19,10 @@ Result<std::vector<int>> NumeriGiocati(const TabellaGioco& tab, const CallArgs& 
   VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, i));
   if (valori.empty()) return ArgomentoNonValido("Nessun numero indicato");
   std::vector<int> numeri;
-  for (double valore : valori) numeri.push_back(stats::FuoriX(valore, static_cast<int16_t>(tab.formato().massimo)));
+  for (double valore : valori) {
+    VBS_TRY_ASSIGN(auto numero, NumeroRiportato(valore, tab.formato().massimo));
+    numeri.push_back(numero);
+  }
   return numeri;
 }
 
@@ -64,7 +66,7 @@ Result<const EstrazioneGioco*> EstrazioneDelGioco(const TabellaGioco& tab, const
 
 Result<int> NumeroDelGioco(const TabellaGioco& tab, const CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto numero, args.Double(i));
-  return int{stats::FuoriX(numero, static_cast<int16_t>(tab.formato().massimo))};
+  return NumeroRiportato(numero, tab.formato().massimo);
 }
 
 Result<MisuraGioco> MisuraGruppoGioco(Libreria& lib, Suffisso suffisso, const CallArgs& args, PostiGioco posti) {

@@ -1,10 +1,13 @@
 #include "ArgomentiLotto.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <optional>
 
 #include "archive/Ruote.h"
 #include "stats/Numeri.h"
+#include "text/Utf.h"
 #include "vbscript/value/SafeArray.h"
 
 namespace lottolab::script {
@@ -77,10 +80,17 @@ vbs::Result<std::vector<double>> ValoriArgomento(const vbs::CallArgs& args, size
   return Elementi<double>(args, i, [&args](const vbs::Variant& v) { return v.to_double(args.locale()); });
 }
 
+vbs::Result<int> NumeroRiportato(double valore, int massimo) {
+  if (auto ridotto = stats::RiduciInX(valore, static_cast<int16_t>(massimo))) return int{*ridotto};
+  return vbs::MakeError(vbs::err::kInvalidCall,
+                        text::Utf8ToUtf16(fmt::format(
+                            "Numero non valido: {} (troppo grande per essere riportato in 1..{})", valore, massimo)));
+}
+
 vbs::Result<std::vector<int>> NumeriArgomento(const vbs::CallArgs& args, size_t i) {
   return Elementi<int>(args, i, [&args](const vbs::Variant& v) -> vbs::Result<int> {
     VBS_TRY_ASSIGN(auto numero, v.to_double(args.locale()));
-    return int{stats::Fuori90(numero)};
+    return NumeroRiportato(numero, 90);
   });
 }
 

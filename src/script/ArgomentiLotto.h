@@ -37,7 +37,11 @@ vbs::Result<std::vector<int>> RuoteArgomento(const vbs::CallArgs& args, size_t i
 // Argument i as numbers, the one value or every element of an array, each converted to a Double.
 vbs::Result<std::vector<double>> ValoriArgomento(const vbs::CallArgs& args, size_t i);
 
-// ValoriArgomento with each value brought into 1..90 by Fuori90.
+// The value brought into 1..massimo as FuoriX brings it (91 -> 1, 0 -> 90); error 5 naming it when it
+// is too large to be brought there, where FuoriX would silently give the base.
+vbs::Result<int> NumeroRiportato(double valore, int massimo);
+
+// ValoriArgomento with each value brought into 1..90 by NumeroRiportato.
 vbs::Result<std::vector<int>> NumeriArgomento(const vbs::CallArgs& args, size_t i);
 
 // The numbers of a draw as the script reads them: aNumeri(Ruota, Posizione), both from 1, wheels in

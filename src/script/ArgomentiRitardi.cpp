@@ -4,7 +4,6 @@
 
 #include "ArgomentiLotto.h"
 #include "Famiglia.h"
-#include "stats/Numeri.h"
 #include "vbscript/value/SafeArray.h"
 
 namespace lottolab::script {
@@ -38,7 +37,7 @@ Result<int> RuotaArgomento(const CallArgs& args, size_t i, int ultima) {
 
 Result<int> NumeroArgomento(const CallArgs& args, size_t i) {
   VBS_TRY_ASSIGN(auto numero, args.Double(i));
-  return int{stats::Fuori90(numero)};
+  return NumeroRiportato(numero, 90);
 }
 
 Result<int> InteroTra(const CallArgs& args, size_t i, int da, int a, std::string_view nome) {

@@ -206,7 +206,8 @@ template <int kDa, int kA>
 Result<Variant> InteroValido(Libreria&, CallArgs& args) {
   auto valore = args.Double(0);
   if (!valore) return Variant::Boolean(false);
-  return Variant::Boolean(*valore == static_cast<int>(*valore) && *valore >= kDa && *valore <= kA);
+  // The range first: a value past any int must not reach the conversion.
+  return Variant::Boolean(*valore >= kDa && *valore <= kA && *valore == static_cast<int>(*valore));
 }
 
 // A question about the archive, so no archive loaded is simply a "no".

@@ -14,7 +14,6 @@
 #include <cmath>
 #include <cstddef>
 #include <iterator>
-#include <numeric>
 #include <optional>
 #include <random>
 
@@ -438,8 +437,9 @@ Result<Variant> InitGenNumUnivoci(Libreria& lib, CallArgs& args) {
   if (int64_t{massimo} - minimo >= kMassimoIntervalloCasuale)
     return ArgomentoNonValido(fmt::format("Intervallo troppo ampio: al massimo {} numeri", kMassimoIntervalloCasuale));
   StatoCasuale& stato = lib.Stato<StatoCasuale>();
-  std::vector<int32_t> numeri(static_cast<size_t>(massimo - minimo + 1));
-  std::iota(numeri.begin(), numeri.end(), minimo);
+  // Counted in 64 bits: std::iota would step once past a Massimo of the largest Long.
+  std::vector<int32_t> numeri(static_cast<size_t>(int64_t{massimo} - minimo + 1));
+  for (size_t k = 0; k < numeri.size(); ++k) numeri[k] = static_cast<int32_t>(minimo + static_cast<int64_t>(k));
   std::ranges::shuffle(numeri, stato.generatore);
   stato.univoci = std::move(numeri);
   return Variant();

@@ -161,7 +161,7 @@ Result<Variant> isSorteValida(Libreria& lib, CallArgs& args) {
   auto valore = args.Double(0);
   auto tab = TabellaDelGioco(lib, kSuffisso);
   if (!valore || !tab) return Variant::Boolean(false);
-  return Variant::Boolean(*valore == static_cast<int>(*valore) && *valore >= 1 && *valore <= (*tab)->formato().numeri);
+  return Variant::Boolean(*valore >= 1 && *valore <= (*tab)->formato().numeri && *valore == static_cast<int>(*valore));
 }
 
 // The position 1..N of the number among the main numbers, 0 when it was not drawn.

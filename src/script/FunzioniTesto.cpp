@@ -108,6 +108,7 @@ class Matrice {
 
   std::vector<std::vector<const Variant*>> Righe() const {
     std::vector<std::vector<const Variant*>> righe;
+    if (m_elementi.empty()) return righe;
     for (int64_t riga = PrimaRiga(); riga < m_righe.count(); ++riga) {
       righe.emplace_back();
       for (int64_t colonna = PrimaColonna(); colonna < m_colonne.count(); ++colonna)
@@ -239,7 +240,10 @@ Result<Variant> StringaRuote(Libreria&, CallArgs& args) {
 Result<Variant> FormatSpace(Libreria&, CallArgs& args) {
   VBS_TRY_ASSIGN(auto testo, TestoArgomento(args, 0, u""));
   VBS_TRY_ASSIGN(auto lunghezza, args.Long(1));
-  if (lunghezza < 0) return ArgomentoNonValido(fmt::format("Lunghezza non valida: {}", lunghezza));
+  // A column is never wider than this; a larger value is a mistake that would take gigabytes.
+  constexpr int32_t kLunghezzaMassima = 1'000'000;
+  if (lunghezza < 0 || lunghezza > kLunghezzaMassima)
+    return ArgomentoNonValido(fmt::format("Lunghezza non valida: {} (da 0 a {})", lunghezza, kLunghezzaMassima));
   VBS_TRY_ASSIGN(auto a_destra, args.Boolean(2, false));
   return Stringa(
       Allinea(testo, static_cast<size_t>(lunghezza), a_destra ? Allineamento::Destra : Allineamento::Sinistra));

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cmath>
+#include <cstdint>
 #include <numeric>
 
 namespace lottolab::stats {
@@ -9,19 +11,21 @@ namespace lottolab::stats {
 double Fattoriale(int n) { return Disposizioni(std::max(n, 0), std::max(n, 0)); }
 
 // Each partial product is itself a count of combinations, so it stays a whole number and exact
-// while it fits in the double's 53 bits.
+// while it fits in the double's 53 bits. Once it is infinite it stays so: the loops stop there, so
+// that a count of billions costs no more than one of hundreds.
 double Combinazioni(int n, int k) {
   if (k < 0 || k > n) return 0;
   k = std::min(k, n - k);
   double conteggio = 1;
-  for (int i = 1; i <= k; ++i) conteggio = conteggio * (n - k + i) / i;
+  for (int i = 1; i <= k && std::isfinite(conteggio); ++i) conteggio = conteggio * (n - k + i) / i;
   return conteggio;
 }
 
 double Disposizioni(int n, int k) {
   if (k < 0 || k > n) return 0;
   double conteggio = 1;
-  for (int i = n - k + 1; i <= n; ++i) conteggio *= i;
+  // 64 bits, so that the step past n = INT32_MAX does not overflow.
+  for (int64_t i = int64_t{n} - k + 1; i <= n && std::isfinite(conteggio); ++i) conteggio *= static_cast<double>(i);
   return conteggio;
 }
 
