@@ -36,14 +36,12 @@ Result<fs::path> Scarica(Libreria& lib, const CallArgs& args, const std::string&
         funzione, chiave));
   if (lib.impostazioni().cartella_base.empty())
     return ArgomentoNonValido(fmt::format("{}: questo ambiente non ha una cartella base", funzione));
-  auto scaricato = rete::ScaricaRisultati(indirizzo, lib.impostazioni().cartella_base / nome_file,
-                                          [&lib](uint64_t fatti, uint64_t totali) {
-                                            if (lib.Interrotto()) return rete::Prosegui::No;
-                                            if (totali > 0)
-                                              lib.ospite().Avanzamento(100.0 * static_cast<double>(fatti) /
-                                                                       static_cast<double>(totali));
-                                            return rete::Prosegui::Si;
-                                          });
+  auto scaricato = rete::ScaricaRisultati(
+      indirizzo, lib.impostazioni().cartella_base / nome_file, [&lib](uint64_t fatti, uint64_t totali) {
+        if (lib.Interrotto()) return rete::Prosegui::No;
+        if (totali > 0) lib.ospite().Avanzamento(100.0 * static_cast<double>(fatti) / static_cast<double>(totali));
+        return rete::Prosegui::Si;
+      });
   VBS_TRY(lib.ControllaInterruzione());
   if (!scaricato) return ArgomentoNonValido(fmt::format("{}: {}", funzione, scaricato.Errore().testo));
   return *scaricato;
@@ -84,11 +82,10 @@ Result<Variant> AggiornaArchivioGioco(Libreria& lib, CallArgs& args) {
   if (file.empty())
     return ArgomentoNonValido(fmt::format("{}: questo ambiente non ha un archivio del gioco da aggiornare", funzione));
   const FormatoGioco& formato = Formato(gioco);
-  const std::string chiave = fmt::format("sIndirizzoRisultati{}{}", formato.sigla,
-                                         gioco == Gioco::DieciELottoOgniCinqueMinuti ? "5" : "");
-  VBS_TRY_ASSIGN(auto scaricato,
-                 Scarica(lib, args, impostazioni.indirizzi_giochi[static_cast<size_t>(gioco)], chiave, funzione,
-                         fmt::format("risultati-scaricati-{}", formato.sigla)));
+  const std::string chiave =
+      fmt::format("sIndirizzoRisultati{}{}", formato.sigla, gioco == Gioco::DieciELottoOgniCinqueMinuti ? "5" : "");
+  VBS_TRY_ASSIGN(auto scaricato, Scarica(lib, args, impostazioni.indirizzi_giochi[static_cast<size_t>(gioco)], chiave,
+                                         funzione, fmt::format("risultati-scaricati-{}", formato.sigla)));
   std::vector<std::string> avvisi;
   auto nuove = LeggiRisultatiGioco(gioco, scaricato, file, impostazioni.file_archivio, avvisi);
   Rimuovi(scaricato);

@@ -54,7 +54,8 @@ TEST_F(AggiornaArchivio, LeNuoveEstrazioniEntranoNelFileENellEsecuzione) {
   const TabellaEstrazioni& reale = test::ArchivioReale();
   EXPECT_EQ(Testo("EstrazioniArchivio"), std::to_string(reale.EstrazioniArchivio()))
       << "the rest of the run reads the updated archive";
-  EXPECT_EQ(Testo("Estratto(EstrazioniArchivio, BA_, 1)"), std::to_string(reale[reale.EstrazioniArchivio()].Numero(BA, 1)));
+  EXPECT_EQ(Testo("Estratto(EstrazioniArchivio, BA_, 1)"),
+            std::to_string(reale[reale.EstrazioniArchivio()].Numero(BA, 1)));
   auto sul_disco = ClsEstrazioni(m_cartella / "BaseDati.dat").GetNumeroEstrazioni();
   ASSERT_TRUE(sul_disco.Riuscito());
   EXPECT_EQ(*sul_disco, reale.EstrazioniArchivio());
