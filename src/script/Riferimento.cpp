@@ -68,7 +68,7 @@ const SchedaFunzione* CercaScheda(std::string_view nome) {
 std::string TestoSuggerimento(const SchedaFunzione& scheda) {
   std::string testo(scheda.nome);
   if (!scheda.argomenti.empty()) testo += "(" + std::string(scheda.argomenti) + ")";
-  if (!scheda.restituisce.empty()) testo += " → " + std::string(scheda.restituisce);
+  if (!scheda.restituisce.empty()) testo += "\n→ " + std::string(scheda.restituisce);
   if (!scheda.legata) return testo + "\nnon ancora disponibile";
   testo += "\n" + std::string(scheda.significato);
   if (!scheda.esempio.empty()) testo += "\nEsempio: " + std::string(scheda.esempio);

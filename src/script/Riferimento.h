@@ -26,7 +26,8 @@ const std::vector<SchedaFunzione>& Riferimento();
 // The card of a name in any case; null for a name that is not public.
 const SchedaFunzione* CercaScheda(std::string_view nome);
 
-// "Nome(argomenti) → restituisce", the meaning, then "Esempio: ...": the editor's call tip.
+// "Nome(argomenti)", "→ restituisce", the meaning, then "Esempio: ...", a line each: the editor's
+// call tip and the help's card.
 std::string TestoSuggerimento(const SchedaFunzione& scheda);
 
 }  // namespace lottolab::script

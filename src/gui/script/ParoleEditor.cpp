@@ -62,7 +62,7 @@ std::string AndandoACapo(const std::string& testo, size_t larghezza) {
 
 // A public name shows its card; a constant (BA_, Rosso_) reads "BA_: Bari: ruota 1".
 ParolaEditor DaFunzione(const script::ClsFunctionsGeodoScript::Funzione& funzione) {
-  constexpr size_t kLarghezzaSuggerimento = 100;
+  constexpr size_t kLarghezzaSuggerimento = 80;
   std::string nome(funzione.nome);
   if (const script::SchedaFunzione* scheda = script::CercaScheda(nome))
     return {std::move(nome), AndandoACapo(script::TestoSuggerimento(*scheda), kLarghezzaSuggerimento)};
