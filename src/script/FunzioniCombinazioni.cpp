@@ -42,7 +42,13 @@ constexpr size_t kGruppiTraControlli = 4096;
 // The widest range the random functions walk or shuffle.
 constexpr int32_t kMassimoIntervalloCasuale = 10'000'000;
 
-Variant Conteggio(double conteggio) { return ConteggioSviluppo(conteggio); }
+// A count past what a Double holds is VBScript's overflow, as 171! would be, not an infinity.
+// The message's title names the function.
+Result<Variant> Conteggio(double conteggio) {
+  if (!std::isfinite(conteggio))
+    return vbs::MakeError(vbs::err::kOverflow, u"il conteggio supera il massimo di un Double");
+  return ConteggioSviluppo(conteggio);
+}
 
 // The elements of an array argument as given, Empty ones (the unused element 0 of scripts' arrays)
 // left out; a single value is a group of one.

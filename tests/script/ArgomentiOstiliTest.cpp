@@ -403,6 +403,8 @@ TEST_F(ArgomentiOstili, GliErroriPiuComuniHannoLaRispostaAttesa) {
   } kCasi[] = {
       {"ScriviMatrice(Array())", 0, ""},
       {"FormatSpace(\"a\", 2147483647)", 5, "Lunghezza non valida"},
+      {"Permutazioni(171)", 6, "massimo di un Double"},
+      {"Combinazioni(2000, 1000)", 6, "massimo di un Double"},
       {"ScriviMatrice(Array(Array(1, 2), Array(3, 4)))", 13, "Tipo"},
       {"RitardoCombinazione(BA_, Array(5, 12, 33), AMBO_, 40)", 0, ""},
       {"RitardoCombinazione(13, Array(5, 12), AMBO_, 40)", 5, "Ruota non valida: 13"},
