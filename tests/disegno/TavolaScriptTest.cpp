@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "DatiReali.h"
+#include "StrutturaCoppia.h"
 #include "TempDir.h"
 #include "archive/DateEstrazione.h"
 #include "disegno/TelaImmagine.h"
@@ -92,13 +93,7 @@ class TavolaScript : public ::testing::Test {
     libreria->SetNomeFileHtmlOut("pagina.htm");
     ASSERT_TRUE(m_engine.SetLanguage("VBScript"));
     ASSERT_TRUE(m_engine.AddObject("ClsFunctionsGeodoScript", libreria, true));
-    figures::Struttura coppia;
-    coppia.vertici.resize(2);
-    coppia.vertici[0].Index = 1;
-    coppia.vertici[0].Colonna = coppia.vertici[1].Colonna = 1;
-    coppia.vertici[1].Index = 2;
-    coppia.vertici[1].Riga = 1;
-    coppia.vertici[1].UsaPerChiusura = true;
+    const figures::Struttura coppia = test::StrutturaCoppia();
     ASSERT_TRUE(figures::SalvaStruttura(m_cartella / "coppia.dat", coppia));
     std::ofstream(m_cartella / "sei.txt") << "# numeri 6 massimo 90\n"
                                              "01/01/2020 1 2 3 4 5 6\n"

@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include "LibreriaDiProva.h"
+#include "StrutturaCoppia.h"
 #include "TempDir.h"
 #include "figures/FileStrutture.h"
 #include "figures/RicercaFigure.h"
@@ -22,13 +23,7 @@ class FigureUtente : public Libreria {
               .Estrazione({{BA, {11, 22, 33, 44, 55}}, {VE, {6, 7, 8, 9, 10}}})
               .Estrazione()
               .Tabella());
-    figures::Struttura coppia;
-    coppia.vertici.resize(2);
-    coppia.vertici[0].Index = 1;
-    coppia.vertici[0].Colonna = coppia.vertici[1].Colonna = 1;
-    coppia.vertici[1].Index = 2;
-    coppia.vertici[1].Riga = 1;
-    coppia.vertici[1].UsaPerChiusura = true;
+    const figures::Struttura coppia = test::StrutturaCoppia();
     m_struttura = coppia;
     ASSERT_TRUE(figures::SalvaStruttura(m_cartella / "coppia.dat", coppia));
     std::ofstream(m_cartella / "rotto.dat") << "OFFSET_STRUCT senza fine";

@@ -12,6 +12,7 @@
 
 #include "DatiReali.h"
 #include "LibreriaDiProva.h"
+#include "StrutturaCoppia.h"
 #include "TempDir.h"
 #include "archive/ArchivioGioco.h"
 #include "archive/SuperEnalotto.h"
@@ -103,14 +104,7 @@ class EsempiDelRiferimento : public Libreria {
     ASSERT_TRUE(SalvaArchivioGioco(OgniCinqueMinuti(400), file_di(Gioco::DieciELottoOgniCinqueMinuti)).Riuscito());
     ASSERT_TRUE(SalvaArchivioGioco(Casuale(FormatoGenerico(5, 90), 400), file_di(Gioco::Generico)).Riuscito());
     impostazioni.file_agenda = m_cartella / "AgendaGiocate.db";
-    // The user figure the examples search: two cells one above the other.
-    figures::Struttura coppia;
-    coppia.vertici.resize(2);
-    coppia.vertici[0].Index = 1;
-    coppia.vertici[0].Colonna = coppia.vertici[1].Colonna = 1;
-    coppia.vertici[1].Index = 2;
-    coppia.vertici[1].Riga = 1;
-    coppia.vertici[1].UsaPerChiusura = true;
+    const figures::Struttura coppia = test::StrutturaCoppia();
     std::filesystem::create_directories(m_cartella / "strutture");
     ASSERT_TRUE(figures::SalvaStruttura(m_cartella / "strutture" / "coppia.dat", coppia));
     m_ospite.disegno = &m_area;
