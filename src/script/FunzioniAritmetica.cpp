@@ -24,10 +24,12 @@ Result<Variant> NumeroComeDato(Libreria&, CallArgs& args) {
   return Variant::Integer(Funzione(n));
 }
 
+// A number too large to bring into 1..90 is refused, not folded onto 90.
 template <DiUnNumero Funzione>
 Result<Variant> NumeroRidotto(Libreria&, CallArgs& args) {
   VBS_TRY_ASSIGN(auto n, args.Double(0));
-  return Variant::Integer(Funzione(stats::Fuori90(n)));
+  VBS_TRY_ASSIGN(auto ridotto, NumeroRiportato(n, kMassimoNumero));
+  return Variant::Integer(Funzione(ridotto));
 }
 
 template <DiDueNumeri Funzione>

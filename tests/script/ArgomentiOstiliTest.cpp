@@ -404,6 +404,7 @@ TEST_F(ArgomentiOstili, GliErroriPiuComuniHannoLaRispostaAttesa) {
       {"ScriviMatrice(Array())", 0, ""},
       {"FormatSpace(\"a\", 2147483647)", 5, "Lunghezza non valida"},
       {"Permutazioni(171)", 6, "massimo di un Double"},
+      {"Diametrale(1E+300)", 5, "troppo grande"},
       {"Combinazioni(2000, 1000)", 6, "massimo di un Double"},
       {"ScriviMatrice(Array(Array(1, 2), Array(3, 4)))", 13, "Tipo"},
       {"RitardoCombinazione(BA_, Array(5, 12, 33), AMBO_, 40)", 0, ""},
