@@ -124,9 +124,18 @@ std::optional<std::string> Controlla(const CartellaLavoro& cartella) {
 
 }  // namespace
 
+// A text joined over several columns spreads across them: it widens none of them.
+bool InUnioneDiPiuColonne(const Foglio& foglio, const Posizione& p) {
+  return std::any_of(foglio.unioni.begin(), foglio.unioni.end(), [&p](const Unione& u) {
+    return u.inizio.colonna != u.fine.colonna && p.riga >= u.inizio.riga && p.riga <= u.fine.riga &&
+           p.colonna >= u.inizio.colonna && p.colonna <= u.fine.colonna;
+  });
+}
+
 std::map<int, double> LarghezzeAdattate(const Foglio& foglio) {
   std::map<int, double> larghezze;
   for (const auto& [p, cella] : foglio.celle) {
+    if (InUnioneDiPiuColonne(foglio, p)) continue;
     const double caratteri = static_cast<double>(text::Utf8ToUtf16(Testo(cella.valore)).size());
     double& larghezza = larghezze[p.colonna];
     larghezza = std::max({larghezza, 8.43, std::min(caratteri + 2, 100.0)});

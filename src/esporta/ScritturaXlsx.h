@@ -16,7 +16,8 @@ namespace lottolab::esporta {
 Esito<Fatto> ScriviXlsx(const CartellaLavoro& cartella, const std::filesystem::path& file);
 
 // The width, in characters, that shows the longest text of each column of `foglio` (what the
-// writer uses for a sheet whose columns fit their content).
+// writer uses for a sheet whose columns fit their content); a text joined over several columns
+// widens none of them.
 std::map<int, double> LarghezzeAdattate(const Foglio& foglio);
 
 }  // namespace lottolab::esporta

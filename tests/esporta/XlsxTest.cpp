@@ -63,6 +63,17 @@ TEST(Xlsx, ScrittaERilettaUguale) {
   EXPECT_EQ(di_nuovo->fogli[1].Trova({2, 2})->valore, Valore(7.0));
 }
 
+TEST(Xlsx, UnTitoloSuPiuColonneNonLeAllarga) {
+  Foglio foglio;
+  foglio.celle[{1, 1}].valore = std::string("Un titolo lungo sopra tre colonne della tabella");
+  foglio.celle[{2, 1}].valore = std::string("Bari");
+  foglio.celle[{2, 2}].valore = std::string("Ruota di Venezia");
+  foglio.unioni.push_back({{1, 1}, {1, 3}});
+  const std::map<int, double> larghezze = LarghezzeAdattate(foglio);
+  EXPECT_DOUBLE_EQ(larghezze.at(1), 8.43) << "the title is joined over three columns";
+  EXPECT_DOUBLE_EQ(larghezze.at(2), 18.0);
+}
+
 TEST(Xlsx, UnaScritturaRifiutataLasciaIlFile) {
   test::CartellaTemporanea dir;
   ASSERT_TRUE(ScriviXlsx(Esempio(), dir / "prova.xlsx"));
