@@ -69,6 +69,8 @@ void ArchiviGiochi::Dimentica() {
   for (auto& attive : m_attive) attive.clear();
 }
 
+void ArchiviGiochi::Dimentica(Gioco gioco) { m_tabelle[Indice(gioco)].reset(); }
+
 std::vector<bool>& ArchiviGiochi::Attive(Suffisso suffisso, const TabellaGioco& tabella) {
   std::vector<bool>& attive = m_attive[static_cast<size_t>(suffisso)];
   const size_t dimensione = static_cast<size_t>(tabella.EstrazioniArchivio()) + 1;

@@ -41,6 +41,8 @@ class ArchiviGiochi {
   void ApriGenerico(TabellaGioco tabella);
   // Forgets every table, so that each is read again from its file at its next use.
   void Dimentica();
+  // Forgets the table of one game only, as after its file grew.
+  void Dimentica(Gioco gioco);
 
   // The flags of the active draws of the suffix's archive, one per IdEstr, every draw active at first.
   std::vector<bool>& Attive(Suffisso suffisso, const TabellaGioco& tabella);

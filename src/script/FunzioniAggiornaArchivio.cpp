@@ -93,7 +93,7 @@ Result<Variant> AggiornaArchivioGioco(Libreria& lib, CallArgs& args) {
   if (!nuove) return ArgomentoNonValido(fmt::format("{}: {}", funzione, nuove.Errore().testo));
   auto aggiunte = ImportaEstrazioniGioco(nuove->formato(), file, nuove->Tutte());
   if (!aggiunte) return ArgomentoNonValido(fmt::format("{}: {}", funzione, aggiunte.Errore().testo));
-  if (*aggiunte > 0) archivi.Dimentica();
+  if (*aggiunte > 0) archivi.Dimentica(gioco);
   return Variant::Long(*aggiunte);
 }
 

@@ -61,8 +61,12 @@ TEST_F(AggiornaArchivio, LeNuoveEstrazioniEntranoNelFileENellEsecuzione) {
   EXPECT_EQ(*sul_disco, reale.EstrazioniArchivio());
   EXPECT_EQ(Testo("AggiornaArchivio(" + Indirizzo("lotto.txt") + ")"), "0");
 
-  // The SuperEnalotto from its own results into a game archive not held yet.
+  // The SuperEnalotto from its own results into a game archive not held yet; the run's other
+  // game archives are kept as they were read.
+  std::ofstream(m_cartella / "generico.txt") << "# numeri 5 massimo 90\n01/02/2020 1 2 3 4 5\n";
+  EXPECT_EQ(Testo("ApriBaseDatiFT(\"generico.txt\")"), "1");
   EXPECT_EQ(Testo("AggiornaArchivioSE(" + Indirizzo("superenalotto.txt") + ") > 1000"), "Vero");
+  EXPECT_EQ(Testo("EstrazioniArchivioFT & \" \" & EstrattoFT(1, 5)"), "1 5");
   EXPECT_EQ(Testo("EstrazioniArchivioSE > 1000"), "Vero");
   EXPECT_TRUE(m_ospite.avvisi.empty()) << m_ospite.avvisi.front().testo;
 }
