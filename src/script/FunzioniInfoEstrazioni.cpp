@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -68,7 +69,8 @@ Result<std::vector<int>> GruppoDiNumeri(const CallArgs& args, size_t i, int mass
   VBS_TRY_ASSIGN(auto valori, ValoriArgomento(args, i));
   std::vector<int> numeri;
   for (double valore : valori) {
-    if (valore != static_cast<int>(valore) || valore < 1 || valore > massimo)
+    // The range first: a value past an int is not converted.
+    if (!(valore >= 1 && valore <= massimo) || valore != std::floor(valore))
       return ArgomentoNonValido(fmt::format("{}: {} non è un numero da 1 a {}", funzione, valore, massimo));
     if (std::find(numeri.begin(), numeri.end(), static_cast<int>(valore)) == numeri.end())
       numeri.push_back(static_cast<int>(valore));
@@ -131,11 +133,11 @@ Result<Variant> FiltraArrayEstrDieciELotto(Libreria& lib, CallArgs& args) {
   if (da > a) return ArgomentoNonValido("FiltraArrayEstrDieciELotto: l'ora iniziale viene dopo quella finale");
   std::vector<int> tenute;
   for (double valore : elenco) {
-    const int id = static_cast<int>(valore);
-    if (valore != id || !tab->Contiene(id))
+    if (!(valore >= 1 && valore <= tab->EstrazioniArchivio()) || valore != std::floor(valore))
       return ArgomentoNonValido(
           fmt::format("FiltraArrayEstrDieciELotto: {} non è un'estrazione dell'archivio del 10eLotto (1..{})", valore,
                       tab->EstrazioniArchivio()));
+    const int id = static_cast<int>(valore);
     const int minuti = (*tab)[id].minuti;
     if (minuti >= da && minuti <= a) tenute.push_back(id);
   }
