@@ -14,7 +14,8 @@ constexpr std::string_view kSeparatore = " | ";
 
 std::string_view SenzaSpazi(std::string_view testo) {
   while (!testo.empty() && (testo.front() == ' ' || testo.front() == '\t')) testo.remove_prefix(1);
-  while (!testo.empty() && (testo.back() == ' ' || testo.back() == '\t' || testo.back() == '\r')) testo.remove_suffix(1);
+  while (!testo.empty() && (testo.back() == ' ' || testo.back() == '\t' || testo.back() == '\r'))
+    testo.remove_suffix(1);
   return testo;
 }
 
@@ -117,7 +118,8 @@ Esito<ListaFigure> LeggiListaFigure(std::string_view testo, std::string_view fil
   };
   const auto righe = Dividi(testo, "\n");
   const std::string_view prima = righe.empty() ? std::string_view() : SenzaSpazi(righe[0]);
-  if (!prima.starts_with(kIntestazione)) return rifiuto(1, "non è una lista di figure trovate (manca \"lottolab-efu\")");
+  if (!prima.starts_with(kIntestazione))
+    return rifiuto(1, "non è una lista di figure trovate (manca \"lottolab-efu\")");
   const auto versione = Intero(prima.substr(kIntestazione.size()), 1, 1'000);
   if (!versione) return rifiuto(1, "versione non leggibile");
   if (*versione > kVersioneListaFigure)
@@ -174,9 +176,9 @@ Esito<ListaFigure> LeggiListaFigure(std::string_view testo, std::string_view fil
   }
   for (const EsitoFigura& esito : lista.esiti)
     if (esito.figura > static_cast<int>(lista.trovate.size()))
-      return Avviso{TipoAvviso::Critico, "",
-                    fmt::format("File {} non valido: l'esito della figura {} non ha la sua figura in [TRO]", file,
-                                esito.figura)};
+      return Avviso{
+          TipoAvviso::Critico, "",
+          fmt::format("File {} non valido: l'esito della figura {} non ha la sua figura in [TRO]", file, esito.figura)};
   return lista;
 }
 
@@ -194,13 +196,15 @@ std::string TestoListaFigure(const ListaFigure& lista) {
     std::string vertici;
     for (const VerticeTrovato& v : figura.vertici)
       vertici += fmt::format("{}{}.{}.{}.{}", vertici.empty() ? "" : " ", v.id_estr, v.ruota, v.posizione, v.numero);
-    testo += fmt::format("{} | {} | {} | {}\n", figura.estrazione, Elenco(figura.ruote), vertici, Elenco(figura.giocati));
+    testo +=
+        fmt::format("{} | {} | {} | {}\n", figura.estrazione, Elenco(figura.ruote), vertici, Elenco(figura.giocati));
   }
   sconosciute("TRO");
   testo += "[ESP]\n";
   for (const EsitoFigura& esito : lista.esiti) {
     std::string vincite;
-    for (const VincitaFigura& v : esito.vincite) vincite += fmt::format("{}{}@{}", vincite.empty() ? "" : " ", v.sorte, v.id_estr);
+    for (const VincitaFigura& v : esito.vincite)
+      vincite += fmt::format("{}{}@{}", vincite.empty() ? "" : " ", v.sorte, v.id_estr);
     testo += fmt::format("{} | {} | {} | {}\n", esito.figura, esito.seguita_fino_a, vincite,
                          esito.chiusa ? "chiusa" : "aperta");
   }
