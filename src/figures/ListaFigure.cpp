@@ -75,10 +75,10 @@ std::optional<FiguraSalvata> Figura(std::string_view riga) {
   return figura;
 }
 
-std::optional<EsitoFigura> EsitoLetto(std::string_view riga) {
+std::optional<EsitoSalvato> EsitoLetto(std::string_view riga) {
   const auto campi = Dividi(riga, kSeparatore);
   if (campi.size() != 4) return std::nullopt;
-  EsitoFigura esito;
+  EsitoSalvato esito;
   auto figura = Intero(SenzaSpazi(campi[0]), 1, kMassimoId);
   auto seguita = Intero(SenzaSpazi(campi[1]), 0, kMassimoId);
   const std::string_view stato = SenzaSpazi(campi[3]);
@@ -174,7 +174,7 @@ Esito<ListaFigure> LeggiListaFigure(std::string_view testo, std::string_view fil
       lista.sconosciute.push_back({sezione, std::string(riga)});
     }
   }
-  for (const EsitoFigura& esito : lista.esiti)
+  for (const EsitoSalvato& esito : lista.esiti)
     if (esito.figura > static_cast<int>(lista.trovate.size()))
       return Avviso{
           TipoAvviso::Critico, "",
@@ -201,7 +201,7 @@ std::string TestoListaFigure(const ListaFigure& lista) {
   }
   sconosciute("TRO");
   testo += "[ESP]\n";
-  for (const EsitoFigura& esito : lista.esiti) {
+  for (const EsitoSalvato& esito : lista.esiti) {
     std::string vincite;
     for (const VincitaFigura& v : esito.vincite)
       vincite += fmt::format("{}{}@{}", vincite.empty() ? "" : " ", v.sorte, v.id_estr);

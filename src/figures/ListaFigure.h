@@ -53,12 +53,12 @@ struct VincitaFigura {
   friend bool operator==(const VincitaFigura&, const VincitaFigura&) = default;
 };
 
-struct EsitoFigura {
+struct EsitoSalvato {
   int figura = 0;  // the line of [TRO], from 1
   int seguita_fino_a = 0;
   std::vector<VincitaFigura> vincite;
   bool chiusa = false;
-  friend bool operator==(const EsitoFigura&, const EsitoFigura&) = default;
+  friend bool operator==(const EsitoSalvato&, const EsitoSalvato&) = default;
 };
 
 struct RigaSconosciuta {
@@ -74,7 +74,7 @@ struct ListaFigure {
   int fine = 0;
   std::vector<int> ruote;
   std::vector<FiguraSalvata> trovate;
-  std::vector<EsitoFigura> esiti;
+  std::vector<EsitoSalvato> esiti;
   std::vector<RigaSconosciuta> sconosciute;
   friend bool operator==(const ListaFigure&, const ListaFigure&) = default;
 };
